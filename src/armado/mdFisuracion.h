@@ -1,0 +1,49 @@
+// Cracking check of a pipe without sheet: the tension of the homogenised section against what the
+// concrete allows, with steel added where it is not enough.
+#pragma once
+
+#include "core/estado_calculo.h"
+
+namespace zorbin {
+
+class Fisuracion {
+ public:
+  /// @param t  Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
+  /// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
+  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2);
+
+  /// Adds steel in steps of 0.5 cm2/m until every section of the hypotheses passes. A second call
+  /// keeps the largest tension found by the first until steel has to grow again.
+  /// @param Ri, Re  areas of the inner and outer face [cm2/m], in and out
+  /// @throws ErrorEjecucion SinConvergencia: the tension may saturate, and then no steel helps
+  void Comprueba(double& Ri, double& Re);
+
+  double TensionMax() const { return tensionMax_; }        // [kp/cm2]
+  double TensionAdm() const { return tensionAdm_; }        // beside TensionMax [kp/cm2]
+  double TensionAdmMin() const { return tensionAdmMin_; }  // [kp/cm2]
+  bool HayTension() const { return hayTension_; }          // TensionAdm was found
+
+ private:
+  struct Homogenea {
+    double A;  // [cm2/m]
+    double x;  // centroid from the inner face [cm]
+    double I;  // [cm4/m]
+  };
+
+  const Esfuerzos& esfuerzos_;
+  const int H1_;
+  const int H2_;
+  const double Fct_;         // [kp/cm2]
+  const double e_, ri_, re_;  // thickness and covers [cm]
+  double controlFis_;        // safety factor of the concrete in tension [-]
+  double tensionMax_ = 0;
+  double tensionAdm_ = 0;
+  double tensionAdmMin_ = 1e20;
+  bool hayTension_ = false;
+
+  Homogenea SeccionHomogenea(double Ri, double Re) const;
+  bool Pasa(const Homogenea& h, double M, double N);
+  bool PasanTodas(double& Ri, double& Re);
+};
+
+}  // namespace zorbin

@@ -1,0 +1,19 @@
+// Look-up of the reinforcement that an engineer fixed by hand for a Caso.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "core/estado_calculo.h"
+
+namespace zorbin {
+
+/// Position of the entry of a Caso, from 1; or minus the position of the last free entry, 0 when
+/// there is none. An entry is the Caso's when its Tramo is equal and its pressure [at] and height
+/// [m] lie nearer than 0.05: 6.00 and 6.04 are the same Caso, 6.00 and 6.05 are not.
+int BuscaCaso(const std::vector<EntradaAjuste>& entradas, double DP, int NumeroTramo, double Hr);
+
+/// The adjustment of the Caso in hand, if it has one.
+std::optional<Ajuste> AjusteDelCaso(const EstadoCalculo& e);
+
+}  // namespace zorbin

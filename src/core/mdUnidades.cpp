@@ -1,0 +1,175 @@
+#include "core/mdUnidades.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+
+namespace zorbin {
+
+namespace {
+
+template <class T>
+struct Gemelo {
+  double T::*campo;
+  double T::*si;
+  double factor;
+};
+
+constexpr std::array<Gemelo<Obra>, 5> kGemelosObra{{
+    {&Obra::Prs1, &Obra::Prs1SI, kFactorTension},
+    {&Obra::Prs2, &Obra::Prs2SI, kFactorTension},
+    {&Obra::Prs3, &Obra::Prs3SI, kFactorTension},
+    {&Obra::PrsM1, &Obra::PrsM1SI, kFactorTension},
+    {&Obra::PrsM2, &Obra::PrsM2SI, kFactorTension},
+}};
+
+// Fct is not here: it follows from Fck in each unit.
+constexpr std::array<Gemelo<Tramo>, 17> kGemelosTramo{{
+    {&Tramo::Prs1Tram, &Tramo::Prs1TramSI, kFactorTension},
+    {&Tramo::Prs2Tram, &Tramo::Prs2TramSI, kFactorTension},
+    {&Tramo::Prs3Tram, &Tramo::Prs3TramSI, kFactorTension},
+    {&Tramo::PrsM1Tram, &Tramo::PrsM1TramSI, kFactorTension},
+    {&Tramo::PrsM2Tram, &Tramo::PrsM2TramSI, kFactorTension},
+    {&Tramo::Fck, &Tramo::FckSI, kFactorTension},
+    {&Tramo::Fyk, &Tramo::FykSI, kFactorTension},
+    {&Tramo::Fyd, &Tramo::FydSI, kFactorTension},
+    {&Tramo::QDato, &Tramo::QDatoSI, kFactorCarga},
+    {&Tramo::Es, &Tramo::EsSI, kFactorTension},
+    {&Tramo::Ep, &Tramo::EpSI, kFactorTension},
+    {&Tramo::Fckno, &Tramo::FcknoSI, kFactorTension},
+    {&Tramo::Fckn, &Tramo::FcknSI, kFactorTension},
+    {&Tramo::Fckr, &Tramo::FckrSI, kFactorTension},
+    {&Tramo::SFck, &Tramo::SFckSI, kFactorTension},
+    {&Tramo::Sf, &Tramo::SfSI, kFactorTension},
+    {&Tramo::FYKPost, &Tramo::FYKPostSI, kFactorTension},
+}};
+
+template <class T, std::size_t N>
+void AMks(T& bloque, const std::array<Gemelo<T>, N>& gemelos, bool pantallaEnSI) {
+  for (const auto& g : gemelos) {
+    const auto par = Pareja(bloque.*g.campo, pantallaEnSI, g.factor);
+    bloque.*g.campo = par.mks;
+    bloque.*g.si = par.si;
+  }
+}
+
+template <class T, std::size_t N>
+void ASI(T& bloque, const std::array<Gemelo<T>, N>& gemelos) {
+  for (const auto& g : gemelos) bloque.*g.campo = bloque.*g.si;
+}
+
+// The captured increment is one of MDP; the loop steps DP.
+void CalculaIncDP(EstadoCalculo& e) {
+  const double incMDP = e.tramo.TieneDPPropia() ? e.tramo.Prs3Tram : e.obra.Prs3;
+  const double inc = incMDP / e.corrida.PendienteMDP;
+  e.corrida.IncDPIndefinido = !std::isfinite(inc);
+  e.corrida.IncDP = e.corrida.IncDPIndefinido || inc == 0.0 ? 0.0 : inc;
+}
+
+void ParaCalculo(EstadoCalculo& e) {
+  const bool si = e.obra.EsSI();
+  e.corrida.ParaCalculoActivo = true;
+  AMks(e.obra, kGemelosObra, si);
+  AMks(e.tramo, kGemelosTramo, si);
+  if (si) e.tramo.Fct = FctDeFck(e.tramo.Fck);
+  e.tramo.FctSI = FctDeFck(e.tramo.FckSI);
+  EligePresiones(e);
+  CalculaIncDP(e);
+}
+
+void ParaPantalla(EstadoCalculo& e) {
+  e.corrida.ParaCalculoActivo = false;
+  if (!e.obra.EsSI()) return;
+  ASI(e.obra, kGemelosObra);
+  ASI(e.tramo, kGemelosTramo);
+  e.tramo.Fct = FctDeFck(e.tramo.FckSI);
+}
+
+bool IgualSinCaja(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
+    return std::tolower(x) == std::tolower(y);
+  });
+}
+
+// What a conversion does under SI (value, unit, change of decimals) and under MKS. With
+// `soloSiHay` the decimals change only when there is one to begin with.
+struct Conversion {
+  std::string_view nombre;
+  double multiplica;
+  double divide;
+  std::string_view unidadSI;
+  int decimalesSI;
+  bool soloSiHay;
+  std::string_view unidadMKS;
+  int decimalesMKS;
+};
+
+// clang-format off
+constexpr std::array<Conversion, 9> kConversiones{{
+    {"",                 1.0,           1.0,            "",       0, false, "",         0},
+    {"at->MPa",          1.0,           kFactorTension, "MPa",    2, false, "at",       1},
+    {"Kp/cm2->MPa",      1.0,           kFactorTension, "MPa",    1, false, "kp/cm2",   0},
+    {"T/M2->MPa",        1.0,           kFactorCarga,   "MPa",    1, false, "T/M2",     0},
+    {"T/M2->kN/M2",      kFactorFuerza, 1.0,            "kN/M2", -1, true,  "T/M2",     0},
+    {"T->kN",            kFactorFuerza, 1.0,            "kN",    -1, true,  "t",        0},
+    {"mT->mkN",          kFactorFuerza, 1.0,            "m.kN",  -1, true,  "m.t",      0},
+    {"kp/cm->N/cm",      kFactorFuerza, 1.0,            "N/cm",  -1, true,  "kp/cm",    0},
+    {"kp.cm/cm->N.m/cm", 1.0,           kFactorFuerza,  "N.m/cm", 1, true,  "kp.cm/cm", 0},
+}};
+// clang-format on
+
+}  // namespace
+
+double FctDeFck(double Fck) { return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0); }
+
+void EligeAlturas(EstadoCalculo& e) {
+  auto& c = e.corrida;
+  if (e.tramo.Hr0Tramo <= 0 && e.tramo.Hr0Final <= 0) {
+    c.Hr = c.Hr0Actual = e.obra.Alt1;
+    c.Hr0FinalActual = e.obra.Alt2;
+    e.tramo.Hr0Delta = e.obra.Alt3;
+  } else {
+    c.Hr = c.Hr0Actual = e.tramo.Hr0Tramo;
+    c.Hr0FinalActual = e.tramo.Hr0Final;
+  }
+}
+
+void EligePresiones(EstadoCalculo& e) {
+  auto& c = e.corrida;
+  const auto& t = e.tramo;
+  const bool propias =
+      t.Prs1Tram > 0 || t.Prs2Tram > 0 || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
+  c.DPIni = propias ? t.Prs1Tram : e.obra.Prs1;
+  c.DPFin = propias ? t.Prs2Tram : e.obra.Prs2;
+  c.MDPIni = propias ? t.PrsM1Tram : e.obra.PrsM1;
+  c.MDPFin = propias ? t.PrsM2Tram : e.obra.PrsM2;
+  const double rango = c.DPFin - c.DPIni;
+  const double pendiente = rango > 0 ? (c.MDPFin - c.MDPIni) / rango : 1.0;
+  c.PendienteMDP = std::isfinite(pendiente) ? pendiente : 0.0;
+}
+
+ParUnidades Pareja(double valorPantalla, bool pantallaEnSI, double factor) {
+  if (pantallaEnSI) return {valorPantalla * factor, valorPantalla};
+  return {valorPantalla, valorPantalla / factor};
+}
+
+void PreparaUnidades(EstadoCalculo& e, std::string_view modo) {
+  if (IgualSinCaja(modo, "ParaCalculo")) {
+    ParaCalculo(e);
+  } else if (IgualSinCaja(modo, "ParaPantalla")) {
+    ParaPantalla(e);
+  }
+}
+
+double Convierte(double valor, std::string_view conversion, bool si, std::string& unidad,
+                 int& decimales) {
+  const auto c = std::find_if(kConversiones.begin(), kConversiones.end(),
+                              [&](const Conversion& x) { return x.nombre == conversion; });
+  if (c == kConversiones.end()) return -999999999.0;
+  unidad = si ? c->unidadSI : c->unidadMKS;
+  if (!(c->soloSiHay && decimales <= 0)) decimales += si ? c->decimalesSI : c->decimalesMKS;
+  return si ? valor * c->multiplica / c->divide : valor;
+}
+
+}  // namespace zorbin

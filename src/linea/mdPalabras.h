@@ -1,0 +1,29 @@
+// The words of the command line, in the language of the program: help, refusals, exit codes.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "recursos/mdCatalogo.h"
+
+namespace zorbin {
+
+enum CodigoSalida : int {
+  kHecho = 0,
+  kFicheroRechazado = 1,
+  kPalabrasMalas = 2,
+  kFalloDeCorrida = 3,
+  kSalidaImposible = 4,
+};
+
+/// Headings of the help in the language of the catalogue.
+void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos);
+
+/// What is wrong with the words, in one line.
+std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& textos);
+
+/// A validator that takes one of the values and tells the refused one as the catalogue says it.
+CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos,
+                     std::string opcion);
+
+}  // namespace zorbin

@@ -1,0 +1,22 @@
+// The words of warnings and failures, which calculation keeps as codes and values.
+#pragma once
+
+#include <string>
+
+#include "core/mdCorrida.h"
+#include "listados/mdFormato.h"
+#include "recursos/mdCatalogo.h"
+
+namespace zorbin {
+
+/// Text of a warning, without the marks that each listing puts around it.
+std::string TextoAviso(const Aviso& aviso, const Catalogo& textos);
+
+/// What ended a run, without its place.
+std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos);
+
+/// The failure in one line: file, Tramo, Caso, height, pressure and cause.
+std::string TextoFallo(const ErrorCorrida& fallo, const std::string& fichero,
+                       const Catalogo& textos, const EstiloNumeros& estilo);
+
+}  // namespace zorbin

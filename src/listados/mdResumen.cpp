@@ -1,0 +1,111 @@
+#include "listados/mdResumen.h"
+
+#include "core/mdTextos.h"
+#include "listados/mdAvisos.h"
+#include "listados/mdRotulos.h"
+#include "recursos/textos.h"
+
+namespace zorbin {
+
+void Resumen::Progreso(const EstadoCalculo& e) {
+  const auto& c = e.corrida;
+  const auto presion = [this](double p) {
+    return std::string(Recorta(estilo_.FormatoNumero(p, 6, 1, "at->MPa", true)));
+  };
+  Linea("  " + textos_.Texto(txt::CalculandoElCaso) + " : " + TextoEntero(c.NumCaso) + "/" +
+        FormatoEntero(e.tramo.NumeroTramo, 4) + "  " + textos_.Texto(txt::DP) + " " +
+        presion(c.DP) + Blancos(6) + textos_.Texto(txt::MDP) + " " + presion(c.MDP));
+}
+
+void Resumen::Caso(const EstadoCalculo& e) {
+  if (e.tramo.EsArmado) Avisos(e);
+  ListaCasoArmado(e);
+  if (e.tramo.EsArmado) Armadura(e);
+  pantalla_.EscribePantalla(0, std::string(70, '='), 2);
+}
+
+void Resumen::Avisos(const EstadoCalculo& e) {
+  for (const auto& aviso : e.caso.avisos) {
+    if (!aviso.pantalla) continue;
+    switch (aviso.clase) {
+      case ClaseAviso::RetraccionLisas:
+        pantalla_.EscribePantalla(1, "  " + textos_.Texto(txt::RetraccionPantalla), 1);
+        Linea("  " + textos_.Texto(txt::AsAcr) + estilo_.FormatoNumero(*aviso.valor, 9, 4));
+        break;
+      case ClaseAviso::CapasInterior:
+      case ClaseAviso::CapasExterior:  // the text has asterisks of its own
+        pantalla_.EscribePantalla(1, "  " + TextoAviso(aviso, textos_), 1);
+        break;
+      default:
+        pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
+    }
+  }
+}
+
+std::string Resumen::DatoEnMm(int rotulo, double metros, int decimales) const {
+  return textos_.Texto(rotulo) + estilo_.FormatoNumero(metros * 1000.0, 5, decimales) + " " +
+         textos_.Texto(txt::Milimetros);
+}
+
+void Resumen::ListaCasoArmado(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto texto = [this](int n, int ancho) { return FormatoTexto(textos_.Texto(n), ancho); };
+  const int material = t.EsArmado ? txt::HormigonArmado : txt::HormigonPostesado;
+  Linea("  " + textos_.Texto(txt::Tipo) + texto(material, 19) + Blancos(3) +
+        DatoEnMm(txt::DiametroInterior, t.Di, 0));
+  Linea(Blancos(8) + FormatoTexto(TextoDeCamisa(t.Tipologia, textos_), 16) + Blancos(6) +
+        DatoEnMm(txt::Espesor, t.Esp, 1));
+  Linea(Blancos(30) + DatoEnMm(txt::RecubInterior, t.Reci, 0));
+  Linea(Blancos(30) + DatoEnMm(txt::RecubExterior, t.Rece, 0));
+  pantalla_.EscribePantalla(1,
+                            textos_.Texto(txt::Cuna) +
+                                FormatoTexto(TextoDeCuna(t.TipoCuna, textos_), 13) +
+                                textos_.Texto(txt::Colocacion) +
+                                FormatoTexto(TextoDeColocacion(t.TipoApoyo, textos_), 41),
+                            1);
+  Linea(textos_.Texto(txt::AlturaDelRelleno) + estilo_.FormatoNumero(e.corrida.Hr, 7, 2) + " m");
+  Linea(textos_.Texto(txt::PresionInterior) +
+        estilo_.FormatoNumero(e.corrida.DP, 7, 2, "at->MPa", true));
+  Linea(textos_.Texto(txt::CargaConcentrada) + FormatoTexto(TextoDeCarga(t.ICar, textos_), 21));
+  if (t.EsArmado) TablaHipotesis(e);
+}
+
+void Resumen::TablaHipotesis(const EstadoCalculo& e) {
+  const std::string raya = " " + std::string(17, '-');
+  pantalla_.EscribePantalla(1, textos_.Texto(txt::Hipotesis), 1);
+  Linea(textos_.Texto(txt::CabezaSecciones));
+  Linea(textos_.Texto(txt::CabezaMN));
+  Linea(raya + raya + raya);
+  const auto& x = e.caso.armado.esfuerzos;
+  for (int h = 1; h <= kHipotesisArmado; ++h) {
+    std::string linea;
+    for (int s = 1; s <= kSecciones; ++s) {
+      linea += "  " + estilo_.FormatoNumero(x.M(h, s), 7, 3, "mT->mkN") + "  " +
+               estilo_.FormatoNumero(x.N(h, s), 7, 3, "T->kN");
+    }
+    // The caption stands behind the columns, so that the five rows can be told apart.
+    Linea(linea + "  " + std::string(Recorta(TextoDeHipotesis(h, textos_))));
+  }
+}
+
+void Resumen::Armadura(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  if (r.IESP > 0) {
+    Linea("  " + textos_.Texto(txt::EspesorInsuficientePantalla));
+    return;
+  }
+  const auto resistencia = [this](double v) {
+    return estilo_.FormatoNumero(v, 7, 2, "Kp/cm2->MPa", true);
+  };
+  Linea(Blancos(19) + textos_.Texto(txt::FckResumen) + resistencia(e.tramo.Fck) +
+        textos_.Texto(txt::FydResumen) + resistencia(e.tramo.Fyd));
+  const auto area = [this](int rotulo, double v) {
+    Linea(Blancos(14) + textos_.Texto(rotulo) + "  " + estilo_.FormatoNumero(v, 10, 2) +
+          textos_.Texto(txt::Cm2PorM));
+  };
+  area(txt::ArmaduraInterior, r.AsInt);
+  area(txt::ArmaduraExterior, r.AsExt);
+  area(txt::TotalArmadura, r.Total);
+}
+
+}  // namespace zorbin

@@ -1,0 +1,87 @@
+#include "persistencia/mdAnsi.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace zorbin {
+
+namespace {
+
+// Characters of the bytes 0x80 to 0x9F; 0 where there is none. The others are those of Latin-1.
+constexpr std::array<std::uint16_t, 32> kAltos{
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+void AnadeUtf8(std::string& texto, unsigned c) {
+  const auto byte = [&texto](unsigned b) { texto.push_back(static_cast<char>(b)); };
+  if (c < 0x80) {
+    byte(c);
+  } else if (c < 0x800) {
+    byte(0xC0 | (c >> 6));
+    byte(0x80 | (c & 0x3F));
+  } else {
+    byte(0xE0 | (c >> 12));
+    byte(0x80 | ((c >> 6) & 0x3F));
+    byte(0x80 | (c & 0x3F));
+  }
+}
+
+// One character of a UTF-8 text and its bytes; a broken sequence counts as one byte that no page
+// has.
+struct Caracter {
+  unsigned codigo;
+  std::size_t bytes;
+};
+
+Caracter Siguiente(std::string_view resto) {
+  const auto b = static_cast<unsigned char>(resto[0]);
+  if (b < 0x80) return {b, 1};
+  const std::size_t n = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : 2;
+  if (b < 0xC2 || b > 0xF4 || resto.size() < n) return {0xFFFD, 1};
+  unsigned codigo = b & (0x7Fu >> n);
+  for (std::size_t i = 1; i < n; ++i) {
+    const auto c = static_cast<unsigned char>(resto[i]);
+    if ((c & 0xC0) != 0x80) return {0xFFFD, 1};
+    codigo = (codigo << 6) | (c & 0x3Fu);
+  }
+  return {codigo, n};
+}
+
+std::optional<char> ByteAnsi(unsigned codigo) {
+  if (codigo < 0x80 || (codigo >= 0xA0 && codigo <= 0xFF)) return static_cast<char>(codigo);
+  const auto alto = std::find(kAltos.begin(), kAltos.end(), codigo);
+  if (alto == kAltos.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (alto - kAltos.begin()));
+}
+
+}  // namespace
+
+std::optional<std::string> DeAnsi(std::string_view bytes) {
+  std::string texto;
+  for (const char c : bytes) {
+    const auto b = static_cast<unsigned char>(c);
+    const unsigned codigo = b >= 0x80 && b < 0xA0 ? kAltos[b - 0x80u] : b;
+    if (codigo == 0 && b != 0) return std::nullopt;
+    AnadeUtf8(texto, codigo);
+  }
+  return texto;
+}
+
+TextoAnsi AAnsi(std::string_view utf8) {
+  TextoAnsi r;
+  while (!utf8.empty()) {
+    const Caracter c = Siguiente(utf8);
+    const auto byte = ByteAnsi(c.codigo);
+    if (!byte) {
+      r.sobra = std::string(utf8.substr(0, c.bytes));
+      return r;
+    }
+    r.bytes.push_back(*byte);
+    utf8.remove_prefix(c.bytes);
+  }
+  return r;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,22 @@
+// Windows-1252, the code page of the texts in the project's files. Inside the program all text is
+// UTF-8.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zorbin {
+
+/// UTF-8 of a text in Windows-1252. No value when a byte stands for no character (0x81, 0x8D,
+/// 0x8F, 0x90, 0x9D).
+std::optional<std::string> DeAnsi(std::string_view bytes);
+
+/// The text in Windows-1252, or the first character (in UTF-8) that the page does not have.
+struct TextoAnsi {
+  std::string bytes;
+  std::string sobra;  // empty when the whole text fits
+};
+TextoAnsi AAnsi(std::string_view utf8);
+
+}  // namespace zorbin

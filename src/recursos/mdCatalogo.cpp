@@ -1,0 +1,114 @@
+#include "recursos/mdCatalogo.h"
+
+#include <array>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+namespace zorbin {
+
+namespace {
+
+constexpr std::array<std::string_view, kIdiomas> kFicheros{"es.json", "en.json", "ca.json",
+                                                           "pt.json", "fr.json"};
+constexpr int kPrimerNombreIdioma = 101;
+constexpr int kUltimoNombreIdioma = 112;
+
+int NumeroEntrada(const std::string& clave, const std::filesystem::path& ruta) {
+  try {
+    std::size_t fin = 0;
+    const int n = std::stoi(clave, &fin);
+    if (fin == clave.size() && n > 0 && n < kPasoIdioma) return n;
+  } catch (const std::exception&) {
+  }
+  throw ErrorCatalogo(ruta.string() + ": \"" + clave + "\" is not the number of an entry");
+}
+
+void LeeIdioma(const std::filesystem::path& ruta, int offset,
+               std::unordered_map<int, std::string>& entradas) {
+  std::ifstream entrada(ruta, std::ios::binary);
+  nlohmann::json textos;
+  try {
+    textos = nlohmann::json::parse(entrada);
+  } catch (const nlohmann::json::exception& e) {
+    throw ErrorCatalogo(ruta.string() + ": not a catalogue of texts: " + e.what());
+  }
+  if (!textos.is_object()) throw ErrorCatalogo(ruta.string() + ": not an object of texts");
+  for (const auto& [clave, texto] : textos.items()) {
+    const int n = NumeroEntrada(clave, ruta);
+    if (!texto.is_string()) {
+      throw ErrorCatalogo(ruta.string() + ": entry " + clave + " is not a text");
+    }
+    entradas[n + offset] = texto.get<std::string>();
+  }
+}
+
+}  // namespace
+
+Catalogo Catalogo::Lee(const std::filesystem::path& carpeta) {
+  Catalogo c;
+  for (int i = 0; i < kIdiomas; ++i) {
+    const auto lugar = static_cast<std::size_t>(i);
+    const auto ruta = carpeta / kFicheros[lugar];
+    if (!std::filesystem::exists(ruta)) {
+      if (i == 0) throw ErrorCatalogo(ruta.string() + ": the file does not exist");
+      continue;
+    }
+    LeeIdioma(ruta, i * kPasoIdioma, c.entradas_);
+    c.leidos_[lugar] = true;
+  }
+  return c;
+}
+
+const std::string& Catalogo::LoadRes(int n) const {
+  const auto e = entradas_.find(n);
+  if (e != entradas_.end()) return e->second;
+  return faltas_.try_emplace(n, "Falta Recurso " + std::to_string(n)).first->second;
+}
+
+int Catalogo::CuentaIdiomas() const {
+  int ultimo = kPrimerNombreIdioma - 1;
+  for (int n = kPrimerNombreIdioma; n <= kUltimoNombreIdioma; ++n) {
+    if (Existe(n)) ultimo = n;
+  }
+  return ultimo - kPrimerNombreIdioma + 1;
+}
+
+std::int16_t Catalogo::PonIdioma(std::int16_t idioma) {
+  const bool hay = idioma >= 1 && idioma <= kIdiomas && leidos_[static_cast<std::size_t>(idioma - 1)];
+  const std::int16_t vale = hay ? idioma : std::int16_t{1};
+  offset_ = (vale - 1) * kPasoIdioma;
+  return vale;
+}
+
+std::string Catalogo::Compone(int n, const std::vector<std::string>& datos) const {
+  const std::string& plantilla = Texto(n);
+  std::string texto;
+  for (std::size_t i = 0; i < plantilla.size(); ++i) {
+    const bool marca = plantilla[i] == '{' && i + 2 < plantilla.size() && plantilla[i + 2] == '}' &&
+                       plantilla[i + 1] >= '1' && plantilla[i + 1] <= '9';
+    const auto dato = marca ? static_cast<std::size_t>(plantilla[i + 1] - '1') : datos.size();
+    if (dato < datos.size()) {
+      texto += datos[dato];
+      i += 2;
+    } else {
+      texto.push_back(plantilla[i]);
+    }
+  }
+  return texto;
+}
+
+std::filesystem::path CarpetaRecursos() {
+  std::error_code error;
+  const auto programa = std::filesystem::read_symlink("/proc/self/exe", error);
+  const std::array<std::filesystem::path, 2> candidatas{
+      programa.parent_path() / ".." / "share" / "zorbin", ZORBIN_RECURSOS};
+  for (const auto& carpeta : candidatas) {
+    if (std::filesystem::exists(carpeta / "textos" / kFicheros[0], error)) {
+      return std::filesystem::weakly_canonical(carpeta);
+    }
+  }
+  throw ErrorCatalogo("the data of the program (textos/es.json) were not found beside it nor in " +
+                      std::string(ZORBIN_RECURSOS));
+}
+
+}  // namespace zorbin
