@@ -16,14 +16,18 @@ Lista<double, kHipotesisArmado> Presiones(const Corrida& c) {
   return {{c.PPNeta, 0.0, c.STP, c.DP, c.MDP}};
 }
 
-double TerminoPresion(double p, double R) { return p * 10.0 * R; }
+double TerminoPresion(double p, double R) {
+  return p * 10.0 * R;
+}
 
 // Areas of the steel that stands in the bars and the sheet.
 AreasCaras AreasDelAcero(const ResultadoArmado& r) {
   return {AreaBarras(r.FIIN, r.NESPIN) + r.CAMISA * 10.0, AreaBarras(r.FIEX, r.NEXPEX)};
 }
 
-AreasCaras AreasDelAjuste(const Ajuste& a) { return {a.Camisa + a.Espiras, a.Exterior}; }
+AreasCaras AreasDelAjuste(const Ajuste& a) {
+  return {a.Camisa + a.Espiras, a.Exterior};
+}
 
 void AnotaAcero(Registro* log, const Tramo& t, const ResultadoArmado& r) {
   if (log == nullptr) return;

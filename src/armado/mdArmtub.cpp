@@ -13,11 +13,11 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kPasoAcero = 0.5;       // [cm2/m]
-constexpr int kMaxRondasTope = 10'000;   // rounds of the loops that the outer maximum limits
-constexpr double kTolCaras = 0.01;       // [cm2/m]
+constexpr double kPasoAcero = 0.5;      // [cm2/m]
+constexpr int kMaxRondasTope = 10'000;  // rounds of the loops that the outer maximum limits
+constexpr double kTolCaras = 0.01;      // [cm2/m]
 constexpr double kRedondeoChapa = 4.9999999;
-constexpr double kAreaMinChapa = 15.0;   // a sheet of 1.5 mm [cm2/m]
+constexpr double kAreaMinChapa = 15.0;  // a sheet of 1.5 mm [cm2/m]
 
 // The worst section in composite tension of one sign of moment.
 struct PeorTraccion {

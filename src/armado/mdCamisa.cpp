@@ -9,7 +9,7 @@ namespace zorbin {
 namespace {
 
 constexpr std::array<double, 3> kDiametros{8.0, 10.0, 12.0};  // [mm]
-constexpr double kAreaMinChapa = 15.0;     // a sheet of 1.5 mm [cm2/m]
+constexpr double kAreaMinChapa = 15.0;                        // a sheet of 1.5 mm [cm2/m]
 constexpr double kPasoChapa = 5.0;         // sheets come in steps of 0.5 mm [cm2/m]
 constexpr double kToleranciaBarra = 0.02;  // fraction of a bar that is spared [-]
 constexpr double kMinEspiras = 5.0;        // [1/m]
@@ -23,7 +23,9 @@ struct Barras {
 };
 
 // The area rounded down to whole steps of a sheet; its floor is a 16-bit integer.
-double EscalonesChapa(double AS) { return Int(I16(Int(AS)) / kPasoChapa) * kPasoChapa; }
+double EscalonesChapa(double AS) {
+  return Int(I16(Int(AS)) / kPasoChapa) * kPasoChapa;
+}
 
 Barras BarrasPara(double resto, double D) {
   const double exacto = Div(resto, (D * D / 400.0) * kPi);
@@ -64,7 +66,9 @@ void EligeBarras(double resto, double chapa, bool HayAjuste, double AreaExterior
 
 }  // namespace
 
-double AreaBarras(double D, double n) { return D * D * kPi / 400.0 * n; }
+double AreaBarras(double D, double n) {
+  return D * D * kPi / 400.0 * n;
+}
 
 Reparto ReparteArmadura(double AS, std::int16_t ICAMIS, double CAMMAX, bool HayAjuste,
                         double AreaExterior) {

@@ -8,12 +8,12 @@ namespace zorbin {
 
 /// Steel chosen for one face.
 struct Reparto {
-  std::int16_t NESP = 0;    // spirals [1/m]
-  double DIA = 0;           // bar diameter [mm]
-  double CAMISA = 0;        // sheet thickness [mm]; 1 mm gives 10 cm2/m
-  double AREA = 0;          // area provided [cm2/m]
-  std::int16_t IESP = 0;    // above 0: wall too thin; no rule in force sets it
-  bool VariasCapas = false; // the bars don't fit in one layer
+  std::int16_t NESP = 0;     // spirals [1/m]
+  double DIA = 0;            // bar diameter [mm]
+  double CAMISA = 0;         // sheet thickness [mm]; 1 mm gives 10 cm2/m
+  double AREA = 0;           // area provided [cm2/m]
+  std::int16_t IESP = 0;     // above 0: wall too thin; no rule in force sets it
+  bool VariasCapas = false;  // the bars don't fit in one layer
 };
 
 /// A hand adjustment of the Caso silences the layer warning up to this outer area [cm2/m].

@@ -4,10 +4,10 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kRelacionModular = 11.0;  // [-]
-constexpr double kPasoAcero = 0.5;         // [cm2/m]
+constexpr double kRelacionModular = 11.0;                 // [-]
+constexpr double kPasoAcero = 0.5;                        // [cm2/m]
 constexpr Lista<double, 3> kControlFis{{1.5, 1.6, 1.7}};  // by SubTipo [-]
-constexpr double kRebajaIntenso = 0.1;     // of the factor under intense control [-]
+constexpr double kRebajaIntenso = 0.1;                    // of the factor under intense control [-]
 constexpr std::int16_t kControlIntenso = 1;
 
 // Gradient coefficient by the ratio of bending to mean stress.

@@ -33,9 +33,9 @@ class Fisuracion {
   const Esfuerzos& esfuerzos_;
   const int H1_;
   const int H2_;
-  const double Fct_;         // [kp/cm2]
+  const double Fct_;          // [kp/cm2]
   const double e_, ri_, re_;  // thickness and covers [cm]
-  double controlFis_;        // safety factor of the concrete in tension [-]
+  double controlFis_;         // safety factor of the concrete in tension [-]
   double tensionMax_ = 0;
   double tensionAdm_ = 0;
   double tensionAdmMin_ = 1e20;

@@ -6,8 +6,8 @@
 namespace zorbin {
 
 struct LimiteRetraccion {
-  double ASC;              // limit of As / Acr [-]
-  std::string_view paso;   // what the log notes when the ratio passes
+  double ASC;             // limit of As / Acr [-]
+  std::string_view paso;  // what the log notes when the ratio passes
 };
 
 /// @param Fck  characteristic strength of the concrete [kp/cm2]

@@ -7,11 +7,13 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kGrado = kPi / 180.0;       // [rad]
-constexpr double kRazonComparacion = 0.5;    // settlement ratio of the comparison load [-]
-constexpr double kTolNewton = 0.00001;       // [-]
+constexpr double kGrado = kPi / 180.0;     // [rad]
+constexpr double kRazonComparacion = 0.5;  // settlement ratio of the comparison load [-]
+constexpr double kTolNewton = 0.00001;     // [-]
 
-double Exp(double x) { return Finito(std::exp(x)); }
+double Exp(double x) {
+  return Finito(std::exp(x));
+}
 
 struct Relleno {
   std::int16_t codigo;
@@ -114,7 +116,9 @@ double CoefRelleno(std::int16_t TipoRelleno) {
   return 0.0;
 }
 
-double RazonAsentamiento(std::int16_t IAs) { return kAsentamiento(IAs); }
+double RazonAsentamiento(std::int16_t IAs) {
+  return kAsentamiento(IAs);
+}
 
 double CoefZanja(double Kmu, double H, double B) {
   const double x = Div(2.0 * Kmu * H, B);
@@ -169,7 +173,9 @@ double PresionMovil(std::int16_t ICarga, double H) {
   }
 }
 
-double CoefImpacto(double H) { return H >= 3.0 ? 1.0 : 1.0 + Div(0.3, H); }
+double CoefImpacto(double H) {
+  return H >= 3.0 ? 1.0 : 1.0 + Div(0.3, H);
+}
 
 void CargasMarston(EstadoCalculo& e, double H, std::int16_t ICarga) {
   const Tramo& t = e.tramo;

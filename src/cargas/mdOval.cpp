@@ -102,8 +102,8 @@ TerminosOval CalculaTerminos(const DatosOval& d) {
     t.lateralFijo.M(s) = MomentoLateral(r, d.De, col, r.h0);
     t.lateralFijo.N(s) = AxilLateral(r, d.De, col, r.h0);
   }
-  for (const auto* e : {&t.propio, &t.fluido, &t.timpanos, &t.vertical, &t.movil, &t.lateral,
-                        &t.lateralFijo}) {
+  for (const auto* e :
+       {&t.propio, &t.fluido, &t.timpanos, &t.vertical, &t.movil, &t.lateral, &t.lateralFijo}) {
     ExigeFinitos(*e);
   }
   return t;

@@ -33,14 +33,14 @@ struct EsfuerzoSecciones {
 
 /// The load terms from which the hypotheses are put together.
 struct TerminosOval {
-  EsfuerzoSecciones propio;      // weight of the pipe
-  EsfuerzoSecciones fluido;      // weight of the water
-  EsfuerzoSecciones timpanos;    // earth of the spandrels
-  EsfuerzoSecciones vertical;    // vertical load without the moving part
-  EsfuerzoSecciones movil;       // moving load
-  EsfuerzoSecciones lateral;     // lateral thrust with the moving load
-  EsfuerzoSecciones lateralFijo; // lateral thrust without it
-  double factor = 1;             // of every result, by bedding [-]
+  EsfuerzoSecciones propio;       // weight of the pipe
+  EsfuerzoSecciones fluido;       // weight of the water
+  EsfuerzoSecciones timpanos;     // earth of the spandrels
+  EsfuerzoSecciones vertical;     // vertical load without the moving part
+  EsfuerzoSecciones movil;        // moving load
+  EsfuerzoSecciones lateral;      // lateral thrust with the moving load
+  EsfuerzoSecciones lateralFijo;  // lateral thrust without it
+  double factor = 1;              // of every result, by bedding [-]
 };
 
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; Subindice for a bedding outside 1..4

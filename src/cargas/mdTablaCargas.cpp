@@ -9,7 +9,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kUnMetro = 1.0;         // [m]
+constexpr double kUnMetro = 1.0;          // [m]
 constexpr double kEngancheAltura = 0.01;  // a step this near to the last height lands on it [m]
 constexpr std::size_t kMaxFilas = std::numeric_limits<std::int16_t>::max();
 

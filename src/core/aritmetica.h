@@ -61,7 +61,9 @@ inline double Div(double a, double b) {
 }
 
 /// Floor.
-inline double Int(double x) { return std::floor(x); }
+inline double Int(double x) {
+  return std::floor(x);
+}
 
 /// A real as a 16-bit integer, half to even. @throws ErrorEjecucion Desbordamiento outside
 /// -32768..32767 or for NaN.
@@ -72,6 +74,8 @@ inline std::int16_t I16(double x) {
 }
 
 /// a + b in 16 bits. @throws ErrorEjecucion Desbordamiento.
-inline std::int16_t Suma16(std::int16_t a, std::int16_t b) { return I16(static_cast<double>(a) + b); }
+inline std::int16_t Suma16(std::int16_t a, std::int16_t b) {
+  return I16(static_cast<double>(a) + b);
+}
 
 }  // namespace zorbin

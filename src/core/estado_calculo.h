@@ -86,12 +86,12 @@ struct Tramo {
   double PrsM1Tram = 0, PrsM2Tram = 0;              // [*] own MDP range [at]
   double Hr0Tramo = 0, Hr0Final = 0, Hr0Delta = 0;  // own fill heights and increment [m]
 
-  double Prs1TramSI = 0, Prs2TramSI = 0, Prs3TramSI = 0;        // twins [MPa]
-  double PrsM1TramSI = 0, PrsM2TramSI = 0;                      // twins [MPa]
-  double FckSI = 0, FctSI = 0, FykSI = 0, FydSI = 0;            // twins [MPa]
-  double QDatoSI = 0, EsSI = 0, EpSI = 0;                       // twins [MPa]
-  double FcknoSI = 0, FcknSI = 0, FckrSI = 0;                   // twins [MPa]
-  double SFckSI = 0, SfSI = 0, FYKPostSI = 0;                   // twins [MPa]
+  double Prs1TramSI = 0, Prs2TramSI = 0, Prs3TramSI = 0;  // twins [MPa]
+  double PrsM1TramSI = 0, PrsM2TramSI = 0;                // twins [MPa]
+  double FckSI = 0, FctSI = 0, FykSI = 0, FydSI = 0;      // twins [MPa]
+  double QDatoSI = 0, EsSI = 0, EpSI = 0;                 // twins [MPa]
+  double FcknoSI = 0, FcknSI = 0, FckrSI = 0;             // twins [MPa]
+  double SFckSI = 0, SfSI = 0, FYKPostSI = 0;             // twins [MPa]
 
   bool TieneDPPropia() const { return Prs1Tram > 0 || Prs2Tram > 0; }
 };
@@ -109,26 +109,26 @@ struct EntradaAjuste {
 /// Working fields of a run. The loads (`Q`, `QTerraplen`, `QTierras`, `QMovil`, `Impacto`,
 /// `TerraplenRige`) are those of the current height.
 struct Corrida : Cargas {
-  double Hr = 0;                                     // fill height of the Caso [m]
-  double DP = 0, MDP = 0, STP = 0, PP = 0;           // pressures of the Caso [at]
-  double PPNeta = 0;                                 // net factory test pressure [at]
-  double DPActual = 0, IncDP = 0;                    // pressure loop: variable and step [at]
-  bool IncDPIndefinido = false;                      // the step has no finite value
-  double DPIni = 0, DPFin = 0;                       // pressure range of the Tramo [at]
-  double MDPIni = 0, MDPFin = 0;                     // [at]
-  double PendienteMDP = 1;                           // slope of MDP over DP [-]
-  double Hr0Actual = 0, Hr0FinalActual = 0;          // height range of the Tramo [m]
-  double Landa = 0;                                  // active earth pressure coefficient [-]
-  double Q1m = 0, QTerraplen1m = 0;                  // loads of 1 m of earth [t/m2]
-  double QTierras1m = 0, QMovil1m = 0;               // [t/m2]
-  std::int16_t NumCaso = 0;                          // restarts at 1 at every height
-  std::int16_t CuentaCasos = 0;                      // Casos of this run
-  bool PrimerCaso = false;                           // first Caso of the run
-  bool MiraCargas = false;                           // first pressure of a height
-  bool ParaCalculoActivo = false;                    // the state holds calculation units
-  std::vector<FilaCargas> TablaCargas;               // vertical load table of the Tramo
-  std::vector<EntradaAjuste> ajustes;                // adjusted Casos of the project
-  Registro* registro = nullptr;                      // debug log, none when null
+  double Hr = 0;                             // fill height of the Caso [m]
+  double DP = 0, MDP = 0, STP = 0, PP = 0;   // pressures of the Caso [at]
+  double PPNeta = 0;                         // net factory test pressure [at]
+  double DPActual = 0, IncDP = 0;            // pressure loop: variable and step [at]
+  bool IncDPIndefinido = false;              // the step has no finite value
+  double DPIni = 0, DPFin = 0;               // pressure range of the Tramo [at]
+  double MDPIni = 0, MDPFin = 0;             // [at]
+  double PendienteMDP = 1;                   // slope of MDP over DP [-]
+  double Hr0Actual = 0, Hr0FinalActual = 0;  // height range of the Tramo [m]
+  double Landa = 0;                          // active earth pressure coefficient [-]
+  double Q1m = 0, QTerraplen1m = 0;          // loads of 1 m of earth [t/m2]
+  double QTierras1m = 0, QMovil1m = 0;       // [t/m2]
+  std::int16_t NumCaso = 0;                  // restarts at 1 at every height
+  std::int16_t CuentaCasos = 0;              // Casos of this run
+  bool PrimerCaso = false;                   // first Caso of the run
+  bool MiraCargas = false;                   // first pressure of a height
+  bool ParaCalculoActivo = false;            // the state holds calculation units
+  std::vector<FilaCargas> TablaCargas;       // vertical load table of the Tramo
+  std::vector<EntradaAjuste> ajustes;        // adjusted Casos of the project
+  Registro* registro = nullptr;              // debug log, none when null
 };
 
 /// The whole state.

@@ -67,9 +67,15 @@ void PreparaCargas(EstadoCalculo& e) {
   Cargas q;
   q.Q = t.QDato;
   switch (t.TipoApoyo) {
-    case 11: q.QTerraplen = t.IndCar == 1 ? 0.0 : Div(t.De * t.QDato, t.B0); break;
-    case 12: q.QTerraplen = t.QDato; break;
-    default: q.QTerraplen = t.Gr * e.corrida.Hr0Actual; break;
+    case 11:
+      q.QTerraplen = t.IndCar == 1 ? 0.0 : Div(t.De * t.QDato, t.B0);
+      break;
+    case 12:
+      q.QTerraplen = t.QDato;
+      break;
+    default:
+      q.QTerraplen = t.Gr * e.corrida.Hr0Actual;
+      break;
   }
   static_cast<Cargas&>(e.corrida) = q;
 }
@@ -92,7 +98,11 @@ double PruebaSistema(double MDP, bool golpeCalculado) {
 class CorridaTramo {
  public:
   CorridaTramo(EstadoCalculo& e, double hr, double prs, Oyentes oyentes)
-      : e_(e), c_(e.corrida), hr_(hr), prs_(prs), forzada_(hr > kDado || prs > kDado),
+      : e_(e),
+        c_(e.corrida),
+        hr_(hr),
+        prs_(prs),
+        forzada_(hr > kDado || prs > kDado),
         oyentes_(oyentes) {}
 
   void Corre() {

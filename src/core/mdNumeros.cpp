@@ -103,7 +103,8 @@ std::optional<double> NumeroTexto(std::string_view texto) {
   // from_chars alone would also take "inf", "nan" and a second sign after the plus.
   const char* cifras = desde + (desde == limpio.data() && *desde == '-' ? 1 : 0);
   if (cifras == fin || limpio.find_first_of("0123456789") == std::string::npos) return std::nullopt;
-  if (!std::all_of(cifras, fin, [](char c) { return (c >= '0' && c <= '9') || c == ',' || c == '.'; }))
+  if (!std::all_of(cifras, fin,
+                   [](char c) { return (c >= '0' && c <= '9') || c == ',' || c == '.'; }))
     return std::nullopt;
   if (const auto coma = limpio.find(','); coma != std::string::npos) limpio[coma] = '.';
   double valor = 0;

@@ -6,7 +6,9 @@ namespace zorbin {
 
 namespace {
 
-bool EmpiezaCaracter(char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }
+bool EmpiezaCaracter(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+}
 
 }  // namespace
 
@@ -28,6 +30,8 @@ std::string_view Recorta(std::string_view texto) {
   return texto.substr(desde, texto.find_last_not_of(' ') - desde + 1);
 }
 
-std::string TextoEntero(int n) { return std::to_string(n); }
+std::string TextoEntero(int n) {
+  return std::to_string(n);
+}
 
 }  // namespace zorbin

@@ -121,7 +121,9 @@ constexpr std::array<Conversion, 9> kConversiones{{
 
 }  // namespace
 
-double FctDeFck(double Fck) { return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0); }
+double FctDeFck(double Fck) {
+  return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0);
+}
 
 void EligeAlturas(EstadoCalculo& e) {
   auto& c = e.corrida;
@@ -138,8 +140,7 @@ void EligeAlturas(EstadoCalculo& e) {
 void EligePresiones(EstadoCalculo& e) {
   auto& c = e.corrida;
   const auto& t = e.tramo;
-  const bool propias =
-      t.Prs1Tram > 0 || t.Prs2Tram > 0 || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
+  const bool propias = t.Prs1Tram > 0 || t.Prs2Tram > 0 || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
   c.DPIni = propias ? t.Prs1Tram : e.obra.Prs1;
   c.DPFin = propias ? t.Prs2Tram : e.obra.Prs2;
   c.MDPIni = propias ? t.PrsM1Tram : e.obra.PrsM1;

@@ -11,6 +11,7 @@ int Corre(int argc, char** argv) {
   using namespace zorbin;
   Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   CLI::App app(textos.Texto(txt::Descripcion), "zorbin-calc");
+  app.option_defaults()->group(textos.Texto(txt::Opciones));
   app.set_help_flag("-h,--help", textos.Texto(txt::AyudaAyuda));
   app.set_version_flag("--version", "zorbin-calc " ZORBIN_VERSION, textos.Texto(txt::AyudaVersion));
   app.require_subcommand(1);
@@ -18,15 +19,25 @@ int Corre(int argc, char** argv) {
 
   OpcionesCalcula o;
   auto* calcula = app.add_subcommand("calcula", textos.Texto(txt::CalculaUnaObra));
-  calcula->add_option("OBRA.zrb", o.obra, textos.Texto(txt::AyudaFichero))->required();
+  calcula->group(textos.Texto(txt::Ordenes));
+  calcula->set_help_flag("-h,--help", textos.Texto(txt::AyudaAyuda))
+      ->group(textos.Texto(txt::Opciones));
+  calcula->add_option("OBRA.zrb", o.obra, textos.Texto(txt::AyudaFichero))
+      ->required()
+      ->type_name("");
   calcula->add_option("--tramo", o.tramos, textos.Texto(txt::AyudaTramo))
-      ->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+      ->type_name("N")
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
   calcula->add_option("--formato", o.formato, textos.Texto(txt::AyudaFormato))
+      ->type_name("resumen|json")
       ->check(UnoDe({"resumen", "json"}, textos, "--formato"));
-  calcula->add_option("--salida", o.salida, textos.Texto(txt::AyudaSalida));
+  calcula->add_option("--salida", o.salida, textos.Texto(txt::AyudaSalida))->type_name("FICHERO");
   calcula->add_option("--separador", o.separador, textos.Texto(txt::AyudaSeparador))
+      ->type_name("coma|punto")
       ->check(UnoDe({"coma", "punto"}, textos, "--separador"));
-  calcula->add_option("--registros", o.registros, textos.Texto(txt::AyudaRegistros));
+  calcula->add_option("--registros", o.registros, textos.Texto(txt::AyudaRegistros))
+      ->type_name("CARPETA");
 
   try {
     app.parse(argc, argv);

@@ -19,7 +19,9 @@ namespace zorbin {
 
 namespace {
 
-void Queja(const std::string& texto) { std::cerr << "zorbin-calc: " << texto << '\n'; }
+void Queja(const std::string& texto) {
+  std::cerr << "zorbin-calc: " << texto << '\n';
+}
 
 // Writes the summary of an Obra.
 class SalidaResumen : public OyenteObra {
@@ -82,13 +84,13 @@ std::string NumerosDe(const ListaTramos& lista) {
 }
 
 // @return whether every number of the request is in the list
-bool BuscaTramos(const OpcionesCalcula& opciones, const ObraEnFichero& obra,
-                 const Catalogo& textos, PeticionCalculo& peticion) {
+bool BuscaTramos(const OpcionesCalcula& opciones, const ObraEnFichero& obra, const Catalogo& textos,
+                 PeticionCalculo& peticion) {
   for (const int numero : opciones.tramos) {
     const int posicion = PosicionDe(obra.lista, numero);
     if (posicion == 0) {
-      Queja(textos.Compone(txt::TramoQueNoEsta, {TextoEntero(numero), opciones.obra.string(),
-                                                 NumerosDe(obra.lista)}));
+      Queja(textos.Compone(txt::TramoQueNoEsta,
+                           {TextoEntero(numero), opciones.obra.string(), NumerosDe(obra.lista)}));
       return false;
     }
     peticion.posiciones.push_back(posicion);
@@ -98,7 +100,7 @@ bool BuscaTramos(const OpcionesCalcula& opciones, const ObraEnFichero& obra,
 
 int CalculaAbierta(EstadoCalculo& e, const ObraEnFichero& obra, const OpcionesCalcula& opciones,
                    const PeticionCalculo& peticion, const Catalogo& textos) {
-  const char separador = opciones.separador.empty() ? SeparadorDeLaMaquina()
+  const char separador = opciones.separador.empty()     ? SeparadorDeLaMaquina()
                          : opciones.separador == "coma" ? ','
                                                         : '.';
   const EstiloNumeros estilo{e.obra.EsSI(), separador};
@@ -129,8 +131,8 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   const ObraEnFichero obra = AbreObra(e, opciones.obra);
   if (textos.PonIdioma(e.obra.Idioma) != e.obra.Idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
-  PeticionCalculo peticion{
-      {}, opciones.registros.empty() ? CarpetaRegistros() : opciones.registros};
+  PeticionCalculo peticion{{},
+                           opciones.registros.empty() ? CarpetaRegistros() : opciones.registros};
   if (!BuscaTramos(opciones, obra, textos, peticion)) return kPalabrasMalas;
   return CalculaAbierta(e, obra, opciones, peticion, textos);
 } catch (const ErrorFichero& error) {

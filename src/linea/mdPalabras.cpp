@@ -9,7 +9,9 @@ namespace zorbin {
 namespace {
 
 // CLI11 tells the names inside an English sentence; they stand before the first colon or blank.
-std::string PrimeraPalabra(const std::string& frase) { return frase.substr(0, frase.find_first_of(" :")); }
+std::string PrimeraPalabra(const std::string& frase) {
+  return frase.substr(0, frase.find_first_of(" :"));
+}
 
 std::string TrasDosPuntos(const std::string& frase) {
   const auto corte = frase.find(": ");
@@ -38,9 +40,9 @@ void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos) {
 std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& textos) {
   const std::string frase = error.what();
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
-    return textos.Compone(txt::FaltaPalabra, {PrimeraPalabra(frase) == "A"
-                                                  ? textos.Texto(txt::Orden)
-                                                  : PrimeraPalabra(frase)});
+    return textos.Compone(
+        txt::FaltaPalabra,
+        {PrimeraPalabra(frase) == "A" ? textos.Texto(txt::Orden) : PrimeraPalabra(frase)});
   }
   if (dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr) {
     return textos.Compone(txt::PalabraInesperada, {TrasDosPuntos(frase)});
@@ -60,15 +62,14 @@ std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& tex
   return TrasDosPuntos(frase);  // a validator of ours
 }
 
-CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos,
-                     std::string opcion) {
-  std::string descripcion;
-  for (const auto& v : valores) descripcion += (descripcion.empty() ? "" : "|") + v;
+CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos, std::string opcion) {
   return {[valores = std::move(valores), &textos, opcion = std::move(opcion)](std::string& dado) {
-            if (std::find(valores.begin(), valores.end(), dado) != valores.end()) return std::string{};
+            if (std::find(valores.begin(), valores.end(), dado) != valores.end()) {
+              return std::string{};
+            }
             return textos.Compone(txt::ValorNoSirve, {opcion, dado});
           },
-          descripcion};
+          ""};
 }
 
 }  // namespace zorbin

@@ -23,7 +23,6 @@ void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos);
 std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& textos);
 
 /// A validator that takes one of the values and tells the refused one as the catalogue says it.
-CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos,
-                     std::string opcion);
+CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos, std::string opcion);
 
 }  // namespace zorbin

@@ -10,6 +10,7 @@
 namespace zorbin {
 
 /// Text of a warning, without the marks that each listing puts around it.
+std::string TextoAviso(ClaseAviso clase, const Catalogo& textos);
 std::string TextoAviso(const Aviso& aviso, const Catalogo& textos);
 
 /// What ended a run, without its place.

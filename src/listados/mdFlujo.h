@@ -35,8 +35,8 @@ ObraEnFichero AbreObra(EstadoCalculo& e, const std::filesystem::path& ruta);
 int PosicionDe(const ListaTramos& lista, int numero);
 
 struct PeticionCalculo {
-  std::vector<int> posiciones;                // empty: the whole Obra
-  std::filesystem::path carpetaRegistros;     // of the debug log
+  std::vector<int> posiciones;             // empty: the whole Obra
+  std::filesystem::path carpetaRegistros;  // of the debug log
 };
 
 /// Runs the Tramos of the request in the order given, or all in file order. In a run of the whole

@@ -14,13 +14,19 @@ std::string ALaDerecha(std::string texto, int ancho) {
 }
 
 // Bytes of the first `n` characters.
-std::size_t Bytes(std::string_view texto, std::size_t n) { return Primeros(texto, n).size(); }
+std::size_t Bytes(std::string_view texto, std::size_t n) {
+  return Primeros(texto, n).size();
+}
 
 }  // namespace
 
-std::string Blancos(int n) { return std::string(n > 0 ? static_cast<std::size_t>(n) : 0, ' '); }
+std::string Blancos(int n) {
+  return std::string(n > 0 ? static_cast<std::size_t>(n) : 0, ' ');
+}
 
-std::string FormatoEntero(int n, int ancho) { return ALaDerecha(TextoEntero(n), ancho); }
+std::string FormatoEntero(int n, int ancho) {
+  return ALaDerecha(TextoEntero(n), ancho);
+}
 
 std::string FormatoTexto(std::string_view texto, int ancho) {
   const std::string corto(Primeros(texto, static_cast<std::size_t>(ancho)));

@@ -25,8 +25,8 @@ struct EstiloNumeros {
   /// before the field is laid out; a number too wide for the field isn't cut. With `conUnidad` a
   /// blank and the unit follow, outside the width. @throws ErrorEjecucion Desbordamiento when the
   /// value is not finite.
-  std::string FormatoNumero(double valor, int ancho, int decimales, std::string_view conversion = {},
-                            bool conUnidad = false) const;
+  std::string FormatoNumero(double valor, int ancho, int decimales,
+                            std::string_view conversion = {}, bool conUnidad = false) const;
 };
 
 /// Cuts a line of at most `ancho` characters from a text of several lines (CR LF between them).

@@ -173,11 +173,12 @@ void ListadoJson::EmpiezaObra(const EstadoCalculo& e) {
   salida_ << "{\"obra\":" << Texto(DeObra(e.obra)) << ",\n\"tramos\":[";
 }
 
-void ListadoJson::AcabaObra() { salida_ << "\n]}\n"; }
+void ListadoJson::AcabaObra() {
+  salida_ << "\n]}\n";
+}
 
 void ListadoJson::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
-  Json tramo{{"posicion", posicion},
-             {"NumeroTramo", I16(NumeroTexto(numero).value_or(0.0))}};
+  Json tramo{{"posicion", posicion}, {"NumeroTramo", I16(NumeroTexto(numero).value_or(0.0))}};
   tramo.update(DeTramo(e.tramo));
   std::string abierto = Texto(tramo);
   abierto.pop_back();  // the object goes on with its Casos

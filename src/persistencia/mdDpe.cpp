@@ -40,7 +40,9 @@ double LeeNumero(const FicheroRegistros& f, int registro, std::string_view nombr
   return *valor;
 }
 
-int PrimerRegistro(int entrada) { return (entrada - 1) * kRegistrosEntrada + 2; }
+int PrimerRegistro(int entrada) {
+  return (entrada - 1) * kRegistrosEntrada + 2;
+}
 
 }  // namespace
 
@@ -57,8 +59,9 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
   const FicheroRegistros f(dpe, FicheroRegistros::Modo::Lectura);
   const double total = LeeNumero(f, 1, "TotalRegistrosDpe");
   // More entries than the file has records would all read as free ones.
-  const int cuenta = std::min(static_cast<int>(std::clamp(total, 0.0, 32767.0)),
-                              f.UltimoRegistro()) / kRegistrosEntrada;
+  const int cuenta =
+      std::min(static_cast<int>(std::clamp(total, 0.0, 32767.0)), f.UltimoRegistro()) /
+      kRegistrosEntrada;
   std::vector<EntradaAjuste> entradas(static_cast<std::size_t>(cuenta));
   int registro = PrimerRegistro(1);
   for (auto& x : entradas) {
@@ -71,7 +74,8 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
 
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,
                     char separador) {
-  const int total = entradas.empty() ? 0 : static_cast<int>(entradas.size()) * kRegistrosEntrada + 1;
+  const int total =
+      entradas.empty() ? 0 : static_cast<int>(entradas.size()) * kRegistrosEntrada + 1;
   f.EscribeRegistro(1, TextoEntero(total));
   int registro = PrimerRegistro(1);
   for (EntradaAjuste x : entradas) {

@@ -16,9 +16,13 @@ namespace {
 // Records that the 16-bit arithmetic of the format can name.
 constexpr std::size_t kMaxRegistros = 32767;
 
-std::string CausaDelSistema() { return std::generic_category().message(errno); }
+std::string CausaDelSistema() {
+  return std::generic_category().message(errno);
+}
 
-std::size_t Desde(int numero) { return static_cast<std::size_t>(numero - 1) * kBytesRegistro; }
+std::size_t Desde(int numero) {
+  return static_cast<std::size_t>(numero - 1) * kBytesRegistro;
+}
 
 }  // namespace
 
@@ -50,20 +54,19 @@ std::string FicheroRegistros::LeeRegistro(int numero) const {
   if (desde >= contenido_.size()) return {};
   const auto datos = std::string_view(contenido_).substr(desde, kBytesRegistro);
   if (datos.size() < 2) {
-    throw ErrorFichero({txt::RegistroCortado,
-                        {Nombre(), TextoEntero(numero), TextoEntero(2), TextoEntero(1)}});
+    throw ErrorFichero(
+        {txt::RegistroCortado, {Nombre(), TextoEntero(numero), TextoEntero(2), TextoEntero(1)}});
   }
-  const int largo = static_cast<unsigned char>(datos[0]) |
-                    (static_cast<unsigned char>(datos[1]) << 8);
+  const int largo =
+      static_cast<unsigned char>(datos[0]) | (static_cast<unsigned char>(datos[1]) << 8);
   if (largo > kMaxTexto) {
     throw ErrorFichero(
         {txt::LongitudExcesiva, {Nombre(), TextoEntero(numero), TextoEntero(largo)}});
   }
   const int hay = static_cast<int>(datos.size());
   if (hay < 2 + largo) {
-    throw ErrorFichero(
-        {txt::RegistroCortado,
-         {Nombre(), TextoEntero(numero), TextoEntero(2 + largo), TextoEntero(hay)}});
+    throw ErrorFichero({txt::RegistroCortado,
+                        {Nombre(), TextoEntero(numero), TextoEntero(2 + largo), TextoEntero(hay)}});
   }
   const auto texto = DeAnsi(datos.substr(2, static_cast<std::size_t>(largo)));
   if (!texto) throw ErrorFichero({txt::ByteSinCaracter, {Nombre(), TextoEntero(numero)}});

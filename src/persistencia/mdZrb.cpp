@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view kSeparadorPar = " // ";
 constexpr int kRegistrosBloque = 60;
-constexpr int kBaseBloque = 14;       // an offset counts from it in the first block
+constexpr int kBaseBloque = 14;  // an offset counts from it in the first block
 constexpr int kOffsetCuenta = 6;
 constexpr int kOffsetNumero = 7;
 constexpr int kOffsetDescripcion = 8;
@@ -28,7 +28,9 @@ constexpr int kUltimoOffset = 66;
 constexpr int kRegistroCuenta = 20;
 constexpr double kMayorNumero = 1e12;  // no quantity of a pipe is larger, in any unit
 
-int Base(int posicion) { return (posicion - 1) * kRegistrosBloque + kBaseBloque; }
+int Base(int posicion) {
+  return (posicion - 1) * kRegistrosBloque + kBaseBloque;
+}
 
 // ---------------------------------------------------------------------------------------------
 // Declaration of the fields
@@ -151,9 +153,9 @@ double LeeNumero(const FicheroRegistros& f, int registro, std::string_view nombr
                  std::string_view texto) {
   const auto valor = NumeroTexto(texto);
   if (!valor || std::fabs(*valor) > kMayorNumero) {
-    throw ErrorFichero({txt::NoEsNumero,
-                        {f.Nombre(), TextoEntero(registro), std::string(nombre),
-                         std::string(texto)}});
+    throw ErrorFichero(
+        {txt::NoEsNumero,
+         {f.Nombre(), TextoEntero(registro), std::string(nombre), std::string(texto)}});
   }
   return *valor;
 }
@@ -253,9 +255,15 @@ void CargasDelDato(EstadoCalculo& e) {
   auto& c = e.corrida;
   c.Q = t.QDato;
   switch (t.TipoApoyo) {
-    case 11: c.QTerraplen = t.B0 > 3.0 ? t.De * t.QDato / t.B0 : 0.0; break;
-    case 12: c.QTerraplen = t.QDato; break;
-    default: c.QTerraplen = t.Gr * c.Hr; break;
+    case 11:
+      c.QTerraplen = t.B0 > 3.0 ? t.De * t.QDato / t.B0 : 0.0;
+      break;
+    case 12:
+      c.QTerraplen = t.QDato;
+      break;
+    default:
+      c.QTerraplen = t.Gr * c.Hr;
+      break;
   }
 }
 
@@ -307,8 +315,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
   Obra obra;
   if (f.LeeRegistro(1) != kVersionFichero) throw ErrorFichero({txt::FormatoVersion, {}});
   LeeIdioma(obra, f, leida.avisos);
-  obra.SisUnid =
-      ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades) == "MKS" ? "MKS" : "SI";
+  obra.SisUnid = ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades) == "MKS" ? "MKS" : "SI";
   // The caption is compared as it stands: a file saved in another language reads as estimated.
   obra.GolpeCalculado = ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe) == "Si";
   obra.NombreObra = f.LeeRegistro(5);
@@ -357,8 +364,7 @@ void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos&
   std::vector<Registro128> r{
       {1, "Version", std::string(kVersionFichero)},
       {2, "Idioma",
-       "IDIOMA : " + TextoEntero(o.Idioma) + " " +
-           textos.Texto(txt::NombreIdioma1 + o.Idioma - 1)},
+       "IDIOMA : " + TextoEntero(o.Idioma) + " " + textos.Texto(txt::NombreIdioma1 + o.Idioma - 1)},
       {3, "SisUnid", "SisUnid: " + o.SisUnid + std::string(27, ' ')},
       {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)},
       {5, "NombreObra", o.NombreObra},
@@ -385,8 +391,8 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
       {base + kOffsetNumero, "NumeroTramo", lista.at(static_cast<std::size_t>(posicion - 1))},
       {base + kOffsetDescripcion, "DescriTramo", e.tramo.DescriTramo}};
   for (const auto& c : kCampos) {
-    r.push_back({base + c.offset, std::string(c.nombre),
-                 TextoCampo(e.tramo, c, e.obra.EsSI(), separador)});
+    r.push_back(
+        {base + c.offset, std::string(c.nombre), TextoCampo(e.tramo, c, e.obra.EsSI(), separador)});
   }
   for (int offset = kUltimoOffsetLeido + 1; offset <= kUltimoOffset; ++offset) {
     r.push_back({base + offset, "", "0"});

@@ -74,7 +74,8 @@ int Catalogo::CuentaIdiomas() const {
 }
 
 std::int16_t Catalogo::PonIdioma(std::int16_t idioma) {
-  const bool hay = idioma >= 1 && idioma <= kIdiomas && leidos_[static_cast<std::size_t>(idioma - 1)];
+  const bool hay =
+      idioma >= 1 && idioma <= kIdiomas && leidos_[static_cast<std::size_t>(idioma - 1)];
   const std::int16_t vale = hay ? idioma : std::int16_t{1};
   offset_ = (vale - 1) * kPasoIdioma;
   return vale;

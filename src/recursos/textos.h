@@ -46,6 +46,12 @@ inline constexpr int NoLlegaNegativos = 586;
 inline constexpr int NoLlegaAmbos = 587;
 inline constexpr int MomentoTope = 588;
 
+// Post-tensioned design
+inline constexpr int EspesorInsuficiente = 800;
+inline constexpr int ResistenciaInicial = 801;
+inline constexpr int CambiaAlambre = 803;
+inline constexpr int ResistenciaHormigon = 804;
+
 // Data block of a Caso. The tables are in the order of their codes.
 inline constexpr int HormigonArmado = 613;
 inline constexpr int HormigonPostesado = 614;

@@ -19,7 +19,8 @@ using pruebas::Datos;
 constexpr double kTolerancia = 1e-9;  // relative, for values that rounding may order differently
 
 void Cerca(const json& esperado, double hay, const std::string& que) {
-  const double x = esperado.is_boolean() ? (esperado.get<bool>() ? 1.0 : 0.0) : esperado.get<double>();
+  const double x =
+      esperado.is_boolean() ? (esperado.get<bool>() ? 1.0 : 0.0) : esperado.get<double>();
   EXPECT_NEAR(x, hay, kTolerancia * std::max(1.0, std::fabs(x))) << que;
 }
 
@@ -57,11 +58,24 @@ class Comparador : public OyenteCorrida {
   static void Carga(const EstadoCalculo& e, const json& x) {
     const auto& c = e.corrida;
     const std::initializer_list<std::pair<const char*, double>> pares{
-        {"Hr", c.Hr}, {"NumCaso", c.NumCaso}, {"DP", c.DP}, {"MDP", c.MDP}, {"STP", c.STP},
-        {"PP", c.PP}, {"PPNeta", c.PPNeta}, {"Landa", c.Landa}, {"Q", c.Q},
-        {"QTerraplen", c.QTerraplen}, {"QTierras", c.QTierras}, {"QMovil", c.QMovil},
-        {"Impacto", c.Impacto}, {"TerraplenRige", c.TerraplenRige ? -1.0 : 0.0}, {"Q1m", c.Q1m},
-        {"QTerraplen1m", c.QTerraplen1m}, {"QTierras1m", c.QTierras1m}, {"QMovil1m", c.QMovil1m}};
+        {"Hr", c.Hr},
+        {"NumCaso", c.NumCaso},
+        {"DP", c.DP},
+        {"MDP", c.MDP},
+        {"STP", c.STP},
+        {"PP", c.PP},
+        {"PPNeta", c.PPNeta},
+        {"Landa", c.Landa},
+        {"Q", c.Q},
+        {"QTerraplen", c.QTerraplen},
+        {"QTierras", c.QTierras},
+        {"QMovil", c.QMovil},
+        {"Impacto", c.Impacto},
+        {"TerraplenRige", c.TerraplenRige ? -1.0 : 0.0},
+        {"Q1m", c.Q1m},
+        {"QTerraplen1m", c.QTerraplen1m},
+        {"QTierras1m", c.QTierras1m},
+        {"QMovil1m", c.QMovil1m}};
     for (const auto& [nombre, valor] : pares) Cerca(x.at(nombre), valor, nombre);
     Cerca(x.at("MHip"), e.caso.MHip, "MHip");
     Cerca(x.at("NHip"), e.caso.NHip, "NHip");
@@ -69,13 +83,24 @@ class Comparador : public OyenteCorrida {
 
   static void Armado(const ResultadoArmado& r, const json& x) {
     const std::initializer_list<std::pair<const char*, double>> pares{
-        {"HipotesisRige", r.HipotesisRige}, {"CAMISA", r.CAMISA}, {"FIIN", r.FIIN},
-        {"NESPIN", r.NESPIN}, {"FIEX", r.FIEX}, {"NEXPEX", r.NEXPEX},
-        {"AreaCamisa", r.AreaCamisa}, {"AreaEspiras", r.AreaEspiras},
-        {"AreaExterior", r.AreaExterior}, {"AsInt", r.AsInt}, {"AsExt", r.AsExt},
-        {"Total", r.Total}, {"TensionMax", r.TensionMax}, {"TensionAdm", r.TensionAdm},
-        {"BRAZO", r.BRAZO}, {"ErrorPostesado", r.ErrorPostesado},
-        {"MomentoTope", r.MomentoTope ? -1.0 : 0.0}, {"HayAjuste", r.HayAjuste() ? -1.0 : 0.0}};
+        {"HipotesisRige", r.HipotesisRige},
+        {"CAMISA", r.CAMISA},
+        {"FIIN", r.FIIN},
+        {"NESPIN", r.NESPIN},
+        {"FIEX", r.FIEX},
+        {"NEXPEX", r.NEXPEX},
+        {"AreaCamisa", r.AreaCamisa},
+        {"AreaEspiras", r.AreaEspiras},
+        {"AreaExterior", r.AreaExterior},
+        {"AsInt", r.AsInt},
+        {"AsExt", r.AsExt},
+        {"Total", r.Total},
+        {"TensionMax", r.TensionMax},
+        {"TensionAdm", r.TensionAdm},
+        {"BRAZO", r.BRAZO},
+        {"ErrorPostesado", r.ErrorPostesado},
+        {"MomentoTope", r.MomentoTope ? -1.0 : 0.0},
+        {"HayAjuste", r.HayAjuste() ? -1.0 : 0.0}};
     for (const auto& [nombre, valor] : pares) Cerca(x.at(nombre), valor, nombre);
     Cerca(x.at("M5"), r.esfuerzos.M, "M");
     Cerca(x.at("N5"), r.esfuerzos.N, "N");
@@ -96,7 +121,8 @@ class Comparador : public OyenteCorrida {
     json unicos = json::array();
     for (const auto& a : avisos) {
       const auto igual = [&a](const json& b) {
-        return a["texto"] == b["texto"] && a["hipotesis"] == b["hipotesis"] && a["fase"] == b["fase"];
+        return a["texto"] == b["texto"] && a["hipotesis"] == b["hipotesis"] &&
+               a["fase"] == b["fase"];
       };
       if (std::none_of(unicos.begin(), unicos.end(), igual)) unicos.push_back(a);
     }

@@ -9,11 +9,24 @@
 namespace zorbin::pruebas {
 
 /// Folder tests/datos/.
-inline std::string Datos(const std::string& nombre) { return ZORBIN_DATOS_PRUEBA + nombre; }
+inline std::string Datos(const std::string& nombre) {
+  return ZORBIN_DATOS_PRUEBA + nombre;
+}
 
 nlohmann::json LeeJson(const std::string& ruta);
 
-/// Fills Obra and Tramo, in capture units, from their fields by name. Flags may be -1 and 0.
+/// Fill the Obra or the Tramo, in capture units, from their fields by name; a name left out leaves
+/// 0, and what follows from the fields is derived. Flags may be -1 and 0.
+void RellenaObra(EstadoCalculo& e, const nlohmann::json& j);
+void RellenaTramo(EstadoCalculo& e, const nlohmann::json& j);
+
+/// Both from one object.
 EstadoCalculo EstadoDe(const nlohmann::json& entrada);
+
+/// The Tramo of the sample Obra at a position, from 1, with its Obra, in SI.
+EstadoCalculo EstadoDeMuestra(int posicion);
+
+/// The same data typed in the other unit system. Fct follows from Fck in each.
+EstadoCalculo EnMks(EstadoCalculo e);
 
 }  // namespace zorbin::pruebas

@@ -1,0 +1,94 @@
+#include "core/mdUnidades.h"
+
+#include <gtest/gtest.h>
+
+namespace zorbin {
+namespace {
+
+TEST(Unidades, ConversionesDeLosListados) {
+  struct Fila {
+    const char* conversion;
+    bool si;
+    int decimales;
+    double valor;
+    const char* unidad;
+    int quedan;
+  };
+  for (const auto& f :
+       {Fila{"at->MPa", true, 1, 0.6, "MPa", 3}, Fila{"at->MPa", false, 1, 6, "at", 2},
+        Fila{"Kp/cm2->MPa", true, 0, 0.6, "MPa", 1}, Fila{"Kp/cm2->MPa", false, 0, 6, "kp/cm2", 0},
+        Fila{"T/M2->MPa", true, 1, 0.06, "MPa", 2}, Fila{"T/M2->kN/M2", true, 0, 60, "kN/M2", 0},
+        Fila{"T/M2->kN/M2", true, 3, 60, "kN/M2", 2}, Fila{"T->kN", true, 3, 60, "kN", 2},
+        Fila{"T->kN", false, 3, 6, "t", 3}, Fila{"mT->mkN", true, 3, 60, "m.kN", 2},
+        Fila{"kp/cm->N/cm", true, 1, 60, "N/cm", 0},
+        Fila{"kp.cm/cm->N.m/cm", true, 2, 0.6, "N.m/cm", 3},
+        Fila{"kp.cm/cm->N.m/cm", true, 0, 0.6, "N.m/cm", 0}, Fila{"", true, 2, 6, "", 2}}) {
+    std::string unidad = "x";
+    int decimales = f.decimales;
+    EXPECT_DOUBLE_EQ(Convierte(6.0, f.conversion, f.si, unidad, decimales), f.valor)
+        << f.conversion;
+    EXPECT_EQ(unidad, f.unidad) << f.conversion;
+    EXPECT_EQ(decimales, f.quedan) << f.conversion;
+  }
+  std::string unidad = "x";
+  int decimales = 1;
+  EXPECT_EQ(Convierte(6.0, "AT->MPA", true, unidad, decimales), -999999999.0);
+  EXPECT_EQ(unidad, "x");
+}
+
+TEST(Unidades, LaCorridaVeMksYLaPantallaRecuperaLoSuyo) {
+  EstadoCalculo e;
+  e.obra.SisUnid = "SI";
+  e.obra.Prs1 = 0.6;
+  e.obra.Prs3 = 0.12;
+  e.tramo.Fck = 35;
+  e.tramo.Fct = FctDeFck(35);
+  e.tramo.QDato = 0.05;
+  const auto antes = e;
+  {
+    const EnUnidadesDeCalculo dentro(e);
+    EXPECT_TRUE(e.corrida.ParaCalculoActivo);
+    EXPECT_DOUBLE_EQ(e.obra.Prs1, 6);
+    EXPECT_DOUBLE_EQ(e.tramo.Fck, 350);
+    EXPECT_NEAR(e.tramo.Fct, 22.349, 1e-3);   // 0.45·350^(2/3)
+    EXPECT_NEAR(e.tramo.FctSI, 4.815, 1e-3);  // 0.45·35^(2/3), not a tenth of the other
+    EXPECT_DOUBLE_EQ(e.tramo.QDato, 5);       // t/m2
+    EXPECT_DOUBLE_EQ(e.corrida.IncDP, 1.2);   // no pressure range: the slope is 1
+  }
+  EXPECT_EQ(e.obra.Prs1, antes.obra.Prs1);
+  EXPECT_EQ(e.tramo.Fck, 35);
+  EXPECT_DOUBLE_EQ(e.tramo.Fct, antes.tramo.Fct);
+  EXPECT_EQ(e.tramo.QDato, 0.05);
+
+  e.obra.SisUnid = "MKS";
+  e.tramo.Fct = 22;
+  const EnUnidadesDeCalculo dentro(e);
+  EXPECT_EQ(e.tramo.Fck, 35);
+  EXPECT_EQ(e.tramo.Fct, 22);  // left as it is
+  EXPECT_EQ(e.tramo.FckSI, 3.5);
+}
+
+// Which pressures apply is decided by four fields, which increment by two.
+TEST(Unidades, RangoYPasoDePresiones) {
+  EstadoCalculo e;
+  e.obra.SisUnid = "MKS";
+  e.obra.Prs1 = 4, e.obra.Prs2 = 6, e.obra.PrsM1 = 5, e.obra.PrsM2 = 9, e.obra.Prs3 = 2;
+  e.tramo.Prs3Tram = 3;
+  PreparaUnidades(e, "paracalculo");
+  EXPECT_EQ(e.corrida.PendienteMDP, 2);
+  EXPECT_EQ(e.corrida.IncDP, 1);
+  e.tramo.PrsM2Tram = 8;  // only an MDP of its own: the range is the Tramo's, the step the Obra's
+  PreparaUnidades(e, "PARACALCULO");
+  EXPECT_EQ(e.corrida.DPFin, 0);
+  EXPECT_EQ(e.corrida.PendienteMDP, 1);
+  EXPECT_EQ(e.corrida.IncDP, 2);
+  e.tramo.Prs2Tram = 4;
+  PreparaUnidades(e, "ParaCalculo");
+  EXPECT_EQ(e.corrida.IncDP, 1.5);
+  e.tramo.PrsM1Tram = 8;  // a range of DP without one of MDP
+  PreparaUnidades(e, "ParaCalculo");
+  EXPECT_TRUE(e.corrida.IncDPIndefinido);
+}
+
+}  // namespace
+}  // namespace zorbin

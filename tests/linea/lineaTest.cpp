@@ -1,0 +1,144 @@
+// zorbin-calc as a person calls it.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "comun/comparaFichero.h"
+#include "comun/estadoDeJson.h"
+#include "persistencia/mdDpe.h"
+#include "persistencia/mdZrb.h"
+
+namespace zorbin {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Resultado {
+  int codigo;
+  std::string salida;
+  std::string quejas;
+};
+
+class Linea : public testing::Test {
+ protected:
+  fs::path carpeta = fs::temp_directory_path() / ("zorbin-linea-" + std::to_string(getpid()));
+  std::string acequia = ZORBIN_FUENTES "muestras/acequia.zrb";
+
+  void SetUp() override { fs::create_directories(carpeta); }
+  void TearDown() override { fs::remove_all(carpeta); }
+
+  static std::string Lee(const fs::path& ruta) {
+    std::ifstream f(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(f), {}};
+  }
+
+  Resultado Llama(const std::string& palabras) const {
+    const auto salida = carpeta / "salida", quejas = carpeta / "quejas";
+    const std::string orden = "XDG_STATE_HOME=" + (carpeta / "estado").string() +
+                              " LC_ALL=C " ZORBIN_CALC " " + palabras + " >" + salida.string() +
+                              " 2>" + quejas.string();
+    const int estado = std::system(orden.c_str());
+    return {WEXITSTATUS(estado), Lee(salida), Lee(quejas)};
+  }
+
+  // A copy of the sample in which a record holds another text.
+  std::string Copia(int registro, const std::string& texto) const {
+    const auto copia = carpeta / "copia.zrb";
+    fs::copy_file(acequia, copia, fs::copy_options::overwrite_existing);
+    FicheroRegistros f(copia, FicheroRegistros::Modo::LecturaEscritura);
+    f.EscribeRegistro(registro, texto);
+    return copia.string();
+  }
+};
+
+TEST_F(Linea, ElResumenDeLaObraDeMuestra) {
+  const auto r = Llama("calcula " + acequia + " --separador coma");
+  EXPECT_EQ(r.codigo, 0);
+  EXPECT_EQ(r.quejas, "");
+  EXPECT_EQ(pruebas::Compara("acequia-resumen.txt", r.salida), "");
+  EXPECT_TRUE(fs::exists(carpeta / "estado/zorbin/Debugpim_cal.txt"));
+  const auto fichero = carpeta / "r.txt";
+  EXPECT_EQ(Llama("calcula " + acequia + " --separador coma --salida " + fichero.string()).codigo,
+            0);
+  EXPECT_EQ(Lee(fichero), r.salida);
+}
+
+TEST_F(Linea, UnTramoUOtroYEnQueOrden) {
+  const auto r = Llama("calcula " + acequia + " --formato json --tramo 5 --tramo 2");
+  ASSERT_EQ(r.codigo, 0) << r.quejas;
+  const auto j = nlohmann::json::parse(r.salida);
+  ASSERT_EQ(j["tramos"].size(), 2u);
+  EXPECT_EQ(j["tramos"][0]["posicion"], 5);
+  EXPECT_EQ(j["tramos"][1]["NumeroTramo"], 2);
+  const auto no = Llama("calcula " + acequia + " --tramo 9");
+  EXPECT_EQ(no.codigo, 2);
+  EXPECT_NE(no.quejas.find("1, 2, 3, 4, 5"), std::string::npos);
+}
+
+TEST_F(Linea, LasPalabrasMalasSeDicenEnUnaLinea) {
+  for (const char* palabras :
+       {"", "calcular x", "calcula", "calcula a b", "calcula a --formato xml", "calcula a --tramo",
+        "calcula a --tramo dos", "calcula a --separador punto_y_coma", "--nada"}) {
+    const auto r = Llama(palabras);
+    EXPECT_EQ(r.codigo, 2) << palabras;
+    EXPECT_EQ(std::count(r.quejas.begin(), r.quejas.end(), '\n'), 1) << r.quejas;
+    EXPECT_EQ(r.salida, "") << palabras;
+  }
+  EXPECT_EQ(Llama("--help").codigo, 0);
+  EXPECT_NE(Llama("calcula --help").salida.find("--registros"), std::string::npos);
+  EXPECT_EQ(Llama("--version").salida.substr(0, 11), "zorbin-calc");
+}
+
+TEST_F(Linea, UnFicheroRechazadoNoEscribeNada) {
+  const auto fichero = carpeta / "r.json";
+  const auto r =
+      Llama("calcula " + Copia(114, "x") + " --formato json --salida " + fichero.string());
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_NE(r.quejas.find("copia.zrb: registro 114"), std::string::npos) << r.quejas;
+  EXPECT_EQ(std::count(r.quejas.begin(), r.quejas.end(), '\n'), 1);
+  EXPECT_FALSE(fs::exists(fichero));
+  EXPECT_EQ(Llama("calcula /no/hay.zrb").codigo, 1);
+}
+
+// Tramo 2 has no friction angle (record 49 of its block): the others are calculated all the same.
+TEST_F(Linea, UnFalloAritmeticoAcabaSuTramoYNoLosDemas) {
+  const auto r = Llama("calcula " + Copia(14 + 60 + 49, "0,00") + " --formato json");
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_NE(r.quejas.find("Tramo 2, antes del primer Caso: División por cero"), std::string::npos)
+      << r.quejas;
+  const auto j = nlohmann::json::parse(r.salida);
+  ASSERT_EQ(j["tramos"].size(), 5u);
+  EXPECT_TRUE(j["tramos"][0]["error"].is_null());
+  EXPECT_TRUE(j["tramos"][1]["error"].is_string());
+  EXPECT_EQ(j["tramos"][1]["casos"].size(), 0u);
+  EXPECT_EQ(j["tramos"][2]["casos"].size(), 4u);
+}
+
+TEST_F(Linea, LosAjustesDelFicheroEntranEnLosResultados) {
+  const std::string copia = Copia(5, "Obra");
+  FicheroRegistros f(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+  EscribeAjustes(f, {{4, 1, 2, {30, 5, 25}}}, '.');
+  const auto j = nlohmann::json::parse(Llama("calcula " + copia + " --formato json").salida);
+  const auto& casos = j["tramos"][0]["casos"];
+  EXPECT_TRUE(casos[0]["armado"]["HayAjuste"].get<bool>());
+  EXPECT_EQ(casos[0]["armado"]["Total"], 60.0);
+  EXPECT_FALSE(casos[1]["armado"]["HayAjuste"].get<bool>());
+}
+
+TEST_F(Linea, UnaSalidaImposibleSeDiceYNoDejaRestos) {
+  const auto r = Llama("calcula " + acequia + " --salida /no/hay/r.txt");
+  EXPECT_EQ(r.codigo, 4);
+  EXPECT_NE(r.quejas.find("/no/hay/r.txt"), std::string::npos);
+  EXPECT_EQ(Llama("calcula " + acequia + " --salida /dev/full").codigo, 4);
+  const auto sinLog = Llama("calcula " + acequia + " --tramo 1 --registros /proc/no");
+  EXPECT_EQ(sinLog.codigo, 3);
+  EXPECT_NE(sinLog.quejas.find("Debugpim_cal.txt"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zorbin

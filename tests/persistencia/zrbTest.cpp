@@ -1,0 +1,300 @@
+#include "persistencia/mdZrb.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <functional>
+
+#include "comun/estadoDeJson.h"
+#include "core/mdTextos.h"
+#include "core/mdUnidades.h"
+#include "listados/mdFlujo.h"
+#include "persistencia/mdAnsi.h"
+#include "recursos/textos.h"
+
+namespace zorbin {
+namespace {
+
+namespace fs = std::filesystem;
+using pruebas::EnMks;
+using pruebas::EstadoDeMuestra;
+
+class Zrb : public testing::Test {
+ protected:
+  fs::path carpeta = fs::temp_directory_path() / ("zorbin-zrb-" + std::to_string(getpid()));
+  fs::path ruta = carpeta / "obra.zrb";
+  Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+
+  void SetUp() override { fs::create_directories(carpeta); }
+  void TearDown() override { fs::remove_all(carpeta); }
+
+  void Escribe(const std::vector<EstadoCalculo>& tramos, const ListaTramos& lista, char separador) {
+    FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    EscribeObra(f, tramos.at(0), lista, textos, separador);
+    for (std::size_t i = 0; i < tramos.size(); ++i) {
+      EscribeTramo(f, tramos[i], lista, static_cast<int>(i) + 1, separador);
+    }
+  }
+
+  // Overwrites a record with raw bytes: a length and what follows it.
+  void Estropea(int registro, const std::string& bytes) {
+    std::fstream f(ruta, std::ios::in | std::ios::out | std::ios::binary);
+    f.seekp((registro - 1) * kBytesRegistro);
+    f.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  }
+
+  static std::string Registro(const std::string& texto) {
+    std::string r(kBytesRegistro, '\x7f');  // what follows a text has no meaning
+    r[0] = static_cast<char>(texto.size());
+    r[1] = 0;
+    return r.replace(2, texto.size(), texto);
+  }
+
+  // The refusal of the file, as "entry number|data".
+  std::string Rechazo() {
+    EstadoCalculo e;
+    e.obra.Cliente = "anterior";
+    try {
+      AbreObra(e, ruta);
+    } catch (const ErrorFichero& error) {
+      EXPECT_EQ(textos.Compone(error.mensaje()).find("Falta Recurso"), std::string::npos);
+      std::string r = std::to_string(error.mensaje().texto);
+      for (std::size_t i = 1; i < error.mensaje().datos.size(); ++i)
+        r += "|" + error.mensaje().datos[i];
+      return r;
+    }
+    return "";
+  }
+};
+
+TEST_F(Zrb, IdaYVueltaEnLosDosSistemasYConLosDosSeparadores) {
+  for (const bool mks : {false, true}) {
+    for (const char separador : {',', '.'}) {
+      std::vector<EstadoCalculo> tramos;
+      ListaTramos lista;
+      for (int i = 1; i <= 5; ++i) {
+        tramos.push_back(mks ? EnMks(EstadoDeMuestra(i)) : EstadoDeMuestra(i));
+        lista.push_back(std::to_string(i * 3));
+      }
+      tramos[0].obra.Cliente = "Señor Núñez – «Aguas» 50 €";
+      Escribe(tramos, lista, separador);
+      EstadoCalculo e;
+      const auto obra = AbreObra(e, ruta);
+      EXPECT_EQ(obra.lista, lista);
+      EXPECT_EQ(e.obra.Cliente, tramos[0].obra.Cliente);
+      EXPECT_EQ(e.obra.NombreObra, tramos[0].obra.NombreObra);
+      EXPECT_EQ(e.obra.SisUnid, mks ? "MKS" : "SI");
+      EXPECT_TRUE(e.obra.GolpeCalculado);
+      EXPECT_NEAR(e.obra.PrsM2, tramos[0].obra.PrsM2, 1e-9);
+      EXPECT_NEAR(e.obra.Alt2, tramos[0].obra.Alt2, 1e-9);
+      for (int i = 1; i <= 5; ++i) {
+        CargaTramo(e, obra.fichero, i);
+        const auto& a = e.tramo;
+        const auto& b = tramos[static_cast<std::size_t>(i - 1)].tramo;
+        EXPECT_EQ(a.DescriTramo, b.DescriTramo);
+        EXPECT_EQ(a.TipoApoyo, b.TipoApoyo);
+        EXPECT_EQ(a.TipoColocacion, b.TipoApoyo / 10 - 1);
+        EXPECT_EQ(a.TipoRelleno, b.TipoRelleno);
+        EXPECT_EQ(a.Icontes0, b.Icontes0);
+        EXPECT_TRUE(a.EsArmado);
+        for (const auto campo :
+             {&Tramo::Adato,    &Tramo::CamMax,    &Tramo::Fck,       &Tramo::Fct,
+              &Tramo::Fyk,      &Tramo::Fyd,       &Tramo::GamaB,     &Tramo::Di,
+              &Tramo::De,       &Tramo::Esp,       &Tramo::Reci,      &Tramo::Rece,
+              &Tramo::Gc,       &Tramo::B0,        &Tramo::Gr,        &Tramo::Fi,
+              &Tramo::Hr1,      &Tramo::QDato,     &Tramo::Prs1Tram,  &Tramo::Prs2Tram,
+              &Tramo::Prs3Tram, &Tramo::PrsM1Tram, &Tramo::PrsM2Tram, &Tramo::Hr0Tramo,
+              &Tramo::Hr0Final}) {
+          EXPECT_NEAR(a.*campo, b.*campo, 1e-9) << i;
+        }
+      }
+      fs::remove(ruta);
+    }
+  }
+}
+
+// The bytes of the format: 128 to a record, the length first, "MKS // SI" in pairs.
+TEST_F(Zrb, LosRegistrosSonLosDelFormato) {
+  Escribe({EstadoDeMuestra(1)}, {"7"}, ',');
+  const FicheroRegistros f(ruta, FicheroRegistros::Modo::Lectura);
+  for (const auto& [registro, texto] : {std::pair{1, "Version: 2009-Mar.02"},
+                                        {2, "IDIOMA : 1 Español"},
+                                        {3, "SisUnid: SI                           "},
+                                        {4, "GAriete: Si"},
+                                        {7, "4,00 // 0,40"},
+                                        {9, "1,20"},
+                                        {10, "1,20 // 0,12"},
+                                        {13, "2,00"},
+                                        {19, "0"},
+                                        {20, "1"},
+                                        {21, "7"},
+                                        {23, "1210"},
+                                        {24, "0"},
+                                        {29, "4,0"},
+                                        {30, "350 // 35,0"},
+                                        {31, "22 // 4,8"},
+                                        {52, "1,200"},
+                                        {58, "1"},
+                                        {59, "11"},
+                                        {67, "0,000 // 0,000"},
+                                        {80, "0"}}) {
+    EXPECT_EQ(f.LeeRegistro(registro), texto) << registro;
+  }
+  EXPECT_EQ(fs::file_size(ruta), 80u * 128u);
+  EXPECT_EQ(f.LeeRegistro(81), "");
+}
+
+TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
+  struct Dano {
+    const char* nombre;
+    std::function<void()> estropea;
+    std::string rechazo;
+  };
+  const auto largo = [](int n) {
+    return std::string{static_cast<char>(n & 0xff), static_cast<char>(n >> 8)};
+  };
+  const std::vector<Dano> danos{
+      {"otra version", [&] { Estropea(1, Registro("Version: 2008")); }, "508"},
+      {"sin idioma", [&] { Estropea(2, Registro("LENGUA : 1")); }, "522"},
+      {"sin sistema", [&] { Estropea(3, Registro("")); }, "526"},
+      {"sin golpe", [&] { Estropea(4, Registro("GARIETE: Si")); }, "527"},
+      {"longitud 127", [&] { Estropea(8, largo(127)); }, "1151|8|127"},
+      {"longitud 65535", [&] { Estropea(30, largo(65535)); }, "1151|30|65535"},
+      {"presion con letra", [&] { Estropea(7, Registro("4,0O // 0,40")); }, "1153|7|Prs1|4,0O"},
+      {"presion con dos comas", [&] { Estropea(7, Registro("4,0 // 1.000,4")); },
+       "1153|7|Prs1|1.000,4"},
+      {"altura", [&] { Estropea(13, Registro("dos")); }, "1153|13|Alt1|dos"},
+      {"diametro infinito", [&] { Estropea(52, Registro("inf")); }, "1153|52|Di|inf"},
+      {"diametro descomunal", [&] { Estropea(52, Registro(std::string(30, '9'))); },
+       "1153|52|Di|" + std::string(30, '9')},
+      {"tipologia", [&] { Estropea(23, Registro("70000")); }, "1154|23|Tipologia|70000"},
+      {"tipologia vacia", [&] { Estropea(23, Registro("")); }, "1162|23"},
+      {"cuenta", [&] { Estropea(20, Registro("546")); }, "1159|546"},
+      {"cuenta con letra", [&] { Estropea(20, Registro("x")); }, "1159|x"},
+      {"numero de Tramo", [&] { Estropea(21, Registro("uno")); }, "1154|21|NumeroTramo|uno"},
+      {"byte sin caracter", [&] { Estropea(5, Registro("a\x81")); }, "1156|5"},
+      {"fichero vacio", [&] { fs::resize_file(ruta, 0); }, "508"},
+      {"cortado en la cabecera", [&] { fs::resize_file(ruta, 4 * 128 + 5); }, "1152|5|60|5"},
+      {"cortado en un texto", [&] { fs::resize_file(ruta, 77 * 128 + 6); }, "1152|78|10|6"},
+      {"cortado en un Tramo", [&] { fs::resize_file(ruta, 40 * 128); }, "1155|40|1|80"},
+      {"ajustes rotos",
+       [&] { std::ofstream(carpeta / "obra.dpe", std::ios::binary) << Registro("nueve"); },
+       "1153|1|TotalRegistrosDpe|nueve"}};
+  for (const auto& d : danos) {
+    Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
+    EXPECT_EQ(Rechazo(), "") << d.nombre;
+    d.estropea();
+    EXPECT_EQ(Rechazo(), d.rechazo) << d.nombre;
+    fs::remove(ruta);
+  }
+  EXPECT_EQ(Rechazo().substr(0, 4), "1150");  // no file at all
+  fs::create_directory(ruta);
+  EXPECT_EQ(Rechazo().substr(0, 4), "1150");
+}
+
+TEST_F(Zrb, LoQueElFormatoDejaEnBlancoSeLee) {
+  Escribe({EstadoDeMuestra(1), EstadoDeMuestra(2)}, {"1", "2"}, ',');
+  Estropea(2, Registro("IDIOMA : 9 Gallego"));
+  Estropea(4, Registro("GAriete: Oui"));  // saved in another language: estimated
+  Estropea(7, Registro("4.00"));          // no SI half: derived
+  Estropea(8, Registro("6,00 // "));      // an empty half is 0
+  Estropea(82, Registro(""));             // the description is blank, not that of Tramo 1
+  Estropea(114, Registro(""));            // De of Tramo 2: the field stays as it was
+  fs::resize_file(ruta, fs::file_size(ruta) + 1000);
+  EstadoCalculo e;
+  const auto obra = AbreObra(e, ruta);
+  ASSERT_EQ(obra.avisos.size(), 1u);
+  EXPECT_EQ(obra.avisos[0].texto, txt::IdiomaNoReconocido);
+  EXPECT_EQ(e.obra.Idioma, 1);
+  EXPECT_FALSE(e.obra.GolpeCalculado);
+  EXPECT_DOUBLE_EQ(e.obra.Prs1, 0.4);
+  EXPECT_EQ(e.obra.Prs2, 0);
+  CargaTramo(e, obra.fichero, 1);
+  const double De = e.tramo.De;
+  CargaTramo(e, obra.fichero, 2);
+  EXPECT_EQ(e.tramo.DescriTramo, "");
+  EXPECT_EQ(e.tramo.De, De);
+}
+
+TEST_F(Zrb, LaListaLlegaHastaLaCuentaYConservaLosHuecos) {
+  Escribe({EstadoDeMuestra(1), EstadoDeMuestra(2), EstadoDeMuestra(3)}, {"1", "2", "5"}, ',');
+  Estropea(20, Registro("2"));
+  EstadoCalculo e;
+  EXPECT_EQ(AbreObra(e, ruta).lista, (ListaTramos{"1", "2"}));
+  Estropea(20, Registro("3"));
+  Estropea(81, Registro("  "));
+  const auto lista = AbreObra(e, ruta).lista;
+  EXPECT_EQ(lista, (ListaTramos{"1", "", "5"}));
+  EXPECT_EQ(PosicionDe(lista, 5), 3);
+  EXPECT_EQ(PosicionDe(lista, 2), 0);
+}
+
+TEST_F(Zrb, NadaSeEscribeSiUnCampoNoCabe) {
+  Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
+  const auto leido = [this] {
+    std::ifstream f(ruta, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(f), {});
+  };
+  const std::string antes = leido();
+  const auto rechazo = [this](const EstadoCalculo& e) -> std::string {
+    try {
+      Escribe({e}, {"1"}, ',');
+    } catch (const ErrorFichero& error) {
+      return std::to_string(error.mensaje().texto) + "|" + error.mensaje().datos.at(1) + "|" +
+             error.mensaje().datos.at(2);
+    }
+    return "";
+  };
+  auto e = EstadoDeMuestra(1);
+  e.obra.Cliente = "漢";
+  EXPECT_EQ(rechazo(e), "1157|Cliente|漢");
+  e = EstadoDeMuestra(1);
+  e.obra.NombreObra = std::string(127, 'a');
+  EXPECT_EQ(rechazo(e), "1158|NombreObra|127");
+  e = EstadoDeMuestra(1);
+  e.tramo.DescriTramo = "Ł";
+  EXPECT_EQ(rechazo(e), "1157|DescriTramo|Ł");
+  EXPECT_EQ(leido(), antes);
+  e = EstadoDeMuestra(1);
+  std::string justo;
+  for (int i = 0; i < 126; ++i) justo += "ñ";  // 126 bytes in the file
+  e.obra.NombreObra = justo;
+  EXPECT_EQ(rechazo(e), "");
+}
+
+TEST_F(Zrb, CaracteresDeLaPaginaDeCodigos) {
+  std::string todos;
+  for (int b = 1; b < 256; ++b) {
+    if (b != 0x81 && b != 0x8d && b != 0x8f && b != 0x90 && b != 0x9d)
+      todos += static_cast<char>(b);
+  }
+  EXPECT_EQ(AAnsi(*DeAnsi(todos)).bytes, todos);
+  EXPECT_EQ(*DeAnsi("\x80\xf1"), "€ñ");
+  EXPECT_FALSE(DeAnsi("\x9d"));
+  EXPECT_FALSE(AAnsi("a\xff").sobra.empty());  // broken UTF-8
+  EXPECT_FALSE(AAnsi("\xe2\x82").sobra.empty());
+}
+
+TEST_F(Zrb, Los545TramosSeCarganYCalculan) {
+  std::vector<EstadoCalculo> tramos(545, EstadoDeMuestra(4));
+  ListaTramos lista;
+  for (int i = 1; i <= 545; ++i) lista.push_back(std::to_string(i));
+  Escribe(tramos, lista, '.');
+  EXPECT_EQ(fs::file_size(ruta), (544u * 60u + 80u) * 128u);
+  struct Cuenta : OyenteObra {
+    int tramos = 0, casos = 0, fallos = 0;
+    void EmpiezaTramo(const EstadoCalculo&, int, const std::string&) override { ++tramos; }
+    void Caso(const EstadoCalculo&) override { ++casos; }
+    void AcabaTramo(const EstadoCalculo&, const ErrorCorrida* f) override {
+      fallos += f != nullptr;
+    }
+  } cuenta;
+  EstadoCalculo e;
+  CalculaObra(e, AbreObra(e, ruta), {{}, carpeta}, cuenta);
+  EXPECT_EQ(cuenta.tramos, 545);
+  EXPECT_EQ(cuenta.casos, 545 * 3);
+  EXPECT_EQ(cuenta.fallos, 0);
+}
+
+}  // namespace
+}  // namespace zorbin
