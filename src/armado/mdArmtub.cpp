@@ -52,7 +52,7 @@ class Busqueda {
     if (t_.TipoCamisa > 0) {
       CompruebaRetraccion();
     } else {
-      r_.sinFisuracion = {r_.FIIN, r_.NESPIN, Ri_, r_.FIEX, r_.NEXPEX, Re_};
+      r_.sinFisuracion = {r_.FIIN, r_.NESPIN, Ri_, r_.FIEX, r_.NEXPEX, Re_, e_.caso.avisos.size()};
       CompruebaFisuracion();
     }
   }

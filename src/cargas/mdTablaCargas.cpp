@@ -19,10 +19,10 @@ FilaCargas Fila(const EstadoCalculo& e, double H) {
   if (e.tramo.TipoApoyo > 30) {
     std::optional<double> moviles;
     if (e.tramo.ICar != 0) moviles = q.QMovil;
-    return {H, std::nullopt, tierras, std::nullopt, moviles, q.Q};
+    return {H, std::nullopt, tierras, std::nullopt, moviles, q.Q, false};
   }
-  if (q.TerraplenRige) return {H, q.QTierras, tierras, tierras, q.QMovil, q.Q};
-  return {H, tierras, q.QTierras, tierras, q.QMovil, q.Q};
+  if (q.TerraplenRige) return {H, q.QTierras, tierras, tierras, q.QMovil, q.Q, true};
+  return {H, tierras, q.QTierras, tierras, q.QMovil, q.Q, false};
 }
 
 void AnadeFila(EstadoCalculo& e, double H, std::int16_t ICarga) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/resultadoPostesado.h"
 #include "core/tablas.h"
 
 namespace zorbin {
@@ -30,6 +31,7 @@ struct FilaCargas {
   std::optional<double> Adoptada;   // earth load adopted
   std::optional<double> Moviles;    // concentrated load
   double Total;                     // adopted total
+  bool TerraplenRige;               // of a trench: the embankment formula governs
 };
 
 enum class ClaseAviso {
@@ -40,6 +42,10 @@ enum class ClaseAviso {
   NoLlegaNegativos,     // no solution in composite tension with M-
   NoLlegaAmbos,         // no solution in composite tension with M+ and M-
   MomentoTope,          // moment beyond the limit moment
+  EspesorInsuficiente,  // post-tensioned: no wire takes the force, or no spirals fit
+  ResistenciaInicial,   // core too weak at winding; `valor` is its stress [kp/cm2]
+  CambiaAlambre,        // the verification needs another winding
+  ResistenciaHormigon,  // concrete beyond 60 % of its strength
 };
 
 enum class FaseAviso { Busqueda, Final };
@@ -47,10 +53,11 @@ enum class FaseAviso { Busqueda, Final };
 /// A design warning, with the place where it arose.
 struct Aviso {
   ClaseAviso clase;
-  int hipotesis;                // 1..5 in the reinforced design
+  int hipotesis;                // 1..5 in the reinforced design, 0..6 in the post-tensioned one
   FaseAviso fase;               // first pass over the hypotheses, or the call for the governing one
   std::optional<double> valor;  // what was compared, where there is one
   bool pantalla;                // the summary shows it; the others go only to paper
+  Alambre alambre{};            // winding in hand, in the post-tensioned design
 };
 
 inline constexpr int kHipotesisArmado = 5;
@@ -88,6 +95,7 @@ struct SinFisuracion {
   double FIEX = 0;          // [mm]
   std::int16_t NEXPEX = 0;  // [1/m]
   double AsExt = 0;         // provided [cm2/m]
+  std::size_t avisos = 0;   // warnings of the Caso up to here
 };
 
 /// Reinforced design of one Caso. The bars, the sheet and the cracking stresses stand here from
@@ -117,7 +125,7 @@ struct ResultadoArmado {
   double BRAZO = 0;                 // lever arm between the two layers [m]
   std::int16_t ErrorPostesado = 0;  // 0 none, 1 wall, 2 shrinkage limit, 4 limit moment
   bool MomentoTope = false;
-  std::optional<Ajuste> ajuste;     // `HayAjuste` when it has a value
+  std::optional<Ajuste> ajuste;  // `HayAjuste` when it has a value
 
   bool HayAjuste() const { return ajuste.has_value(); }
 };
@@ -128,6 +136,7 @@ struct ResultadoCaso {
   Tabla<double, kTerminosOval, kSecciones> NHip;  // axial forces of the load terms [t/m]
   std::vector<Aviso> avisos;                      // in the order in which they arose
   ResultadoArmado armado;                         // meaningful for a reinforced Tramo
+  ResultadoPostesado postesado;                   // meaningful for a post-tensioned Tramo
 };
 
 }  // namespace zorbin

@@ -3,6 +3,7 @@
 
 #include "linea/mdCalcula.h"
 #include "linea/mdPalabras.h"
+#include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
 namespace {
@@ -32,6 +33,15 @@ int Corre(int argc, char** argv) {
   calcula->add_option("--formato", o.formato, textos.Texto(txt::AyudaFormato))
       ->type_name("resumen|json")
       ->check(UnoDe({"resumen", "json"}, textos, "--formato"));
+  calcula->add_option("--listado", o.listado, textos.Texto(txt::AyudaListado))
+      ->type_name("normal|tabular|pantalla|lame")
+      ->check(UnoDe({"normal", "tabular", "pantalla", "lame"}, textos, "--listado"));
+  calcula->add_option("--pdf", o.pdf, textos.Texto(txt::AyudaPdf))->type_name("FICHERO");
+  calcula->add_option("--texto", o.texto, textos.Texto(txt::AyudaTexto))->type_name("FICHERO");
+  calcula->add_option("--idioma", o.idioma, textos.Texto(txt::AyudaIdioma))
+      ->type_name("es|en|ca|pt|fr")
+      ->check(UnoDe({"es", "en", "ca", "pt", "fr"}, textos, "--idioma"));
+  calcula->add_option("--fecha", o.fecha, textos.Texto(txt::AyudaFecha))->type_name("FECHA");
   calcula->add_option("--salida", o.salida, textos.Texto(txt::AyudaSalida))->type_name("FICHERO");
   calcula->add_option("--separador", o.separador, textos.Texto(txt::AyudaSeparador))
       ->type_name("coma|punto")

@@ -1,5 +1,7 @@
 #include "linea/mdCalcula.h"
 
+#include <algorithm>
+#include <array>
 #include <iostream>
 #include <memory>
 
@@ -7,21 +9,25 @@
 #include "core/mdTextos.h"
 #include "linea/mdPalabras.h"
 #include "linea/mdSalida.h"
-#include "listados/mdAvisos.h"
+#include "linea/mdVigia.h"
 #include "listados/mdFlujo.h"
+#include "listados/mdHojasTexto.h"
 #include "listados/mdJson.h"
+#include "listados/mdListadoNormal.h"
+#include "listados/mdListadoPantalla.h"
+#include "listados/mdListadoTabular.h"
 #include "listados/mdPantalla.h"
 #include "listados/mdResumen.h"
 #include "persistencia/mdLog.h"
 #include "recursos/textos.h"
+#include "shell/mdPintor.h"
+#include "shell/mdSinPantalla.h"
 
 namespace zorbin {
 
 namespace {
 
-void Queja(const std::string& texto) {
-  std::cerr << "zorbin-calc: " << texto << '\n';
-}
+constexpr std::array<std::string_view, kIdiomas> kIdiomasDeLinea{"es", "en", "ca", "pt", "fr"};
 
 // Writes the summary of an Obra.
 class SalidaResumen : public OyenteObra {
@@ -38,42 +44,11 @@ class SalidaResumen : public OyenteObra {
   Resumen resumen_;
 };
 
-// Tells the failures on standard error and hands everything on.
-class Vigia : public OyenteObra {
- public:
-  Vigia(OyenteObra& salida, std::string fichero, const Catalogo& textos, EstiloNumeros estilo)
-      : salida_(salida), fichero_(std::move(fichero)), textos_(textos), estilo_(estilo) {}
-
-  bool hayFallo() const { return hayFallo_; }
-
-  void EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) override {
-    salida_.EmpiezaTramo(e, posicion, numero);
-  }
-  void Progreso(const EstadoCalculo& e) override { salida_.Progreso(e); }
-  void Cabecera(const EstadoCalculo& e) override { salida_.Cabecera(e); }
-  void Caso(const EstadoCalculo& e) override { salida_.Caso(e); }
-  void FinAltura(const EstadoCalculo& e) override { salida_.FinAltura(e); }
-  void FinCorrida(const EstadoCalculo& e) override {
-    if (e.corrida.CuentaCasos == 0) {
-      Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, TextoEntero(e.tramo.NumeroTramo)}));
-    }
-    salida_.FinCorrida(e);
-  }
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    if (fallo != nullptr) {
-      hayFallo_ = true;
-      Queja(TextoFallo(*fallo, fichero_, textos_, estilo_));
-    }
-    salida_.AcabaTramo(e, fallo);
-  }
-
- private:
-  OyenteObra& salida_;
-  std::string fichero_;
-  const Catalogo& textos_;
-  EstiloNumeros estilo_;
-  bool hayFallo_ = false;
-};
+std::int16_t IdiomaPedido(const EstadoCalculo& e, const std::string& codigo) {
+  const auto i = std::find(kIdiomasDeLinea.begin(), kIdiomasDeLinea.end(), codigo);
+  if (i == kIdiomasDeLinea.end()) return e.obra.Idioma;
+  return static_cast<std::int16_t>(i - kIdiomasDeLinea.begin() + 1);
+}
 
 std::string NumerosDe(const ListaTramos& lista) {
   std::string numeros;
@@ -98,43 +73,116 @@ bool BuscaTramos(const OpcionesCalcula& opciones, const ObraEnFichero& obra, con
   return true;
 }
 
-int CalculaAbierta(EstadoCalculo& e, const ObraEnFichero& obra, const OpcionesCalcula& opciones,
-                   const PeticionCalculo& peticion, const Catalogo& textos) {
+EstiloNumeros Estilo(const EstadoCalculo& e, const OpcionesCalcula& opciones) {
   const char separador = opciones.separador.empty()     ? SeparadorDeLaMaquina()
                          : opciones.separador == "coma" ? ','
                                                         : '.';
-  const EstiloNumeros estilo{e.obra.EsSI(), separador};
-  const std::string fichero = opciones.obra.string();
-  Salida salida(opciones.salida);
-  bool fallo = false;
-  if (opciones.formato == "json") {
-    ListadoJson json(salida.flujo(), fichero, textos, estilo);
-    Vigia vigia(json, fichero, textos, estilo);
-    json.EmpiezaObra(e);
-    CalculaObra(e, obra, peticion, vigia);
-    json.AcabaObra();
-    fallo = vigia.hayFallo();
-  } else {
-    SalidaResumen resumen(salida.flujo(), textos, estilo);
-    Vigia vigia(resumen, fichero, textos, estilo);
-    CalculaObra(e, obra, peticion, vigia);
-    fallo = vigia.hayFallo();
-  }
-  salida.Cierra();
-  return fallo ? kFalloDeCorrida : kHecho;
+  return {e.obra.EsSI(), separador};
 }
+
+// Calculates the Tramos of a request for one reader, and watches over them.
+class Calculador {
+ public:
+  Calculador(EstadoCalculo& e, const ObraEnFichero& obra, const OpcionesCalcula& opciones,
+             const PeticionCalculo& peticion, const Catalogo& textos)
+      : e_(e),
+        obra_(obra),
+        opciones_(opciones),
+        peticion_(peticion),
+        textos_(textos),
+        estilo_(Estilo(e, opciones)) {}
+
+  int Resultados() {
+    Salida salida(opciones_.salida);
+    if (opciones_.formato == "json") {
+      ListadoJson json(salida.flujo(), opciones_.obra.string(), textos_, estilo_);
+      json.EmpiezaObra(e_);
+      Corre(json);
+      json.AcabaObra();
+    } else {
+      SalidaResumen resumen(salida.flujo(), textos_, estilo_);
+      Corre(resumen);
+    }
+    salida.Cierra();
+    return Codigo();
+  }
+
+  int Listado() {
+    if (!opciones_.pdf.empty()) return ListadoPdf();
+    Salida salida(opciones_.texto.empty() ? opciones_.salida : opciones_.texto);
+    HojasTexto hojas(salida.flujo());
+    Imprime(hojas);
+    salida.Cierra();
+    return Codigo();
+  }
+
+ private:
+  EstadoCalculo& e_;
+  const ObraEnFichero& obra_;
+  const OpcionesCalcula& opciones_;
+  const PeticionCalculo& peticion_;
+  const Catalogo& textos_;
+  EstiloNumeros estilo_;
+  bool hayFallo_ = false;
+
+  int Codigo() const { return hayFallo_ ? kFalloDeCorrida : kHecho; }
+
+  void Corre(OyenteObra& lector) {
+    Vigia vigia(lector, opciones_.obra.string(), textos_, estilo_);
+    CalculaObra(e_, obra_, peticion_, vigia);
+    hayFallo_ = vigia.hayFallo();
+  }
+
+  int ListadoPdf() {
+    const AplicacionSinPantalla aplicacion;
+    try {
+      HojasPdf hojas(opciones_.pdf, e_.obra.NombreObra);
+      Imprime(hojas);
+      hojas.Cierra();
+      std::cout << textos_.Compone(txt::ListadoEscrito,
+                                   {opciones_.pdf.string(), TextoEntero(hojas.paginas())})
+                << '\n';
+    } catch (const ErrorPintor& error) {
+      throw ErrorSalida(opciones_.pdf.string(), error.what());
+    }
+    return Codigo();
+  }
+
+  void Imprime(DestinoHojas& hojas) {
+    const bool tabular = opciones_.listado == "tabular";
+    Papel papel(hojas, tabular ? Orientacion::Apaisada : Orientacion::Vertical);
+    const auto listado = CreaListado({papel, textos_, estilo_, FechaPedida()});
+    Corre(*listado);
+    papel.FinDocumento();
+  }
+
+  Fecha FechaPedida() const {
+    if (opciones_.fecha.empty()) return Ahora();
+    const auto corte = opciones_.fecha.find(' ');
+    return {opciones_.fecha.substr(0, corte),
+            corte == std::string::npos ? std::string{} : opciones_.fecha.substr(corte + 1)};
+  }
+
+  std::unique_ptr<OyenteObra> CreaListado(const MediosPapel& medios) const {
+    if (opciones_.listado == "tabular") return std::make_unique<ListadoTabular>(medios);
+    if (opciones_.listado == "pantalla") return std::make_unique<ListadoPantalla>(medios);
+    return std::make_unique<ListadoNormal>(medios);
+  }
+};
 
 }  // namespace
 
 int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   EstadoCalculo e;
   const ObraEnFichero obra = AbreObra(e, opciones.obra);
-  if (textos.PonIdioma(e.obra.Idioma) != e.obra.Idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
+  const std::int16_t idioma = IdiomaPedido(e, opciones.idioma);
+  if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
   PeticionCalculo peticion{{},
                            opciones.registros.empty() ? CarpetaRegistros() : opciones.registros};
   if (!BuscaTramos(opciones, obra, textos, peticion)) return kPalabrasMalas;
-  return CalculaAbierta(e, obra, opciones, peticion, textos);
+  Calculador calculador(e, obra, opciones, peticion, textos);
+  return opciones.listado.empty() ? calculador.Resultados() : calculador.Listado();
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

@@ -1,4 +1,4 @@
-// The order "calcula": calculates an Obra and writes its summary or its results.
+// The order "calcula": calculates an Obra and writes its summary, its results or a listing.
 #pragma once
 
 #include <filesystem>
@@ -13,6 +13,11 @@ struct OpcionesCalcula {
   std::filesystem::path obra;
   std::vector<int> tramos;          // numbers; empty for all
   std::string formato = "resumen";  // or "json"
+  std::string listado;              // "normal", "tabular", "pantalla", "lame" or empty for none
+  std::filesystem::path pdf;        // of the listing
+  std::filesystem::path texto;      // of the listing
+  std::string idioma;               // "es", "en"... or empty for the Obra's
+  std::string fecha;                // of the page heads, or empty for the machine's
   std::filesystem::path salida;     // empty for standard output
   std::string separador;            // "coma", "punto" or empty for the machine's
   std::filesystem::path registros;  // empty for the user's state folder

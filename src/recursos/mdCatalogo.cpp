@@ -98,18 +98,4 @@ std::string Catalogo::Compone(int n, const std::vector<std::string>& datos) cons
   return texto;
 }
 
-std::filesystem::path CarpetaRecursos() {
-  std::error_code error;
-  const auto programa = std::filesystem::read_symlink("/proc/self/exe", error);
-  const std::array<std::filesystem::path, 2> candidatas{
-      programa.parent_path() / ".." / "share" / "zorbin", ZORBIN_RECURSOS};
-  for (const auto& carpeta : candidatas) {
-    if (std::filesystem::exists(carpeta / "textos" / kFicheros[0], error)) {
-      return std::filesystem::weakly_canonical(carpeta);
-    }
-  }
-  throw ErrorCatalogo("the data of the program (textos/es.json) were not found beside it nor in " +
-                      std::string(ZORBIN_RECURSOS));
-}
-
 }  // namespace zorbin

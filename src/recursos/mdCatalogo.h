@@ -65,8 +65,4 @@ class Catalogo {
   int offset_ = 0;
 };
 
-/// Folder with the program's data (textos/, tablas/...): beside an installed program, otherwise
-/// that of the source tree. @throws ErrorCatalogo when there is none.
-std::filesystem::path CarpetaRecursos();
-
 }  // namespace zorbin

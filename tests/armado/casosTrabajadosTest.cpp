@@ -9,6 +9,7 @@
 #include "core/mdCorrida.h"
 #include "core/mdUnidades.h"
 #include "listados/mdAvisos.h"
+#include "recursos/mdCarpetas.h"
 
 namespace zorbin {
 namespace {

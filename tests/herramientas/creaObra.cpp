@@ -6,6 +6,7 @@
 #include "comun/estadoDeJson.h"
 #include "core/mdTextos.h"
 #include "persistencia/mdZrb.h"
+#include "recursos/mdCarpetas.h"
 
 int main(int argc, char** argv) try {
   using namespace zorbin;

@@ -9,6 +9,7 @@
 #include "comun/estadoDeJson.h"
 #include "core/mdUnidades.h"
 #include "listados/mdJson.h"
+#include "recursos/mdCarpetas.h"
 
 namespace zorbin {
 namespace {

@@ -10,6 +10,7 @@
 #include "core/mdUnidades.h"
 #include "listados/mdFlujo.h"
 #include "persistencia/mdAnsi.h"
+#include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
 namespace zorbin {

@@ -1,3 +1,4 @@
+#include "recursos/mdCarpetas.h"
 #include "recursos/mdCatalogo.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,74 @@
+#include "linea/mdVigia.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+#include "core/mdTextos.h"
+#include "listados/mdAvisos.h"
+#include "recursos/textos.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr std::chrono::seconds kPaciencia{1};
+constexpr std::chrono::milliseconds kRefresco{200};
+
+}  // namespace
+
+void Queja(const std::string& texto) {
+  std::cerr << "zorbin-calc: " << texto << '\n';
+}
+
+Vigia::Vigia(OyenteObra& lector, std::string fichero, const Catalogo& textos, EstiloNumeros estilo)
+    : lector_(lector),
+      fichero_(std::move(fichero)),
+      textos_(textos),
+      estilo_(estilo),
+      terminal_(isatty(STDERR_FILENO) != 0),
+      siguiente_(Reloj::now() + kPaciencia) {}
+
+Vigia::~Vigia() {
+  BorraProgreso();
+}
+
+void Vigia::BorraProgreso() {
+  if (hayProgreso_) std::cerr << "\r\033[K" << std::flush;
+  hayProgreso_ = false;
+}
+
+void Vigia::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
+  lector_.EmpiezaTramo(e, posicion, numero);
+}
+
+void Vigia::Progreso(const EstadoCalculo& e) {
+  if (terminal_ && Reloj::now() >= siguiente_) {
+    std::cerr << '\r'
+              << textos_.Compone(txt::Calculando, {TextoEntero(e.tramo.NumeroTramo),
+                                                   TextoEntero(e.corrida.CuentaCasos)})
+              << "\033[K" << std::flush;
+    hayProgreso_ = true;
+    siguiente_ = Reloj::now() + kRefresco;
+  }
+  lector_.Progreso(e);
+}
+
+void Vigia::FinCorrida(const EstadoCalculo& e) {
+  if (e.corrida.CuentaCasos == 0) {
+    BorraProgreso();
+    Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, TextoEntero(e.tramo.NumeroTramo)}));
+  }
+  lector_.FinCorrida(e);
+}
+
+void Vigia::AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) {
+  if (fallo != nullptr) {
+    hayFallo_ = true;
+    BorraProgreso();
+    Queja(TextoFallo(*fallo, fichero_, textos_, estilo_));
+  }
+  lector_.AcabaTramo(e, fallo);
+}
+
+}  // namespace zorbin

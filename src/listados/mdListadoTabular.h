@@ -1,0 +1,28 @@
+// The listing "Tabular": a row for each Caso, on landscape pages.
+#pragma once
+
+#include "listados/mdListadoPapel.h"
+
+namespace zorbin {
+
+class ListadoTabular : public ListadoPapel {
+ public:
+  using ListadoPapel::ListadoPapel;
+
+  void Cabecera(const EstadoCalculo& e) override;
+  void Caso(const EstadoCalculo& e) override;
+  void FinAltura(const EstadoCalculo& e) override;
+
+ private:
+  int LineasResto = 0;     // lines left on the page
+  double HrAnterior = -1;  // height of the row before; a run shows each height once [m]
+
+  void CabeceraPagina(const EstadoCalculo& e);
+  void PaginaNueva(const EstadoCalculo& e);
+  void FilaTramo(const EstadoCalculo& e);
+  void ResumenTabular(const EstadoCalculo& e);
+  std::string CampoAltura(const EstadoCalculo& e);
+  void FilaArmado(const EstadoCalculo& e);
+};
+
+}  // namespace zorbin

@@ -1,0 +1,16 @@
+// Where the program finds its data.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace zorbin {
+
+/// Folder with the program's data (textos/, tablas/...): beside an installed program, otherwise
+/// that of the source tree. @throws ErrorCatalogo when there is none.
+std::filesystem::path CarpetaRecursos();
+
+/// A picture by its name, whose case does not matter. Empty when there is no such file.
+std::filesystem::path RutaFigura(const std::string& nombre);
+
+}  // namespace zorbin

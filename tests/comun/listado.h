@@ -1,0 +1,17 @@
+// A listing on text pages, for golden files.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/estado_calculo.h"
+
+namespace zorbin::pruebas {
+
+/// Runs the states one after another, as the Tramos of one document, and prints them.
+/// @param clase   "normal", "tabular", "pantalla" or "lame"
+/// @param idioma  1 to 5
+std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
+                      std::int16_t idioma = 1, char separador = ',');
+
+}  // namespace zorbin::pruebas
