@@ -1,16 +1,15 @@
 #include "cargas/mdTablaCargas.h"
 
-#include <cmath>
 #include <limits>
 
 #include "cargas/mdMarston.h"
+#include "core/mdUnidades.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kUnMetro = 1.0;          // [m]
-constexpr double kEngancheAltura = 0.01;  // a step this near to the last height lands on it [m]
+constexpr double kUnMetro = 1.0;  // [m]
 constexpr std::size_t kMaxFilas = std::numeric_limits<std::int16_t>::max();
 
 FilaCargas Fila(const EstadoCalculo& e, double H) {
@@ -35,13 +34,11 @@ void RecorreAlturas(EstadoCalculo& e) {
   const auto& c = e.corrida;
   const double paso = e.tramo.Hr0Delta;
   AnadeFila(e, kUnMetro, 0);
-  double H = c.Hr0Actual;
-  if (std::fabs(c.Hr0FinalActual - H) < kEngancheAltura) H = c.Hr0FinalActual;
-  while (H <= c.Hr0FinalActual && c.TablaCargas.size() < kMaxFilas) {
-    AnadeFila(e, H, e.tramo.ICar);
-    if (paso == 0.0 || H == c.Hr0FinalActual) return;
-    H = H + paso;
-    if (std::fabs(c.Hr0FinalActual - H) < kEngancheAltura) H = c.Hr0FinalActual;
+  std::optional<double> H = AlturaSiguiente(c.Hr0Actual - paso, paso, c.Hr0FinalActual);
+  if (paso == 0.0) H = c.Hr0Actual;
+  while (H && *H <= c.Hr0FinalActual && c.TablaCargas.size() < kMaxFilas) {
+    AnadeFila(e, *H, e.tramo.ICar);
+    H = AlturaSiguiente(*H, paso, c.Hr0FinalActual);
   }
 }
 

@@ -2,8 +2,8 @@
 //
 // The method was written for a machine that stops at a division by zero, an overflow or an
 // invalid operation. IEEE doubles go on with infinities and NaN, so the run stops itself: every
-// quotient goes through Div, every loop without a bound of its own watches its variable with
-// Finito, and 16-bit integers refuse what does not fit.
+// quotient whose divisor the data could make 0 goes through Div, every loop without a bound of its
+// own watches its variable with Finito, and 16-bit integers refuse what does not fit.
 #pragma once
 
 #include <cmath>
@@ -23,7 +23,6 @@ enum class CausaError {
   IncrementoPresion,
   IncrementoAltura,
   Registro,
-  SinDiseno,
 };
 
 /// An error that ends the run of a Tramo. `dato` names the field, file or routine at fault where

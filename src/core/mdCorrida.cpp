@@ -7,19 +7,18 @@
 #include "cargas/mdMarston.h"
 #include "cargas/mdOvaliz.h"
 #include "cargas/mdTablaCargas.h"
-#include "core/mdTextos.h"
 #include "core/mdUnidades.h"
+#include "postesado/mdPostesado.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kDado = -0.5;            // a forced value above it counts as given
-constexpr double kEngancheAltura = 0.01;  // a step this near to the last height lands on it [m]
-constexpr double kPasePresion = 0.2;      // a step may pass the last pressure by this much [at]
-constexpr double kMargenUltima = 0.1;     // rest for which no shorter last step is made [at]
-constexpr double kDiamCorte = 1200.0;     // of the two factory test rules [mm]
-constexpr double kGolpe = 1.0;            // STP over MDP, surge calculated [at]
+constexpr double kDado = -0.5;         // a forced value above it counts as given
+constexpr double kPasePresion = 0.2;   // a step may pass the last pressure by this much [at]
+constexpr double kMargenUltima = 0.1;  // rest for which no shorter last step is made [at]
+constexpr double kDiamCorte = 1200.0;  // of the two factory test rules [mm]
+constexpr double kGolpe = 1.0;         // STP over MDP, surge calculated [at]
 constexpr std::int16_t kCuna120Captura = 2;
 constexpr std::int16_t kCuna120Corrida = 3;
 
@@ -95,6 +94,15 @@ double PruebaSistema(double MDP, bool golpeCalculado) {
   return golpeCalculado ? MDP + kGolpe : std::min(1.5 * MDP, MDP + 5.0);
 }
 
+// The log of a run that failed, as far as the disk takes it: the failure itself is the news.
+void VuelcaLoQueQuede(Registro* registro) {
+  if (registro == nullptr) return;
+  try {
+    registro->Vuelca();
+  } catch (const ErrorEjecucion&) {
+  }
+}
+
 class CorridaTramo {
  public:
   CorridaTramo(EstadoCalculo& e, double hr, double prs, Oyentes oyentes)
@@ -151,9 +159,9 @@ class CorridaTramo {
       Altura(h);
       RecorrePresiones();
       Avisa(&OyenteCorrida::FinAltura);
-      if (paso == 0.0 || h == c_.Hr0FinalActual) return;
-      h = h + paso;
-      if (std::fabs(c_.Hr0FinalActual - h) < kEngancheAltura) h = c_.Hr0FinalActual;
+      const auto siguiente = AlturaSiguiente(h, paso, c_.Hr0FinalActual);
+      if (!siguiente) return;
+      h = *siguiente;
     }
   }
 
@@ -218,10 +226,11 @@ class CorridaTramo {
     if (c_.PrimerCaso) Cabecera();
     Ovalizacion(e_);
     c_.MiraCargas = false;
-    if (!e_.tramo.EsArmado) {
-      throw ErrorEjecucion(CausaError::SinDiseno, TextoEntero(e_.tramo.Tipologia));
+    if (e_.tramo.EsArmado) {
+      DisenoArmado(e_);
+    } else {
+      CalculaPostesado(e_);
     }
-    DisenoArmado(e_);
     Avisa(&OyenteCorrida::Caso);
   }
 
@@ -234,6 +243,7 @@ class CorridaTramo {
       CargasDeAltura(c_.Hr0Actual);
     }
     CargasUnMetro(e_);
+    if (!e_.tramo.EsArmado) PreparaPostesado(e_);
     Avisa(&OyenteCorrida::Cabecera);
   }
 };
@@ -246,7 +256,7 @@ void CalculaCasos(EstadoCalculo& e, double hrForzada, double prsForzada, Oyentes
     CorridaTramo(e, hrForzada, prsForzada, oyentes).Corre();
     if (e.corrida.registro != nullptr) e.corrida.registro->Vuelca();
   } catch (const ErrorEjecucion& error) {
-    if (e.corrida.registro != nullptr) e.corrida.registro->Vuelca();
+    VuelcaLoQueQuede(e.corrida.registro);
     throw ErrorCorrida(error, e);
   }
   escala.Termina();

@@ -35,12 +35,12 @@ class ErrorCorrida : public std::exception {
   ErrorCorrida(ErrorEjecucion error, const EstadoCalculo& e)
       : error_(std::move(error)),
         numeroTramo_(e.tramo.NumeroTramo),
-        numCaso_(e.corrida.CuentaCasos == 0 ? std::int16_t{0} : e.corrida.NumCaso),
+        numCaso_(e.corrida.NumCaso),
         Hr_(e.corrida.Hr),
         DP_(e.corrida.DP) {}
   const ErrorEjecucion& error() const { return error_; }
   int numeroTramo() const { return numeroTramo_; }
-  int numCaso() const { return numCaso_; }  // 0: before the first Caso
+  int numCaso() const { return numCaso_; }  // 0: before the first height
   double Hr() const { return Hr_; }         // [m]
   double DP() const { return DP_; }         // [at]
   const char* what() const noexcept override { return error_.what(); }

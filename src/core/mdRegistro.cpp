@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace zorbin {
 
@@ -29,8 +30,10 @@ Registro& Registro::operator<<(int valor) {
 
 void Registro::Vuelca() {
   if (bloque_.empty()) return;
-  salida_(bloque_);
-  bloque_.clear();
+  // Taken out first: what the output refused is not offered to it a second time.
+  const std::string lleno = std::exchange(bloque_, {});
+  salida_(lleno);
+  bloque_.reserve(kBloque + 1024);
 }
 
 }  // namespace zorbin

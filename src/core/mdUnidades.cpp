@@ -9,6 +9,8 @@ namespace zorbin {
 
 namespace {
 
+constexpr double kEngancheAltura = 0.01;  // [m]
+
 template <class T>
 struct Gemelo {
   double T::*campo;
@@ -135,6 +137,12 @@ void EligeAlturas(EstadoCalculo& e) {
     c.Hr = c.Hr0Actual = e.tramo.Hr0Tramo;
     c.Hr0FinalActual = e.tramo.Hr0Final;
   }
+}
+
+std::optional<double> AlturaSiguiente(double h, double paso, double ultima) {
+  if (paso == 0.0 || h == ultima) return std::nullopt;
+  const double siguiente = h + paso;
+  return std::fabs(ultima - siguiente) < kEngancheAltura ? ultima : siguiente;
 }
 
 void EligePresiones(EstadoCalculo& e) {

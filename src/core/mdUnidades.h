@@ -2,6 +2,7 @@
 // conversions of the listings. 1 MPa counts as 10 at and as 10 kp/cm2, by design.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,10 @@ double FctDeFck(double Fck);
 /// Takes the fill heights in force: the Tramo's own, or the Obra's where it has none.
 /// Writes Hr, Hr0Actual, Hr0FinalActual [m] and, with the Obra's heights, Hr0Delta.
 void EligeAlturas(EstadoCalculo& e);
+
+/// The height after h in a range [m]: a step that comes within 0.01 of the last height lands on it.
+/// None after the last height, or with a step of 0.
+std::optional<double> AlturaSiguiente(double h, double paso, double ultima);
 
 /// Takes the pressures in force into DPIni, DPFin, MDPIni, MDPFin and PendienteMDP, in the units
 /// that the state holds. A slope that is not finite becomes 0, which leaves the step undefined.

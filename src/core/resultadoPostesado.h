@@ -148,9 +148,10 @@ struct TensionesHipotesis {
   Lista<double, kSecciones> TotAc;  // [kp/cm2]
 };
 
-/// One hypothesis of the verification. A hypothesis with an error keeps its loads and what its
-/// pass got to: section and initial stresses when the core does not stand the winding, nothing
-/// when the spirals do not fit.
+/// One hypothesis of the verification. One with an error keeps its loads and what its pass got to:
+/// section and initial stresses when the core does not stand the winding, nothing when the spirals
+/// do not fit, everything when the concrete fails. With error 91 FIPR and NESP are the other
+/// winding that the pass asked for, and the values those of that winding, if it got so far.
 struct HipotesisPostesada : Alambre,
                             SeccionPostesada,
                             PerdidasPostesado,

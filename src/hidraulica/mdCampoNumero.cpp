@@ -11,7 +11,9 @@ namespace {
 
 constexpr char kRetroceso = 8;
 
-char OtroSeparador(char separador) { return separador == ',' ? '.' : ','; }
+char OtroSeparador(char separador) {
+  return separador == ',' ? '.' : ',';
+}
 
 }  // namespace
 

@@ -44,7 +44,9 @@ CampoNumero& Campo(EntradaHidraulica& e, CampoHidraulico cual) {
   return cual == CampoHidraulico::DatoOrigen ? e.txDatoOrigen : e.txRugosidad;
 }
 
-AvisoCampo ErrorCon(std::vector<int> texto) { return {std::move(texto), txt::TituloError}; }
+AvisoCampo ErrorCon(std::vector<int> texto) {
+  return {std::move(texto), txt::TituloError};
+}
 
 // Refusal of a value that is not above 0.
 std::optional<AvisoCampo> ExigePositivo(double valor, int etiqueta) {
@@ -88,7 +90,9 @@ int EtiquetaDato(const EntradaHidraulica& e) {
   return txt::DatoSinTipo;
 }
 
-int EtiquetaRugosidad(const EntradaHidraulica& e) { return MetodoDe(e).etiqueta; }
+int EtiquetaRugosidad(const EntradaHidraulica& e) {
+  return MetodoDe(e).etiqueta;
+}
 
 std::string NotaRugosidad(const EntradaHidraulica& e, const Catalogo& catalogo) {
   return EsHazen(e) ? catalogo.Texto(txt::ReglaCwh) : "(" + DefectoConMarca(e) + ")";
@@ -103,7 +107,9 @@ void PonRugosidad(EntradaHidraulica& e) {
   Escribe(e.txRugosidad, MetodoDe(e).defecto, EsHazen(e) ? "0" : DefectoConMarca(e));
 }
 
-void PonDatoOrigen(EntradaHidraulica& e) { Escribe(e.txDatoOrigen, 0.0, {}); }
+void PonDatoOrigen(EntradaHidraulica& e) {
+  Escribe(e.txDatoOrigen, 0.0, {});
+}
 
 void PoneBotones(EntradaHidraulica& e, bool Hay) {
   if (!Hay) e.resultado.reset();
@@ -130,8 +136,7 @@ void Entra(EntradaHidraulica& e, CampoHidraulico cual) {
 }
 
 char Tecla(const EntradaHidraulica& e, CampoHidraulico cual, char tecla) {
-  const CampoNumero& campo =
-      cual == CampoHidraulico::DatoOrigen ? e.txDatoOrigen : e.txRugosidad;
+  const CampoNumero& campo = cual == CampoHidraulico::DatoOrigen ? e.txDatoOrigen : e.txRugosidad;
   return FiltraTecla(tecla, campo.texto, e.SeparadorDecimal);
 }
 
@@ -180,8 +185,8 @@ std::optional<AvisoCampo> Calcula(EntradaHidraulica& e) {
     return ErrorCon({txt::DebeCapturarUnValor, EtiquetaDato(e)});
   }
   try {
-    e.resultado = CalculaHidraulica(e.rdTipoCalculo, e.rdTipoDato, e.txDatoOrigen.valor,
-                                    e.txRugosidad.valor);
+    e.resultado =
+        CalculaHidraulica(e.rdTipoCalculo, e.rdTipoDato, e.txDatoOrigen.valor, e.txRugosidad.valor);
   } catch (const ErrorHidraulico& falta) {
     return AvisoDe(e, falta.falta());
   } catch (const ErrorEjecucion& error) {

@@ -6,8 +6,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kViscosidad = 1.31e-06;  // [m2/s]
-constexpr double kG = 9.8;                // [m/s2]
+constexpr double kG = 9.8;  // [m/s2]
 constexpr double k32g = 32.0 * kG;
 constexpr double k2g = 2.0 * kG;
 constexpr double k1255Visc = 1.255 * kViscosidad;
@@ -28,9 +27,13 @@ constexpr double kHazen = 0.849;
 constexpr double kExpV = 0.54;
 constexpr double kExpR = 0.63;
 
-double Log10(double x) { return std::log(x) / std::log(10.0); }
+double Log10(double x) {
+  return std::log(x) / std::log(10.0);
+}
 
-double Potencia(double base, double exponente) { return Finito(std::pow(base, exponente)); }
+double Potencia(double base, double exponente) {
+  return Finito(std::pow(base, exponente));
+}
 
 // -log10 of the sum of the terms of roughness and viscosity, which must stay below 1: from there on
 // the velocity would turn its sign. The larger term is the one at fault.
@@ -50,9 +53,17 @@ double InversaLogCuadrado(double factor, double x) {
   return Div(1.0, r * r);
 }
 
-double Reynolds(double D, double V) { return D * V / kViscosidad; }
+double Reynolds(double D, double V) {
+  return D * V / kViscosidad;
+}
 
-double CwhDe(double Cwh, double DiamM) { return Cwh != 0.0 ? Cwh : DiamM * 6.65 + 139.3; }
+bool EnBandaCritica(double Re) {
+  return Re > kReLaminar && Re <= kReCritico;
+}
+
+double CwhDe(double Cwh, double DiamM) {
+  return Cwh != 0.0 ? Cwh : DiamM * 6.65 + 139.3;
+}
 
 void ExigeNoNegativa(double rugosidad) {
   if (!(rugosidad >= 0.0)) throw ErrorHidraulico(FaltaHidraulica::RugosidadNegativa);
@@ -82,7 +93,7 @@ ResultadoHidraulico Serie(MetodoHidraulico metodo, DatoHidraulico tipoDato, doub
     FilaHidraulica& fila = r.filas[i];
     fila.DiamMM = tabla.v[i].DiamMM;
     calcula(tabla.v[i], fila);
-    fila.critico = fila.ReLlena.has_value() && *fila.ReLlena > kReLaminar && *fila.ReLlena <= kReCritico;
+    fila.critico = fila.ReLlena.has_value() && EnBandaCritica(*fila.ReLlena);
     ExigeFinita(fila);
   }
   return r;
@@ -92,7 +103,7 @@ ResultadoHidraulico Serie(MetodoHidraulico metodo, DatoHidraulico tipoDato, doub
 
 BandaReynolds BandaDeReynolds(double Re, double ks, double D) {
   if (Re <= kReLaminar) return BandaReynolds::Laminar;
-  if (Re <= kReCritico) return BandaReynolds::Critica;
+  if (EnBandaCritica(Re)) return BandaReynolds::Critica;
   if (Re <= Div(D * kReLisa, ks)) return BandaReynolds::Lisa;
   if (Re <= Div(D * kReRugosa, ks)) return BandaReynolds::Transicion;
   return std::isnan(Re) ? BandaReynolds::Ninguna : BandaReynolds::Rugosa;
@@ -231,8 +242,8 @@ ResultadoHidraulico Hazen_Caudal(double Q, double Cwh) {
                });
 }
 
-ResultadoHidraulico CalculaHidraulica(MetodoHidraulico metodo, DatoHidraulico tipoDato,
-                                      double dato, double rugosidad) {
+ResultadoHidraulico CalculaHidraulica(MetodoHidraulico metodo, DatoHidraulico tipoDato, double dato,
+                                      double rugosidad) {
   const bool caudal = tipoDato == DatoHidraulico::Caudal;
   switch (metodo) {
     case MetodoHidraulico::PrandtlColebrook:

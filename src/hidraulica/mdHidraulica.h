@@ -15,6 +15,8 @@
 
 namespace zorbin {
 
+inline constexpr double kViscosidad = 1.31e-06;  // kinematic, of water [m2/s]
+
 enum class MetodoHidraulico : std::int16_t {
   PrandtlColebrook = 0,
   DarcyWeissbach = 1,
@@ -115,7 +117,7 @@ ResultadoHidraulico Hazen_Pendiente(double J, double Cwh);
 ResultadoHidraulico Hazen_Caudal(double Q, double Cwh);
 
 /// The operation of a method and a kind of datum; `Ninguno` counts as a slope.
-ResultadoHidraulico CalculaHidraulica(MetodoHidraulico metodo, DatoHidraulico tipoDato,
-                                      double dato, double rugosidad);
+ResultadoHidraulico CalculaHidraulica(MetodoHidraulico metodo, DatoHidraulico tipoDato, double dato,
+                                      double rugosidad);
 
 }  // namespace zorbin

@@ -1,40 +1,49 @@
 #include "hidraulica/mdHidraulicaListado.h"
 
+#include <utility>
+
 #include "core/mdTextos.h"
 #include "hidraulica/textosHidraulica.h"
 
 namespace zorbin {
 
+// clang-format off
+//                                        title                porPend. dosSecc. Reynolds hazen  unidad
+constexpr SalidaHidraulica Sub3000        {txt::FormulaPrandtl, true,    true,    false,   false, false};
+constexpr SalidaHidraulica Sub3000_P      {txt::FormulaPrandtl, false,   false,   false,   false, true};
+constexpr SalidaHidraulica Sub3000_Hazen  {txt::FormulaHazen,   true,    true,    false,   true,  false};
+constexpr SalidaHidraulica Sub3000_Hazen_P{txt::FormulaHazen,   false,   true,    false,   true,  true};
+constexpr SalidaHidraulica Sub3500        {txt::FormulaDarcy,   true,    false,   true,    false, false};
+constexpr SalidaHidraulica Sub3500_P      {txt::FormulaDarcy,   false,   false,   true,    false, false};
+// clang-format on
+
 namespace {
 
-constexpr double kViscosidadImpresa = 1.31e-06;  // [m2/s]
 constexpr double kMetrosPorKm = 1000.0;
 
-// Columns of the screen. The numbers end under the last letter of their heading.
+// Columns of a row: every number ends under the last letter of its heading.
 constexpr int kEntreColumnas = 4;
 constexpr int kAntesDiametro = 3;
+constexpr int kAnchoDiametro = 5;
 constexpr int kAntesVelocidad = 8;
+constexpr int kAnchoVelocidad = 5;
+constexpr int kAnchoCaudal = 6;
+constexpr int kAnchoPendiente = 9;
 constexpr int kAntesReynolds = 5;
 constexpr int kAnchoReynolds = 12;
-constexpr int kEntreTitulos = 18;   // between the titles of the two sections
-constexpr int kEntreSecciones = 10; // between the headings of the two sections
+constexpr int kEntreTitulos = 18;    // between the titles of the two sections
+constexpr int kEntreSecciones = 10;  // between the headings of the two sections
 
-class Listado {
+class Area {
  public:
-  Listado(const ResultadoHidraulico& r, const Catalogo& catalogo, const EstiloNumeros& estilo)
-      : r_(r),
-        catalogo_(catalogo),
-        estilo_(estilo),
-        hazen_(r.metodo == MetodoHidraulico::HazenWilliams),
-        pendiente_(r.tipoDato != DatoHidraulico::Caudal),
-        reynolds_(r.metodo == MetodoHidraulico::DarcyWeissbach),
-        dosSecciones_(hazen_ ||
-                      (r.metodo == MetodoHidraulico::PrandtlColebrook && pendiente_)) {}
+  Area(const ResultadoHidraulico& r, const Catalogo& catalogo, const EstiloNumeros& estilo)
+      : r_(r), s_(SalidaDe(r)), catalogo_(catalogo), estilo_(estilo) {}
 
-  std::string Texto() {
+  std::string Escrita() {
     Parametros();
     Titulos();
-    for (const auto& fila : r_.filas) SumaTextoCh(area_, 0, Fila(fila), 1);
+    Cabeza();
+    for (const auto& fila : r_.filas) Linea(s_.reynolds ? ConReynolds(fila) : SinReynolds(fila));
     return std::move(area_);
   }
 
@@ -43,97 +52,105 @@ class Listado {
   std::string Numero(double v, int ancho, int decimales) const {
     return estilo_.FormatoNumero(v, ancho, decimales);
   }
+  void Linea(const std::string& texto, int despues = 1) { SumaTextoCh(area_, 0, texto, despues); }
 
   void Parametros() {
-    const int titulo = hazen_ ? txt::FormulaHazen : reynolds_ ? txt::FormulaDarcy : txt::FormulaPrandtl;
-    SumaTextoCh(area_, 0, T(titulo), 1);
-    if (hazen_) {
-      SumaTextoCh(area_, 0, LineaCoeficiente(catalogo_, estilo_, r_.rugosidad, 7, 2), 1);
+    Linea(T(s_.titulo));
+    if (s_.hazen) {
+      Linea(LineaCoeficiente(catalogo_, estilo_, r_.rugosidad, 7, 2));
     } else {
-      SumaTextoCh(area_, 0, LineaViscosidad(catalogo_, estilo_), 1);
-      SumaTextoCh(area_, 0,
-                  LineaValor(catalogo_, txt::RugosidadKs, Numero(r_.rugosidad, 8, 5),
-                             txt::RugosidadMm),
-                  1);
+      Linea(LineaViscosidad(catalogo_, estilo_));
+      Linea(LineaValor(catalogo_, txt::RugosidadKs, Numero(r_.rugosidad, 8, 5), txt::RugosidadMm));
     }
     const std::string dato = Numero(r_.dato, 8, 6);
-    SumaTextoCh(area_, 0,
-                pendiente_ ? LineaValor(catalogo_, txt::LineaPendiente, dato, txt::MPorM)
-                           : LineaValor(catalogo_, txt::LineaCaudal, dato, txt::M3PorSg),
-                2);
+    Linea(s_.porPendiente ? LineaValor(catalogo_, txt::LineaPendiente, dato, txt::MPorM)
+                          : LineaValor(catalogo_, txt::LineaCaudal, dato, txt::M3PorSg),
+          2);
   }
 
   void Titulos() {
     const std::string& llena = T(txt::SeccionLlena);
-    if (dosSecciones_) {
-      SumaTextoCh(area_, 0, llena + Blancos(kEntreTitulos) + T(txt::SeccionParcial), 1);
-      const int hasta = static_cast<int>(Largo(llena)) + kEntreTitulos;
-      SumaTextoCh(area_, 0, Blancos(hasta) + T(txt::LaminaLibre), 2);
-    } else {
-      SumaTextoCh(area_, 0, llena, 2);
+    if (!s_.dosSecciones) {
+      Linea(llena, 2);
+      return;
     }
-    const std::string& diametro = T(txt::ColumnaDiametro);
-    const std::string& velocidad = T(txt::ColumnaVelocidad);
-    const std::string& tercera = T(pendiente_ ? txt::ColumnaCaudal : txt::ColumnaPendiente);
-    const std::string hueco = Blancos(kEntreColumnas);
-    std::string cabeza = diametro + hueco + velocidad + hueco + tercera;
-    std::string raya =
-        Subrayado(diametro) + hueco + Subrayado(velocidad) + hueco + Subrayado(tercera);
-    if (reynolds_) {
-      cabeza += hueco + T(txt::ColumnaReynolds);
-      raya += hueco + Subrayado(T(txt::ColumnaReynolds));
+    Linea(llena + Blancos(kEntreTitulos) + T(txt::SeccionParcial));
+    Linea(Blancos(static_cast<int>(Largo(llena)) + kEntreTitulos) + T(txt::LaminaLibre), 2);
+  }
+
+  void Cabeza() {
+    std::vector<int> columnas{txt::ColumnaDiametro, txt::ColumnaVelocidad,
+                              s_.porPendiente ? txt::ColumnaCaudal : txt::ColumnaPendiente};
+    if (s_.reynolds) columnas.push_back(txt::ColumnaReynolds);
+    std::string cabeza;
+    std::string raya;
+    for (const int columna : columnas) {
+      const std::string hueco = Blancos(cabeza.empty() ? 0 : kEntreColumnas);
+      cabeza += hueco + T(columna);
+      raya += hueco + Subrayado(T(columna));
     }
-    if (dosSecciones_) {
+    if (s_.dosSecciones) {
       cabeza += Blancos(kEntreSecciones) + cabeza;
       raya += Blancos(kEntreSecciones) + raya;
     }
-    SumaTextoCh(area_, 0, cabeza, 1);
-    SumaTextoCh(area_, 0, raya, 1);
+    Linea(cabeza);
+    Linea(raya);
   }
 
   std::string Diametro(const FilaHidraulica& fila) const {
-    return Blancos(kAntesDiametro) + Numero(fila.DiamMM, 5, 0);
-  }
-
-  // Flow in m3/s or slope in m/km.
-  std::string Tercera(const std::optional<double>& Q, const std::optional<double>& J) const {
-    return pendiente_ ? Numero(Q.value_or(0.0), 6, 3)
-                      : Numero(J.value_or(0.0) * kMetrosPorKm, 9, 3);
+    return Blancos(kAntesDiametro) + Numero(fila.DiamMM, kAnchoDiametro, 0);
   }
 
   std::string Seccion(const FilaHidraulica& fila, double V, const std::optional<double>& Q,
                       const std::optional<double>& J) const {
-    return Diametro(fila) + Blancos(kAntesVelocidad) + Numero(V, 5, 2) + Blancos(kEntreColumnas) +
-           Tercera(Q, J);
+    return Diametro(fila) + Blancos(kAntesVelocidad) + Numero(V, kAnchoVelocidad, 2) +
+           Blancos(kEntreColumnas) + TerceraColumna(s_, estilo_, Q, J) +
+           (s_.unidadEnFila ? T(txt::MPorKm) : std::string());
   }
 
-  std::string Fila(const FilaHidraulica& fila) const {
-    std::string linea = Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena);
-    if (reynolds_) {
-      const int hasta = static_cast<int>(Largo(linea)) + kAntesReynolds;
-      linea = fila.critico ? Diametro(fila) + Blancos(kEntreColumnas) + T(txt::RegimenCritico) : linea;
-      linea += Blancos(hasta - static_cast<int>(Largo(linea)));
-      return linea + Numero(fila.ReLlena.value_or(0.0), kAnchoReynolds, 0);
+  std::string SinReynolds(const FilaHidraulica& fila) const {
+    const std::string llena = Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena);
+    if (!s_.dosSecciones) return llena;
+    // The unit of the first section takes room of the gap, so that the second one stands under
+    // its heading.
+    const auto unidad = s_.unidadEnFila ? Largo(T(txt::MPorKm)) : 0;
+    return llena + Blancos(kEntreSecciones - static_cast<int>(unidad)) +
+           Seccion(fila, fila.VParcial.value_or(0.0), fila.QParcial, fila.JParcial);
+  }
+
+  std::string ConReynolds(const FilaHidraulica& fila) const {
+    const std::string Re = Numero(fila.ReLlena.value_or(0.0), kAnchoReynolds, 0);
+    if (!fila.critico) {
+      return Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena) + Blancos(kAntesReynolds) + Re;
     }
-    const std::string unidad = pendiente_ ? std::string() : T(txt::MPorKm);
-    linea += unidad;
-    if (!dosSecciones_) return linea;
-    // The heading of the second section starts after that of the first; the unit takes its room.
-    linea += Blancos(kEntreSecciones - static_cast<int>(Largo(unidad)));
-    return linea + Seccion(fila, fila.VParcial.value_or(0.0), fila.QParcial, fila.JParcial) + unidad;
+    constexpr int hastaTercera = kAntesVelocidad + kAnchoVelocidad + kEntreColumnas;
+    const int hastaReynolds =
+        hastaTercera + (s_.porPendiente ? kAnchoCaudal : kAnchoPendiente) + kAntesReynolds;
+    const std::string aviso = Blancos(kEntreColumnas) + T(txt::RegimenCritico);
+    return Diametro(fila) + aviso + Blancos(hastaReynolds - static_cast<int>(Largo(aviso))) + Re;
   }
 
   const ResultadoHidraulico& r_;
+  const SalidaHidraulica& s_;
   const Catalogo& catalogo_;
   const EstiloNumeros& estilo_;
-  const bool hazen_;
-  const bool pendiente_;
-  const bool reynolds_;
-  const bool dosSecciones_;
   std::string area_;
 };
 
 }  // namespace
+
+const SalidaHidraulica& SalidaDe(const ResultadoHidraulico& r) {
+  const bool caudal = r.tipoDato == DatoHidraulico::Caudal;
+  switch (r.metodo) {
+    case MetodoHidraulico::PrandtlColebrook:
+      return caudal ? Sub3000_P : Sub3000;
+    case MetodoHidraulico::HazenWilliams:
+      return caudal ? Sub3000_Hazen_P : Sub3000_Hazen;
+    case MetodoHidraulico::DarcyWeissbach:
+      break;
+  }
+  return caudal ? Sub3500_P : Sub3500;
+}
 
 void SumaTextoCh(std::string& area, int Antes, std::string_view Texto, int Despues) {
   area.append(static_cast<std::size_t>(Antes), '\n');
@@ -141,21 +158,34 @@ void SumaTextoCh(std::string& area, int Antes, std::string_view Texto, int Despu
   area.append(static_cast<std::size_t>(Despues), '\n');
 }
 
+std::string TextoHidraulico(const ResultadoHidraulico& r, const Catalogo& catalogo,
+                            const EstiloNumeros& estilo) {
+  return Area(r, catalogo, estilo).Escrita();
+}
+
 std::string LineaViscosidad(const Catalogo& catalogo, const EstiloNumeros& estilo) {
-  return LineaValor(catalogo, txt::ViscosidadCinematica,
-                    estilo.FormatoNumero(kViscosidadImpresa, 11, 9), txt::M2PorSg);
+  return LineaValor(catalogo, txt::ViscosidadCinematica, estilo.FormatoNumero(kViscosidad, 11, 9),
+                    txt::M2PorSg);
 }
 
 std::string LineaValor(const Catalogo& catalogo, int antes, const std::string& valor, int despues) {
-  return catalogo.Texto(antes) + valor + (despues != 0 ? catalogo.Texto(despues) : std::string());
+  return catalogo.Texto(antes) + valor + catalogo.Texto(despues);
 }
 
 std::string LineaCoeficiente(const Catalogo& catalogo, const EstiloNumeros& estilo, double Cwh,
                              int ancho, int decimales) {
-  return catalogo.Texto(txt::LineaCwh) + (Cwh != 0.0 ? estilo.FormatoNumero(Cwh, ancho, decimales)
-                                                     : catalogo.Texto(txt::ReglaCwh));
+  return catalogo.Texto(txt::LineaCwh) +
+         (Cwh != 0.0 ? estilo.FormatoNumero(Cwh, ancho, decimales) : catalogo.Texto(txt::ReglaCwh));
 }
 
-std::string Subrayado(std::string_view texto) { return std::string(Largo(texto), '='); }
+std::string Subrayado(std::string_view texto) {
+  return std::string(Largo(texto), '=');
+}
+
+std::string TerceraColumna(const SalidaHidraulica& s, const EstiloNumeros& estilo,
+                           const std::optional<double>& Q, const std::optional<double>& J) {
+  return s.porPendiente ? estilo.FormatoNumero(Q.value_or(0.0), kAnchoCaudal, 3)
+                        : estilo.FormatoNumero(J.value_or(0.0) * kMetrosPorKm, kAnchoPendiente, 3);
+}
 
 }  // namespace zorbin

@@ -1,72 +1,155 @@
 // zorbin-calc: the calculation without a window.
+#include <clocale>
 #include <iostream>
 
 #include "linea/mdCalcula.h"
+#include "linea/mdCalculadoras.h"
 #include "linea/mdPalabras.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
 namespace {
 
-int Corre(int argc, char** argv) {
-  using namespace zorbin;
-  Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
-  CLI::App app(textos.Texto(txt::Descripcion), "zorbin-calc");
-  app.option_defaults()->group(textos.Texto(txt::Opciones));
-  app.set_help_flag("-h,--help", textos.Texto(txt::AyudaAyuda));
-  app.set_version_flag("--version", "zorbin-calc " ZORBIN_VERSION, textos.Texto(txt::AyudaVersion));
-  app.require_subcommand(1);
-  PonRotulosDeAyuda(app, textos);
+using namespace zorbin;
 
-  OpcionesCalcula o;
-  auto* calcula = app.add_subcommand("calcula", textos.Texto(txt::CalculaUnaObra));
-  calcula->group(textos.Texto(txt::Ordenes));
-  calcula->set_help_flag("-h,--help", textos.Texto(txt::AyudaAyuda))
-      ->group(textos.Texto(txt::Opciones));
-  calcula->add_option("OBRA.zrb", o.obra, textos.Texto(txt::AyudaFichero))
-      ->required()
-      ->type_name("");
-  calcula->add_option("--tramo", o.tramos, textos.Texto(txt::AyudaTramo))
-      ->type_name("N")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  calcula->add_option("--formato", o.formato, textos.Texto(txt::AyudaFormato))
-      ->type_name("resumen|json")
-      ->check(UnoDe({"resumen", "json"}, textos, "--formato"));
-  calcula->add_option("--listado", o.listado, textos.Texto(txt::AyudaListado))
-      ->type_name("normal|tabular|pantalla|lame")
-      ->check(UnoDe({"normal", "tabular", "pantalla", "lame"}, textos, "--listado"));
-  calcula->add_option("--pdf", o.pdf, textos.Texto(txt::AyudaPdf))->type_name("FICHERO");
-  calcula->add_option("--texto", o.texto, textos.Texto(txt::AyudaTexto))->type_name("FICHERO");
-  calcula->add_option("--idioma", o.idioma, textos.Texto(txt::AyudaIdioma))
-      ->type_name("es|en|ca|pt|fr")
-      ->check(UnoDe({"es", "en", "ca", "pt", "fr"}, textos, "--idioma"));
-  calcula->add_option("--fecha", o.fecha, textos.Texto(txt::AyudaFecha))->type_name("FECHA");
-  calcula->add_option("--salida", o.salida, textos.Texto(txt::AyudaSalida))->type_name("FICHERO");
-  calcula->add_option("--separador", o.separador, textos.Texto(txt::AyudaSeparador))
-      ->type_name("coma|punto")
-      ->check(UnoDe({"coma", "punto"}, textos, "--separador"));
-  calcula->add_option("--registros", o.registros, textos.Texto(txt::AyudaRegistros))
-      ->type_name("CARPETA");
-
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::Success& ayuda) {
-    return app.exit(ayuda);
-  } catch (const CLI::ParseError& error) {
-    std::cerr << "zorbin-calc: " << TextoPalabrasMalas(error, textos) << ". "
-              << textos.Compone(txt::VeaLaAyuda, {"zorbin-calc"}) << '\n';
-    return kPalabrasMalas;
+// Declares the words of the command line; each order fills its options.
+class Ordenes {
+ public:
+  explicit Ordenes(Catalogo& textos) : textos_(textos), app_(T(txt::Descripcion), "zorbin-calc") {
+    std::setlocale(LC_MESSAGES, "");  // the words of the system in the language of the machine
+    app_.option_defaults()
+        ->group(T(txt::Opciones))
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+    app_.set_help_flag("-h,--help", T(txt::AyudaAyuda));
+    app_.set_version_flag("--version", "zorbin-calc " ZORBIN_VERSION, T(txt::AyudaVersion));
+    app_.require_subcommand(1);
+    PonRotulosDeAyuda(app_, textos_);
+    DeclaraCalcula();
+    DeclaraHidraulica();
+    DeclaraMedios();
   }
-  return Calcula(o, textos);
-}
+
+  int Corre(int argc, char** argv) {
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::Success& ayuda) {
+      return app_.exit(ayuda);
+    } catch (const CLI::ParseError& error) {
+      std::cerr << "zorbin-calc: " << TextoPalabrasMalas(error, textos_) << ". "
+                << textos_.Compone(txt::VeaLaAyuda, {"zorbin-calc"}) << '\n';
+      return kPalabrasMalas;
+    }
+    if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
+    if (medios_->parsed()) return Medios(deMedios_, textos_);
+    return Calcula(deCalcula_, textos_);
+  }
+
+ private:
+  Catalogo& textos_;
+  CLI::App app_;
+  CLI::App* calcula_ = nullptr;
+  CLI::App* hidraulica_ = nullptr;
+  CLI::App* medios_ = nullptr;
+  OpcionesCalcula deCalcula_;
+  OpcionesHidraulica deHidraulica_;
+  OpcionesMedios deMedios_;
+
+  const std::string& T(int n) const { return textos_.Texto(n); }
+
+  CLI::App* Orden(const char* nombre, int ayuda) {
+    auto* orden = app_.add_subcommand(nombre, T(ayuda));
+    orden->group(T(txt::Ordenes));
+    orden->set_help_flag("-h,--help", T(txt::AyudaAyuda))->group(T(txt::Opciones));
+    return orden;
+  }
+
+  template <class V>
+  CLI::Option* Opcion(CLI::App* orden, const std::string& nombre, V& valor, int ayuda,
+                      const std::string& tipo) {
+    return orden->add_option(nombre, valor, T(ayuda))->type_name(tipo);
+  }
+
+  // An option that takes one of some words.
+  void Eleccion(CLI::App* orden, const std::string& nombre, std::string& valor, int ayuda,
+                std::vector<std::string> palabras) {
+    std::string tipo;
+    for (const auto& p : palabras) tipo += (tipo.empty() ? "" : "|") + p;
+    Opcion(orden, nombre, valor, ayuda, tipo)->check(UnoDe(std::move(palabras), textos_, nombre));
+  }
+
+  void DeclaraCalcula() {
+    calcula_ = Orden("calcula", txt::CalculaUnaObra);
+    auto& o = deCalcula_;
+    Opcion(calcula_, "OBRA.zrb", o.obra, txt::AyudaFichero, "")->required();
+    Opcion(calcula_, "--tramo", o.tramos, txt::AyudaTramo, "N")
+        ->expected(1)
+        ->allow_extra_args(false)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    Eleccion(calcula_, "--formato", o.formato, txt::AyudaFormato, {"resumen", "json"});
+    Eleccion(calcula_, "--listado", o.listado, txt::AyudaListado,
+             {"normal", "tabular", "pantalla", "lame"});
+    Opcion(calcula_, "--pdf", o.pdf, txt::AyudaPdf, T(txt::PalabraFichero));
+    Opcion(calcula_, "--texto", o.texto, txt::AyudaTexto, T(txt::PalabraFichero));
+    Eleccion(calcula_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});
+    Opcion(calcula_, "--fecha", o.fecha, txt::AyudaFecha, T(txt::PalabraFecha));
+    Opcion(calcula_, "--salida", o.salida, txt::AyudaSalida, T(txt::PalabraFichero));
+    Eleccion(calcula_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+    Opcion(calcula_, "--registros", o.registros, txt::AyudaRegistros, T(txt::PalabraCarpeta));
+  }
+
+  void DeclaraSalida(CLI::App* orden, OpcionesSalida& o) {
+    Eleccion(orden, "--formato", o.formato, txt::AyudaFormatoCalculadora, {"texto", "json"});
+    Opcion(orden, "--pdf", o.pdf, txt::AyudaPdf, T(txt::PalabraFichero));
+    Eleccion(orden, "--idioma", o.idioma, txt::AyudaIdiomaCalculadora,
+             {"es", "en", "ca", "pt", "fr"});
+    Eleccion(orden, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+  }
+
+  void DeclaraHidraulica() {
+    hidraulica_ = Orden("hidraulica", txt::CalculoHidraulicoOrden);
+    auto& o = deHidraulica_;
+    Eleccion(hidraulica_, "--metodo", o.metodo, txt::AyudaMetodo, {"prandtl", "darcy", "hazen"});
+    hidraulica_->get_option("--metodo")->required();
+    Opcion(hidraulica_, "--pendiente", o.pendiente, txt::AyudaPendiente, "J");
+    Opcion(hidraulica_, "--caudal", o.caudal, txt::AyudaCaudal, "Q");
+    Opcion(hidraulica_, "--rugosidad", o.rugosidad, txt::AyudaRugosidadOrden, "R");
+    DeclaraSalida(hidraulica_, o.salida);
+  }
+
+  void DeclaraMedios() {
+    medios_ = Orden("medios", txt::AnalisisOrden);
+    auto& o = deMedios_;
+    const std::array<std::pair<Medio, const char*>, kMedios> nombres{{
+        {kPH, "--ph"},
+        {kCO2, "--co2"},
+        {kNH4, "--nh4"},
+        {kMg, "--mg"},
+        {kSO4Exterior, "--so4-exterior"},
+        {kSO4Interior, "--so4-interior"},
+        {kSO4Suelo, "--so4-suelo"},
+        {kResistividad, "--resistividad"},
+        {kCorriente, "--corriente"},
+    }};
+    for (const auto& [medio, nombre] : nombres) {
+      const auto& campo = kCamposMedios[static_cast<std::size_t>(medio)];
+      const std::string unidad = campo.unidad != 0 ? " (" + T(campo.unidad) + ")" : "";
+      medios_
+          ->add_option(nombre, o.valores[static_cast<std::size_t>(medio)],
+                       T(campo.etiqueta) + unidad)
+          ->type_name("V");
+    }
+    medios_->add_flag("--ciclos", o.ciclos, T(txt::AlternaCiclos));
+    DeclaraSalida(medios_, o.salida);
+  }
+};
 
 }  // namespace
 
 int main(int argc, char** argv) try {
-  return Corre(argc, argv);
-} catch (const zorbin::ErrorCatalogo& error) {
+  Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+  return Ordenes(textos).Corre(argc, argv);
+} catch (const ErrorCatalogo& error) {
   // Without the catalogue there is no text to say it with.
   std::cerr << "zorbin-calc: " << error.what() << '\n';
-  return zorbin::kFicheroRechazado;
+  return kFicheroRechazado;
 }

@@ -18,6 +18,7 @@
 #include "listados/mdListadoTabular.h"
 #include "listados/mdPantalla.h"
 #include "listados/mdResumen.h"
+#include "persistencia/mdDpe.h"
 #include "persistencia/mdLog.h"
 #include "recursos/textos.h"
 #include "shell/mdPintor.h"
@@ -26,8 +27,6 @@
 namespace zorbin {
 
 namespace {
-
-constexpr std::array<std::string_view, kIdiomas> kIdiomasDeLinea{"es", "en", "ca", "pt", "fr"};
 
 // Writes the summary of an Obra.
 class SalidaResumen : public OyenteObra {
@@ -44,10 +43,11 @@ class SalidaResumen : public OyenteObra {
   Resumen resumen_;
 };
 
-std::int16_t IdiomaPedido(const EstadoCalculo& e, const std::string& codigo) {
-  const auto i = std::find(kIdiomasDeLinea.begin(), kIdiomasDeLinea.end(), codigo);
-  if (i == kIdiomasDeLinea.end()) return e.obra.Idioma;
-  return static_cast<std::int16_t>(i - kIdiomasDeLinea.begin() + 1);
+// Whether an output would be written over the project or its adjustments.
+bool PisaLaObra(const std::filesystem::path& salida, const std::filesystem::path& obra) {
+  std::error_code error;
+  return !salida.empty() && (std::filesystem::equivalent(salida, obra, error) ||
+                             std::filesystem::equivalent(salida, RutaDpe(obra), error));
 }
 
 std::string NumerosDe(const ListaTramos& lista) {
@@ -173,9 +173,15 @@ class Calculador {
 }  // namespace
 
 int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
+  for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto}) {
+    if (!PisaLaObra(salida, opciones.obra)) continue;
+    Queja(textos.Compone(txt::SalidaSobreLaObra, {salida.string()}));
+    return kPalabrasMalas;
+  }
   EstadoCalculo e;
   const ObraEnFichero obra = AbreObra(e, opciones.obra);
-  const std::int16_t idioma = IdiomaPedido(e, opciones.idioma);
+  const std::int16_t pedido = IdiomaDeLinea(opciones.idioma);
+  const std::int16_t idioma = pedido != 0 ? pedido : e.obra.Idioma;
   if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
   PeticionCalculo peticion{{},

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "linea/mdVigia.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
@@ -19,6 +20,17 @@ std::string TrasDosPuntos(const std::string& frase) {
 }
 
 }  // namespace
+
+std::int16_t IdiomaDeLinea(std::string_view codigo) {
+  const auto i = std::find(kIdiomasDeLinea.begin(), kIdiomasDeLinea.end(), codigo);
+  return i == kIdiomasDeLinea.end() ? std::int16_t{0}
+                                    : static_cast<std::int16_t>(i - kIdiomasDeLinea.begin() + 1);
+}
+
+void PonIdiomaDeLinea(Catalogo& textos, std::string_view codigo) {
+  const auto idioma = IdiomaDeLinea(codigo);
+  if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
+}
 
 void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos) {
   const auto formato = app.get_formatter();

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <array>
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "recursos/mdCatalogo.h"
 
@@ -15,6 +18,17 @@ enum CodigoSalida : int {
   kFalloDeCorrida = 3,
   kSalidaImposible = 4,
 };
+
+/// Codes of the languages on the command line, in the order of their numbers.
+inline constexpr std::array<std::string_view, kIdiomas> kIdiomasDeLinea{"es", "en", "ca", "pt",
+                                                                        "fr"};
+
+/// Number of the language of a code, 0 for none.
+std::int16_t IdiomaDeLinea(std::string_view codigo);
+
+/// Puts the catalogue into the language of a code; Spanish, said on standard error, where that is
+/// not installed.
+void PonIdiomaDeLinea(Catalogo& textos, std::string_view codigo);
 
 /// Headings of the help in the language of the catalogue.
 void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos);

@@ -19,7 +19,10 @@ std::string CausaDelSistema() {
 Salida::Salida(const std::filesystem::path& fichero) : fichero_(fichero) {
   if (fichero_.empty()) return;
   std::error_code error;
-  // A device or a pipe has no name to give at the end.
+  // A device or a pipe has no name to give at the end; a link keeps leading where it leads.
+  if (std::filesystem::is_symlink(fichero_, error)) {
+    fichero_ = std::filesystem::weakly_canonical(fichero_, error);
+  }
   const bool provisional = !std::filesystem::exists(fichero_, error) ||
                            std::filesystem::is_regular_file(fichero_, error);
   provisional_ = fichero_;

@@ -39,6 +39,7 @@ void Vigia::BorraProgreso() {
 }
 
 void Vigia::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
+  tramo_ = numero;
   lector_.EmpiezaTramo(e, posicion, numero);
 }
 
@@ -57,7 +58,7 @@ void Vigia::Progreso(const EstadoCalculo& e) {
 void Vigia::FinCorrida(const EstadoCalculo& e) {
   if (e.corrida.CuentaCasos == 0) {
     BorraProgreso();
-    Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, TextoEntero(e.tramo.NumeroTramo)}));
+    Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, tramo_}));
   }
   lector_.FinCorrida(e);
 }
@@ -66,7 +67,7 @@ void Vigia::AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) {
   if (fallo != nullptr) {
     hayFallo_ = true;
     BorraProgreso();
-    Queja(TextoFallo(*fallo, fichero_, textos_, estilo_));
+    Queja(TextoFallo(*fallo, fichero_, tramo_, textos_, estilo_));
   }
   lector_.AcabaTramo(e, fallo);
 }

@@ -35,6 +35,7 @@ class Vigia : public OyenteObra {
 
   OyenteObra& lector_;
   std::string fichero_;
+  std::string tramo_;  // number of the one in hand
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   bool hayFallo_ = false;

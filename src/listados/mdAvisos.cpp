@@ -63,16 +63,14 @@ std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {
       return textos.Texto(dato == "Hr0Delta" ? txt::IncAlturaTramo : txt::IncAlturaObra);
     case CausaError::Registro:
       return textos.Compone(txt::RegistroNoSeEscribe, {dato});
-    case CausaError::SinDiseno:
-      return textos.Compone(txt::TipologiaSinCalculo, {dato});
   }
   return {};
 }
 
 std::string TextoFallo(const ErrorCorrida& fallo, const std::string& fichero,
-                       const Catalogo& textos, const EstiloNumeros& estilo) {
+                       const std::string& tramo, const Catalogo& textos,
+                       const EstiloNumeros& estilo) {
   const std::string causa = TextoCausa(fallo.error(), textos);
-  const std::string tramo = TextoEntero(fallo.numeroTramo());
   if (fallo.numCaso() == 0) return textos.Compone(txt::FalloAntesDelCaso, {fichero, tramo, causa});
   const std::string altura = estilo.FormatoNumero(fallo.Hr(), 0, 2);
   const std::string presion = estilo.FormatoNumero(fallo.DP(), 0, 1, "at->MPa", true);

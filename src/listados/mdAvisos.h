@@ -16,8 +16,9 @@ std::string TextoAviso(const Aviso& aviso, const Catalogo& textos);
 /// What ended a run, without its place.
 std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos);
 
-/// The failure in one line: file, Tramo, Caso, height, pressure and cause.
+/// The failure in one line: file, number of the Tramo in the list, Caso, height, pressure, cause.
 std::string TextoFallo(const ErrorCorrida& fallo, const std::string& fichero,
-                       const Catalogo& textos, const EstiloNumeros& estilo);
+                       const std::string& tramo, const Catalogo& textos,
+                       const EstiloNumeros& estilo);
 
 }  // namespace zorbin

@@ -55,8 +55,9 @@ std::pair<std::string, std::string> PartirTexto(std::string_view texto, int anch
     return {std::string(texto.substr(0, salto)), std::string(Recorta(texto.substr(sigue)))};
   }
   std::size_t corte = Bytes(texto, limite);
-  const auto blanco = texto.substr(0, corte).find_last_of(" \t\n");
-  if (blanco != std::string_view::npos && blanco > 0) corte = blanco;
+  auto blanco = corte;
+  while (blanco > 0 && static_cast<unsigned char>(texto[blanco - 1]) > ' ') --blanco;
+  if (blanco > 1) corte = blanco - 1;
   return {std::string(texto.substr(0, corte)), std::string(Recorta(texto.substr(corte)))};
 }
 

@@ -29,7 +29,8 @@ struct EstiloNumeros {
                             std::string_view conversion = {}, bool conUnidad = false) const;
 };
 
-/// Cuts a line of at most `ancho` characters from a text of several lines (CR LF between them).
+/// Cuts a line of at most `ancho` characters from a text of several lines (CR LF between them),
+/// also from one that would fit whole but for its line break.
 /// @return the line and the remainder, which is trimmed.
 std::pair<std::string, std::string> PartirTexto(std::string_view texto, int ancho);
 

@@ -184,6 +184,7 @@ void ListadoJson::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::
   abierto.pop_back();  // the object goes on with its Casos
   salida_ << (hayTramo_ ? ",\n" : "\n") << abierto << ",\"casos\":[";
   hayTramo_ = true;
+  tramo_ = numero;
   hayCaso_ = false;
 }
 
@@ -193,8 +194,9 @@ void ListadoJson::Caso(const EstadoCalculo& e) {
 }
 
 void ListadoJson::AcabaTramo(const EstadoCalculo&, const ErrorCorrida* fallo) {
-  const Json error =
-      fallo == nullptr ? Json(nullptr) : Json(TextoFallo(*fallo, fichero_, textos_, estilo_));
+  const Json error = fallo == nullptr
+                         ? Json(nullptr)
+                         : Json(TextoFallo(*fallo, fichero_, tramo_, textos_, estilo_));
   salida_ << "],\"error\":" << Texto(error) << "}";
 }
 

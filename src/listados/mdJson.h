@@ -32,6 +32,7 @@ class ListadoJson : public OyenteObra {
   EstiloNumeros estilo_;
   bool hayTramo_ = false;
   bool hayCaso_ = false;
+  std::string tramo_;  // number of the one in hand
 };
 
 }  // namespace zorbin

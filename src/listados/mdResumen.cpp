@@ -83,8 +83,7 @@ void Resumen::TablaHipotesis(const EstadoCalculo& e) {
       linea += "  " + estilo_.FormatoNumero(x.M(h, s), 7, 3, "mT->mkN") + "  " +
                estilo_.FormatoNumero(x.N(h, s), 7, 3, "T->kN");
     }
-    // The caption stands behind the columns, so that the five rows can be told apart.
-    Linea(linea + "  " + std::string(Recorta(TextoDeHipotesis(h, textos_))));
+    Linea(linea);
   }
 }
 

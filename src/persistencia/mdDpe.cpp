@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "core/mdNumeros.h"
@@ -33,7 +34,7 @@ constexpr std::array<CampoEntrada, 6> kCampos{{
 double LeeNumero(const FicheroRegistros& f, int registro, std::string_view nombre) {
   const std::string texto = f.LeeRegistro(registro);
   const auto valor = NumeroTexto(texto);
-  if (!valor) {
+  if (!valor || std::fabs(*valor) > kMayorNumero) {
     throw ErrorFichero(
         {txt::NoEsNumero, {f.Nombre(), TextoEntero(registro), std::string(nombre), texto}});
   }
@@ -58,10 +59,13 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
   if (!std::filesystem::exists(dpe, error)) return {};
   const FicheroRegistros f(dpe, FicheroRegistros::Modo::Lectura);
   const double total = LeeNumero(f, 1, "TotalRegistrosDpe");
-  // More entries than the file has records would all read as free ones.
+  // Entries wholly past the end of the file would all read as free ones.
+  const int hay = (f.UltimoRegistro() - 2) / kRegistrosEntrada + 1;
   const int cuenta =
-      std::min(static_cast<int>(std::clamp(total, 0.0, 32767.0)), f.UltimoRegistro()) /
-      kRegistrosEntrada;
+      f.UltimoRegistro() < 2
+          ? 0
+          : std::clamp(static_cast<int>(std::clamp(total, 0.0, 32767.0)) / kRegistrosEntrada, 0,
+                       hay);
   std::vector<EntradaAjuste> entradas(static_cast<std::size_t>(cuenta));
   int registro = PrimerRegistro(1);
   for (auto& x : entradas) {

@@ -74,6 +74,11 @@ std::string FicheroRegistros::LeeRegistro(int numero) const {
 }
 
 void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
+  if (ansi.size() > kMaxTexto) {
+    throw ErrorFichero(
+        {txt::TextoLargo,
+         {Nombre(), TextoEntero(numero), TextoEntero(static_cast<int>(ansi.size()))}});
+  }
   std::array<char, kBytesRegistro> datos{};
   datos[0] = static_cast<char>(ansi.size() & 0xFF);
   datos[1] = static_cast<char>(ansi.size() >> 8);
@@ -89,6 +94,7 @@ void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
 }
 
 void FicheroRegistros::Vacia() {
+  fichero_.clear();
   errno = 0;
   if (!fichero_.flush()) throw ErrorFichero({txt::NoSeEscribe, {Nombre(), CausaDelSistema()}});
 }

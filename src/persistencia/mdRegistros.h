@@ -16,6 +16,9 @@ namespace zorbin {
 inline constexpr int kBytesRegistro = 128;
 inline constexpr int kMaxTexto = 126;  // bytes
 
+/// No quantity of a pipe is larger, in any unit: a number beyond it is no number.
+inline constexpr double kMayorNumero = 1e12;
+
 /// A file that can't be read or written, or that is not what it should be. It says in an entry of
 /// the catalogue which file, which record, and what was expected.
 class ErrorFichero : public std::runtime_error {
@@ -46,7 +49,8 @@ class FicheroRegistros {
   /// the end of the file cuts, or a byte that is no character.
   std::string LeeRegistro(int numero) const;
 
-  /// Writes a record, filled with zeros. @throws ErrorFichero when the disk refuses it.
+  /// Writes a record, numbered from 1, filled with zeros. @throws ErrorFichero for a text over 126
+  /// bytes, or when the disk refuses it.
   void EscribeRegistro(int numero, const std::string& ansi);
 
   /// Hands everything written to the system. @throws ErrorFichero

@@ -26,7 +26,6 @@ constexpr int kOffsetTipologia = 9;
 constexpr int kUltimoOffsetLeido = 64;
 constexpr int kUltimoOffset = 66;
 constexpr int kRegistroCuenta = 20;
-constexpr double kMayorNumero = 1e12;  // no quantity of a pipe is larger, in any unit
 
 int Base(int posicion) {
   return (posicion - 1) * kRegistrosBloque + kBaseBloque;
@@ -64,7 +63,8 @@ constexpr std::array<AlturaObra, 3> kAlturasObra{{
 
 constexpr std::string_view kMascaraPresion = "#####0.00";
 
-// A number with a mask; with a twin, a pair of numbers with a mask each.
+// A number with a mask; with a twin, a pair of numbers with a mask each; with a factor alone, the
+// MKS value of a field that the screen may hold in SI.
 struct Numero {
   double Tramo::*campo;
   std::string_view mascara;
@@ -136,7 +136,7 @@ constexpr auto kCampos = std::to_array<Campo>({
     {55, "ICar",        &Tramo::ICar},
     {56, "Prs1Tram",    Par(&Tramo::Prs1Tram, &Tramo::Prs1TramSI, kMascaraPresion, kMascaraPresion)},
     {57, "Prs2Tram",    Par(&Tramo::Prs2Tram, &Tramo::Prs2TramSI, kMascaraPresion, kMascaraPresion)},
-    {58, "Prs3Tram",    Numero{&Tramo::Prs3Tram, kMascaraPresion}, false},
+    {58, "Prs3Tram",    Numero{&Tramo::Prs3Tram, kMascaraPresion, nullptr, {}, kFactorTension}, false},
     {59, "PrsM1Tram",   Par(&Tramo::PrsM1Tram, &Tramo::PrsM1TramSI, kMascaraPresion, kMascaraPresion)},
     {60, "PrsM2Tram",   Par(&Tramo::PrsM2Tram, &Tramo::PrsM2TramSI, kMascaraPresion, kMascaraPresion)},
     {61, "Hr0Final",    Numero{&Tramo::Hr0Final, "#####0.00"}},
@@ -182,13 +182,17 @@ ParUnidades LeePar(const FicheroRegistros& f, int registro, std::string_view nom
   return {mks, LeeNumero(f, registro, nombre, texto.substr(corte + kSeparadorPar.size()))};
 }
 
+ErrorFichero OtroFormato(const FicheroRegistros& f, int mensaje) {
+  return ErrorFichero({txt::OtroFormato, {f.Nombre(), std::string(kVersionFichero)}, mensaje});
+}
+
 // Characters 10 to 29 of a header record that starts with its label.
 std::string ValorRotulado(const FicheroRegistros& f, int registro, std::string_view rotulo,
                           int mensaje) {
   const std::string texto = f.LeeRegistro(registro);
-  if (Primeros(texto, 9) != rotulo) throw ErrorFichero({mensaje, {}});
+  if (Primeros(texto, 9) != rotulo) throw OtroFormato(f, mensaje);
   const std::string_view resto = std::string_view(texto).substr(rotulo.size());
-  return std::string(Recorta(Primeros(resto, 20)));
+  return std::string(Primeros(resto, 20));
 }
 
 void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avisos) {
@@ -200,6 +204,12 @@ void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avis
   obra.IdiomaOffset = I16((obra.Idioma - 1) * kPasoIdioma);
 }
 
+ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
+  return ErrorFichero({txt::TramoCortado,
+                       {f.Nombre(), TextoEntero(f.UltimoRegistro()), TextoEntero(posicion),
+                        TextoEntero(Base(posicion) + kUltimoOffset)}});
+}
+
 ListaTramos LeeLista(const FicheroRegistros& f) {
   const std::string texto = f.LeeRegistro(kRegistroCuenta);
   const auto cuenta = NumeroTexto(texto);
@@ -209,6 +219,7 @@ ListaTramos LeeLista(const FicheroRegistros& f) {
   ListaTramos lista;
   for (int i = 1; i <= static_cast<int>(*cuenta); ++i) {
     const int registro = Base(i) + kOffsetNumero;
+    if (registro > f.UltimoRegistro()) throw Cortado(f, i);
     const std::string numero(Recorta(f.LeeRegistro(registro)));
     if (!numero.empty()) LeeEntero(f, registro, "NumeroTramo", numero);
     lista.push_back(numero);
@@ -284,8 +295,8 @@ std::string TextoPar(const ParUnidades& par, std::string_view mascara, std::stri
 
 std::string TextoCampo(const Tramo& t, const Campo& c, bool si, char separador) {
   if (const auto* numero = std::get_if<Numero>(&c.valor)) {
-    if (numero->si == nullptr) return FormatoMascara(t.*numero->campo, numero->mascara, separador);
-    auto par = Pareja(t.*numero->campo, si, numero->factor);
+    auto par = Pareja(t.*numero->campo, si && numero->factor != 1.0, numero->factor);
+    if (numero->si == nullptr) return FormatoMascara(par.mks, numero->mascara, separador);
     if (numero->campo == &Tramo::Fct) {
       const auto fck = Pareja(t.Fck, si, kFactorTension);
       par = {FctDeFck(fck.mks), si ? t.Fct : FctDeFck(fck.si)};
@@ -313,11 +324,12 @@ void EscribeTodos(FicheroRegistros& f, const std::vector<Registro128>& registros
 ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
   ObraLeida leida;
   Obra obra;
-  if (f.LeeRegistro(1) != kVersionFichero) throw ErrorFichero({txt::FormatoVersion, {}});
+  if (f.LeeRegistro(1) != kVersionFichero) throw OtroFormato(f, txt::FormatoVersion);
   LeeIdioma(obra, f, leida.avisos);
-  obra.SisUnid = ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades) == "MKS" ? "MKS" : "SI";
+  obra.SisUnid =
+      Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
   // The caption is compared as it stands: a file saved in another language reads as estimated.
-  obra.GolpeCalculado = ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe) == "Si";
+  obra.GolpeCalculado = Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)) == "Si";
   obra.NombreObra = f.LeeRegistro(5);
   obra.Cliente = f.LeeRegistro(6);
   for (const auto& p : kParesObra) {
@@ -338,12 +350,9 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
 
 void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
   const int base = Base(posicion);
-  if (f.UltimoRegistro() < base + kUltimoOffsetLeido) {
-    throw ErrorFichero({txt::TramoCortado,
-                        {f.Nombre(), TextoEntero(f.UltimoRegistro()), TextoEntero(posicion),
-                         TextoEntero(base + kUltimoOffset)}});
-  }
-  if (Recorta(f.LeeRegistro(base + kOffsetTipologia)).empty()) {
+  if (f.UltimoRegistro() < base + kUltimoOffsetLeido) throw Cortado(f, posicion);
+  const std::string tipologia(Recorta(f.LeeRegistro(base + kOffsetTipologia)));
+  if (tipologia.empty() || NumeroTexto(tipologia) == 0.0) {
     throw ErrorFichero({txt::FaltaTipologia, {f.Nombre(), TextoEntero(base + kOffsetTipologia)}});
   }
   Tramo t = e.tramo;

@@ -81,6 +81,12 @@ std::int16_t Catalogo::PonIdioma(std::int16_t idioma) {
   return vale;
 }
 
+std::string Catalogo::Compone(const Mensaje& m) const {
+  auto datos = m.datos;
+  if (m.otro != 0) datos.push_back(Texto(m.otro));
+  return Compone(m.texto, datos);
+}
+
 std::string Catalogo::Compone(int n, const std::vector<std::string>& datos) const {
   const std::string& plantilla = Texto(n);
   std::string texto;

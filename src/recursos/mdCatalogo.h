@@ -26,10 +26,12 @@ class ErrorCatalogo : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// A text to be composed: an entry whose {1}, {2}... take the data.
+/// A text to be composed: an entry whose {1}, {2}... take the data, and after them the text of
+/// another entry where one is given.
 struct Mensaje {
   int texto = 0;
   std::vector<std::string> datos;
+  int otro = 0;
 };
 
 class Catalogo {
@@ -56,7 +58,7 @@ class Catalogo {
 
   /// Entry `n` of the current language with its marks {1}, {2}... replaced by the data.
   std::string Compone(int n, const std::vector<std::string>& datos) const;
-  std::string Compone(const Mensaje& m) const { return Compone(m.texto, m.datos); }
+  std::string Compone(const Mensaje& m) const;
 
  private:
   std::unordered_map<int, std::string> entradas_;

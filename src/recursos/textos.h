@@ -15,7 +15,6 @@ inline constexpr int No = 155;
 inline constexpr int CalculandoElCaso = 244;
 inline constexpr int DP = 257;
 inline constexpr int MDP = 258;
-inline constexpr int NoExisteEseTramo = 268;
 
 // Page heads and words of the Tramo heading
 inline constexpr int ControlIntenso = 113;
@@ -235,6 +234,10 @@ inline constexpr int SalidaNoSeEscribe = 1125;
 inline constexpr int TramoQueNoEsta = 1126;
 inline constexpr int IdiomaSinInstalar = 1127;
 inline constexpr int AyudaIdioma = 1128;
+inline constexpr int PalabraFichero = 1179;
+inline constexpr int PalabraCarpeta = 1180;
+inline constexpr int PalabraFecha = 1181;
+inline constexpr int SalidaSobreLaObra = 1182;
 inline constexpr int AyudaFecha = 1129;
 
 // Failures of a run
@@ -248,7 +251,6 @@ inline constexpr int IncPresionTramo = 1136;
 inline constexpr int IncPresionObra = 1137;
 inline constexpr int IncAlturaTramo = 1138;
 inline constexpr int RegistroNoSeEscribe = 1139;
-inline constexpr int TipologiaSinCalculo = 1140;
 inline constexpr int IncAlturaObra = 1141;
 inline constexpr int TramoSinCasos = 1142;
 inline constexpr int Calculando = 1143;
@@ -267,6 +269,18 @@ inline constexpr int TextoLargo = 1158;
 inline constexpr int CuentaDeTramos = 1159;
 inline constexpr int NoSeEscribe = 1160;
 inline constexpr int FaltaTipologia = 1162;
+inline constexpr int OtroFormato = 1163;
+
+// Calculators on the command line
+inline constexpr int CalculoHidraulicoOrden = 1170;
+inline constexpr int AnalisisOrden = 1171;
+inline constexpr int AyudaMetodo = 1172;
+inline constexpr int AyudaPendiente = 1173;
+inline constexpr int AyudaCaudal = 1174;
+inline constexpr int AyudaRugosidadOrden = 1175;
+inline constexpr int AyudaFormatoCalculadora = 1176;
+inline constexpr int AyudaIdiomaCalculadora = 1177;
+inline constexpr int UnoDeEstos = 1178;
 // clang-format on
 
 }  // namespace zorbin::txt

@@ -35,6 +35,73 @@ bool Hay(const std::vector<Aviso>& avisos, ClaseAviso clase) {
                      [=](const Aviso& a) { return a.clase == clase; });
 }
 
+// One Tramo worked by hand from its data to its bars. Pipe 1.0 / 1.2 m, wall 10 cm, covers 2 cm,
+// 2.5 t/m3, granular bedding of 90 degrees, given load 6 t/m2 in a compacted trench of 2 m (fill
+// 1.8 t/m3, 30 degrees, K·mu' 0.165), DP 4 and MDP 5 at with the surge calculated; concrete 350,
+// steel 2100 / 1400 kp/cm2, factor 1.5, sheet and spirals.
+TEST(Armado, UnTramoEnteroAMano) {
+  EstadoCalculo e;
+  e.obra.SisUnid = "MKS";
+  e.obra.GolpeCalculado = true;
+  e.obra.Prs1 = e.obra.Prs2 = 4, e.obra.PrsM1 = e.obra.PrsM2 = 5;
+  e.obra.Alt1 = e.obra.Alt2 = 2;
+  auto& t = e.tramo;
+  t.Tipologia = 1210, t.TipoCamisa = 1, t.CamMax = 6, t.TipoControl = 1;
+  t.Fck = 350, t.Fct = FctDeFck(350), t.Fyk = 2100, t.Fyd = 1400, t.GamaB = 1.5;
+  t.Di = 1.0, t.De = 1.2, t.Esp = 10, t.Reci = 2, t.Rece = 2, t.Gc = 2.5;
+  t.TipoCuna = 1, t.TipoApoyo = 12, t.TipoRelleno = 12, t.B0 = 2, t.Gr = 1.8, t.Fi = 30;
+  t.QDato = 6, t.IndCar = 0;
+  EstadoCalculo visto;
+  struct Guarda : OyenteCorrida {
+    EstadoCalculo* destino;
+    void Caso(const EstadoCalculo& x) override { *destino = x; }
+  } guarda;
+  guarda.destino = &visto;
+  const std::array<OyenteCorrida*, 1> oyentes{&guarda};
+  const EnUnidadesDeCalculo unidades(e);
+  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+  const auto& c = visto.corrida;
+  const auto& r = visto.caso.armado;
+
+  // Pressures: PP the greater of 1.2·5 and 5 + 2, STP 5 + 1.
+  EXPECT_DOUBLE_EQ(c.PP, 7);
+  EXPECT_DOUBLE_EQ(c.STP, 6);
+  // Loads: the given one is also the second; 1 m of earth is x = 2·0.165·1/2 = 0.165,
+  // C = 0.921856, C·1.8·1 = 1.659341 t/m2, below the embankment load 2.546618/1.2.
+  EXPECT_DOUBLE_EQ(c.QTerraplen, 6);
+  EXPECT_NEAR(c.Landa, 1.0 / 3, 1e-12);
+  EXPECT_NEAR(c.Q1m, 1.659341, 1e-6);
+  // Ring: Dm 1.1, Wp 0.863938, Wf 0.785398, Wt 0.278124, Wq 7.2, Wl 0.72, h 3.333333; crown:
+  // own 0.02994, water 0.02722, spandrels 0.00995, vertical 0.49802, lateral -0.17126.
+  EXPECT_NEAR(visto.caso.MHip(11, CLAVE), 0.49802, 1e-5);
+  EXPECT_NEAR(visto.caso.MHip(10, CLAVE), -0.17126, 1e-5);
+  EXPECT_NEAR(visto.caso.NHip(10, SOLERA), -1.03938, 1e-5);
+  // Hypotheses: M5 = 0.02722 + 0.02994 + 0.49802 + 0.00995 - 0.17126 at the crown;
+  // N5 there = 0.16068 + 0.03924 + 0.20553 + 0.02389 - 1.32384 + 5·10·0.5.
+  EXPECT_NEAR(r.esfuerzos.M(5, CLAVE), 0.39387, 1e-5);
+  EXPECT_NEAR(r.esfuerzos.N(5, CLAVE), 24.10549, 1e-5);
+  EXPECT_NEAR(r.esfuerzos.M(3, RINONES), -0.15604, 1e-5);
+  EXPECT_NEAR(r.esfuerzos.N(2, SOLERA), -3.03568, 1e-5);
+  // Lever arm 0.06: |M|/N is at most 0.0266 < 0.03 in 3, 4 and 5, composite tension at both faces;
+  // 2 is flexo-compression, below the minimum 350·0.04·0.08/(2100·1.5)·10000 = 3.5556.
+  EXPECT_NEAR(r.BRAZO, 0.06, 1e-12);
+  // 1: 7·0.5/1400·10000 = 25 in halves. 2: sheet 15 and 5 bars of 10 mm, 3.927. The faces in
+  // equilibrium are 12.99 and 11.48 (3), 12.03 and 10.33 (4), 13.96 and 11.97 (5): the sheet of 15
+  // serves inside, and beside it 10.12, 9.46 and 11.58 outside: 9 of 12, 19 of 8, 15 of 10 mm.
+  EXPECT_NEAR(r.TablaHip(1).Total, 25.0, 1e-9);
+  EXPECT_NEAR(r.TablaHip(2).Total, 15 + 3.926991, 1e-6);
+  EXPECT_NEAR(r.TablaHip(3).Total, 15 + 10.178760, 1e-6);
+  EXPECT_NEAR(r.TablaHip(4).Total, 15 + 9.550442, 1e-6);
+  EXPECT_NEAR(r.TablaHip(5).Total, 15 + 11.780972, 1e-6);
+  EXPECT_EQ(r.HipotesisRige, 5);
+  EXPECT_EQ(r.CAMISA, 1.5);
+  EXPECT_EQ(r.NESPIN, 0);
+  EXPECT_EQ(r.FIEX, 10);
+  EXPECT_EQ(r.NEXPEX, 15);
+  EXPECT_NEAR(r.NRige(CLAVE), 24.10549 - 25, 1e-5);
+  EXPECT_TRUE(visto.caso.avisos.empty());  // (15 + 11.78)/1000 is well below 0.096
+}
+
 TEST(Armado, ElAjusteSustituyeLasAreasDeSuCasoYDeNingunOtro) {
   auto e = EstadoDeMuestra(1);
   e.tramo.NumeroTramo = 4;

@@ -151,7 +151,17 @@ TEST(Corrida, SIyMksDanLoMismo) {
     const auto apunta = [&vistos](const EstadoCalculo& x) {
       const auto& c = x.corrida;
       const auto& r = x.caso.armado;
-      std::vector<double> v{c.Hr,
+      std::vector<double> v{c.Landa,
+                            c.PPNeta,
+                            c.Impacto,
+                            c.QTierras1m,
+                            c.QMovil1m,
+                            r.AreaCamisa,
+                            r.AreaEspiras,
+                            r.AreaExterior,
+                            r.TensionMax,
+                            r.TensionAdm,
+                            c.Hr,
                             c.DP,
                             c.MDP,
                             c.STP,
@@ -175,6 +185,14 @@ TEST(Corrida, SIyMksDanLoMismo) {
         for (int s = 1; s <= 3; ++s) {
           v.push_back(r.esfuerzos.M(h, s));
           v.push_back(r.esfuerzos.N(h, s));
+        }
+      }
+      for (int s = 1; s <= 3; ++s) {
+        v.push_back(r.MRige(s));
+        v.push_back(r.NRige(s));
+        for (int h = 1; h <= 12; ++h) {
+          v.push_back(x.caso.MHip(h, s));
+          v.push_back(x.caso.NHip(h, s));
         }
       }
       vistos.push_back(v);
@@ -231,11 +249,11 @@ TEST(Corrida, UnFalloSeNombraYDejaLosDatosComoEstaban) {
        CausaError::IncrementoPresion, 0, "Prs3Tram"},
       {"altura que baja", [](auto& e) { e.obra.Alt3 = -1; }, CausaError::IncrementoAltura, 0,
        "Alt3"},
-      {"rozamiento nulo", [](auto& e) { e.tramo.Fi = 0; }, CausaError::DivisionPorCero, 0, ""},
+      {"rozamiento nulo", [](auto& e) { e.tramo.Fi = 0; }, CausaError::DivisionPorCero, 1, ""},
       {"acero nulo", [](auto& e) { e.tramo.Fyd = 0; }, CausaError::DivisionPorCero, 1, ""},
       {"terreno sin peso", [](auto& e) { e.tramo.Gr = 0; }, CausaError::DivisionPorCero, 1, ""},
       {"cuna desconocida", [](auto& e) { e.tramo.TipoCuna = 7; }, CausaError::Subindice, 1, ""},
-      {"demasiados Casos", [](auto& e) { e.obra.Alt3 = 1e-10; }, CausaError::Desbordamiento, 1,
+      {"demasiados Casos", [](auto& e) { e.obra.Alt3 = 1e-10; }, CausaError::Desbordamiento, -1,
        ""}};
   for (const auto& f : fallos) {
     auto e = EstadoDeMuestra(1);
@@ -249,7 +267,7 @@ TEST(Corrida, UnFalloSeNombraYDejaLosDatosComoEstaban) {
     } catch (const ErrorCorrida& error) {
       EXPECT_EQ(error.error().causa(), f.causa) << f.nombre;
       EXPECT_EQ(error.error().dato(), f.dato) << f.nombre;
-      if (f.caso <= 1 && f.causa != CausaError::Desbordamiento) {
+      if (f.caso >= 0) {
         EXPECT_EQ(error.numCaso(), f.caso) << f.nombre;
       }
     }

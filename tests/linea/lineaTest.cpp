@@ -75,6 +75,7 @@ TEST_F(Linea, UnTramoUOtroYEnQueOrden) {
   ASSERT_EQ(j["tramos"].size(), 2u);
   EXPECT_EQ(j["tramos"][0]["posicion"], 5);
   EXPECT_EQ(j["tramos"][1]["NumeroTramo"], 2);
+  EXPECT_EQ(Llama("calcula --tramo 1 " + acequia).codigo, 0);
   const auto no = Llama("calcula " + acequia + " --tramo 9");
   EXPECT_EQ(no.codigo, 2);
   EXPECT_NE(no.quejas.find("1, 2, 3, 4, 5"), std::string::npos);
@@ -109,7 +110,8 @@ TEST_F(Linea, UnFicheroRechazadoNoEscribeNada) {
 TEST_F(Linea, UnFalloAritmeticoAcabaSuTramoYNoLosDemas) {
   const auto r = Llama("calcula " + Copia(14 + 60 + 49, "0,00") + " --formato json");
   EXPECT_EQ(r.codigo, 3);
-  EXPECT_NE(r.quejas.find("Tramo 2, antes del primer Caso: División por cero"), std::string::npos)
+  EXPECT_NE(r.quejas.find("Tramo 2, Caso 1, altura 2.00 m, DP 0.400 MPa: División por cero"),
+            std::string::npos)
       << r.quejas;
   const auto j = nlohmann::json::parse(r.salida);
   ASSERT_EQ(j["tramos"].size(), 5u);
@@ -128,6 +130,45 @@ TEST_F(Linea, LosAjustesDelFicheroEntranEnLosResultados) {
   EXPECT_TRUE(casos[0]["armado"]["HayAjuste"].get<bool>());
   EXPECT_EQ(casos[0]["armado"]["Total"], 60.0);
   EXPECT_FALSE(casos[1]["armado"]["HayAjuste"].get<bool>());
+}
+
+TEST_F(Linea, LaSalidaNuncaPisaLaObra) {
+  const std::string copia = Copia(5, "Obra");
+  const auto antes = Lee(copia);
+  for (const char* opcion :
+       {" --salida ", " --listado normal --texto ", " --listado normal --pdf "}) {
+    EXPECT_EQ(Llama("calcula " + copia + opcion + copia).codigo, 2) << opcion;
+  }
+  EXPECT_EQ(Lee(copia), antes);
+}
+
+// A log that the disk refuses ends each run with its name, and nothing else.
+TEST_F(Linea, UnRegistroQueNoCabeEsUnFalloConNombre) {
+  fs::create_symlink("/dev/full", carpeta / "Debugpim_cal.txt");
+  const auto r = Llama("calcula " + acequia + " --formato json --registros " + carpeta.string());
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_NE(r.quejas.find("Debugpim_cal.txt"), std::string::npos) << r.quejas;
+  EXPECT_EQ(nlohmann::json::parse(r.salida)["tramos"].size(), 5u);
+}
+
+TEST_F(Linea, LasCalculadoras) {
+  const auto h =
+      Llama("hidraulica --metodo hazen --pendiente 0,001 --rugosidad 120 --formato json");
+  ASSERT_EQ(h.codigo, 0) << h.quejas;
+  const auto j = nlohmann::json::parse(h.salida);
+  EXPECT_EQ(j["metodo"], "hazen");
+  EXPECT_EQ(j["dato"], 0.001);
+  EXPECT_EQ(j["filas"].size(), 15u);
+  EXPECT_TRUE(j["filas"][4]["ReLlena"].is_null());
+  EXPECT_NEAR(j["filas"][4]["VLlena"].get<double>(), 1.0204, 1e-4);
+  EXPECT_EQ(Llama("hidraulica --metodo darcy --caudal 0").codigo, 2);
+  EXPECT_EQ(Llama("hidraulica --metodo darcy --caudal 1 --pendiente 1").codigo, 2);
+  EXPECT_EQ(Llama("hidraulica --caudal 1").codigo, 2);
+  const auto m = Llama("medios --ph 5 --resistividad 10 --formato json --idioma fr");
+  ASSERT_EQ(m.codigo, 0) << m.quejas;
+  EXPECT_EQ(nlohmann::json::parse(m.salida)["Dosificacion"], 350.0);
+  EXPECT_TRUE(nlohmann::json::parse(m.salida)["HayMedida"].get<bool>());
+  EXPECT_EQ(Llama("medios --ph siete").codigo, 2);
 }
 
 TEST_F(Linea, UnaSalidaImposibleSeDiceYNoDejaRestos) {

@@ -32,6 +32,24 @@ TEST(Dpe, IdaYVuelta) {
   fs::remove(ruta);
 }
 
+// An appended entry may end the file at its height: the reserved records after it were never
+// written.
+TEST(Dpe, UnaUltimaEntradaSinSusReservasCuenta) {
+  const auto ruta = fs::temp_directory_path() / ("zorbin-c" + std::to_string(getpid()) + ".dpe");
+  {
+    FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {{6, 1, 2.5, {20, 3.5, 18}}}, ',');
+  }
+  fs::resize_file(ruta, 7 * kBytesRegistro);
+  EXPECT_EQ(LeeAjustes(ruta).size(), 1u);
+  fs::resize_file(ruta, kBytesRegistro);
+  EXPECT_TRUE(LeeAjustes(ruta).empty());
+  FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+  f.Vacia();
+  EXPECT_THROW(f.EscribeRegistro(2, std::string(127, '9')), ErrorFichero);
+  fs::remove(ruta);
+}
+
 TEST(Log, SeAnadeYNoSeTrunca) {
   const auto carpeta = fs::temp_directory_path() / ("zorbin-log-" + std::to_string(getpid())) / "x";
   for (int i = 0; i < 2; ++i) {

@@ -54,14 +54,14 @@ class Zrb : public testing::Test {
   // The refusal of the file, as "entry number|data".
   std::string Rechazo() {
     EstadoCalculo e;
-    e.obra.Cliente = "anterior";
     try {
       AbreObra(e, ruta);
     } catch (const ErrorFichero& error) {
       EXPECT_EQ(textos.Compone(error.mensaje()).find("Falta Recurso"), std::string::npos);
-      std::string r = std::to_string(error.mensaje().texto);
-      for (std::size_t i = 1; i < error.mensaje().datos.size(); ++i)
-        r += "|" + error.mensaje().datos[i];
+      const auto& m = error.mensaje();
+      std::string r = std::to_string(m.otro != 0 ? m.otro : m.texto);
+      if (m.otro != 0) return r;
+      for (std::size_t i = 1; i < m.datos.size(); ++i) r += "|" + m.datos[i];
       return r;
     }
     return "";
@@ -170,6 +170,7 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
        "1153|52|Di|" + std::string(30, '9')},
       {"tipologia", [&] { Estropea(23, Registro("70000")); }, "1154|23|Tipologia|70000"},
       {"tipologia vacia", [&] { Estropea(23, Registro("")); }, "1162|23"},
+      {"sin tipologia", [&] { Estropea(23, Registro("0")); }, "1162|23"},
       {"cuenta", [&] { Estropea(20, Registro("546")); }, "1159|546"},
       {"cuenta con letra", [&] { Estropea(20, Registro("x")); }, "1159|x"},
       {"numero de Tramo", [&] { Estropea(21, Registro("uno")); }, "1154|21|NumeroTramo|uno"},
@@ -178,6 +179,13 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
       {"cortado en la cabecera", [&] { fs::resize_file(ruta, 4 * 128 + 5); }, "1152|5|60|5"},
       {"cortado en un texto", [&] { fs::resize_file(ruta, 77 * 128 + 6); }, "1152|78|10|6"},
       {"cortado en un Tramo", [&] { fs::resize_file(ruta, 40 * 128); }, "1155|40|1|80"},
+      {"cortado entre Tramos", [&] { Estropea(20, Registro("2")); }, "1155|80|2|140"},
+      {"ajustes descomunales",
+       [&] {
+         std::ofstream(carpeta / "obra.dpe", std::ios::binary)
+             << Registro("9") << Registro(std::string(126, '9'));
+       },
+       "1153|2|DP|" + std::string(126, '9')},
       {"ajustes rotos",
        [&] { std::ofstream(carpeta / "obra.dpe", std::ios::binary) << Registro("nueve"); },
        "1153|1|TotalRegistrosDpe|nueve"}};
@@ -187,10 +195,38 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
     d.estropea();
     EXPECT_EQ(Rechazo(), d.rechazo) << d.nombre;
     fs::remove(ruta);
+    fs::remove(carpeta / "obra.dpe");
   }
   EXPECT_EQ(Rechazo().substr(0, 4), "1150");  // no file at all
   fs::create_directory(ruta);
   EXPECT_EQ(Rechazo().substr(0, 4), "1150");
+}
+
+TEST_F(Zrb, UnRechazoDejaElEstadoYNombraFicheroYVersion) {
+  Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
+  EstadoCalculo e;
+  e.obra.Cliente = "anterior";
+  const FicheroRegistros sana(ruta, FicheroRegistros::Modo::Lectura);
+  CargaObra(e, sana);
+  CargaTramo(e, sana, 1);
+  Estropea(13, Registro("dos"));
+  Estropea(52, Registro("dos"));
+  const FicheroRegistros rota(ruta, FicheroRegistros::Modo::Lectura);
+  e.obra.Cliente = "anterior";
+  EXPECT_THROW(CargaObra(e, rota), ErrorFichero);
+  EXPECT_EQ(e.obra.Cliente, "anterior");
+  e.tramo.DescriTramo = "anterior";
+  EXPECT_THROW(CargaTramo(e, rota, 1), ErrorFichero);
+  EXPECT_EQ(e.tramo.DescriTramo, "anterior");
+  Estropea(1, Registro("?"));
+  try {
+    CargaObra(e, FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura));
+  } catch (const ErrorFichero& error) {
+    EXPECT_EQ(textos.Compone(error.mensaje()),
+              ruta.string() +
+                  ": Version: 2009-Mar.02 Registro inicial: El fichero .ZRB no está "
+                  "grabado con el formato de la versión actual.");
+  }
 }
 
 TEST_F(Zrb, LoQueElFormatoDejaEnBlancoSeLee) {

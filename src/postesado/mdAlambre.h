@@ -1,0 +1,59 @@
+// The prestressing wires on offer, how densely each may be wound, and the first guess for a ring
+// force.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "core/resultadoPostesado.h"
+
+namespace zorbin {
+
+/// Wires of 4, 5, 6 and 7 mm, in the positions 1 to 4. The 4 mm one is never wound: it only bounds
+/// the forces.
+inline constexpr int kAlambres = 4;
+
+/// Spirals per metre [1/m] for a wire of diameter d [mm] and clear distance s [cm].
+/// @throws ErrorEjecucion DivisionPorCero
+double EspirasPorMetro(double d, double s);
+
+/// Force of one wire of diameter d [mm] at 60 % of its breaking stress SFck [kp/cm2], in t.
+constexpr double FuerzaAlambre(double d, double Pi, double SFck) {
+  return 0.6 * SFck * Pi * d * d / 4.0 / 100000.0;
+}
+
+/// Clear distance [cm] between spirals of diameter f [cm], n per metre.
+/// @throws ErrorEjecucion DivisionPorCero
+double LuzEspiras(double f, double n);
+
+/// Spirals brought up to a whole number; a fraction of at most 0.02 stays as it is. [1/m]
+double EspirasEnteras(double NESP);
+
+/// Smallest clear distance allowed between spirals of the wire in position i [mm].
+double EspMinimo(int i);
+
+/// The wire in position i, wound at its widest spacing; a lined cylinder (`Tipologia` 2221) narrows
+/// that of the two thick wires.
+Alambre AlambreMasAbierto(int i, std::int16_t Tipologia);
+
+/// Ring forces that each wire takes [t/m].
+struct RangosFuerza {
+  Lista<double, kAlambres> FuerzaMin;
+  Lista<double, kAlambres> FuerzaMax;
+};
+
+/// @param SFck  breaking stress of the wire [kp/cm2]
+RangosFuerza CalculaRangos(double SFck);
+
+/// A wire with its position in the tables. Position 1 also means the wire of 5 mm, wound down to
+/// the 4 mm of clear distance of its row.
+struct AlambreElegido {
+  int IdxAlambre;
+  Alambre alambre;
+};
+
+/// The first wire for a ring force [t/m]; none when the force is beyond the last wire.
+std::optional<AlambreElegido> PrimerAlambre(double FuerzaAnillo, double SFck,
+                                            std::int16_t Tipologia);
+
+}  // namespace zorbin
