@@ -166,7 +166,7 @@ class Calculador {
   std::unique_ptr<OyenteObra> CreaListado(const MediosPapel& medios) const {
     if (opciones_.listado == "tabular") return std::make_unique<ListadoTabular>(medios);
     if (opciones_.listado == "pantalla") return std::make_unique<ListadoPantalla>(medios);
-    return std::make_unique<ListadoNormal>(medios);
+    return std::make_unique<ListadoNormal>(medios, opciones_.listado == "lame");
   }
 };
 

@@ -138,6 +138,94 @@ Json DeArmado(const ResultadoArmado& r) {
           {"HayAjuste", r.HayAjuste()}};
 }
 
+Json DeMensaje(const std::optional<ClaseAviso>& mensaje, const Catalogo& textos) {
+  return mensaje ? TextoAviso(*mensaje, textos) : std::string{};
+}
+
+Json DeHipotesis(const HipotesisPostesada& h, const ResultadoPostesado& r, const Catalogo& textos) {
+  const auto& m = r.materiales;
+  return {{"h", h.h},
+          {"error", h.error},
+          {"texto", DeMensaje(h.texto, textos)},
+          {"MomHip", DeLista(h.MomHip)},
+          {"AxilHip", DeLista(h.AxilHip)},
+          {"PerdElastica", h.PerdElastica},
+          {"PerdRelaj", h.PerdRelaj},
+          {"PerdFluRet", h.PerdFluRet},
+          {"SigRes", h.SigRes},
+          {"SigIniInt", h.SigIniInt},
+          {"SigIniExt", h.SigIniExt},
+          {"SigPI", h.SigPI},
+          {"SigPE", h.SigPE},
+          {"SigRI", h.SigRI},
+          {"SigRE", h.SigRE},
+          {"ni", m.ni},
+          {"n", m.n},
+          {"n1", m.n1},
+          {"n2", m.n2},
+          {"A", h.A},
+          {"B", h.B},
+          {"C", h.C},
+          {"Ar", h.Ar},
+          {"Br", h.Br},
+          {"Cr", h.Cr},
+          {"k", h.k},
+          {"D", h.D},
+          {"sro", h.sro},
+          {"yi", h.yi},
+          {"ye", h.ye},
+          {"yr", h.yr},
+          {"Io", h.Io},
+          {"rco", h.rco},
+          {"rro", h.rro},
+          {"OvPI", DeLista(h.OvPI)},
+          {"OvPE", DeLista(h.OvPE)},
+          {"OvRI", DeLista(h.OvRI)},
+          {"OvRE", DeLista(h.OvRE)},
+          {"OvAc", DeLista(h.OvAc)},
+          {"PrPI", h.PrPI},
+          {"PrPE", h.PrPE},
+          {"PrRI", h.PrRI},
+          {"PrRE", h.PrRE},
+          {"PrAc", h.PrAc},
+          {"SinPI", DeLista(h.SinPI)},
+          {"SinPE", DeLista(h.SinPE)},
+          {"SinRI", DeLista(h.SinRI)},
+          {"SinRE", DeLista(h.SinRE)},
+          {"SinAc", DeLista(h.SinAc)},
+          {"TotPI", DeLista(h.TotPI)},
+          {"TotPE", DeLista(h.TotPE)},
+          {"TotRI", DeLista(h.TotRI)},
+          {"TotRE", DeLista(h.TotRE)},
+          {"TotAc", DeLista(h.TotAc)},
+          {"LimPI", h.LimPI},
+          {"LimPE", h.LimPE},
+          {"LimRI", h.LimRI},
+          {"LimRE", h.LimRE},
+          {"PresLimite", h.PresLimite}};
+}
+
+Json DePostesado(const EstadoCalculo& e, const Catalogo& textos) {
+  const auto& r = e.caso.postesado;
+  Json hipotesis = Json::array();
+  for (int h = 1; h <= kHipotesisPostesado; ++h) {
+    hipotesis.push_back(DeHipotesis(r.hipotesis(h), r, textos));
+    hipotesis.back()["h"] = h;
+  }
+  return {{"FIPRDEFI", r.FIPRDEFI},
+          {"NESPDEFI", r.NESPDEFI},
+          {"PP", e.corrida.PP},
+          {"PPHipotesis", r.PPHipotesis},
+          {"PPConAlambreFinal", r.PPConAlambreFinal},
+          {"ErrorPostesado", r.ErrorPostesado},
+          {"MensajePostesado", DeMensaje(r.MensajePostesado, textos)},
+          {"Fctn", r.materiales.Fctn},
+          {"Fctr", r.materiales.Fctr},
+          {"TensionChapa", r.TensionChapa},
+          {"LimiteChapa", r.LimiteChapa},
+          {"hipotesis", std::move(hipotesis)}};
+}
+
 Json DeCaso(const EstadoCalculo& e, const Catalogo& textos) {
   const auto& c = e.corrida;
   Json avisos = Json::array();
@@ -163,7 +251,11 @@ Json DeCaso(const EstadoCalculo& e, const Catalogo& textos) {
             {"MHip", DeTabla(e.caso.MHip)},
             {"NHip", DeTabla(e.caso.NHip)},
             {"avisos", std::move(avisos)}};
-  if (e.tramo.EsArmado) caso["armado"] = DeArmado(e.caso.armado);
+  if (e.tramo.EsArmado) {
+    caso["armado"] = DeArmado(e.caso.armado);
+  } else {
+    caso["postesado"] = DePostesado(e, textos);
+  }
   return caso;
 }
 

@@ -86,6 +86,7 @@ void ListadoNormal::Cabecera(const EstadoCalculo& e) {
   PaginaNueva(e, true);
   Relleno(e);
   Hipotesis(e);
+  if (!e.tramo.EsArmado) DatosPostesado(e);
 }
 
 void ListadoNormal::Materiales(const EstadoCalculo& e) {
@@ -215,7 +216,11 @@ std::string ListadoNormal::FilaDeCargas(const EstadoCalculo& e, const FilaCargas
 
 void ListadoNormal::Caso(const EstadoCalculo& e) {
   if (e.corrida.NumCaso == 1) Ovalizacion(e);
-  if (e.tramo.EsArmado) DisenoArmado(e);
+  if (e.tramo.EsArmado) {
+    DisenoArmado(e);
+  } else {
+    Postesado(e);
+  }
 }
 
 void ListadoNormal::Ovalizacion(const EstadoCalculo& e) {

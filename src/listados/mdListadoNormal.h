@@ -7,12 +7,16 @@ namespace zorbin {
 
 class ListadoNormal : public ListadoPapel {
  public:
-  using ListadoPapel::ListadoPapel;
+  /// @param conCoefLame  adds the Lamé coefficients of post-tensioned Tramos
+  explicit ListadoNormal(const MediosPapel& medios, bool conCoefLame = false)
+      : ListadoPapel(medios), conCoefLame_(conCoefLame) {}
 
   void Cabecera(const EstadoCalculo& e) override;
   void Caso(const EstadoCalculo& e) override;
 
  private:
+  bool conCoefLame_;
+
   // Page heads
   void CabeceraPagina(const EstadoCalculo& e, bool miraCargas, bool conObra);
   void PaginaNueva(const EstadoCalculo& e, bool miraCargas);
@@ -40,6 +44,17 @@ class ListadoNormal : public ListadoPapel {
   void SinFisuracionBloque(const SinFisuracion& s);
   void Resultado(const EstadoCalculo& e);
   void UnAviso(const Aviso& aviso);
+
+  // Post-tensioned design (mdListadoNormalPostesado.cpp)
+  void DatosPostesado(const EstadoCalculo& e);
+  void Postesado(const EstadoCalculo& e);
+  void CabeceraHipotesis(const EstadoCalculo& e, const Alambre& alambre, int hipotesis);
+  void AvisoPostesado(const EstadoCalculo& e, const Aviso& aviso);
+  void ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void PerdidasYTensiones(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void CoeficientesLame(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void TablasDeTensiones(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void Encabezado(int texto, std::string_view detras = {});
 };
 
 }  // namespace zorbin

@@ -46,13 +46,16 @@ void ListadoPantalla::Progreso(const EstadoCalculo& e) {
 }
 
 void ListadoPantalla::Caso(const EstadoCalculo& e) {
-  for (const auto& aviso : e.caso.avisos) {
-    if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(e, aviso);
-  }
-  DatosCaso(e);
   if (e.tramo.EsArmado) {
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(e, aviso);
+    }
+    DatosCaso(e);
     TablaHipotesis(e);
     Armadura(e);
+  } else {
+    DatosCaso(e);
+    Postesado(e);
   }
   LineasPagina = kTrasUnCaso;
   papel_.Regla(18, 190, 3);
@@ -68,8 +71,10 @@ void ListadoPantalla::Aviso(const EstadoCalculo& e, const zorbin::Aviso& aviso) 
   if (retraccion) {
     EnNegrita(9, Texto(txt::RetraccionPantalla));
     Linea(9, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
-  } else {
+  } else if (e.tramo.EsArmado) {
     EnNegrita(9, TextoAviso(aviso, textos_));
+  } else {
+    EnNegrita(9, "** " + TextoAviso(aviso, textos_) + " **");
   }
 }
 
@@ -126,6 +131,51 @@ void ListadoPantalla::Armadura(const EstadoCalculo& e) {
   area(txt::ArmaduraInterior, r.AsInt);
   area(txt::ArmaduraExterior, r.AsExt);
   area(txt::TotalArmadura, r.Total);
+}
+
+void ListadoPantalla::Postesado(const EstadoCalculo& e) {
+  const auto avisosDe = [&](int h) {
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) Aviso(e, aviso);
+    }
+  };
+  avisosDe(0);
+  for (const auto& h : e.caso.postesado.hipotesis.v) {
+    if (!h.hecha) break;
+    avisosDe(h.h);
+    if (!h.Impresa()) continue;
+    if (h.h == 1) CabezaPostesado(e);
+    FilaHipotesis(h);
+  }
+  if (e.caso.postesado.fin == FinPostesado::Completo) ListadoAlambre(e);
+}
+
+void ListadoPantalla::CabezaPostesado(const EstadoCalculo& e) {
+  Linea(47, Texto(txt::PantallaSecciones));
+  Linea(23 + 4 + 17, Texto(txt::PantallaMN));
+  Linea(16, Texto(e.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  const std::string seccion = "  " + std::string(18, '-');
+  Linea(11, std::string(26, '-') + seccion + seccion + seccion);
+}
+
+void ListadoPantalla::FilaHipotesis(const HipotesisPostesada& h) {
+  const int nombre = txt::HipotesisPostesado[static_cast<std::size_t>(h.h - 1)];
+  std::string linea = FormatoTexto(Texto(nombre), 26);
+  for (int s = 1; s <= kSecciones; ++s) {
+    linea += " " + Numero(h.MomHip(s), 9, 2, "kp.cm/cm->N.m/cm") + " " +
+             Numero(h.AxilHip(s), 9, 2, "kp/cm->N/cm");
+  }
+  Linea(11, linea);
+}
+
+void ListadoPantalla::ListadoAlambre(const EstadoCalculo& e) {
+  const auto& r = e.caso.postesado;
+  SaltoSiHaceFalta(e, 6);
+  EnBlanco(1);
+  Linea(14, Texto(txt::ResumenDiametro) + Blancos(5) + Numero(r.FIPRDEFI * 10.0, 5, 1) + "  mm");
+  Linea(14, Texto(txt::ResumenEspiras) + Blancos(5) + Numero(r.NESPDEFI, 5, 0));
+  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) +
+                Numero(e.corrida.PP, 7, 2, "Kp/cm2->MPa", true));
 }
 
 }  // namespace zorbin

@@ -20,6 +20,10 @@ class ListadoPantalla : public ListadoPapel {
   void DatosCaso(const EstadoCalculo& e);
   void TablaHipotesis(const EstadoCalculo& e);
   void Armadura(const EstadoCalculo& e);
+  void Postesado(const EstadoCalculo& e);
+  void CabezaPostesado(const EstadoCalculo& e);
+  void FilaHipotesis(const HipotesisPostesada& h);
+  void ListadoAlambre(const EstadoCalculo& e);
 };
 
 }  // namespace zorbin

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "listados/mdAvisos.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
@@ -13,6 +14,8 @@ constexpr int kBloquePostesado = 19;  // the same of a post-tensioned one
 constexpr int kCabezaPagina = 6;
 constexpr int kFilaTramo = 9;
 constexpr int kCabezaTabla = 5;
+constexpr int kDatosPostesado = 6;
+constexpr int kCabezaPostesado = 4;
 
 // Value of the fill as the row shows it.
 std::string ValorRelleno(std::int16_t TipoRelleno) {
@@ -89,13 +92,62 @@ void ListadoTabular::ResumenTabular(const EstadoCalculo& e) {
 }
 
 void ListadoTabular::Caso(const EstadoCalculo& e) {
-  if (!e.tramo.EsArmado) return;
+  if (!e.tramo.EsArmado && e.corrida.PrimerCaso) {
+    DatosPostesado(e);
+    CabeceraTabularPostesado(e);
+  }
   --LineasResto;
   if (LineasResto <= 0) {
     PaginaNueva(e);
-    ResumenTabular(e);
+    if (e.tramo.EsArmado) {
+      ResumenTabular(e);
+    } else {
+      CabeceraTabularPostesado(e);
+    }
   }
-  FilaArmado(e);
+  if (e.tramo.EsArmado) {
+    FilaArmado(e);
+  } else {
+    FilaTabular(e);
+  }
+}
+
+void ListadoTabular::DatosPostesado(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto tension = [this](double v, int decimales = 0) {
+    return Numero(v, 10, decimales, "Kp/cm2->MPa");
+  };
+  papel_.Negrita(true);
+  for (const int n : txt::DatosTabular) Linea(5 + 7, Texto(n));
+  Linea(5 + 7, Texto(e.obra.EsSI() ? txt::DatosTabularSI : txt::DatosTabularMKS));
+  Linea(5 + 7, std::string(96, '-'));
+  papel_.Negrita(false);
+  const bool revestida = t.Tipologia == 2221 || t.Tipologia == 2222;
+  Linea(9, tension(t.Fckno) + " " + tension(t.Fckn) + tension(t.Fckr) + " " +
+               tension(e.caso.postesado.materiales.Fctr, 2) + Blancos(3) + tension(t.Ep) + " " +
+               tension(t.SFck) + Blancos(2) + tension(t.Sf) + Numero(t.Delca * 10.0, 9, 2) +
+               Blancos(2) + FormatoTexto(Texto(revestida ? txt::Revestida : txt::Embebida), 10));
+  EnBlanco(1);
+  LineasResto -= kDatosPostesado;
+}
+
+void ListadoTabular::CabeceraTabularPostesado(const EstadoCalculo& e) {
+  papel_.Negrita(true);
+  for (const int n : txt::CabeceraPostesado) Linea(32, Texto(n));
+  Linea(32, Texto(e.obra.EsSI() ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
+  Linea(32, Texto(txt::CabeceraPostesadoRaya));
+  papel_.Negrita(false);
+  LineasResto -= kCabezaPostesado;
+}
+
+// The Caso as it stood before the verification.
+void ListadoTabular::FilaTabular(const EstadoCalculo& e) {
+  const auto& f = e.caso.postesado.fila;
+  const std::string altura = CampoAltura(e);
+  const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  Linea(32, altura + Blancos(3) + Numero(e.corrida.DP, 6, 2, "at->MPa") + Blancos(5) +
+                Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) + Blancos(8) +
+                Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
 }
 
 std::string ListadoTabular::CampoAltura(const EstadoCalculo& e) {

@@ -23,6 +23,9 @@ class ListadoTabular : public ListadoPapel {
   void ResumenTabular(const EstadoCalculo& e);
   std::string CampoAltura(const EstadoCalculo& e);
   void FilaArmado(const EstadoCalculo& e);
+  void DatosPostesado(const EstadoCalculo& e);
+  void CabeceraTabularPostesado(const EstadoCalculo& e);
+  void FilaTabular(const EstadoCalculo& e);
 };
 
 }  // namespace zorbin

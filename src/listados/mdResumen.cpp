@@ -20,7 +20,11 @@ void Resumen::Progreso(const EstadoCalculo& e) {
 void Resumen::Caso(const EstadoCalculo& e) {
   if (e.tramo.EsArmado) Avisos(e);
   ListaCasoArmado(e);
-  if (e.tramo.EsArmado) Armadura(e);
+  if (e.tramo.EsArmado) {
+    Armadura(e);
+  } else {
+    Postesado(e);
+  }
   pantalla_.EscribePantalla(0, std::string(70, '='), 2);
 }
 
@@ -105,6 +109,49 @@ void Resumen::Armadura(const EstadoCalculo& e) {
   area(txt::ArmaduraInterior, r.AsInt);
   area(txt::ArmaduraExterior, r.AsExt);
   area(txt::TotalArmadura, r.Total);
+}
+
+void Resumen::Postesado(const EstadoCalculo& e) {
+  const auto avisosDe = [&](int h) {
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase != FaseAviso::Final || aviso.hipotesis != h) continue;
+      pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
+    }
+  };
+  avisosDe(0);
+  for (const auto& h : e.caso.postesado.hipotesis.v) {
+    if (!h.hecha) break;
+    avisosDe(h.h);
+    if (h.Impresa()) ListadoHipotesis(e, h);
+  }
+  if (e.caso.postesado.fin == FinPostesado::Completo) ListadoAlambre(e);
+}
+
+void Resumen::ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h) {
+  const std::string raya = " " + std::string(17, '-');
+  const int nombre = txt::HipotesisPostesado[static_cast<std::size_t>(h.h - 1)];
+  pantalla_.EscribePantalla(1, textos_.Texto(txt::Hipotesis) + textos_.Texto(nombre), 1);
+  Linea(textos_.Texto(txt::CabezaSecciones));
+  Linea(textos_.Texto(txt::CabezaMN));
+  Linea(textos_.Texto(e.obra.EsSI() ? txt::ResumenUnidadesSI : txt::ResumenUnidadesMKS));
+  Linea(raya + raya + raya);
+  std::string linea;
+  for (int s = 1; s <= kSecciones; ++s) {
+    linea += " " + estilo_.FormatoNumero(h.MomHip(s), 8, 2, "kp.cm/cm->N.m/cm") + " " +
+             estilo_.FormatoNumero(h.AxilHip(s), 8, 2, "kp/cm->N/cm");
+  }
+  Linea(linea);
+}
+
+void Resumen::ListadoAlambre(const EstadoCalculo& e) {
+  const auto& r = e.caso.postesado;
+  Linea(Blancos(14) + textos_.Texto(txt::ResumenDiametro) +
+        estilo_.FormatoNumero(r.FIPRDEFI * 10.0, 5, 1) + "  " + textos_.Texto(txt::Milimetros));
+  Linea(Blancos(14) + textos_.Texto(txt::ResumenEspiras) + estilo_.FormatoNumero(r.NESPDEFI, 5, 0));
+  pantalla_.EscribePantalla(1,
+                            Blancos(14) + textos_.Texto(txt::PresionNetaPrueba) + Blancos(5) +
+                                estilo_.FormatoNumero(e.corrida.PP, 7, 2, "Kp/cm2->MPa", true),
+                            1);
 }
 
 }  // namespace zorbin

@@ -28,6 +28,9 @@ class Resumen : public OyenteCorrida {
   void ListaCasoArmado(const EstadoCalculo& e);
   void TablaHipotesis(const EstadoCalculo& e);
   void Armadura(const EstadoCalculo& e);
+  void Postesado(const EstadoCalculo& e);
+  void ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void ListadoAlambre(const EstadoCalculo& e);
   std::string DatoEnMm(int rotulo, double metros, int decimales) const;
 };
 

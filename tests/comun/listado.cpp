@@ -18,7 +18,7 @@ namespace {
 std::unique_ptr<OyenteObra> Crea(const std::string& clase, const MediosPapel& medios) {
   if (clase == "tabular") return std::make_unique<ListadoTabular>(medios);
   if (clase == "pantalla") return std::make_unique<ListadoPantalla>(medios);
-  return std::make_unique<ListadoNormal>(medios);
+  return std::make_unique<ListadoNormal>(medios, clase == "lame");
 }
 
 }  // namespace

@@ -126,11 +126,57 @@ TEST(Listados, SIYMksTienenLasMismasPaginas) {
     return r;
   };
   for (const char* clase : {"normal", "tabular", "pantalla"}) {
-    for (int posicion : {1, 3, 4, 5}) {
+    for (int posicion : {1, 3, 4, 5, 6, 7}) {
       const auto e = pruebas::EstadoDeMuestra(posicion);
       EXPECT_EQ(esqueleto(ListadoDe({e}, clase)), esqueleto(ListadoDe({EnMks(e)}, clase))) << clase;
     }
   }
+}
+
+// A post-tensioned Tramo of each typology. "Coef. Lamé" is "Normal" with a page more for each
+// hypothesis, which takes exactly the 72 lines of a sheet.
+TEST(ListadosPostesado, NormalYLame) {
+  EXPECT_EQ(Compara("postesado-normal-si.txt", ListadoDe({Tramo(7, 2.5)}, "normal")), "");
+  const std::string lame = ListadoDe({EnMks(Tramo(7, 2.5))}, "lame", 1, '.');
+  EXPECT_EQ(Compara("postesado-lame-mks.txt", lame), "");
+  EXPECT_EQ(std::count(lame.begin(), lame.end(), '\f'), 5 + 2 * 6);
+}
+
+TEST(ListadosPostesado, TabularYPantalla) {
+  auto mixto = pruebas::EstadoDeMuestra(6);
+  mixto.tramo.NumeroTramo = 6;
+  EXPECT_EQ(Compara("postesado-tabular-si.txt",
+                    ListadoDe({mixto, Tramo(4, 3), Tramo(7, 2.5)}, "tabular")),
+            "");
+  EXPECT_EQ(
+      Compara("postesado-tabular-mks.txt", ListadoDe({EnMks(Tramo(7, 2.5))}, "tabular", 1, '.')),
+      "");
+  EXPECT_EQ(
+      Compara("postesado-pantalla-mks.txt", ListadoDe({EnMks(Tramo(7, 2.5))}, "pantalla", 1, '.')),
+      "");
+}
+
+// A core too weak at winding: no hypothesis is printed, each has its page with the diagnostic, and
+// the wire follows where there is a place for it. No wire at all: one page, no hypothesis line.
+TEST(ListadosPostesado, LosDiagnosticos) {
+  auto debil = Tramo(7, 2.5);
+  debil.tramo.Fckno = 12;
+  auto imposible = Tramo(7, 2.5);
+  imposible.tramo.Prs1Tram = imposible.tramo.Prs2Tram = 9;
+  imposible.tramo.PrsM1Tram = imposible.tramo.PrsM2Tram = 9.5;
+  const auto cuenta = [](const std::string& texto, const std::string& que) {
+    int n = 0;
+    for (auto i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++n;
+    return n;
+  };
+  const std::string normal = ListadoDe({debil, imposible}, "normal");
+  EXPECT_EQ(cuenta(normal, "RESISTENCIA INICIAL INSUFICIENTE"), 6);
+  EXPECT_EQ(cuenta(normal, "HIPOTESIS DE CALCULO:  "), 6);
+  EXPECT_EQ(cuenta(normal, "PERDIDAS DE  POSTESADO"), 0);
+  EXPECT_EQ(cuenta(normal, "ESPESOR DE TUBO INSUFICIENTE"), 1);
+  EXPECT_EQ(Compara("postesado-avisos-pantalla.txt", ListadoDe({debil, imposible}, "pantalla")),
+            "");
+  EXPECT_EQ(Compara("postesado-avisos-tabular.txt", ListadoDe({debil, imposible}, "tabular")), "");
 }
 
 // Sheets as they come out of the paper.

@@ -50,6 +50,15 @@ TEST(Resumen, TextoDeLaPantalla) {
   EXPECT_EQ(Compara("resumen.txt", texto), "");
 }
 
+TEST(Resumen, TextoDeUnTramoPostesado) {
+  auto e = pruebas::EstadoDeMuestra(7);
+  e.tramo.NumeroTramo = 7;
+  std::string texto = ResumenDe(pruebas::EnMks(e), '.');
+  e.tramo.Fckno = 12;
+  texto += ResumenDe(e, ',');
+  EXPECT_EQ(Compara("resumen-postesado.txt", texto), "");
+}
+
 TEST(Resumen, ElMismoTramoEnSIYEnMksSoloCambiaDeUnidades) {
   const auto lineas = [](const std::string& t) { return std::count(t.begin(), t.end(), '\n'); };
   for (int posicion = 1; posicion <= 5; ++posicion) {
@@ -94,7 +103,7 @@ TEST(Json, LeidoDaLosMismosDobles) {
 
   const auto leido = nlohmann::json::parse(salida.str());
   EXPECT_EQ(leido["obra"]["NombreObra"], e.obra.NombreObra);
-  ASSERT_EQ(leido["tramos"].size(), 5u);
+  ASSERT_EQ(leido["tramos"].size(), 7u);
   std::size_t i = 0;
   for (const auto& tramo : leido["tramos"]) {
     EXPECT_TRUE(tramo["error"].is_null());
@@ -105,8 +114,18 @@ TEST(Json, LeidoDaLosMismosDobles) {
       EXPECT_EQ(caso["Q"].get<double>(), x.corrida.Q);
       EXPECT_EQ(caso["Landa"].get<double>(), x.corrida.Landa);
       EXPECT_EQ(caso["MHip"][4][2].get<double>(), x.caso.MHip(5, 3));
-      EXPECT_EQ(caso["armado"]["N"][2][0].get<double>(), x.caso.armado.esfuerzos.N(3, 1));
-      EXPECT_EQ(caso["armado"]["TablaHip"][4][2].get<double>(), x.caso.armado.TablaHip(5).Total);
+      if (x.tramo.EsArmado) {
+        const auto& r = x.caso.armado;
+        EXPECT_EQ(caso["armado"]["N"][2][0].get<double>(), r.esfuerzos.N(3, 1));
+        EXPECT_EQ(caso["armado"]["TablaHip"][4][2].get<double>(), r.TablaHip(5).Total);
+      } else {
+        const auto& r = x.caso.postesado;
+        EXPECT_EQ(caso["postesado"]["NESPDEFI"].get<double>(), r.NESPDEFI);
+        EXPECT_EQ(caso["postesado"]["hipotesis"].size(), 6u);
+        EXPECT_EQ(caso["postesado"]["hipotesis"][2]["TotAc"][1].get<double>(),
+                  r.hipotesis(3).TotAc(2));
+        EXPECT_EQ(caso["postesado"]["PP"].get<double>(), x.corrida.PP);
+      }
       EXPECT_EQ(caso["avisos"].size(), x.caso.avisos.size());
       EXPECT_TRUE(caso["TerraplenRige"].is_boolean());
     }
