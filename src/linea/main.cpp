@@ -152,4 +152,7 @@ int main(int argc, char** argv) try {
   // Without the catalogue there is no text to say it with.
   std::cerr << "zorbin-calc: " << error.what() << '\n';
   return kFicheroRechazado;
+} catch (const std::exception& error) {
+  std::cerr << "zorbin-calc: " << error.what() << '\n';
+  return kFalloDeCorrida;
 }

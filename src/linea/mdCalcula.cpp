@@ -9,6 +9,7 @@
 #include "core/mdTextos.h"
 #include "linea/mdPalabras.h"
 #include "linea/mdSalida.h"
+#include "linea/mdSalidaPdf.h"
 #include "linea/mdVigia.h"
 #include "listados/mdFlujo.h"
 #include "listados/mdHojasTexto.h"
@@ -21,8 +22,6 @@
 #include "persistencia/mdDpe.h"
 #include "persistencia/mdLog.h"
 #include "recursos/textos.h"
-#include "shell/mdPintor.h"
-#include "shell/mdSinPantalla.h"
 
 namespace zorbin {
 
@@ -80,6 +79,24 @@ EstiloNumeros Estilo(const EstadoCalculo& e, const OpcionesCalcula& opciones) {
   return {e.obra.EsSI(), separador};
 }
 
+// What is wrong with options that do not go together, or nothing.
+std::string NoVanJuntas(const OpcionesCalcula& o, const Catalogo& textos) {
+  const bool pdf = !o.pdf.empty();
+  const bool texto = !o.texto.empty();
+  const bool salida = !o.salida.empty();
+  const auto juntas = [&](const char* a, const char* b) {
+    return textos.Compone(txt::NoVanJuntas, {a, b});
+  };
+  if (o.listado.empty()) {
+    if (!pdf && !texto) return "";
+    return textos.Compone(txt::NecesitaOtra, {pdf ? "--pdf" : "--texto", "--listado"});
+  }
+  if (!o.formato.empty()) return juntas("--listado", "--formato");
+  if (pdf && texto) return juntas("--pdf", "--texto");
+  if ((pdf || texto) && salida) return juntas(pdf ? "--pdf" : "--texto", "--salida");
+  return "";
+}
+
 // Calculates the Tramos of a request for one reader, and watches over them.
 class Calculador {
  public:
@@ -134,17 +151,8 @@ class Calculador {
   }
 
   int ListadoPdf() {
-    const AplicacionSinPantalla aplicacion;
-    try {
-      HojasPdf hojas(opciones_.pdf, e_.obra.NombreObra);
-      Imprime(hojas);
-      hojas.Cierra();
-      std::cout << textos_.Compone(txt::ListadoEscrito,
-                                   {opciones_.pdf.string(), TextoEntero(hojas.paginas())})
-                << '\n';
-    } catch (const ErrorPintor& error) {
-      throw ErrorSalida(opciones_.pdf.string(), error.what());
-    }
+    EscribePdf(opciones_.pdf, e_.obra.NombreObra, textos_,
+               [this](DestinoHojas& hojas) { Imprime(hojas); });
     return Codigo();
   }
 
@@ -173,6 +181,10 @@ class Calculador {
 }  // namespace
 
 int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
+  if (const auto queja = NoVanJuntas(opciones, textos); !queja.empty()) {
+    Queja(queja);
+    return kPalabrasMalas;
+  }
   for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto}) {
     if (!PisaLaObra(salida, opciones.obra)) continue;
     Queja(textos.Compone(txt::SalidaSobreLaObra, {salida.string()}));

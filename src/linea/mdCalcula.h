@@ -12,7 +12,7 @@ namespace zorbin {
 struct OpcionesCalcula {
   std::filesystem::path obra;
   std::vector<int> tramos;          // numbers; empty for all
-  std::string formato = "resumen";  // or "json"
+  std::string formato;              // "resumen", which is also the empty one, or "json"
   std::string listado;              // "normal", "tabular", "pantalla", "lame" or empty for none
   std::filesystem::path pdf;        // of the listing
   std::filesystem::path texto;      // of the listing

@@ -1,7 +1,6 @@
 #include "linea/mdCalculadoras.h"
 
 #include <functional>
-#include <iostream>
 #include <nlohmann/json.hpp>
 
 #include "core/mdNumeros.h"
@@ -10,12 +9,12 @@
 #include "hidraulica/mdHidraulicaListado.h"
 #include "hidraulica/mdHidraulicaPapel.h"
 #include "linea/mdPalabras.h"
+#include "linea/mdSalida.h"
+#include "linea/mdSalidaPdf.h"
 #include "linea/mdVigia.h"
 #include "protecciones/mdEntradaMedios.h"
 #include "protecciones/mdMediosPapel.h"
 #include "recursos/textos.h"
-#include "shell/mdPintor.h"
-#include "shell/mdSinPantalla.h"
 
 namespace zorbin {
 
@@ -34,28 +33,33 @@ int Rechaza(const AvisoCampo& aviso, const Catalogo& textos) {
   return kPalabrasMalas;
 }
 
-int EscribePdf(const std::filesystem::path& fichero, const std::string& titulo,
-               const Catalogo& textos, const std::function<void(Papel&)>& documento) {
-  const AplicacionSinPantalla aplicacion;
-  try {
-    HojasPdf hojas(fichero, titulo);
-    Papel papel(hojas, Orientacion::Vertical);
-    documento(papel);
-    papel.FinDocumento();
-    hojas.Cierra();
-    std::cout << textos.Compone(txt::ListadoEscrito,
-                                {fichero.string(), TextoEntero(hojas.paginas())})
-              << '\n';
-  } catch (const ErrorPintor& error) {
-    Queja(textos.Compone(txt::SalidaNoSeEscribe, {fichero.string(), error.what()}));
-    return kSalidaImposible;
-  }
+// Writes a result where it was asked for.
+int Escribe(const std::function<std::string()>& texto) {
+  Salida salida({});
+  salida.flujo() << texto();
+  salida.Cierra();
   return kHecho;
 }
 
-int Escribe(const std::string& texto, const Catalogo& textos) {
-  if (std::cout << texto << std::flush) return kHecho;
-  Queja(textos.Compone(txt::SalidaNoSeEscribe, {"stdout", "EIO"}));
+int Documento(const OpcionesSalida& o, const std::string& titulo, const Catalogo& textos,
+              const std::function<void(Papel&)>& contenido) {
+  EscribePdf(o.pdf, titulo, textos, [&](DestinoHojas& hojas) {
+    Papel papel(hojas, Orientacion::Vertical);
+    contenido(papel);
+    papel.FinDocumento();
+  });
+  return kHecho;
+}
+
+// Whether the output is asked for in two ways; says so.
+bool DosSalidas(const OpcionesSalida& o, const Catalogo& textos) {
+  if (o.pdf.empty() || o.formato.empty()) return false;
+  Queja(textos.Compone(txt::NoVanJuntas, {"--pdf", "--formato"}));
+  return true;
+}
+
+int NoSeEscribe(const ErrorSalida& error, const Catalogo& textos) {
+  Queja(textos.Compone(txt::SalidaNoSeEscribe, {error.nombre(), error.what()}));
   return kSalidaImposible;
 }
 
@@ -95,8 +99,9 @@ Json JsonMedios(const ResultadoMedios& r, const Catalogo& textos, const EstiloNu
 
 }  // namespace
 
-int Hidraulica(const OpcionesHidraulica& o, Catalogo& textos) {
+int Hidraulica(const OpcionesHidraulica& o, Catalogo& textos) try {
   PonIdiomaDeLinea(textos, o.salida.idioma);
+  if (DosSalidas(o.salida, textos)) return kPalabrasMalas;
   if (o.pendiente.has_value() == o.caudal.has_value()) {
     Queja(textos.Compone(txt::UnoDeEstos, {"--pendiente, --caudal"}));
     return kPalabrasMalas;
@@ -111,17 +116,20 @@ int Hidraulica(const OpcionesHidraulica& o, Catalogo& textos) {
   if (const auto aviso = Calcula(e)) return Rechaza(*aviso, textos);
   const EstiloNumeros estilo{true, e.SeparadorDecimal};
   if (!o.salida.pdf.empty()) {
-    return EscribePdf(o.salida.pdf, textos.Texto(SalidaDe(*e.resultado).titulo), textos,
-                      [&](Papel& papel) { PapelHidraulico(*e.resultado, textos, estilo, papel); });
+    return Documento(o.salida, textos.Texto(SalidaDe(*e.resultado).titulo), textos,
+                     [&](Papel& papel) { PapelHidraulico(*e.resultado, textos, estilo, papel); });
   }
   if (o.salida.formato == "json") {
-    return Escribe(JsonHidraulico(o, *e.resultado).dump(1) + "\n", textos);
+    return Escribe([&] { return JsonHidraulico(o, *e.resultado).dump(1) + "\n"; });
   }
-  return Escribe(TextoHidraulico(*e.resultado, textos, estilo), textos);
+  return Escribe([&] { return TextoHidraulico(*e.resultado, textos, estilo); });
+} catch (const ErrorSalida& error) {
+  return NoSeEscribe(error, textos);
 }
 
-int Medios(const OpcionesMedios& o, Catalogo& textos) {
+int Medios(const OpcionesMedios& o, Catalogo& textos) try {
   PonIdiomaDeLinea(textos, o.salida.idioma);
+  if (DosSalidas(o.salida, textos)) return kPalabrasMalas;
   auto e = CargaProtecciones(Separador(o.salida));
   e.Check1 = o.ciclos;
   for (int i = 0; i < kMedios; ++i) {
@@ -134,13 +142,15 @@ int Medios(const OpcionesMedios& o, Catalogo& textos) {
   if (const auto aviso = Analiza(e)) return Rechaza(*aviso, textos);
   const EstiloNumeros estilo{true, e.SeparadorDecimal};
   if (!o.salida.pdf.empty()) {
-    return EscribePdf(o.salida.pdf, textos.Texto(txt::AnalisisDeMedios), textos,
-                      [&](Papel& papel) { PapelMedios(*e.resultado, textos, estilo, papel); });
+    return Documento(o.salida, textos.Texto(txt::AnalisisDeMedios), textos,
+                     [&](Papel& papel) { PapelMedios(*e.resultado, textos, estilo, papel); });
   }
   if (o.salida.formato == "json") {
-    return Escribe(JsonMedios(*e.resultado, textos, estilo).dump(1) + "\n", textos);
+    return Escribe([&] { return JsonMedios(*e.resultado, textos, estilo).dump(1) + "\n"; });
   }
-  return Escribe(TextoMedios(*e.resultado, textos, estilo), textos);
+  return Escribe([&] { return TextoMedios(*e.resultado, textos, estilo); });
+} catch (const ErrorSalida& error) {
+  return NoSeEscribe(error, textos);
 }
 
 }  // namespace zorbin

@@ -13,8 +13,8 @@ namespace zorbin {
 
 /// What both calculators may be asked for.
 struct OpcionesSalida {
-  std::string formato = "texto";  // or "json"
-  std::filesystem::path pdf;      // empty for no PDF
+  std::string formato;        // "texto", which is also the empty one, or "json"
+  std::filesystem::path pdf;  // empty for no PDF
   std::string idioma = "es";
   std::string separador;  // "coma", "punto" or empty for the machine's
 };

@@ -33,11 +33,6 @@ void HojasTexto::RecibeHoja(const Hoja& hoja) {
   std::vector<std::string> lineas;
   for (const auto& t : hoja.textos) lineas.push_back(SinBlancosFinales(t.texto));
   if (lineas.empty()) lineas.emplace_back();
-  for (const auto& r : hoja.reglas) {
-    auto& linea = lineas[Fila(hoja.textos, r.y + kBajoRegla)];
-    if (!linea.empty()) continue;
-    linea = std::string(Columna(r.x1), ' ') + std::string(Columna(r.x2) - Columna(r.x1), '_');
-  }
   const double fin = hoja.textos.empty() ? 0.0 : hoja.textos.back().y + AltoLinea(kCuerpoNormal);
   for (const auto& f : hoja.figuras) {
     const auto fila = f.y < fin - kHolgura ? Fila(hoja.textos, f.y) : hoja.textos.size();
@@ -45,6 +40,18 @@ void HojasTexto::RecibeHoja(const Hoja& hoja) {
     auto& linea = lineas[fila];
     const int hueco = static_cast<int>(Columna(f.x)) - static_cast<int>(Largo(linea));
     linea += Blancos(std::max(1, hueco)) + "[" + f.nombre + "]";
+  }
+  // From the last one up, for a rule without a blank line takes a line of its own.
+  for (auto r = hoja.reglas.rbegin(); r != hoja.reglas.rend(); ++r) {
+    const auto fila =
+        lineas.begin() + static_cast<std::ptrdiff_t>(Fila(hoja.textos, r->y + kBajoRegla));
+    const auto regla =
+        std::string(Columna(r->x1), ' ') + std::string(Columna(r->x2) - Columna(r->x1), '_');
+    if (fila->empty()) {
+      *fila = regla;
+    } else {
+      lineas.insert(fila, regla);
+    }
   }
   for (const auto& linea : lineas) salida_ << linea << '\n';
   salida_ << '\f';

@@ -145,6 +145,7 @@ Json DeMensaje(const std::optional<ClaseAviso>& mensaje, const Catalogo& textos)
 Json DeHipotesis(const HipotesisPostesada& h, const ResultadoPostesado& r, const Catalogo& textos) {
   const auto& m = r.materiales;
   return {{"h", h.h},
+          {"hecha", h.hecha},
           {"error", h.error},
           {"texto", DeMensaje(h.texto, textos)},
           {"MomHip", DeLista(h.MomHip)},
@@ -210,7 +211,6 @@ Json DePostesado(const EstadoCalculo& e, const Catalogo& textos) {
   Json hipotesis = Json::array();
   for (int h = 1; h <= kHipotesisPostesado; ++h) {
     hipotesis.push_back(DeHipotesis(r.hipotesis(h), r, textos));
-    hipotesis.back()["h"] = h;
   }
   return {{"FIPRDEFI", r.FIPRDEFI},
           {"NESPDEFI", r.NESPDEFI},

@@ -11,6 +11,9 @@ class ListadoPantalla : public ListadoPapel {
 
   void Progreso(const EstadoCalculo& e) override;
   void Caso(const EstadoCalculo& e) override;
+  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
+    if (fallo != nullptr) LineasPagina += Fallo(e, *fallo);
+  }
 
  private:
   int LineasPagina = 0;  // lines used on the page, of 72

@@ -5,6 +5,7 @@
 #include <ctime>
 
 #include "core/mdTextos.h"
+#include "listados/mdAvisos.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
@@ -70,6 +71,20 @@ int ListadoPapel::BloqueObra(const Obra& obra) {
                 Texto(txt::FechaRotulo) + ": " + fecha_.dia + " " + fecha_.hora);
   papel_.Negrita(false);
   papel_.Regla(18, 185, 3);
+  return lineas;
+}
+
+int ListadoPapel::Fallo(const EstadoCalculo& e, const ErrorCorrida& fallo) {
+  int lineas = 1;
+  EnBlanco(1);
+  std::string resto = "** " + TextoFallo(fallo, std::string(Recorta(e.tramo.DescriTramo)),
+                                         numeroEnLista_, textos_, estilo_);
+  while (!resto.empty()) {
+    auto [linea, queda] = PartirTexto(resto, kAnchoObra);
+    EnNegrita(10, linea);
+    resto = std::move(queda);
+    ++lineas;
+  }
   return lineas;
 }
 

@@ -39,15 +39,21 @@ class ListadoPapel : public OyenteObra {
         estilo_(medios.estilo),
         fecha_(medios.fecha) {}
 
-  void EmpiezaTramo(const EstadoCalculo&, int, const std::string&) override {}
-  void AcabaTramo(const EstadoCalculo&, const ErrorCorrida*) override {}
+  void EmpiezaTramo(const EstadoCalculo&, int, const std::string& numero) override {
+    numeroEnLista_ = numero;
+  }
+  /// Says where and why a Tramo broke off: nobody takes the pages before it for the whole.
+  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
+    if (fallo != nullptr) Fallo(e, *fallo);
+  }
 
  protected:
   Papel& papel_;
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   Fecha fecha_;
-  int Pagina = 0;  // 0 before the first page
+  std::string numeroEnLista_;  // of the Tramo in hand
+  int Pagina = 0;              // 0 before the first page
 
   const std::string& Texto(int n) const { return textos_.Texto(n); }
   std::string Numero(double valor, int ancho, int decimales, std::string_view conversion = {},
@@ -64,6 +70,9 @@ class ListadoPapel : public OyenteObra {
 
   /// Obra, client, date and time, with the rule under them. @return lines of the description
   int BloqueObra(const Obra& obra);
+
+  /// @return lines printed
+  int Fallo(const EstadoCalculo& e, const ErrorCorrida& fallo);
 
   /// "CASO NUMERO: n/Tramo : description".
   std::string RotuloCaso(const EstadoCalculo& e) const;

@@ -1,5 +1,6 @@
 #include "listados/mdListadoTabular.h"
 
+#include <algorithm>
 #include <array>
 
 #include "listados/mdAvisos.h"
@@ -12,6 +13,7 @@ namespace {
 constexpr int kBloqueArmado = 14;     // lines that a reinforced Tramo takes before its rows
 constexpr int kBloquePostesado = 19;  // the same of a post-tensioned one
 constexpr int kCabezaPagina = 6;
+constexpr int kLineasFilas = 20;  // that a long description leaves to the rows
 constexpr int kFilaTramo = 9;
 constexpr int kCabezaTabla = 5;
 constexpr int kDatosPostesado = 6;
@@ -42,7 +44,7 @@ void ListadoTabular::CabeceraPagina(const EstadoCalculo& e) {
   EnNegrita(4, Blancos(12 + 64) + Texto(txt::PagTabular) + ":" + FormatoEntero(Pagina, 5));
   papel_.Cuerpo(kCuerpoNormal);
   const int masLineas = BloqueObra(e.obra) - 1;  // the head counts one of the description
-  LineasResto = kLineasTabular - kCabezaPagina - masLineas;
+  LineasResto = std::max(kLineasFilas, kLineasTabular - kCabezaPagina - masLineas);
 }
 
 void ListadoTabular::PaginaNueva(const EstadoCalculo& e) {

@@ -306,6 +306,9 @@ inline constexpr int PalabraFichero = 1179;
 inline constexpr int PalabraCarpeta = 1180;
 inline constexpr int PalabraFecha = 1181;
 inline constexpr int SalidaSobreLaObra = 1182;
+inline constexpr int NoVanJuntas = 1183;
+inline constexpr int NecesitaOtra = 1184;
+inline constexpr int FaltaFuente = 1185;
 inline constexpr int AyudaFecha = 1129;
 
 // Failures of a run

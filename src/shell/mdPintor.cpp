@@ -1,6 +1,8 @@
 #include "shell/mdPintor.h"
 
+#include <QFile>
 #include <QFontDatabase>
+#include <QIODevice>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -36,10 +38,62 @@ QString EligeFamilia() {
   for (const char* familia : kFamilias) {
     if (TieneAvance(QString::fromLatin1(familia))) return QString::fromLatin1(familia);
   }
-  throw ErrorPintor("Courier New, Liberation Mono: no such font");
+  throw ErrorFuente("Courier New, Liberation Mono");
 }
 
 }  // namespace
+
+// The PDF writer never looks back at what became of its bytes: this device writes them whole, or
+// remembers that it could not.
+class FicheroPdf : public QIODevice {
+ public:
+  explicit FicheroPdf(const std::filesystem::path& ruta) {
+    const auto nombre = QString::fromStdString(ruta.string());
+    std::error_code error;
+    if (!std::filesystem::exists(ruta, error) || std::filesystem::is_regular_file(ruta, error)) {
+      provisional_ = new QSaveFile(nombre, this);
+      fichero_ = provisional_;
+    } else {
+      fichero_ = new QFile(nombre, this);
+    }
+    if (!fichero_->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) Falla();
+    open(QIODevice::WriteOnly);
+  }
+
+  void Cierra() {
+    QIODevice::close();
+    if (falta_) throw ErrorPintor(causa_.toStdString());
+    if (provisional_ == nullptr) {
+      fichero_->close();
+    } else if (!provisional_->commit()) {
+      Falla();
+    }
+  }
+
+ protected:
+  qint64 readData(char*, qint64) override { return -1; }
+
+  qint64 writeData(const char* datos, qint64 cuantos) override {
+    for (qint64 hechos = 0; hechos < cuantos && !falta_;) {
+      const qint64 n = fichero_->write(datos + hechos, cuantos - hechos);
+      if (n > 0) {
+        hechos += n;
+        continue;
+      }
+      falta_ = true;
+      causa_ = fichero_->errorString();
+    }
+    return falta_ ? -1 : cuantos;
+  }
+
+ private:
+  QFileDevice* fichero_ = nullptr;
+  QSaveFile* provisional_ = nullptr;  // none for a device
+  bool falta_ = false;
+  QString causa_;
+
+  [[noreturn]] void Falla() const { throw ErrorPintor(fichero_->errorString().toStdString()); }
+};
 
 Pintor::Pintor() : familia_(EligeFamilia()) {}
 
@@ -119,13 +173,10 @@ void Pintor::Pinta(QPainter& pintor, const Hoja& hoja, double porMm) {
 }
 
 HojasPdf::HojasPdf(const std::filesystem::path& fichero, const std::string& titulo)
-    : fichero_(std::make_unique<QSaveFile>(QString::fromStdString(fichero.string()))) {
-  if (!fichero_->open(QIODevice::WriteOnly)) {
-    throw ErrorPintor(fichero_->errorString().toStdString());
-  }
+    : fichero_(std::make_unique<FicheroPdf>(fichero)) {
   pdf_ = std::make_unique<QPdfWriter>(fichero_.get());
   pdf_->setResolution(kResolucion);
-  pdf_->setTitle(QString::fromStdString(titulo));
+  pdf_->setTitle(QString::fromStdString(titulo).simplified());
   pdf_->setCreator(QStringLiteral("ZORBIN"));
 }
 
@@ -154,7 +205,7 @@ void HojasPdf::Cierra() {
   lienzo_->end();
   lienzo_.reset();
   pdf_.reset();
-  if (!fichero_->commit()) throw ErrorPintor(fichero_->errorString().toStdString());
+  fichero_->Cierra();
 }
 
 }  // namespace zorbin

@@ -8,13 +8,13 @@
 #include <QRawFont>
 #include <QString>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <stdexcept>
 
 #include "listados/mdPapel.h"
 
 class QPdfWriter;
-class QSaveFile;
 
 namespace zorbin {
 
@@ -24,11 +24,19 @@ class ErrorPintor : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// No font of the machine serves; the message names the ones that would.
+class ErrorFuente : public ErrorPintor {
+ public:
+  using ErrorPintor::ErrorPintor;
+};
+
+class FicheroPdf;
+
 /// Paints a sheet with a monospaced font: Courier New, or a twin of the same advance. Fonts, the
 /// glyphs of a letter and pictures are looked up once.
 class Pintor {
  public:
-  /// @throws ErrorPintor when the machine has no font with the advance of 0.6
+  /// @throws ErrorFuente when the machine has no font with the advance of 0.6
   Pintor();
 
   /// @param porMm  device units of the painter for a millimetre
@@ -50,7 +58,8 @@ class Pintor {
   void PintaFigura(QPainter& pintor, const FiguraHoja& figura, double porMm);
 };
 
-/// Sheets as the pages of a PDF file, which takes its name when it is whole.
+/// Sheets as the pages of a PDF file, which takes its name when it is whole; a device or a pipe is
+/// written as it stands.
 class HojasPdf : public DestinoHojas {
  public:
   /// @throws ErrorPintor when the file cannot be opened
@@ -63,7 +72,7 @@ class HojasPdf : public DestinoHojas {
   int paginas() const { return paginas_; }
 
  private:
-  std::unique_ptr<QSaveFile> fichero_;
+  std::unique_ptr<FicheroPdf> fichero_;
   std::unique_ptr<QPdfWriter> pdf_;
   std::unique_ptr<QPainter> lienzo_;
   Pintor pintor_;

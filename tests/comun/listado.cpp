@@ -21,14 +21,15 @@ std::unique_ptr<OyenteObra> Crea(const std::string& clase, const MediosPapel& me
   return std::make_unique<ListadoNormal>(medios, clase == "lame");
 }
 
-}  // namespace
+struct Guarda : DestinoHojas {
+  std::vector<Hoja> hojas;
+  void RecibeHoja(const Hoja& h) override { hojas.push_back(h); }
+};
 
-std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
-                      std::int16_t idioma, char separador) {
+void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const std::string& clase,
+           std::int16_t idioma, char separador) {
   Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   textos.PonIdioma(idioma);
-  std::ostringstream salida;
-  HojasTexto hojas(salida);
   Papel papel(hojas, clase == "tabular" ? Orientacion::Apaisada : Orientacion::Vertical);
   const EstiloNumeros estilo{tramos.at(0).obra.EsSI(), separador};
   const auto listado = Crea(clase, {papel, textos, estilo, {"21/11/2026", "09:30:00"}});
@@ -39,10 +40,32 @@ std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::strin
     e = t;
     e.caso = anterior;
     const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+    listado->EmpiezaTramo(e, e.tramo.NumeroTramo, std::to_string(e.tramo.NumeroTramo));
+    try {
+      CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+      listado->AcabaTramo(e, nullptr);
+    } catch (const ErrorCorrida& fallo) {
+      listado->AcabaTramo(e, &fallo);
+    }
   }
   papel.FinDocumento();
+}
+
+}  // namespace
+
+std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
+                      std::int16_t idioma, char separador) {
+  std::ostringstream salida;
+  HojasTexto hojas(salida);
+  Lista(hojas, tramos, clase, idioma, separador);
   return salida.str();
+}
+
+std::vector<Hoja> HojasDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
+                          std::int16_t idioma, char separador) {
+  Guarda guarda;
+  Lista(guarda, tramos, clase, idioma, separador);
+  return guarda.hojas;
 }
 
 }  // namespace zorbin::pruebas

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/estado_calculo.h"
+#include "listados/mdPapel.h"
 
 namespace zorbin::pruebas {
 
@@ -13,5 +14,9 @@ namespace zorbin::pruebas {
 /// @param idioma  1 to 5
 std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
                       std::int16_t idioma = 1, char separador = ',');
+
+/// The same, as the sheets that a painter would take.
+std::vector<Hoja> HojasDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
+                          std::int16_t idioma = 1, char separador = ',');
 
 }  // namespace zorbin::pruebas

@@ -84,7 +84,11 @@ TEST_F(Linea, UnTramoUOtroYEnQueOrden) {
 TEST_F(Linea, LasPalabrasMalasSeDicenEnUnaLinea) {
   for (const char* palabras :
        {"", "calcular x", "calcula", "calcula a b", "calcula a --formato xml", "calcula a --tramo",
-        "calcula a --tramo dos", "calcula a --separador punto_y_coma", "--nada"}) {
+        "calcula a --tramo dos", "calcula a --separador punto_y_coma", "--nada",
+        "calcula a --pdf b", "calcula a --texto b", "calcula a --listado lame --formato json",
+        "calcula a --listado lame --pdf b --texto c", "calcula a --listado lame --pdf b --salida c",
+        "medios --formato json --pdf b",
+        "hidraulica --metodo hazen --caudal 1 --formato json --pdf b"}) {
     const auto r = Llama(palabras);
     EXPECT_EQ(r.codigo, 2) << palabras;
     EXPECT_EQ(std::count(r.quejas.begin(), r.quejas.end(), '\n'), 1) << r.quejas;
@@ -176,6 +180,8 @@ TEST_F(Linea, UnaSalidaImposibleSeDiceYNoDejaRestos) {
   EXPECT_EQ(r.codigo, 4);
   EXPECT_NE(r.quejas.find("/no/hay/r.txt"), std::string::npos);
   EXPECT_EQ(Llama("calcula " + acequia + " --salida /dev/full").codigo, 4);
+  const int estado = std::system(ZORBIN_CALC " medios >/dev/full 2>/dev/null");
+  EXPECT_EQ(WEXITSTATUS(estado), 4);
   const auto sinLog = Llama("calcula " + acequia + " --tramo 1 --registros /proc/no");
   EXPECT_EQ(sinLog.codigo, 3);
   EXPECT_NE(sinLog.quejas.find("Debugpim_cal.txt"), std::string::npos);

@@ -15,6 +15,7 @@ namespace {
 
 using pruebas::Compara;
 using pruebas::EnMks;
+using pruebas::HojasDe;
 using pruebas::ListadoDe;
 
 EstadoCalculo Tramo(int posicion, double altura) {
@@ -177,6 +178,46 @@ TEST(ListadosPostesado, LosDiagnosticos) {
   EXPECT_EQ(Compara("postesado-avisos-pantalla.txt", ListadoDe({debil, imposible}, "pantalla")),
             "");
   EXPECT_EQ(Compara("postesado-avisos-tabular.txt", ListadoDe({debil, imposible}, "tabular")), "");
+}
+
+// Size, bold and underline of the first line that holds a text; size 0 when there is none.
+std::string Letra(const std::vector<Hoja>& hojas, const std::string& que) {
+  for (const auto& hoja : hojas) {
+    for (const auto& t : hoja.textos) {
+      if (t.texto.find(que) == std::string::npos) continue;
+      return TextoEntero(static_cast<int>(t.cuerpo)) + (t.negrita ? "b" : "") +
+             (t.subrayado ? "_" : "");
+    }
+  }
+  return "0";
+}
+
+TEST(Listados, LetraDeLosTitulosYDiagnosticos) {
+  const auto normal = HojasDe({UnaPresion(Tramo(1, 2))}, "normal");
+  EXPECT_EQ(Letra(normal, "Pag"), "14b");
+  EXPECT_EQ(Letra(normal, "HIPOTESIS   Peso propio"), "10b");
+  EXPECT_EQ(Letra(normal, "SECCION     MOMENTO"), "10_");
+  EXPECT_EQ(Letra(normal, "ARMADURA INTERIOR"), "10b");
+  auto debil = Tramo(7, 2.5);
+  debil.tramo.Fckno = 12;
+  EXPECT_EQ(Letra(HojasDe({debil}, "normal"), "RESISTENCIA INICIAL INSUF"), "12b");
+  EXPECT_EQ(Letra(HojasDe({Tramo(7, 2.5)}, "tabular"), "Fck Prim."), "10b");
+  EXPECT_EQ(Letra(HojasDe({Tramo(3, 3)}, "pantalla"), "CASO NUMERO"), "10b");
+}
+
+// A Tramo that breaks off says so on its page. A dozen of them leave little of the page, and the
+// next Caso breaks its own block: the label of that break is kept, odd as it is.
+TEST(ListadoPantalla, TramosFallidosYSaltoDentroDeUnCaso) {
+  auto fallido = UnaPresion(Tramo(2, 3));
+  fallido.tramo.Fi = 0;
+  std::vector<EstadoCalculo> tramos(12, fallido);
+  auto debil = UnaPresion(Tramo(7, 2.5));
+  debil.tramo.Fckno = 12;
+  tramos.push_back(debil);
+  EXPECT_EQ(Compara("pantalla-fallos.txt", ListadoDe(tramos, "pantalla")), "");
+  for (const char* clase : {"normal", "tabular"}) {
+    EXPECT_NE(ListadoDe({fallido}, clase).find("División por cero"), std::string::npos) << clase;
+  }
 }
 
 // Sheets as they come out of the paper.

@@ -74,6 +74,21 @@ TEST_F(Pdf, UnPdfImposibleSeDiceYNoDejaRestos) {
   int codigo = -1;
   EXPECT_NE(Imprime("--listado normal", &codigo).find("/no/hay/l.pdf"), std::string::npos);
   EXPECT_EQ(codigo, 4);
+  // A disk that fills up halfway: the writer of the PDF goes on as if nothing were lost.
+  pdf = carpeta / "l.pdf";
+  const std::string hidraulica =
+      ZORBIN_CALC " hidraulica --metodo hazen --caudal 1 --pdf " + pdf.string();
+  EXPECT_NE(Orden("trap '' XFSZ; ulimit -f 2; " + hidraulica, &codigo).find("l.pdf"),
+            std::string::npos);
+  EXPECT_EQ(codigo, 4);
+  EXPECT_TRUE(fs::is_empty(carpeta));
+  // A pipe takes the document and stays a pipe.
+  Orden("mkfifo " + pdf.string() + "; cat " + pdf.string() + " >" + (carpeta / "c").string() +
+            " & sleep 0.1; " + hidraulica + "; r=$?; wait; exit $r",
+        &codigo);
+  EXPECT_EQ(codigo, 0);
+  EXPECT_TRUE(fs::is_fifo(pdf));
+  EXPECT_EQ(Orden("head -c 4 " + (carpeta / "c").string()), "%PDF");
 }
 
 }  // namespace

@@ -1,0 +1,32 @@
+#include "linea/mdSalidaPdf.h"
+
+#include <iostream>
+
+#include "core/mdTextos.h"
+#include "linea/mdSalida.h"
+#include "recursos/textos.h"
+#include "shell/mdPintor.h"
+#include "shell/mdSinPantalla.h"
+
+namespace zorbin {
+
+void EscribePdf(const std::filesystem::path& fichero, const std::string& titulo,
+                const Catalogo& textos, const std::function<void(DestinoHojas&)>& documento) {
+  const AplicacionSinPantalla aplicacion;
+  try {
+    HojasPdf hojas(fichero, titulo);
+    documento(hojas);
+    hojas.Cierra();
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(fichero, error)) return;  // standard output, perhaps
+    std::cout << textos.Compone(txt::ListadoEscrito,
+                                {fichero.string(), TextoEntero(hojas.paginas())})
+              << '\n';
+  } catch (const ErrorFuente& error) {
+    throw ErrorSalida(fichero.string(), textos.Compone(txt::FaltaFuente, {error.what()}));
+  } catch (const ErrorPintor& error) {
+    throw ErrorSalida(fichero.string(), error.what());
+  }
+}
+
+}  // namespace zorbin
