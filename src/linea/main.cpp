@@ -5,6 +5,7 @@
 #include "linea/mdCalcula.h"
 #include "linea/mdCalculadoras.h"
 #include "linea/mdPalabras.h"
+#include "linea/mdValida.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
@@ -25,6 +26,7 @@ class Ordenes {
     app_.require_subcommand(1);
     PonRotulosDeAyuda(app_, textos_);
     DeclaraCalcula();
+    DeclaraValida();
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -40,6 +42,7 @@ class Ordenes {
       return kPalabrasMalas;
     }
     if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
+    if (valida_->parsed()) return Valida(deValida_, textos_);
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -48,9 +51,11 @@ class Ordenes {
   Catalogo& textos_;
   CLI::App app_;
   CLI::App* calcula_ = nullptr;
+  CLI::App* valida_ = nullptr;
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
+  OpcionesValida deValida_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -77,14 +82,27 @@ class Ordenes {
     Opcion(orden, nombre, valor, ayuda, tipo)->check(UnoDe(std::move(palabras), textos_, nombre));
   }
 
-  void DeclaraCalcula() {
-    calcula_ = Orden("calcula", txt::CalculaUnaObra);
-    auto& o = deCalcula_;
-    Opcion(calcula_, "OBRA.zrb", o.obra, txt::AyudaFichero, "")->required();
-    Opcion(calcula_, "--tramo", o.tramos, txt::AyudaTramo, "N")
+  // The project of an order and the Tramos chosen of it.
+  void DeclaraObra(CLI::App* orden, std::filesystem::path& obra, std::vector<int>& tramos) {
+    Opcion(orden, "OBRA.zrb", obra, txt::AyudaFichero, "")->required();
+    Opcion(orden, "--tramo", tramos, txt::AyudaTramo, "N")
         ->expected(1)
         ->allow_extra_args(false)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  }
+
+  void DeclaraValida() {
+    valida_ = Orden("valida", txt::ValidaUnaObra);
+    auto& o = deValida_;
+    DeclaraObra(valida_, o.obra, o.tramos);
+    Opcion(valida_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
+    Eleccion(valida_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+  }
+
+  void DeclaraCalcula() {
+    calcula_ = Orden("calcula", txt::CalculaUnaObra);
+    auto& o = deCalcula_;
+    DeclaraObra(calcula_, o.obra, o.tramos);
     Eleccion(calcula_, "--formato", o.formato, txt::AyudaFormato, {"resumen", "json"});
     Eleccion(calcula_, "--listado", o.listado, txt::AyudaListado,
              {"normal", "tabular", "pantalla", "lame"});
@@ -94,6 +112,8 @@ class Ordenes {
     Opcion(calcula_, "--fecha", o.fecha, txt::AyudaFecha, T(txt::PalabraFecha));
     Opcion(calcula_, "--salida", o.salida, txt::AyudaSalida, T(txt::PalabraFichero));
     Eleccion(calcula_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+    calcula_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
+    Opcion(calcula_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
     Opcion(calcula_, "--registros", o.registros, txt::AyudaRegistros, T(txt::PalabraCarpeta));
   }
 

@@ -10,6 +10,7 @@
 #include "linea/mdPalabras.h"
 #include "linea/mdSalida.h"
 #include "linea/mdSalidaPdf.h"
+#include "linea/mdValida.h"
 #include "linea/mdVigia.h"
 #include "listados/mdFlujo.h"
 #include "listados/mdHojasTexto.h"
@@ -49,34 +50,8 @@ bool PisaLaObra(const std::filesystem::path& salida, const std::filesystem::path
                              std::filesystem::equivalent(salida, RutaDpe(obra), error));
 }
 
-std::string NumerosDe(const ListaTramos& lista) {
-  std::string numeros;
-  for (const auto& n : lista) {
-    if (!n.empty()) numeros += (numeros.empty() ? "" : ", ") + n;
-  }
-  return numeros.empty() ? "-" : numeros;
-}
-
-// @return whether every number of the request is in the list
-bool BuscaTramos(const OpcionesCalcula& opciones, const ObraEnFichero& obra, const Catalogo& textos,
-                 PeticionCalculo& peticion) {
-  for (const int numero : opciones.tramos) {
-    const int posicion = PosicionDe(obra.lista, numero);
-    if (posicion == 0) {
-      Queja(textos.Compone(txt::TramoQueNoEsta,
-                           {TextoEntero(numero), opciones.obra.string(), NumerosDe(obra.lista)}));
-      return false;
-    }
-    peticion.posiciones.push_back(posicion);
-  }
-  return true;
-}
-
 EstiloNumeros Estilo(const EstadoCalculo& e, const OpcionesCalcula& opciones) {
-  const char separador = opciones.separador.empty()     ? SeparadorDeLaMaquina()
-                         : opciones.separador == "coma" ? ','
-                                                        : '.';
-  return {e.obra.EsSI(), separador};
+  return {e.obra.EsSI(), SeparadorDeLinea(opciones.separador)};
 }
 
 // What is wrong with options that do not go together, or nothing.
@@ -95,6 +70,29 @@ std::string NoVanJuntas(const OpcionesCalcula& o, const Catalogo& textos) {
   if (pdf && texto) return juntas("--pdf", "--texto");
   if ((pdf || texto) && salida) return juntas(pdf ? "--pdf" : "--texto", "--salida");
   return "";
+}
+
+std::size_t CuentaTramos(const ListaTramos& lista) {
+  return static_cast<std::size_t>(
+      std::count_if(lista.begin(), lista.end(), [](const auto& n) { return !n.empty(); }));
+}
+
+// Positions of the Tramos that a validation refuses; it is told on standard error.
+std::vector<int> ConFaltas(const OpcionesCalcula& opciones, const ObraEnFichero& obra,
+                           const std::vector<int>& posiciones, Catalogo& textos) {
+  const auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
+                                 {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
+  for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos));
+  for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
+  std::vector<int> omitidas;
+  for (std::size_t i = 0; i < obra.lista.size(); ++i) {
+    const int posicion = static_cast<int>(i) + 1;
+    const bool pedida = posiciones.empty() ? !obra.lista[i].empty()
+                                           : std::find(posiciones.begin(), posiciones.end(),
+                                                       posicion) != posiciones.end();
+    if (pedida && !lista.Vale(posicion)) omitidas.push_back(posicion);
+  }
+  return omitidas;
 }
 
 // Calculates the Tramos of a request for one reader, and watches over them.
@@ -196,11 +194,16 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   const std::int16_t idioma = pedido != 0 ? pedido : e.obra.Idioma;
   if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
-  PeticionCalculo peticion{{},
-                           opciones.registros.empty() ? CarpetaRegistros() : opciones.registros};
-  if (!BuscaTramos(opciones, obra, textos, peticion)) return kPalabrasMalas;
+  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
+  if (!posiciones) return kPalabrasMalas;
+  const PeticionCalculo peticion{
+      *posiciones, opciones.registros.empty() ? CarpetaRegistros() : opciones.registros,
+      opciones.sinValidar ? std::vector<int>{} : ConFaltas(opciones, obra, *posiciones, textos)};
+  const auto total = posiciones->empty() ? CuentaTramos(obra.lista) : posiciones->size();
+  if (total > 0 && peticion.omitidas.size() == total) return kFicheroRechazado;
   Calculador calculador(e, obra, opciones, peticion, textos);
-  return opciones.listado.empty() ? calculador.Resultados() : calculador.Listado();
+  const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.Listado();
+  return codigo == kHecho && !peticion.omitidas.empty() ? kFicheroRechazado : codigo;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

@@ -20,6 +20,8 @@ struct OpcionesCalcula {
   std::string fecha;                // of the page heads, or empty for the machine's
   std::filesystem::path salida;     // empty for standard output
   std::string separador;            // "coma", "punto" or empty for the machine's
+  bool sinValidar = false;          // the stored numbers as they are
+  std::filesystem::path tablas;     // of the manufacturers; empty for the program's
   std::filesystem::path registros;  // empty for the user's state folder
 };
 

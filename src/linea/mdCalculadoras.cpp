@@ -22,11 +22,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-char Separador(const OpcionesSalida& o) {
-  if (o.separador.empty()) return SeparadorDeLaMaquina();
-  return o.separador == "coma" ? ',' : '.';
-}
-
 int Rechaza(const AvisoCampo& aviso, const Catalogo& textos) {
   const std::string titulo = aviso.titulo != 0 ? textos.Texto(aviso.titulo) + ": " : "";
   Queja(titulo + std::string(Recorta(TextoAviso(aviso, textos))));
@@ -106,7 +101,7 @@ int Hidraulica(const OpcionesHidraulica& o, Catalogo& textos) try {
     Queja(textos.Compone(txt::UnoDeEstos, {"--pendiente, --caudal"}));
     return kPalabrasMalas;
   }
-  auto e = CargaCalculoHidraulico(Separador(o.salida));
+  auto e = CargaCalculoHidraulico(SeparadorDeLinea(o.salida.separador));
   CambiaMetodo(e, o.metodo == "prandtl" ? MetodoHidraulico::PrandtlColebrook
                   : o.metodo == "hazen" ? MetodoHidraulico::HazenWilliams
                                         : MetodoHidraulico::DarcyWeissbach);
@@ -130,7 +125,7 @@ int Hidraulica(const OpcionesHidraulica& o, Catalogo& textos) try {
 int Medios(const OpcionesMedios& o, Catalogo& textos) try {
   PonIdiomaDeLinea(textos, o.salida.idioma);
   if (DosSalidas(o.salida, textos)) return kPalabrasMalas;
-  auto e = CargaProtecciones(Separador(o.salida));
+  auto e = CargaProtecciones(SeparadorDeLinea(o.salida.separador));
   e.Check1 = o.ciclos;
   for (int i = 0; i < kMedios; ++i) {
     const auto& valor = o.valores[static_cast<std::size_t>(i)];

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/mdNumeros.h"
 #include "linea/mdVigia.h"
 #include "recursos/textos.h"
 
@@ -30,6 +31,11 @@ std::int16_t IdiomaDeLinea(std::string_view codigo) {
 void PonIdiomaDeLinea(Catalogo& textos, std::string_view codigo) {
   const auto idioma = IdiomaDeLinea(codigo);
   if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
+}
+
+char SeparadorDeLinea(std::string_view palabra) {
+  if (palabra.empty()) return SeparadorDeLaMaquina();
+  return palabra == "coma" ? ',' : '.';
 }
 
 void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos) {

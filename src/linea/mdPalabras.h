@@ -30,6 +30,9 @@ std::int16_t IdiomaDeLinea(std::string_view codigo);
 /// not installed.
 void PonIdiomaDeLinea(Catalogo& textos, std::string_view codigo);
 
+/// Decimal separator of "coma" or "punto"; that of the machine for an empty word.
+char SeparadorDeLinea(std::string_view palabra);
+
 /// Headings of the help in the language of the catalogue.
 void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos);
 

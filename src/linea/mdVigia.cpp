@@ -21,6 +21,24 @@ void Queja(const std::string& texto) {
   std::cerr << "zorbin-calc: " << texto << '\n';
 }
 
+std::optional<std::vector<int>> BuscaTramos(const std::vector<int>& numeros,
+                                            const std::filesystem::path& obra,
+                                            const ListaTramos& lista, const Catalogo& textos) {
+  std::vector<int> posiciones;
+  for (const int numero : numeros) {
+    posiciones.push_back(PosicionDe(lista, numero));
+    if (posiciones.back() != 0) continue;
+    std::string presentes;
+    for (const auto& n : lista) {
+      if (!n.empty()) presentes += (presentes.empty() ? "" : ", ") + n;
+    }
+    Queja(textos.Compone(txt::TramoQueNoEsta, {TextoEntero(numero), obra.string(),
+                                               presentes.empty() ? "-" : presentes}));
+    return std::nullopt;
+  }
+  return posiciones;
+}
+
 Vigia::Vigia(OyenteObra& lector, std::string fichero, const Catalogo& textos, EstiloNumeros estilo)
     : lector_(lector),
       fichero_(std::move(fichero)),

@@ -2,7 +2,10 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "listados/mdFlujo.h"
 #include "listados/mdFormato.h"
@@ -12,6 +15,12 @@ namespace zorbin {
 
 /// One line on standard error, with the name of the program before it.
 void Queja(const std::string& texto);
+
+/// Positions of the Tramos with these numbers, none for the whole Obra. No value, and said on
+/// standard error, where the list has not one of them.
+std::optional<std::vector<int>> BuscaTramos(const std::vector<int>& numeros,
+                                            const std::filesystem::path& obra,
+                                            const ListaTramos& lista, const Catalogo& textos);
 
 /// Tells failures on standard error, and progress where a run takes over a second and standard
 /// error is a terminal; hands everything on to the reader.

@@ -94,7 +94,11 @@ void CalculaObra(EstadoCalculo& e, const ObraEnFichero& obra, const PeticionCalc
                  OyenteObra& oyente) {
   const auto posiciones =
       peticion.posiciones.empty() ? TodasLasPosiciones(obra.lista) : peticion.posiciones;
-  for (const int posicion : posiciones) UnTramo(e, obra, peticion, posicion, oyente);
+  for (const int posicion : posiciones) {
+    const auto& omitidas = peticion.omitidas;
+    if (std::find(omitidas.begin(), omitidas.end(), posicion) != omitidas.end()) continue;
+    UnTramo(e, obra, peticion, posicion, oyente);
+  }
 }
 
 }  // namespace zorbin

@@ -37,6 +37,7 @@ int PosicionDe(const ListaTramos& lista, int numero);
 struct PeticionCalculo {
   std::vector<int> posiciones;             // empty: the whole Obra
   std::filesystem::path carpetaRegistros;  // of the debug log
+  std::vector<int> omitidas{};             // positions left out of either
 };
 
 /// Runs the Tramos of the request in the order given, or all in file order. In a run of the whole

@@ -309,6 +309,13 @@ inline constexpr int SalidaSobreLaObra = 1182;
 inline constexpr int NoVanJuntas = 1183;
 inline constexpr int NecesitaOtra = 1184;
 inline constexpr int FaltaFuente = 1185;
+inline constexpr int ValidaUnaObra = 1186;
+inline constexpr int AyudaTablas = 1187;
+inline constexpr int AyudaSinValidar = 1188;
+inline constexpr int FaltaDeLaObra = 1189;
+inline constexpr int FaltaDelTramo = 1190;
+inline constexpr int PreguntaDelTramo = 1191;
+inline constexpr int ObraSinFaltas = 1192;
 inline constexpr int AyudaFecha = 1129;
 
 // Failures of a run

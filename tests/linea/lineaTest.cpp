@@ -110,6 +110,37 @@ TEST_F(Linea, UnFicheroRechazadoNoEscribeNada) {
   EXPECT_EQ(Llama("calcula /no/hay.zrb").codigo, 1);
 }
 
+// Strength of the concrete, record 30 of the block; the pressure of the Obra, record 8.
+TEST_F(Linea, LasFaltasSeListanYSusTramosNoSeCalculan) {
+  EXPECT_EQ(Llama("valida " + acequia).codigo, 0);
+  const auto obra = Copia(30 + 60, "0 // 0,0");
+  const auto r = Llama("valida " + obra + " --separador coma");
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_EQ(r.salida,
+            "Tramo 2: edFck = \"\": Resist. del hormigón a compresión: Valor incorrecto\n");
+  EXPECT_EQ(Llama("valida " + obra + " --tramo 1").codigo, 0);
+
+  const auto calcula = Llama("calcula " + obra + " --formato json");
+  EXPECT_EQ(calcula.codigo, 1);
+  EXPECT_NE(calcula.quejas.find("Tramo 2: edFck"), std::string::npos);
+  const auto j = nlohmann::json::parse(calcula.salida);
+  ASSERT_EQ(j["tramos"].size(), 6u);
+  EXPECT_EQ(j["tramos"][1]["posicion"], 3);
+  const auto solo = Llama("calcula " + obra + " --tramo 2");
+  EXPECT_EQ(solo.codigo, 1);
+  EXPECT_EQ(solo.salida, "");
+  EXPECT_EQ(Llama("calcula " + acequia + " --tablas /no/hay").codigo, 1);
+  EXPECT_EQ(Llama("calcula " + acequia + " --tablas /no/hay --sin-validar").codigo, 0);
+}
+
+// A question goes on, and is told.
+TEST_F(Linea, UnaPreguntaSeContestaConSeguir) {
+  const auto r = Llama("calcula " + Copia(33 + 60, "2000 // 200,0") + " --tramo 2 --idioma en");
+  EXPECT_EQ(r.codigo, 0);
+  EXPECT_NE(r.salida, "");
+  EXPECT_NE(r.quejas.find("Desea Continuar"), std::string::npos) << r.quejas;
+}
+
 // Tramo 2 has no friction angle (record 49 of its block): the others are calculated all the same.
 TEST_F(Linea, UnFalloAritmeticoAcabaSuTramoYNoLosDemas) {
   const auto r = Llama("calcula " + Copia(14 + 60 + 49, "0,00") + " --formato json");

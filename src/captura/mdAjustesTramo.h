@@ -1,0 +1,19 @@
+// The hand adjustments of a Tramo that a change of its data makes void.
+#pragma once
+
+#include "captura/mdCaptura.h"
+
+namespace zorbin {
+
+/// Wipes every entry of a Tramo in the file of adjustments of a project. Nothing happens where that
+/// file does not exist. @throws ErrorFichero
+void BorraAjustesTramo(const std::filesystem::path& obra, int NumeroTramo, char separador);
+
+/// A datum of the Tramo in hand changed: its adjustments are void. Nothing happens without a file,
+/// or while fields are loaded. A refusal of the disk is shown.
+void RegistraCambios(Captura& c);
+
+/// A message of a file, in the language in force.
+std::string TextoDeError(const Captura& c, const ErrorFichero& error);
+
+}  // namespace zorbin

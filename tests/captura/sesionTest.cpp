@@ -1,0 +1,262 @@
+// A person's work with Obras and Tramos, from the first key to the file and back.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "captura/mdAjustesTramo.h"
+#include "captura/mdEtiquetas.h"
+#include "captura/mdFaltas.h"
+#include "captura/mdTipologias.h"
+#include "captura/mdValidaTramo.h"
+#include "guion.h"
+#include "persistencia/mdDpe.h"
+
+namespace zorbin::prueba {
+namespace {
+
+// Two Tramos of a new Obra, saved under a name that is asked for at the first save.
+void ObraDeDosTramos(Banco& b, const std::string& fichero) {
+  b.voz.fichero = fichero;
+  b.Teclea(Ed::edObra, "Traida de aguas");
+  b.Teclea(Ed::edPrsM1, "0.5");  // the other separator
+  b.Teclea(Ed::edPrsM2, "0,9");
+  b.Teclea(Ed::edPrs2, "0,8");
+  b.Teclea(Ed::edPrs3, "0,2");
+  NuevoTramo(b.c);
+  b.Teclea(Ed::edDescriTramo, "Primero");
+  b.Teclea(Ed::edDi0, "1,2");
+  ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
+  NuevoTramo(b.c);
+  b.Teclea(Ed::edDescriTramo, "Segundo");
+  EligePaginaTipologia(b.c, 1);
+  EligeOpcion(b.c, Ed::rdTipoCamisa, 1);
+  b.Teclea(Ed::edFYKPost, "210");
+  b.Teclea(Ed::edDi0, "1,0");
+  b.Teclea(Ed::edHr0, "2");
+  ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
+}
+
+TEST(Sesion, UnaObraTecleadaSeReabreEnUnaMaquinaConElOtroSeparador) {
+  const Carpeta carpeta;
+  Banco b(',');
+  ObraDeDosTramos(b, (carpeta / "obra").string());
+  EXPECT_TRUE(std::filesystem::exists(carpeta / "obra.zrb"));
+  EXPECT_TRUE(b.c.pantalla.Habilitada(Orden::MnImprimir));
+  EXPECT_FALSE(b.c.EnCambio());
+  EXPECT_EQ(b.c[Ed::edTramo].entradas, (std::vector<std::string>{"1", "2"}));
+  EXPECT_TRUE(CierraObra(b.c));
+
+  Banco otra('.');
+  ASSERT_TRUE(AbreObra(otra.c, carpeta / "obra.zrb")) << otra.voz.Ultimo();
+  EXPECT_EQ(otra.c[Ed::edPrsM2].texto, "0.90");
+  EXPECT_EQ(otra.c[Ed::edObra].texto, "Traida de aguas");
+  otra.Teclea(Ed::edTramo, "1");
+  EXPECT_EQ(otra.c.EstadoCaptura, kModificaciones);
+  EXPECT_EQ(otra.c[Ed::edDescriTramo2].texto, "Primero");
+  EXPECT_EQ(otra.c[Ed::edDi0].texto, "1.200");
+  EXPECT_EQ(otra.c[Ed::edFck].texto, "35.0");
+  EXPECT_EQ(otra.c.pantalla.textoCancelar, "Releer");
+  EXPECT_TRUE(ValidaTramo(otra.c, true)) << otra.voz.Ultimo();
+  otra.Teclea(Ed::edTramo, "2");  // locked while a Tramo is in hand
+  EXPECT_EQ(otra.e.tramo.NumeroTramo, 1);
+  CancelaCaptura(otra.c);
+  otra.Teclea(Ed::edTramo, "2");
+  EXPECT_EQ(otra.e.tramo.Tipologia, 2221);
+  EXPECT_EQ(otra.c.pantalla.pagina.TabTipologia, 1);
+  EXPECT_FALSE(otra.c[Ed::edReci0].habilitado);
+  EXPECT_DOUBLE_EQ(otra.e.tramo.Reci, otra.e.tramo.Esp - otra.e.tramo.Rece);
+  EXPECT_FALSE(otra.c.pantalla.Habilitada(Orden::btAjustar));
+  EXPECT_FALSE(otra.c.EnCambio());
+}
+
+TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "obra.zrb").string());
+  EXPECT_TRUE(ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {}).Vale());
+
+  // A Tramo with a fault of its own, and a question that nobody is there to answer.
+  b.e.tramo.Gr = 0.0;
+  {
+    FicheroRegistros f(carpeta / "obra.zrb", FicheroRegistros::Modo::LecturaEscritura);
+    EscribeTramo(f, b.e, b.c.lista, 2, ',');
+    CargaTramo(b.e, f, 1);
+    b.e.tramo.Fyd = 150.0;
+    EscribeTramo(f, b.e, b.c.lista, 1, ',');
+  }
+  const auto lista = ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {});
+  ASSERT_EQ(lista.faltas.size(), 1U);
+  EXPECT_EQ(lista.faltas[0].posicion, 2);
+  EXPECT_EQ(lista.faltas[0].campo, "edGr0");
+  EXPECT_EQ(lista.faltas[0].mensaje, "Valor incorrecto");
+  EXPECT_EQ(lista.faltas[0].titulo, "Densidad del Terreno");
+  EXPECT_TRUE(lista.Vale(1));
+  EXPECT_FALSE(lista.Vale(2));
+  ASSERT_EQ(lista.preguntas.size(), 1U);
+  EXPECT_EQ(lista.preguntas[0].numero, "1");
+  EXPECT_NE(lista.preguntas[0].texto.find("140,000 MPa"), std::string::npos);
+}
+
+TEST(Sesion, ElNumeroNuevoSigueAlUltimoYNoALaCuenta) {
+  Banco b;
+  NuevoTramo(b.c);
+  EXPECT_EQ(b.c[Ed::edTramo].texto, "1");
+  CancelaCaptura(b.c);
+  EXPECT_EQ(b.c.EstadoCaptura, kSinTramo);
+  EXPECT_EQ(b.c[Ed::edTramo].texto, "");
+  b.c[Ed::edTramo].entradas = {"1", "2", "5"};
+  NuevoTramo(b.c);
+  EXPECT_EQ(b.c[Ed::edTramo].texto, "6");
+  EXPECT_TRUE(b.c[Ed::edTramo].bloqueado);
+  EXPECT_FALSE(b.c.pantalla.Habilitada(Orden::btNuevoTramo));
+  EXPECT_FALSE(b.c[Ed::rdSistemaUnidades].habilitado);
+  EXPECT_NE(b.c.pantalla.titulo.find("(Alta de Tramo)"), std::string::npos);
+}
+
+TEST(Sesion, CancelarSinTramoNoHaceNadaYConNoDejaTodoComoEstaba) {
+  Banco b;
+  CancelaCaptura(b.c);
+  EXPECT_TRUE(b.voz.preguntas.empty());
+  NuevoTramo(b.c);
+  b.voz.responde = false;
+  CancelaCaptura(b.c);
+  EXPECT_EQ(b.c.EstadoCaptura, kAltas);
+}
+
+TEST(Sesion, UnNumeroDesconocidoDevuelveElAnterior) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  b.Olvida();
+  b.Teclea(Ed::edTramo, "7");
+  EXPECT_EQ(b.voz.Ultimo(), "No existe ese Tramo");
+  EXPECT_EQ(b.c[Ed::edTramo].texto, "2");
+  EXPECT_EQ(b.e.tramo.NumeroTramo, 2);
+  EXPECT_EQ(b.c.EstadoCaptura, kSinTramo);
+
+  b.Teclea(Ed::edTramo, "1");
+  CancelaCaptura(b.c);
+  b.Teclea(Ed::edGr0, "1,9");
+  b.voz.responde = false;  // unsaved edits: stay
+  b.Teclea(Ed::edTramo, "2");
+  EXPECT_EQ(b.c[Ed::edTramo].texto, "1");
+  EXPECT_EQ(b.c[Ed::edGr0].texto, "1,90");
+  b.voz.responde = true;  // reread
+  CancelaCaptura(b.c);
+  EXPECT_EQ(b.c[Ed::edGr0].texto, "1,80");
+  EXPECT_EQ(b.c.EstadoCaptura, kModificaciones);
+
+  b.Olvida();
+  b.voz.responde = false;
+  b.Teclea(Ed::edTramo, "0");
+  EXPECT_EQ(b.e.tramo.NumeroTramo, 0);
+  EXPECT_EQ(b.c.EstadoCaptura, kModificaciones);
+  CancelaCaptura(b.c);  // rereads nothing, and says nothing
+  EXPECT_EQ(b.c.EstadoCaptura, kSinTramo);
+  EXPECT_TRUE(b.voz.mensajes.empty());
+}
+
+TEST(Sesion, UnTextoQueElFicheroNoPuedeGuardarSeRechazaAntesDelPrimerByte) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  const auto bytes = [&] {
+    std::ifstream f(carpeta / "o.zrb", std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(f), {});
+  };
+  const std::string antes = bytes();
+  for (const std::string& malo : {std::string(127, 'x'), std::string("\u03a9")}) {
+    NuevoTramo(b.c);  // the data on the screen, kept or not, make the new one
+    b.Teclea(Ed::edDi0, "1,2");
+    Cambia(b.c, Ed::edDescriTramo, malo);
+    b.Olvida();
+    EXPECT_FALSE(AccionGrabaTramo(b.c));
+    EXPECT_NE(b.voz.Ultimo().find("DescriTramo"), std::string::npos) << b.voz.Ultimo();
+    EXPECT_EQ(b.c.lista.size(), 2U);
+    EXPECT_EQ(b.c.EstadoCaptura, kAltas);
+    EXPECT_TRUE(b.c.EnCambio());
+    CancelaCaptura(b.c);
+  }
+  EXPECT_EQ(bytes(), antes);
+}
+
+TEST(Sesion, SinNombreDeFicheroElTramoNuevoNoQuedaEnLaLista) {
+  Banco b;
+  b.TramoValido();
+  b.voz.fichero = std::nullopt;
+  EXPECT_FALSE(AccionGrabaTramo(b.c));
+  EXPECT_EQ(b.voz.Ultimo(), "No ha salvado ningun Fichero");
+  b.voz.fichero = "";
+  EXPECT_FALSE(AccionGrabaTramo(b.c));
+  EXPECT_EQ(b.voz.Ultimo(), "No ha seleccionado un nombre");
+  EXPECT_TRUE(b.c.lista.empty());
+  EXPECT_TRUE(b.c.EnAltas());
+  EXPECT_FALSE(PreparaCalculo(b.c, false));
+  EXPECT_EQ(b.voz.Ultimo(), "Debe primero salvar la obra");
+}
+
+TEST(Sesion, ConCambiosNoSeCierra) {
+  Banco b;
+  b.Teclea(Ed::edObra, "x");
+  EXPECT_FALSE(CierraObra(b.c));
+  EXPECT_NE(b.voz.Ultimo().find("Salve primero el Tramo Actual"), std::string::npos);
+  EXPECT_FALSE(CierraFormulario(b.c));
+  EXPECT_EQ(b.voz.Ultimo(), "No puede cerrar el Formulario\nHa cambiado datos");
+}
+
+TEST(Sesion, UnCambioDelTramoAnulaSusAjustesYNoLosDeOtro) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  const auto dpe = RutaDpe(carpeta / "o.zrb");
+  const auto entrada = [](double tramo) { return EntradaAjuste{6.0, tramo, 2.0, {1, 2, 3}}; };
+  {
+    FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {entrada(1), entrada(2), entrada(1)}, ',');
+  }
+  b.Teclea(Ed::edTramo, "1");
+  EXPECT_TRUE(ValidaTramo(b.c, true));  // neither loading nor validating is a change
+  EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+  b.Teclea(Ed::edGr0, "1,9");
+  EXPECT_TRUE(LeeAjustes(dpe)[0].Libre());
+  EXPECT_TRUE(LeeAjustes(dpe)[2].Libre());
+  EXPECT_FALSE(LeeAjustes(dpe)[1].Libre());
+}
+
+TEST(Sesion, OtroSistemaDeUnidades) {
+  Banco b;
+  b.Teclea(Ed::edPrsM1, "0,5");
+  EligeOpcion(b.c, Ed::rdSistemaUnidades, 1);
+  EXPECT_EQ(b.e.obra.SisUnid, "MKS");
+  EXPECT_EQ(b.c[Ed::edPrsM1].texto, "5,00");
+  EXPECT_NE(b.c[Ed::edFck].etiqueta.find("(350) (Kp/cm2)"), std::string::npos);
+  EXPECT_NE(b.c.pantalla.titulo.find("MKS"), std::string::npos);
+  Cambia(b.c, Ed::edPrs1, "x");
+  b.c[Ed::edPrs1].texto = "x";
+  EligeOpcion(b.c, Ed::rdSistemaUnidades, 0);
+  EXPECT_EQ(b.e.obra.SisUnid, "MKS");  // a text that is no number is never a 0
+  EXPECT_EQ(b.voz.Ultimo(), "Seleccione un valor númerico ");
+  EXPECT_EQ(b.c[Ed::edPrsM1].texto, "5,00");
+  b.Pon(Ed::edPrs1, "");
+  NuevoTramo(b.c);  // with a Tramo in hand the option is off
+  EligeOpcion(b.c, Ed::rdSistemaUnidades, 0);
+  EXPECT_EQ(b.e.obra.SisUnid, "MKS");
+}
+
+TEST(Sesion, OtroIdiomaConservaLoTecleadoYLaPosicionDeLasListas) {
+  Banco b;
+  b.TramoValido();
+  const std::string di = b.c[Ed::edDi0].texto;
+  const int relleno = PosicionEnLista(b.c, Ed::edTipoRelleno0);
+  OlvidaCambios(b.c);
+  b.Escoge(Ed::edIdioma, 2);
+  EXPECT_EQ(b.e.obra.Idioma, 2);
+  EXPECT_FALSE(b.c.EnCambio());
+  EXPECT_EQ(b.c[Ed::edDi0].texto, di);
+  EXPECT_EQ(PosicionEnLista(b.c, Ed::edTipoRelleno0), relleno);
+  EXPECT_EQ(b.c[Ed::edTipoRelleno0].texto, b.textos.LoadRes(5128));
+  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+}
+
+}  // namespace
+}  // namespace zorbin::prueba
