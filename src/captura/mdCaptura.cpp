@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "captura/mdEtiquetas.h"
 #include "captura/textosCaptura.h"
 #include "core/mdNumeros.h"
 #include "core/mdTextos.h"
@@ -146,6 +147,7 @@ void MuestraPagina(Captura& c, const Paginas& pagina) {
   AdelantaSi(delante.TabTipologia, pagina.TabTipologia);
   AdelantaSi(delante.TabPostesados, pagina.TabPostesados);
   AdelantaSi(delante.TabDatosColocacion, pagina.TabDatosColocacion);
+  RenuevaTitulo(c);
 }
 
 void VaA(Captura& c, Ed campo) {

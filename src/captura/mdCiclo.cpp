@@ -196,16 +196,39 @@ bool LeeYEdita(Captura& c, int posicion) {
 void CambiaDeTramo(Captura& c, int numero, int anterior) {
   const int posicion = PosicionDelTramo(c, numero);
   if (posicion != 0 && LeeYEdita(c, posicion)) return;
+  c.TramoEditado = false;  // the person agreed to lose those edits, and nothing is in hand now
   PonEstado(c, kSinTramo);
   PonNumero(c, anterior);
   if (posicion == 0) Rechaza(c, Ed::edTramo, Texto(c, txt::NoExisteEseTramo));
 }
 
+// The texts of the Tramo in its state; says what cannot be read and goes to the field.
+bool TextosEnElEstado(Captura& c) {
+  const int error = SincronizaTramo(c, c.EsSI());
+  if (error == 0) return true;
+  c.voz.Muestra(
+      Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidadesTramo), {});
+  if (c.falta) VaA(c, c.falta->campo);
+  return false;
+}
+
+// The header counts a Tramo whose block could not be written: without it the file opens again.
+void RehaceCuenta(Captura& c) {
+  try {
+    EscribeObra(*c.fichero, c.e, c.lista, c.textos, c.SeparadorDecimal);
+  } catch (const ErrorFichero& error) {
+    MuestraError(c, error);
+  }
+}
+
 bool EscribeTramoNuevo(Captura& c) {
   const bool nuevo = c.EnAltas();
+  if (!TextosEnElEstado(c)) return false;
   if (nuevo) c.lista.push_back(TextoEntero(c.e.tramo.NumeroTramo));
-  if (GrabaObra(c) && GrabaTramo(c)) return true;
+  const bool cabecera = GrabaObra(c);
+  if (cabecera && GrabaTramo(c)) return true;
   if (nuevo) c.lista.pop_back();
+  if (nuevo && cabecera) RehaceCuenta(c);
   return false;
 }
 
@@ -312,12 +335,7 @@ bool GrabaTramo(Captura& c) {
     c.voz.Muestra(Texto(c, txt::NoEstaEnLista), {});
     return false;
   }
-  if (const int error = SincronizaTramo(c, c.EsSI()); error != 0) {
-    c.voz.Muestra(
-        Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidadesTramo),
-        {});
-    return false;
-  }
+  if (!TextosEnElEstado(c)) return false;
   try {
     EscribeTramo(*c.fichero, c.e, c.lista, posicion, c.SeparadorDecimal);
   } catch (const ErrorFichero& error) {
@@ -352,10 +370,11 @@ bool CierraFormulario(Captura& c) {
 // The Tramo
 
 int PosicionDelTramo(const Captura& c, int numero) {
-  const auto f = std::find_if(c.lista.begin(), c.lista.end(), [&](const std::string& texto) {
+  // The last of equal ones: a new Tramo never takes the block of another.
+  const auto f = std::find_if(c.lista.rbegin(), c.lista.rend(), [&](const std::string& texto) {
     return !texto.empty() && NumeroDe(texto) == numero;
   });
-  return f == c.lista.end() ? 0 : static_cast<int>(f - c.lista.begin()) + 1;
+  return static_cast<int>(c.lista.rend() - f);
 }
 
 void LeeTramo(Captura& c, int posicion) {

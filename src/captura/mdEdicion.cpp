@@ -208,6 +208,13 @@ SalidaCampo SaleQDato(Captura& c, Ed campo) {
   return SalidaCampo::Pasa;
 }
 
+// The width follows a dimension; where it changes, the adjustments are void.
+void AnchoPorDimension(Captura& c) {
+  const std::string anterior = c[Ed::edB0].texto;
+  RecalculaB0(c);
+  if (c[Ed::edB0].texto != anterior) RegistraCambios(c);
+}
+
 SalidaCampo SaleDi(Captura& c, Ed campo) {
   const double anterior = c.e.tramo.Di;
   c.AnchoZanjaAuto = false;
@@ -216,7 +223,7 @@ SalidaCampo SaleDi(Captura& c, Ed campo) {
   if (c.e.tramo.Di != anterior) {
     c.AnchoZanjaAuto = true;
     c.TramoEditado = true;
-    RecalculaB0(c);
+    AnchoPorDimension(c);
   }
   return SalidaCampo::Pasa;
 }
@@ -236,7 +243,7 @@ SalidaCampo SaleDimension(Captura& c, Ed campo) {
   if (Variable(c, campo) != anterior) {
     c.TramoEditado = true;
     // A new thickness overwrites a width typed by hand.
-    if (campo == Ed::edEsp0) RecalculaB0(c);
+    if (campo == Ed::edEsp0) AnchoPorDimension(c);
   }
   return SalidaCampo::Pasa;
 }
@@ -414,7 +421,13 @@ void EligeGolpe(Captura& c, int opcion) {
 void Entra(Captura& c, Ed campo) {
   auto& control = c[campo];
   if (!control.habilitado) return;
-  MuestraPagina(c, Fila(campo).pagina);
+  const auto& pagina = Fila(campo).pagina;
+  // The page of loads has rules of its own on arriving.
+  if (pagina.TabDatosColocacion == 2 && c.pantalla.pagina.TabDatosColocacion != 2 &&
+      !c.LeyendoDatos && !CambiaPaginaColocacion(c, 2)) {
+    return;
+  }
+  MuestraPagina(c, pagina);
   if (!control.bloqueado && EnBlanco(c, campo)) Rellena(c, campo);
   if (campo == Ed::edFyk) c.FykAnterior = c.e.tramo.Fyk;
   if (campo == Ed::edSFck) c.SFckEditado = false;

@@ -52,10 +52,6 @@ std::string GrupoDe(const Captura& c, const FilaCampo& fila) {
   return texto + " " + Texto(c, c.EsSI() ? txt::UnidadMPa : txt::UnidadAt);
 }
 
-std::string TextoUnidades(const Captura& c) {
-  return Texto(c, c.EsSI() ? txt::SistemaSI : txt::SistemaMKS) + ". ";
-}
-
 std::vector<std::string> Entradas(const Captura& c, std::initializer_list<int> textos) {
   std::vector<std::string> entradas;
   for (const int n : textos) entradas.push_back(Texto(c, n));
@@ -118,11 +114,17 @@ bool ConvierteTextos(Captura& c, bool aSI, std::vector<Convertido>& convertidos)
 
 }  // namespace
 
+std::string TextoUnidades(const Captura& c) {
+  return Texto(c, c.EsSI() ? txt::SistemaSI : txt::SistemaMKS) + ". ";
+}
+
 void RenuevaEtiquetas(Captura& c) {
   for (const auto& fila : TablaCampos()) {
     c[fila.id].etiqueta = EtiquetaDe(c, fila);
     c[fila.id].grupo = GrupoDe(c, fila);
   }
+  // This tip ends with an example in the units in force.
+  c[Ed::edFck].consejo = Texto(c, Fila(Ed::edFck).consejo) + (c.EsSI() ? " (35)" : " (350)");
 }
 
 void RenuevaTitulo(Captura& c) {
@@ -151,6 +153,8 @@ void CambiaIdioma(Captura& c, std::int16_t idioma) {
   c.e.obra.Idioma = c.textos.PonIdioma(idioma);
   c.e.obra.IdiomaOffset = I16(c.textos.IdiomaOffset());
   PoneTextosCaptura(c);
+  auto& arco = c.pantalla.avCargas1;
+  if (!arco.empty()) arco = Texto(c, txt::AvisoArco1) + " " + Texto(c, txt::AvisoArco2);
   EligeEntrada(c, Ed::edIdioma, c.e.obra.Idioma);
 }
 

@@ -6,6 +6,9 @@
 
 namespace zorbin {
 
+/// The system in force, as the window title begins.
+std::string TextoUnidades(const Captura& c);
+
 /// Labels and captions in the language and units in force, those with values in them included.
 void RenuevaEtiquetas(Captura& c);
 

@@ -56,6 +56,14 @@ bool ListaFaltas::Vale(int posicion) const {
   });
 }
 
+void PonComprobada(Obra& obra, const Obra& comprobada) {
+  for (const auto campo :
+       {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
+        &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI}) {
+    obra.*campo = comprobada.*campo;
+  }
+}
+
 ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& textos,
                                 const TablasCatalogo& tablas, const PeticionValida& peticion) {
   ListaFaltas lista;
@@ -68,10 +76,13 @@ ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& tex
   LimpiaCaptura(c, 0);
   MuestraObra(c);
   if (!ValidaObra(c)) Anota(lista, c, voz, 0, {});
+  lista.obra = e.obra;
   for (const int posicion : Posiciones(c, peticion)) {
     LeeTramo(c, posicion);
     c.falta.reset();
-    if (!ValidaTramo(c, false) && !c.falta) c.falta.emplace();
+    const bool vale = ValidaTramo(c, false);
+    if (vale) lista.tramos[posicion] = e.tramo;
+    if (!vale && !c.falta) c.falta.emplace();
     Anota(lista, c, voz, posicion, c.lista[static_cast<std::size_t>(posicion - 1)]);
   }
   return lista;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,8 @@ struct PreguntaDeObra {
 struct ListaFaltas {
   std::vector<FaltaDeObra> faltas;        // of the Obra first, then one a faulty Tramo at most
   std::vector<PreguntaDeObra> preguntas;  // in the order they were asked
+  Obra obra;                              // completed, in the units of its system
+  std::map<int, Tramo> tramos;            // those without a fault, completed, by position
 
   bool Vale() const { return faltas.empty(); }
   /// Whether the Tramo at a position, from 1, has no fault; a fault of the Obra is a fault of all.
@@ -41,6 +44,9 @@ struct PeticionValida {
   std::vector<int> posiciones;  // from 1; empty: every Tramo with a number
   char separador = ',';         // decimal separator of the texts
 };
+
+/// Pressures and heights of a validated Obra in another state of the same Obra.
+void PonComprobada(Obra& obra, const Obra& comprobada);
 
 /// Validates Obra and Tramos of a file, each to its first fault and then on to the next Tramo, in
 /// the manner of a batch. The file is only read; the catalogue takes the language of the Obra.

@@ -168,11 +168,14 @@ bool CompruebaDi(Captura& c) {
   if (!LeeAlSalir(c, Ed::edDi0, 0.001, t.Di, txt::EtDiEdicion)) return false;
   const bool otro = t.Di != anterior;
   c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
+  if (!c.EsComercial &&
+      c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) {
+    t.Di = anterior;  // the diameter that comes instead is a change against this one
+    return false;
+  }
   c.EspRecomMin = c.EspRecomMax = 0;
   c.BandaReci = c.BandaRece = false;
-  if (!c.EsComercial) {
-    if (c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) return false;
-  } else {
+  if (c.EsComercial) {
     BuscaEnTramo(c, ModoGeom::Espesor);
     const double margen = t.Di * kTolerancia * 100.0;
     c.EspRecomMin = Redondea(t.Esp - margen);

@@ -23,7 +23,8 @@ void MuestraNumeros(Captura& c, bool deObra) {
 }
 
 int PosicionDeRelleno(int codigo) {
-  return codigo >= 21 ? codigo - 18 : codigo >= 11 ? codigo - 10 : 0;
+  if (codigo == 11 || codigo == 12) return codigo - 10;
+  return codigo >= 21 && codigo <= 23 ? codigo - 18 : 0;
 }
 
 void MuestraListas(Captura& c) {

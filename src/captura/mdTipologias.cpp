@@ -220,14 +220,13 @@ void LimpiaCaptura(Captura& c, int Profundidad) {
   t.TipoControl = t.TipoCamisa = 0;
   EligeEntrada(c, Ed::edTipoControl, 0);
   EligeEntrada(c, Ed::edTipoCamisa, 0);
-  if (Profundidad < 2) {
-    c[Ed::rdTipoCamisa].opcion = -1;
-    c.pantalla.figuraTubo.clear();
-  }
+  if (Profundidad < 2) c[Ed::rdTipoCamisa].opcion = -1;
   c.pantalla.pagina.TabPostesados = 0;
   if (Profundidad == 0) LimpiaSeccion(c);
+  if (Profundidad < 2) c.pantalla.figuraTubo.clear();
   RenuevaEtiquetas(c);
   RenuevaTitulo(c);
+  if (Profundidad == 0) c.pantalla.titulo = TextoUnidades(c) + Texto(c, txt::CapturaDeDatos);
   ActualizaMenus(c);
   OlvidaCambios(c);
 }
@@ -297,6 +296,7 @@ void EligeColocacion(Captura& c, int opcion) {
   }
   c.TramoEditado = true;
   AplicaColocacion(c);
+  RegistraCambios(c);
 }
 
 void AplicaColocacion(Captura& c) {

@@ -77,22 +77,24 @@ std::size_t CuentaTramos(const ListaTramos& lista) {
       std::count_if(lista.begin(), lista.end(), [](const auto& n) { return !n.empty(); }));
 }
 
-// Positions of the Tramos that a validation refuses; it is told on standard error.
-std::vector<int> ConFaltas(const OpcionesCalcula& opciones, const ObraEnFichero& obra,
-                           const std::vector<int>& posiciones, Catalogo& textos) {
-  const auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
-                                 {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
+// Completes Obra and Tramos of a request by the rules of their capture, and leaves out the Tramos
+// that they refuse; it is told on standard error.
+void Comprueba(const OpcionesCalcula& opciones, const ObraEnFichero& obra, Catalogo& textos,
+               EstadoCalculo& e, PeticionCalculo& peticion) {
+  const auto& posiciones = peticion.posiciones;
+  auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
+                           {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
   for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos));
   for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
-  std::vector<int> omitidas;
   for (std::size_t i = 0; i < obra.lista.size(); ++i) {
     const int posicion = static_cast<int>(i) + 1;
     const bool pedida = posiciones.empty() ? !obra.lista[i].empty()
                                            : std::find(posiciones.begin(), posiciones.end(),
                                                        posicion) != posiciones.end();
-    if (pedida && !lista.Vale(posicion)) omitidas.push_back(posicion);
+    if (pedida && !lista.Vale(posicion)) peticion.omitidas.push_back(posicion);
   }
-  return omitidas;
+  PonComprobada(e.obra, lista.obra);
+  peticion.comprobados = std::move(lista.tramos);
 }
 
 // Calculates the Tramos of a request for one reader, and watches over them.
@@ -196,9 +198,9 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
   const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
   if (!posiciones) return kPalabrasMalas;
-  const PeticionCalculo peticion{
-      *posiciones, opciones.registros.empty() ? CarpetaRegistros() : opciones.registros,
-      opciones.sinValidar ? std::vector<int>{} : ConFaltas(opciones, obra, *posiciones, textos)};
+  PeticionCalculo peticion{
+      *posiciones, opciones.registros.empty() ? CarpetaRegistros() : opciones.registros, {}, {}};
+  if (!opciones.sinValidar) Comprueba(opciones, obra, textos, e, peticion);
   const auto total = posiciones->empty() ? CuentaTramos(obra.lista) : posiciones->size();
   if (total > 0 && peticion.omitidas.size() == total) return kFicheroRechazado;
   Calculador calculador(e, obra, opciones, peticion, textos);

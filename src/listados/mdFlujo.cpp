@@ -48,6 +48,8 @@ void UnTramo(EstadoCalculo& e, const ObraEnFichero& obra, const PeticionCalculo&
              int posicion, OyenteObra& oyente) {
   const std::string& numero = obra.lista[static_cast<std::size_t>(posicion - 1)];
   CargaTramo(e, obra.fichero, posicion);
+  const auto comprobado = peticion.comprobados.find(posicion);
+  if (comprobado != peticion.comprobados.end()) e.tramo = comprobado->second;
   e.tramo.NumeroTramo = peticion.posiciones.empty() ? I16(posicion) : NumeroDe(numero);
   oyente.EmpiezaTramo(e, posicion, numero);
   try {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <vector>
 
 #include "core/mdCorrida.h"
@@ -38,6 +39,7 @@ struct PeticionCalculo {
   std::vector<int> posiciones;             // empty: the whole Obra
   std::filesystem::path carpetaRegistros;  // of the debug log
   std::vector<int> omitidas{};             // positions left out of either
+  std::map<int, Tramo> comprobados{};      // data to run instead of the stored ones, by position
 };
 
 /// Runs the Tramos of the request in the order given, or all in file order. In a run of the whole

@@ -223,6 +223,80 @@ TEST(Sesion, UnCambioDelTramoAnulaSusAjustesYNoLosDeOtro) {
   EXPECT_FALSE(LeeAjustes(dpe)[1].Libre());
 }
 
+// Another laying, and a dimension that moves the width, change the data of the Tramo too.
+TEST(Sesion, LoQueCambiaSinTeclearseAnulaLosAjustes) {
+  for (const bool colocacion : {true, false}) {
+    const Carpeta carpeta;
+    Banco b;
+    ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+    const auto dpe = RutaDpe(carpeta / "o.zrb");
+    {
+      FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
+      EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
+    }
+    b.Teclea(Ed::edTramo, "1");
+    EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+    if (colocacion) {
+      EligeColocacion(b.c, 2);
+    } else {
+      b.Teclea(Ed::edDi0, "1,4");
+    }
+    EXPECT_TRUE(LeeAjustes(dpe)[0].Libre()) << colocacion;
+  }
+}
+
+// A refused diameter that is then accepted carries its width with it.
+TEST(Sesion, UnDiametroNoComercialAceptadoALaSegunda) {
+  Banco b;
+  b.TramoValido();
+  b.Teclea(Ed::edDi0, "2,345");
+  const double ancho = b.e.tramo.B0;
+  b.voz.responde = false;
+  Sale(b.c, Ed::edDi0);
+  EXPECT_DOUBLE_EQ(b.e.tramo.Di, 2.345);
+  EXPECT_DOUBLE_EQ(b.e.tramo.B0, b.e.tramo.De * 1.4 + 0.68);
+  EXPECT_GT(b.e.tramo.B0, ancho);
+}
+
+// Whatever keeps a new Tramo from being written, the file opens again with those it had.
+TEST(Sesion, UnTramoQueNoSeGuardaNoDejaRastroEnElFichero) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  NuevoTramo(b.c);
+  b.Teclea(Ed::edDi0, "1,2");
+  b.Pon(Ed::edPrs3Tram, "abc");  // nobody reads it where the pressure has no range
+  EXPECT_FALSE(AccionGrabaTramo(b.c));
+  EXPECT_EQ(b.voz.foco, Ed::edPrs3Tram);
+  Banco otra;
+  ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));
+  EXPECT_EQ(otra.c.lista.size(), 2u);
+}
+
+// Tramos 5 and 4: the new one is 5 again, and takes a block of its own.
+TEST(Sesion, UnNumeroRepetidoNoPisaElTramoDeOtro) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  {
+    FicheroRegistros f(carpeta / "o.zrb", FicheroRegistros::Modo::LecturaEscritura);
+    f.EscribeRegistro(21, "5");
+    f.EscribeRegistro(81, "4");
+  }
+  Banco otra;
+  ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));
+  otra.voz.fichero = (carpeta / "o.zrb").string();
+  NuevoTramo(otra.c);
+  otra.Teclea(Ed::edDescriTramo, "Tercero");
+  otra.Teclea(Ed::edDi0, "1,2");
+  ASSERT_TRUE(AccionGrabaTramo(otra.c)) << otra.voz.Ultimo();
+  Banco vuelta;
+  ASSERT_TRUE(AbreObra(vuelta.c, carpeta / "o.zrb")) << vuelta.voz.Ultimo();
+  EXPECT_EQ(vuelta.c.lista.size(), 3u);
+  LeeTramo(vuelta.c, 1);
+  EXPECT_EQ(vuelta.e.tramo.DescriTramo, "Primero");
+}
+
 TEST(Sesion, OtroSistemaDeUnidades) {
   Banco b;
   b.Teclea(Ed::edPrsM1, "0,5");

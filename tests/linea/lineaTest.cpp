@@ -133,6 +133,19 @@ TEST_F(Linea, LasFaltasSeListanYSusTramosNoSeCalculan) {
   EXPECT_EQ(Llama("calcula " + acequia + " --tablas /no/hay --sin-validar").codigo, 0);
 }
 
+// A single height of the Obra may be left blank at its end: the validation completes it.
+TEST_F(Linea, UnaAlturaEnBlancoSeCompletaAntesDeCalcular) {
+  const auto obra = Copia(14, "0,00");
+  const auto casos = [&](const std::string& mas) {
+    const auto r = Llama("calcula " + obra + " --tramo 1 --formato json" + mas);
+    return nlohmann::json::parse(r.salida)["tramos"][0]["casos"].size();
+  };
+  EXPECT_GT(casos(""), 0u);
+  EXPECT_EQ(casos(" --sin-validar"), 0u);
+  // A fill that is none of the five codes is not taken for another.
+  EXPECT_EQ(Llama("valida " + Copia(64, "13")).codigo, 1);
+}
+
 // A question goes on, and is told.
 TEST_F(Linea, UnaPreguntaSeContestaConSeguir) {
   const auto r = Llama("calcula " + Copia(33 + 60, "2000 // 200,0") + " --tramo 2 --idioma en");
