@@ -1,5 +1,6 @@
 #include "shell/piezas/mdVigilanteFoco.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
