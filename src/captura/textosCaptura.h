@@ -37,6 +37,7 @@ inline constexpr int RotInicial = 161;
 inline constexpr int RotFinal = 162;
 inline constexpr int RotIncremento = 163;
 inline constexpr int RotAlturas = 164;
+inline constexpr int RotIncrementoAltura = 1296;
 inline constexpr int RotTramo = 168;
 inline constexpr int RotDescriTramo = 169;
 inline constexpr int OpcionEmbebida = 170;
