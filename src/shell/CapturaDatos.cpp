@@ -171,11 +171,8 @@ void CapturaDatos::Enlaza(CampoPantalla& campo) {
     Cambia(c_, id, S(texto));
     TrasAccion();
   });
-  connect(&campo, &CampoPantalla::entradaElegida, this, [this, id](const QString& texto) {
-    Cambia(c_, id, S(texto));
-    vigilante_->DejaCampo();
-    Hace([] {});
-  });
+  connect(&campo, &CampoPantalla::entradaElegida, this,
+          [this, &campo](const QString& texto) { EligeEntradaDe(campo, texto); });
   connect(&campo, &CampoPantalla::marcaCambiada, this, [this, id](bool puesta) {
     CambiaMarca(c_, id, puesta);
     TrasAccion();
@@ -190,6 +187,16 @@ void CapturaDatos::Enlaza(CampoPantalla& campo) {
     const VigilanteFoco::Pausa pausa(*vigilante_);
     Avisa(this, c_.textos, Q(c_.textos.Compone(txt::PegadoSinNumero, {S(texto)})));
   });
+}
+
+// What is taken from a list stands at once: its rule does not wait for the focus to leave.
+void CapturaDatos::EligeEntradaDe(CampoPantalla& campo, const QString& texto) {
+  if (vigilante_->EnMano() != &campo.widget()) {
+    if (!vigilante_->DejaCampo()) return Refresca();
+    vigilante_->VaA(campo.widget());
+  }
+  Cambia(c_, campo.id(), S(texto));
+  if (vigilante_->DejaCampo()) Hace([] {});
 }
 
 void CapturaDatos::EnlazaPestanas() {
@@ -242,7 +249,10 @@ QWidget* CapturaDatos::Sale(QWidget* widget) {
   c_.pantalla.foco = campo;
   const SalidaCampo salida = zorbin::Sale(c_, campo);
   TrasAccion();
-  if (salida == SalidaCampo::Queda) return widget;
+  if (salida == SalidaCampo::Queda) {
+    campos_[static_cast<std::size_t>(campo)]->SeleccionaTodo();
+    return widget;
+  }
   // A rule may lead to another field, although this one may be left.
   if (c_.pantalla.foco != campo) {
     return &campos_[static_cast<std::size_t>(c_.pantalla.foco)]->widget();

@@ -118,6 +118,7 @@ class CapturaDatos : public QWidget {
   void CreaBoton(QWidget& barra, Orden orden, int texto);
   void OrdenaTabulador();
   void Enlaza(CampoPantalla& campo);
+  void EligeEntradaDe(CampoPantalla& campo, const QString& texto);
   void EnlazaPestanas();
   void PideAyuda();
 

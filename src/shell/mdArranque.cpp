@@ -1,7 +1,5 @@
 #include "shell/mdArranque.h"
 
-#include <QLocale>
-
 #include "shell/textosShell.h"
 
 namespace zorbin {
@@ -38,10 +36,6 @@ int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos,
   // A language beyond the catalogue has no manual either.
   if (!hayManual(textos.LoadRes(txt::NombreAyuda + (idioma - 1) * kPasoIdioma))) idioma = kEspanol;
   return textos.PonIdioma(static_cast<std::int16_t>(idioma));
-}
-
-char SeparadorDeLaMaquina() {
-  return QLocale::system().decimalPoint() == QLatin1String(".") ? '.' : ',';
 }
 
 }  // namespace zorbin

@@ -22,7 +22,4 @@ int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos,
                     const std::function<bool(const std::string& nombre)>& hayManual,
                     const std::function<void(const std::string&)>& avisa);
 
-/// Decimal separator of the machine, "," or ".".
-char SeparadorDeLaMaquina();
-
 }  // namespace zorbin
