@@ -22,6 +22,8 @@ inline constexpr int SistemaMKS = 148;
 inline constexpr int SistemaSI = 149;
 
 // Captions of the data screen
+inline constexpr int PaginaArmado = 137;
+inline constexpr int PaginaPostesado = 138;
 inline constexpr int RotSistema = 150;
 inline constexpr int RotSI = 151;
 inline constexpr int RotMKS = 152;

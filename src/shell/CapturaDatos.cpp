@@ -355,6 +355,7 @@ void CapturaDatos::RefrescaFigura(Figura& figura, const std::string& nombre) {
 void CapturaDatos::RenuevaTextos() {
   for (const auto& rotulado : rotulados_) rotulado.pon(Q(c_.textos.Texto(rotulado.texto)));
   for (const auto& boton : botones_) boton.widget->setText(Rotulo(c_.textos.Texto(boton.texto)));
+  RenuevaTramos();
   Refresca();
 }
 

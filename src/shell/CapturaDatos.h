@@ -18,6 +18,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class QTreeWidget;
 
 namespace zorbin {
 
@@ -36,6 +37,9 @@ class CapturaDatos : public QWidget {
 
   /// Every text that is not the model's, in the language in force; and the screen.
   void RenuevaTextos();
+
+  /// The list of the stored Tramos, read anew.
+  void RenuevaTramos();
 
   /// Runs an action on the capture and shows what it left, the focus where the model has it. The
   /// field in hand is left first, and where it refuses nothing is done, unless the action
@@ -88,6 +92,7 @@ class CapturaDatos : public QWidget {
   Figura* ptPostesado_ = nullptr;
   Figura* ptPostesado2_ = nullptr;
   Figura* ptColocacion_ = nullptr;
+  QTreeWidget* tramos_ = nullptr;
   QGroupBox* alturas_ = nullptr;
   QWidget* barraObra_ = nullptr;
   QWidget* barraTramo_ = nullptr;
@@ -102,6 +107,7 @@ class CapturaDatos : public QWidget {
   QWidget* CreaCabecera();
   QWidget* CreaBotones();
   QWidget* CreaPaginaObra();
+  QWidget* CreaTramos();
   QWidget* CreaPaginaTramo();
   QWidget* CreaPaginaColocacion();
   QWidget* CreaPaginaArmado();

@@ -371,6 +371,7 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       captura_->Hace([this] {
         if (AccionGrabaTramo(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
       });
+      captura_->RenuevaTramos();
       return ActualizaRecientes();
     case Orden::mnCalculaTramo:
     case Orden::btCalcular:
@@ -414,6 +415,7 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   } else {
     entorno_.preferencias.OlvidaObra(ruta);
   }
+  captura_->RenuevaTramos();
   ActualizaRecientes();
   Actualiza();
   return abierta;
@@ -424,6 +426,7 @@ void FormaPrincipal::Nueva() {
   captura_->Hace(
       [this] {
         NuevaObra(c_);
+        captura_->RenuevaTramos();
         if (!entorno_.preferencias.NuevaEnSI()) RevisaUnidades(c_, "MKS");
       },
       true);

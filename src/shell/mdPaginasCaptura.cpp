@@ -3,11 +3,14 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "captura/mdListaTramos.h"
 #include "shell/CapturaDatos.h"
 #include "shell/frFiguras.h"
 #include "shell/mdPestanas.h"
@@ -112,9 +115,53 @@ Figura* CapturaDatos::CreaFigura(int minimo) {
 // ---------------------------------------------------------------------------------------------
 // Page of the Obra
 
+QWidget* CapturaDatos::CreaTramos() {
+  auto* grupo = CreaGrupo(txt::MenuTramos);
+  auto* filas = new QVBoxLayout(grupo);
+  tramos_ = new QTreeWidget;
+  tramos_->setObjectName(QStringLiteral("Tramos"));
+  tramos_->setRootIsDecorated(false);
+  tramos_->setAlternatingRowColors(true);
+  tramos_->setUniformRowHeights(true);
+  tramos_->setColumnCount(5);
+  tramos_->setMinimumHeight(90);
+  tramos_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  tramos_->header()->setStretchLastSection(true);
+  rotulados_.push_back({[this](const QString& t) { tramos_->setToolTip(t); }, txt::ElegirTramo});
+  rotulados_.push_back(
+      {[this](const QString& t) { tramos_->setAccessibleName(t); }, txt::MenuTramos});
+  int columna = 0;
+  for (const int texto :
+       {txt::ColTramo, txt::ColDescripcion, txt::ColTipologia, txt::ColDi, txt::ColColocacion}) {
+    rotulados_.push_back(
+        {[this, columna](const QString& t) { tramos_->headerItem()->setText(columna, t); }, texto});
+    ++columna;
+  }
+  connect(tramos_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* renglon, int) {
+    const std::string numero = S(renglon->text(0));
+    Hace([this, numero] { TomaTramo(c_, numero); });
+  });
+  filas->addWidget(tramos_);
+  return grupo;
+}
+
+void CapturaDatos::RenuevaTramos() {
+  tramos_->clear();
+  for (const auto& r : RenglonesTramos(c_)) {
+    auto* renglon = new QTreeWidgetItem(
+        tramos_, {Q(r.numero), Q(r.descripcion), Q(r.tipologia), Q(r.Di), Q(r.colocacion)});
+    renglon->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
+    renglon->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
+  }
+  for (int i = 0; i < tramos_->columnCount(); ++i) tramos_->resizeColumnToContents(i);
+}
+
 QWidget* CapturaDatos::CreaPaginaObra() {
   auto* pagina = new QWidget;
-  auto* columnas = new QHBoxLayout(pagina);
+  auto* todo = new QVBoxLayout(pagina);
+  auto* columnas = new QHBoxLayout;
+  todo->addLayout(columnas);
+  todo->addWidget(CreaTramos(), 1);
   auto* izquierda = new QVBoxLayout;
   auto* datos = CreaGrupo(0);
   auto* rejilla = new QGridLayout(datos);

@@ -20,6 +20,9 @@ inline constexpr int GrArmaduraExterior = 201;
 inline constexpr int GrPruebaPrimario = 204;
 inline constexpr int GrCargasConcentradas = 215;
 inline constexpr int GrFigura = 216;
+inline constexpr int ColTramo = 168;
+inline constexpr int ColDescripcion = 169;
+inline constexpr int ColDi = 225;
 inline constexpr int GrAlturasTramo = 233;
 
 // Buttons
@@ -80,6 +83,9 @@ inline constexpr int SinTablas = 1292;
 inline constexpr int VerEnGrande = 1293;
 inline constexpr int CierraCaptura = 1294;
 inline constexpr int SinTramo = 1295;
+inline constexpr int ColTipologia = 1297;
+inline constexpr int ColColocacion = 1298;
+inline constexpr int ElegirTramo = 1299;
 // clang-format on
 
 }  // namespace zorbin::txt

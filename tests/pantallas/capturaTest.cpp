@@ -14,8 +14,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <set>
 
 #include "captura/mdCiclo.h"
@@ -279,6 +282,28 @@ TEST(Captura, ElTabuladorSigueElTrabajo) {
   EXPECT_TRUE(p.Linea(Ed::edAlt3)->isReadOnly());
 }
 
+TEST(Captura, LaListaDeTramosLlevaAUno) {
+  Programa p;
+  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  auto* lista = p.ventana->findChild<QTreeWidget*>("Tramos");
+  ASSERT_EQ(lista->topLevelItemCount(), static_cast<int>(p.c.lista.size()));
+  auto* sexto = lista->topLevelItem(5);
+  EXPECT_TRUE(sexto->text(2).contains(p.mesa.Tx(170)));
+  emit lista->itemActivated(sexto, 0);
+  EXPECT_TRUE(p.c.EnModificaciones());
+  EXPECT_EQ(p.e.tramo.NumeroTramo, 6);
+  EXPECT_EQ(p.c.pantalla.pagina.TabPrincipal, 1);
+  EXPECT_TRUE(p.TieneFoco(Ed::edDescriTramo));
+  p.Teclea("Cambiado");
+  emit lista->itemActivated(lista->topLevelItem(0), 0);
+  EXPECT_EQ(p.persona.Ultima(), p.mesa.Tx(525) + "\n" + p.mesa.Tx(325));
+  EXPECT_EQ(p.e.tramo.NumeroTramo, 1) << "the answer was Yes";
+  p.Lanza(Orden::mnNuevoTramo);
+  emit lista->itemActivated(sexto, 0);
+  EXPECT_EQ(p.persona.Ultima(), p.mesa.Tx(376));
+  EXPECT_TRUE(p.c.EnAltas());
+}
+
 TEST(Captura, ElUltimoCampoPostesadoLlevaALaColocacion) {
   Programa p;
   ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
@@ -387,6 +412,11 @@ TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
   const std::set<QString> datos{Q(p.e.obra.NombreObra)};
   RecorrePaginas(p, [&](const std::string& donde) {
     QTest::qWait(5);
+    for (auto* area : p.ventana->findChildren<QScrollArea*>()) {
+      if (!area->isVisible()) continue;
+      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << donde;
+      EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << donde;
+    }
     for (const auto& visto : Vistos(*p.ventana)) {
       const QString nombre = visto.widget->objectName();
       if (nombre == "estadoObra" || nombre.startsWith("qt_")) continue;
