@@ -22,14 +22,17 @@ bool EsCifra(QChar c) {
 class CasillaNumero::Filtro : public QValidator {
  public:
   Filtro(CasillaNumero& casilla, char separador, bool soloCifras)
-      : QValidator(&casilla), casilla_(casilla), separador_(separador), soloCifras_(soloCifras) {}
+      : QValidator(&casilla), casilla_(casilla), separador_(separador), soloCifras_(soloCifras) {
+    connect(&casilla, &QLineEdit::textChanged, this,
+            [this](const QString& texto) { largo_ = texto.size(); });
+  }
 
   State validate(QString& texto, int& lugar) const override {
     const auto tras = texto.size() - lugar;
     texto = texto.trimmed();
     lugar = static_cast<int>(std::max<qsizetype>(0, texto.size() - tras));
     lugar = std::min(lugar, static_cast<int>(texto.size()));
-    if (!Vale(texto)) return Rechaza(texto);
+    if (!Vale(texto)) return Rechaza(texto, lugar);
     for (QChar& c : texto) {
       if (EsSeparador(c)) c = QLatin1Char(separador_);
     }
@@ -40,6 +43,7 @@ class CasillaNumero::Filtro : public QValidator {
   CasillaNumero& casilla_;
   char separador_;
   bool soloCifras_;
+  qsizetype largo_ = 0;  // of the text before the change: the field shows the new one already
 
   bool Vale(const QString& texto) const {
     int separadores = 0;
@@ -56,8 +60,9 @@ class CasillaNumero::Filtro : public QValidator {
   }
 
   // A single key that does not pass is dropped in silence.
-  State Rechaza(const QString& texto) const {
-    if (texto.size() > casilla_.text().size() - casilla_.selectedText().size() + 1) {
+  State Rechaza(const QString& texto, int lugar) const {
+    const QString sinTecla = lugar > 0 ? QString(texto).remove(lugar - 1, 1) : texto;
+    if (texto.size() > largo_ + 1 || !Vale(sinTecla)) {
       auto* casilla = &casilla_;
       QTimer::singleShot(0, casilla, [casilla, texto] { emit casilla->pegadoRechazado(texto); });
     }
