@@ -46,4 +46,10 @@ fs::path RutaFigura(const std::string& nombre) {
   return {};
 }
 
+fs::path RutaAyuda(const std::string& nombre) {
+  std::error_code error;
+  const auto ruta = CarpetaRecursos() / "ayuda" / (nombre + ".html");
+  return fs::is_regular_file(ruta, error) ? ruta : fs::path{};
+}
+
 }  // namespace zorbin

@@ -13,4 +13,8 @@ std::filesystem::path CarpetaRecursos();
 /// A picture by its name, whose case does not matter. Empty when there is no such file.
 std::filesystem::path RutaFigura(const std::string& nombre);
 
+/// The manual by the name that the catalogue gives it, without extension. Empty when there is no
+/// such file.
+std::filesystem::path RutaAyuda(const std::string& nombre);
+
 }  // namespace zorbin
