@@ -88,7 +88,7 @@ struct Manual {
 
   explicit Manual(int idioma) {
     textos.PonIdioma(static_cast<std::int16_t>(idioma));
-    const auto ruta = RutaAyuda(textos.Texto(kNombreDeLaAyuda));
+    const auto ruta = RutaAyuda(textos.Texto(kNombreDeLaAyuda) + ".html");
     EXPECT_FALSE(ruta.empty()) << textos.Texto(kNombreDeLaAyuda);
     std::ifstream f(ruta);
     piezas = Trocea({std::istreambuf_iterator<char>(f), {}});
@@ -125,9 +125,9 @@ std::string Cifras(const std::string& texto) {
   return cifras;
 }
 
-class Ayuda : public testing::TestWithParam<int> {};
+class ManualDeAyuda : public testing::TestWithParam<int> {};
 
-TEST_P(Ayuda, EstaBienFormadaYNoCargaNada) {
+TEST_P(ManualDeAyuda, EstaBienFormadaYNoCargaNada) {
   const Manual manual(GetParam());
   std::vector<std::string> abiertos;
   for (const auto& p : manual.piezas) {
@@ -151,7 +151,7 @@ TEST_P(Ayuda, EstaBienFormadaYNoCargaNada) {
   EXPECT_TRUE(abiertos.empty());
 }
 
-TEST_P(Ayuda, SusAnclasSonLasDelEspanolYLosEnlacesLlevanAAlguna) {
+TEST_P(ManualDeAyuda, SusAnclasSonLasDelEspanolYLosEnlacesLlevanAAlguna) {
   const Manual manual(GetParam());
   const auto anclas = manual.Anclas();
   const std::set<std::string> todas(anclas.begin(), anclas.end());
@@ -178,7 +178,7 @@ TEST_P(Ayuda, SusAnclasSonLasDelEspanolYLosEnlacesLlevanAAlguna) {
   }
 }
 
-TEST_P(Ayuda, CadaCampoLlevaSuRotuloYSuConsejo) {
+TEST_P(ManualDeAyuda, CadaCampoLlevaSuRotuloYSuConsejo) {
   const Manual manual(GetParam());
   const auto apartados = manual.Apartados();
   for (const auto& campo : TablaCampos()) {
@@ -192,7 +192,7 @@ TEST_P(Ayuda, CadaCampoLlevaSuRotuloYSuConsejo) {
   }
 }
 
-TEST_P(Ayuda, SusCifrasSonLasDelEspanol) {
+TEST_P(ManualDeAyuda, SusCifrasSonLasDelEspanol) {
   const auto espanol = Manual(1).Apartados();
   for (const auto& [ancla, texto] : Manual(GetParam()).Apartados()) {
     ASSERT_TRUE(espanol.contains(ancla)) << ancla;
@@ -200,7 +200,7 @@ TEST_P(Ayuda, SusCifrasSonLasDelEspanol) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Idioma, Ayuda, testing::Range(1, kIdiomas + 1));
+INSTANTIATE_TEST_SUITE_P(Idioma, ManualDeAyuda, testing::Range(1, kIdiomas + 1));
 
 }  // namespace
 }  // namespace zorbin
