@@ -23,6 +23,17 @@ bool IgualSinCaja(const std::string& a, const std::string& b) {
   });
 }
 
+// The first of that name, whatever its case.
+fs::path BuscaFichero(const std::array<fs::path, 2>& carpetas, const std::string& nombre) {
+  std::error_code error;
+  for (const auto& carpeta : carpetas) {
+    for (const auto& f : fs::directory_iterator(carpeta, error)) {
+      if (IgualSinCaja(f.path().filename().string(), nombre)) return f.path();
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 fs::path CarpetaRecursos() {
@@ -36,14 +47,12 @@ fs::path CarpetaRecursos() {
 }
 
 fs::path RutaFigura(const std::string& nombre) {
-  std::error_code error;
-  const std::array<fs::path, 2> candidatas{CarpetaInstalada() / "figuras", ZORBIN_FIGURAS};
-  for (const auto& carpeta : candidatas) {
-    for (const auto& f : fs::directory_iterator(carpeta, error)) {
-      if (IgualSinCaja(f.path().filename().string(), nombre)) return f.path();
-    }
-  }
-  return {};
+  return BuscaFichero({CarpetaInstalada() / "figuras", ZORBIN_FIGURAS}, nombre);
+}
+
+fs::path RutaAyuda(const std::string& nombre) {
+  const fs::path fuentes = ZORBIN_RECURSOS;
+  return BuscaFichero({CarpetaInstalada() / "ayuda", fuentes / "ayuda"}, nombre);
 }
 
 }  // namespace zorbin

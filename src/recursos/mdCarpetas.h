@@ -13,4 +13,7 @@ std::filesystem::path CarpetaRecursos();
 /// A picture by its name, whose case does not matter. Empty when there is no such file.
 std::filesystem::path RutaFigura(const std::string& nombre);
 
+/// A page of the manual by its name, whose case does not matter. Empty when there is none.
+std::filesystem::path RutaAyuda(const std::string& nombre);
+
 }  // namespace zorbin
