@@ -23,7 +23,7 @@ bool IgualSinCaja(const std::string& a, const std::string& b) {
   });
 }
 
-// The first of that name, whatever its case.
+// A file by its name in the first folder that has it.
 fs::path BuscaFichero(const std::array<fs::path, 2>& carpetas, const std::string& nombre) {
   std::error_code error;
   for (const auto& carpeta : carpetas) {
@@ -51,8 +51,7 @@ fs::path RutaFigura(const std::string& nombre) {
 }
 
 fs::path RutaAyuda(const std::string& nombre) {
-  const fs::path fuentes = ZORBIN_RECURSOS;
-  return BuscaFichero({CarpetaInstalada() / "ayuda", fuentes / "ayuda"}, nombre);
+  return BuscaFichero({CarpetaInstalada() / "ayuda", fs::path(ZORBIN_RECURSOS) / "ayuda"}, nombre);
 }
 
 }  // namespace zorbin
