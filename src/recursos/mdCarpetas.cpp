@@ -50,6 +50,11 @@ fs::path RutaFigura(const std::string& nombre) {
   return BuscaFichero({CarpetaInstalada() / "figuras", ZORBIN_FIGURAS}, nombre);
 }
 
+fs::path RutaDocumento(const std::string& nombre) {
+  return BuscaFichero({CarpetaInstalada() / "documentos", fs::path(ZORBIN_RECURSOS) / "documentos"},
+                      nombre);
+}
+
 fs::path RutaAyuda(const std::string& nombre) {
   return BuscaFichero({CarpetaInstalada() / "ayuda", fs::path(ZORBIN_RECURSOS) / "ayuda"}, nombre);
 }
