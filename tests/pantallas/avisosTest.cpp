@@ -45,6 +45,21 @@ TEST(Advertencia, DiceElDocumentoQueFalta) {
             "Con recomendaciones sobre la Memoria Técnica");
 }
 
+// One that is damaged says so where it would have been read.
+TEST(Advertencia, LosDocumentosDelPrograma) {
+  Mesa mesa;
+  const fs::path carpeta = S(mesa.carpeta.path());
+  const auto documentos = DocumentosDelPrograma(
+      mesa.textos, [&](const std::string& nombre) { return carpeta / nombre; });
+  std::ofstream(carpeta / "TEXTOIET.RTF") << "{\\rtf1 Uno <dos>}";
+  std::ofstream(carpeta / "TEXTOIE2.RTF") << "<b>nada</b>";
+  EXPECT_EQ(TextoDe(frmTip(mesa.entorno, 1, documentos, nullptr)), "Uno <dos>");
+  for (const int modo : {2, 3}) {
+    const QString texto = TextoDe(frmTip(mesa.entorno, modo, documentos, nullptr));
+    EXPECT_TRUE(texto.contains(QStringLiteral("TEXTOIE%1.RTF").arg(modo))) << S(texto);
+  }
+}
+
 TEST(Advertencia, LaCasillaGuardaElAjusteDeSuModo) {
   Mesa mesa;
   const std::vector<QString> opciones{"Mostrar sugerencias al iniciar",

@@ -36,7 +36,7 @@ QString Parrafos(const QStringList& textos) {
 
 }  // namespace
 
-frAyuda::frAyuda(Entorno& entorno, BuscaManual busca, QWidget* padre)
+frAyuda::frAyuda(const Entorno& entorno, BuscaManual busca, QWidget* padre)
     : QWidget(padre, Qt::Window), entorno_(entorno), busca_(std::move(busca)) {
   guia_ = new GuiaAyuda(entorno.textos);
   visor_ = new VisorHtml;

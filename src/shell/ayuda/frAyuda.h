@@ -24,7 +24,7 @@ class frAyuda : public QWidget {
   /// The path of a manual by its name, whose case does not matter; empty when there is none.
   using BuscaManual = std::function<std::filesystem::path(const std::string& nombre)>;
 
-  frAyuda(Entorno& entorno, BuscaManual busca, QWidget* padre = nullptr);
+  frAyuda(const Entorno& entorno, BuscaManual busca, QWidget* padre = nullptr);
   ~frAyuda() override;
 
   /// Opens the manual at an anchor; the first page when it has no such anchor.
@@ -40,7 +40,7 @@ class frAyuda : public QWidget {
   void hideEvent(QHideEvent* suceso) override;
 
  private:
-  Entorno& entorno_;
+  const Entorno& entorno_;
   BuscaManual busca_;
   QString nombre_;  // of the manual loaded, empty before the first
   QUrl direccion_;

@@ -70,10 +70,11 @@ bool QuiereAviso(const Preferencias& preferencias, ModoAviso modo) {
          preferencias.OpcionAviso(QString::fromLatin1(opcion)).trimmed() != QLatin1String("0");
 }
 
-frmTip::frmTip(Entorno& entorno, int modo, const DocumentoHtml& documento, QWidget* padre)
+frmTip::frmTip(const Entorno& entorno, int modo, const DocumentoHtml& documento, QWidget* padre)
     : frmTip(entorno, ModoDe(modo), documento, padre) {}
 
-frmTip::frmTip(Entorno& entorno, ModoAviso modo, const DocumentoHtml& documento, QWidget* padre)
+frmTip::frmTip(const Entorno& entorno, ModoAviso modo, const DocumentoHtml& documento,
+               QWidget* padre)
     : QDialog(padre) {
   setWindowTitle(Rotulo(entorno.textos.Texto(txt::TituloAdvertencia)));
   auto* texto = new VisorHtml;
@@ -98,10 +99,10 @@ frmTip::frmTip(Entorno& entorno, ModoAviso modo, const DocumentoHtml& documento,
   filas->addLayout(fila);
   acepta->setFocus();
   const int lado = fontMetrics().height();
-  resize(lado * 38, lado * 26);
+  resize(lado * 46, lado * 34);
 }
 
-QCheckBox* frmTip::Casilla(Entorno& entorno, ModoAviso modo) {
+QCheckBox* frmTip::Casilla(const Entorno& entorno, ModoAviso modo) {
   auto* casilla = new QCheckBox(Rotulo(entorno.textos.Texto(txt::MostrarAlIniciar)));
   const auto* opcion = De(modo).opcion;
   casilla->setEnabled(opcion != nullptr);

@@ -3,16 +3,13 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
 
+#include "shell/ayuda/mdDocumento.h"
 #include "shell/piezas/mdEntorno.h"
 
 class QCheckBox;
 
 namespace zorbin {
-
-/// HTML of the document that an entry of the catalogue names; empty when there is none.
-using DocumentoHtml = std::function<QString(int entrada)>;
 
 enum class ModoAviso { DerechoDeUso = 1, InstalarVisor = 2, MemoriaTecnica = 3 };
 
@@ -24,14 +21,14 @@ class frmTip : public QDialog {
 
  public:
   /// @param modo  one that is not 2 or 3 counts as 1
-  frmTip(Entorno& entorno, int modo, const DocumentoHtml& documento, QWidget* padre);
-  frmTip(Entorno& entorno, ModoAviso modo, const DocumentoHtml& documento, QWidget* padre);
+  frmTip(const Entorno& entorno, int modo, const DocumentoHtml& documento, QWidget* padre);
+  frmTip(const Entorno& entorno, ModoAviso modo, const DocumentoHtml& documento, QWidget* padre);
 
  protected:
   void showEvent(QShowEvent* suceso) override;
 
  private:
-  QCheckBox* Casilla(Entorno& entorno, ModoAviso modo);
+  QCheckBox* Casilla(const Entorno& entorno, ModoAviso modo);
 };
 
 }  // namespace zorbin

@@ -30,7 +30,7 @@ int ErrorAlAbrir(const std::filesystem::path& ruta) {
   return std::ferror(f.get()) != 0 ? errno : 0;
 }
 
-bool SePuedeLeer(Entorno& entorno, const std::filesystem::path& ruta, QWidget* padre) {
+bool SePuedeLeer(const Entorno& entorno, const std::filesystem::path& ruta, QWidget* padre) {
   const auto texto = [&entorno](int n) { return Q(entorno.textos.Texto(n)); };
   const int error = ruta.empty() ? ENOENT : ErrorAlAbrir(ruta);
   if (error == 0) return true;
@@ -45,7 +45,7 @@ bool SePuedeLeer(Entorno& entorno, const std::filesystem::path& ruta, QWidget* p
   return false;
 }
 
-bool HayVisor(Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre) {
+bool HayVisor(const Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre) {
   const auto visor = BuscaVisorPdf(memoria.carpetas);
   if (visor == VisorPdf::Ninguno) {
     frmTip(entorno, ModoAviso::InstalarVisor, memoria.documento, padre).exec();
@@ -62,7 +62,7 @@ bool MemoriaTecnica::AbreConElEscritorio(const QUrl& fichero) {
   return QDesktopServices::openUrl(fichero);
 }
 
-void MuestraMemoria(Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre) {
+void MuestraMemoria(const Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre) {
   if (!SePuedeLeer(entorno, memoria.ruta, padre) || !HayVisor(entorno, memoria, padre)) return;
   if (QuiereAviso(entorno.preferencias, ModoAviso::MemoriaTecnica)) {
     frmTip(entorno, ModoAviso::MemoriaTecnica, memoria.documento, padre).exec();

@@ -22,6 +22,6 @@ struct MemoriaTecnica {
 };
 
 /// Whatever keeps it from being shown is told.
-void MuestraMemoria(Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre);
+void MuestraMemoria(const Entorno& entorno, const MemoriaTecnica& memoria, QWidget* padre);
 
 }  // namespace zorbin
