@@ -53,7 +53,7 @@ TEST(Advertencia, LosDocumentosDelPrograma) {
       mesa.textos, [&](const std::string& nombre) { return carpeta / nombre; });
   std::ofstream(carpeta / "TEXTOIET.RTF") << "{\\rtf1 Uno <dos>}";
   std::ofstream(carpeta / "TEXTOIE2.RTF") << "<b>nada</b>";
-  EXPECT_EQ(TextoDe(frmTip(mesa.entorno, 1, documentos, nullptr)), "Uno <dos>");
+  EXPECT_EQ(TextoDe(frmTip(mesa.entorno, 1, documentos, nullptr)).trimmed(), "Uno <dos>");
   for (const int modo : {2, 3}) {
     const QString texto = TextoDe(frmTip(mesa.entorno, modo, documentos, nullptr));
     EXPECT_TRUE(texto.contains(QStringLiteral("TEXTOIE%1.RTF").arg(modo))) << S(texto);

@@ -54,9 +54,11 @@ QLineEdit* Ruta(const QString& ruta) {
   campo->setReadOnly(true);
   campo->setFrame(false);
   campo->setTextMargins(kSangria, 0, 0, 0);
+  campo->setFixedHeight(campo->fontMetrics().height());
   campo->setCursorPosition(0);
   QPalette colores = campo->palette();
   colores.setBrush(QPalette::Base, Qt::NoBrush);
+  colores.setBrush(QPalette::Text, colores.windowText());
   campo->setPalette(colores);
   return campo;
 }
@@ -96,7 +98,7 @@ frAcercaDe::frAcercaDe(const Entorno& entorno, const std::filesystem::path& figu
   const auto fila = [&](int que, QWidget* valor) {
     const int n = datosPrograma->rowCount();
     datosPrograma->addWidget(new QLabel(rotulo(que)), n, 0, Qt::AlignTop);
-    datosPrograma->addWidget(valor, n, 1);
+    datosPrograma->addWidget(valor, n, 1, Qt::AlignTop);
   };
   fila(txt::Version, Texto(QStringLiteral(ZORBIN_VERSION)));
   fila(txt::FormatoFichero, Texto(FormatoDeFichero()));
