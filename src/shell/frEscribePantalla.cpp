@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -30,6 +31,7 @@ constexpr int kMenorCuerpo = 6;             // [pt]
 constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;
+constexpr int kAireBoton = 18;  // round its text [pixels]
 const QString kVentana = QStringLiteral("frEscribePantalla");
 const QString kCuerpo = QStringLiteral("Resumen/Cuerpo");
 
@@ -41,7 +43,7 @@ QFont FuenteFija() {
 }
 
 int CuerpoNormal() {
-  return std::max(kMenorCuerpo, QApplication::font().pointSize());
+  return std::max(kMenorCuerpo, QFontInfo(FuenteFija()).pointSize());
 }
 
 }  // namespace
@@ -75,8 +77,10 @@ frEscribePantalla::frEscribePantalla(const Entorno& entorno, Resumido resumido, 
     edPantalla_->setMinimumSize(0, 0);
   }
   edPantalla_->setFocus();
+  QTextCursor principio = edPantalla_->textCursor();
+  principio.setKeepPositionOnInsert(true);
+  edPantalla_->setTextCursor(principio);
   MuestraTrozo();
-  edPantalla_->moveCursor(QTextCursor::Start);
 }
 
 frEscribePantalla::~frEscribePantalla() {
@@ -131,6 +135,7 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
     auto* b = new QPushButton(Tx(texto), this);
     b->setObjectName(QString::fromLatin1(nombre));
     b->setAutoDefault(false);
+    b->setMinimumWidth(b->sizeHint().width() + kAireBoton);
     connect(b, &QPushButton::clicked, this, accion);
     columna.addWidget(b);
   };
@@ -178,16 +183,16 @@ void frEscribePantalla::MuestraTrozo() {
   fin = fin == std::string::npos ? texto.size() : std::min(fin + 1, texto.size());
   QTextCursor final(edPantalla_->document());
   final.movePosition(QTextCursor::End);
-  QTextCursor lugar = edPantalla_->textCursor();
-  lugar.setKeepPositionOnInsert(true);
-  edPantalla_->setTextCursor(lugar);
   final.insertText(Q(std::string_view(texto).substr(mostrado_, fin - mostrado_)));
   mostrado_ = fin;
   if (mostrado_ < texto.size()) QTimer::singleShot(0, this, &frEscribePantalla::MuestraTrozo);
 }
 
 void frEscribePantalla::MuestraTodo() {
+  if (mostrado_ == resumido_.texto.size()) return;
+  QApplication::setOverrideCursor(Qt::WaitCursor);
   while (mostrado_ < resumido_.texto.size()) MuestraTrozo();
+  QApplication::restoreOverrideCursor();
 }
 
 void frEscribePantalla::PonCuerpo(int cuerpo) {

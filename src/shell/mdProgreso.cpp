@@ -32,6 +32,7 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, QWidget* padre)
   setWindowModality(Qt::WindowModal);
   barra_->setRange(0, kMilesimas);
   barra_->setTextVisible(false);
+  cancela_->setObjectName(QStringLiteral("btCancelar"));
   cancela_->setAutoDefault(false);
   auto* botones = new QHBoxLayout;
   botones->addStretch();

@@ -27,6 +27,8 @@ namespace zorbin {
 
 namespace {
 
+constexpr int kMasCasos = 32'767;  // of a Tramo: a run counts them in 16 bits
+
 /// Whoever was asked gave up; never leaves this file.
 struct Cancelacion {
   Avance en;
@@ -36,25 +38,30 @@ EstiloNumeros EstiloDe(const Captura& c) {
   return {c.EsSI(), c.SeparadorDecimal};
 }
 
-// Heights times pressures, by the steps of the run; the state holds calculation units.
-int CasosPrevistos(const EstadoCalculo& e) {
-  constexpr double kUltimaAltura = 0.01;  // [m]
-  constexpr double kMuchos = 1e9;
+int AlturasPrevistas(const EstadoCalculo& e) {
   const auto& r = e.corrida;
+  int alturas = 1;
+  for (auto h = AlturaSiguiente(r.Hr0Actual, e.tramo.Hr0Delta, r.Hr0FinalActual);
+       h && *h <= r.Hr0FinalActual && alturas < kMasCasos;
+       h = AlturaSiguiente(*h, e.tramo.Hr0Delta, r.Hr0FinalActual)) {
+    ++alturas;
+  }
+  return alturas;
+}
+
+// The loop goes up to 0.2 at beyond the last pressure, or makes a last, shorter step.
+int PresionesPrevistas(const EstadoCalculo& e) {
+  const double paso = e.corrida.IncDP;
+  if (!(paso > 0)) return 1;
   const auto& t = e.tramo;
-  double alturas = 1;
-  if (t.Hr0Delta > 0) {
-    alturas += std::floor((r.Hr0FinalActual - r.Hr0Actual + kUltimaAltura) / t.Hr0Delta);
-  }
-  double presiones = 1;
-  if (r.IncDP > 0) {
-    const bool propia = t.TieneDPPropia();
-    const double rango =
-        propia ? t.Prs2Tram - t.Prs1Tram : e.obra.Prs2 - e.obra.Prs1;  // as the loop takes it
-    presiones += std::floor((rango + std::max(0.2, r.IncDP - 0.1)) / r.IncDP);
-  }
-  return static_cast<int>(
-      std::clamp(std::max(1.0, alturas) * std::max(1.0, presiones), 1.0, kMuchos));
+  const double rango = t.TieneDPPropia() ? t.Prs2Tram - t.Prs1Tram : e.obra.Prs2 - e.obra.Prs1;
+  const double pasos = std::floor((rango + std::max(0.2, paso - 0.1)) / paso);
+  return static_cast<int>(std::clamp<double>(1.0 + pasos, 1.0, kMasCasos));
+}
+
+// The state holds calculation units.
+int CasosPrevistos(const EstadoCalculo& e) {
+  return std::min(kMasCasos, AlturasPrevistas(e) * PresionesPrevistas(e));
 }
 
 // Tells how far the run has come, before anybody else hears of the Caso.
