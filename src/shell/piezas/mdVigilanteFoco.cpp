@@ -4,24 +4,13 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QWidget>
 
 namespace zorbin {
 
 namespace {
-
-// While a rule runs, what the focus does is the rule's own doing.
-class Ocupado {
- public:
-  explicit Ocupado(bool& marca) : marca_(marca) { marca_ = true; }
-  ~Ocupado() { marca_ = false; }
-  Ocupado(const Ocupado&) = delete;
-  Ocupado& operator=(const Ocupado&) = delete;
-
- private:
-  bool& marca_;
-};
 
 bool ListaDesplegada(const QWidget* campo) {
   const auto* lista = qobject_cast<const QComboBox*>(campo);
@@ -39,6 +28,9 @@ VigilanteFoco::VigilanteFoco(QWidget& pantalla, Reglas reglas)
 void VigilanteFoco::Vigila(QWidget& campo) {
   campos_.insert(&campo);
   campo.installEventFilter(this);
+  // The line of a list takes its keys first.
+  const auto* lista = qobject_cast<QComboBox*>(&campo);
+  if (lista != nullptr && lista->lineEdit() != nullptr) lista->lineEdit()->installEventFilter(this);
 }
 
 void VigilanteFoco::Exime(QWidget& widget) {
@@ -47,20 +39,20 @@ void VigilanteFoco::Exime(QWidget& widget) {
 
 bool VigilanteFoco::DejaCampo() {
   if (ocupado_) return false;
-  const Ocupado marca(ocupado_);
+  const Pausa pausa(*this);
   return SaleDelCampo();
 }
 
 void VigilanteFoco::VaA(QWidget& campo) {
-  const bool estaba = ocupado_;
-  ocupado_ = true;
+  const Pausa pausa(*this);
   Toma(&campo);
-  ocupado_ = estaba;
 }
 
 bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
   if (suceso->type() != QEvent::KeyPress || ocupado_) return false;
-  auto* campo = qobject_cast<QWidget*>(objeto);
+  auto* widget = qobject_cast<QWidget*>(objeto);
+  auto* campo = CampoDe(widget);
+  if (campo == nullptr) return false;
   const auto tecla = static_cast<QKeyEvent*>(suceso)->key();
   const bool adelante = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
   if (ListaDesplegada(campo)) return false;
@@ -70,7 +62,7 @@ bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
   if (campo == enMano_ && !DejaCampo()) return true;
   if (!adelante) return false;
   QKeyEvent siguiente(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-  QApplication::sendEvent(campo, &siguiente);
+  QApplication::sendEvent(widget, &siguiente);
   return true;
 }
 
@@ -78,7 +70,7 @@ void VigilanteFoco::FocoCambia(QWidget* ahora) {
   if (ocupado_ || ahora == nullptr || !pantalla_.isAncestorOf(ahora)) return;
   auto* campo = CampoDe(ahora);
   if ((campo != nullptr && campo == enMano_) || Es(exentos_, ahora)) return;
-  const Ocupado marca(ocupado_);
+  const Pausa pausa(*this);
   if (!SaleDelCampo() || campo == nullptr) return;
   // A rule may have closed the way to it.
   if (campo->isVisible() && campo->isEnabled()) Toma(campo);
