@@ -59,6 +59,22 @@ TEST(PantallaHidraulica, CalculaConLaTeclaDelBotonSinDejarElCampo) {
   EXPECT_EQ(EnFoco(p.pantalla), "txDatoOrigen");
 }
 
+TEST(PantallaHidraulica, ElRatonQueEntraEnUnCampoSeleccionaTodo) {
+  Puesto p;
+  auto& campo = Pieza<QLineEdit>(p.pantalla, "txRugosidad");
+  const auto sitio = campo.mapTo(&p.pantalla, QPoint(campo.width() / 2, campo.height() / 2));
+  QTest::mousePress(p.pantalla.windowHandle(), Qt::LeftButton, {}, sitio);
+  QTest::qWait(10);
+  QTest::mouseRelease(p.pantalla.windowHandle(), Qt::LeftButton, {}, sitio);
+  EXPECT_EQ(campo.selectedText(), "0,050");
+  QTest::keyClicks(&campo, "0,2");
+  EXPECT_EQ(campo.text(), "0,2");
+  // Within the field the mouse places the cursor.
+  QTest::mouseClick(p.pantalla.windowHandle(), Qt::LeftButton, {}, sitio);
+  QTest::qWait(10);
+  EXPECT_FALSE(campo.hasSelectedText());
+}
+
 TEST(PantallaHidraulica, OtroMetodoGuardaElDatoYPoneSuRugosidad) {
   Puesto p;
   Teclea(p.pantalla, "txDatoOrigen", "0,002");

@@ -102,6 +102,7 @@ inline void CompruebaTextos(const QWidget& pantalla, const Catalogo& catalogo,
       const bool marco = qobject_cast<const QGroupBox*>(widget) != nullptr;
       EXPECT_LE((marco ? widget->minimumSizeHint() : widget->sizeHint()).width(), widget->width())
           << donde;
+      EXPECT_EQ(widget->visibleRegion().boundingRect().width(), widget->width()) << donde;
     }
     const auto marca = texto.indexOf('&');
     if (marca >= 0) {

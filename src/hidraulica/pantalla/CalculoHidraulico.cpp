@@ -1,6 +1,7 @@
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -61,6 +62,13 @@ class Columna : public QScrollArea {
   }
   QSize minimumSizeHint() const override {
     return {sizeHint().width(), QScrollArea::minimumSizeHint().height()};
+  }
+
+ protected:
+  // A scroll area does not tell its layout that what it holds has grown.
+  bool eventFilter(QObject* objeto, QEvent* suceso) override {
+    if (objeto == widget() && suceso->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(objeto, suceso);
   }
 };
 
@@ -206,7 +214,6 @@ void CalculoHidraulico::RenuevaTextos() {
                {txt::RugosidadAbsolutaKs, txt::RugosidadArenaKa, txt::CoeficienteCwh});
   ReservaAncho(*lbNota_, {txt::ReglaCwh});
   Muestra();
-  columna_->updateGeometry();
 }
 
 void CalculoHidraulico::ReservaAncho(QLabel& etiqueta, std::initializer_list<int> textos) {

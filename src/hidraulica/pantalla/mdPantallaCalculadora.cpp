@@ -122,6 +122,8 @@ void PantallaCalculadora::Dice(const AvisoCampo& aviso) {
 
 void PantallaCalculadora::TomaSuSitio() {
   if (entorno_.preferencias.RecuperaVentana(nombre_, *this)) return;
+  // Before a window is shown, its layouts do not hear that a piece has grown.
+  for (auto* disposicion : findChildren<QLayout*>()) disposicion->invalidate();
   resize(sizeHint().boundedTo(screen()->availableSize() * kParteDePantalla));
 }
 
