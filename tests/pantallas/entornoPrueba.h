@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -78,6 +79,8 @@ class Persona : public QObject {
   };
   std::vector<Caja> cajas;
   std::vector<bool> respuestas;  // Yes or No of the questions to come, in order
+  QString fichero;               // chosen in a file dialog; empty: given up
+  int dialogos = 0;              // file dialogs answered
 
   QString Ultima() const { return cajas.empty() ? QString{} : cajas.back().texto; }
 
@@ -85,6 +88,13 @@ class Persona : public QObject {
   QTimer reloj_;
 
   void Mira() {
+    if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+      ++dialogos;
+      if (fichero.isEmpty()) return dialogo->reject();
+      dialogo->selectFile(fichero);
+      QMetaObject::invokeMethod(dialogo, "accept");
+      return;
+    }
     auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (caja == nullptr || !caja->isVisible()) return;
     cajas.push_back({caja->windowTitle(), caja->text()});

@@ -11,18 +11,6 @@ namespace zorbin {
 
 namespace {
 
-// While a rule runs, what the focus does is the rule's own doing.
-class Ocupado {
- public:
-  explicit Ocupado(bool& marca) : marca_(marca) { marca_ = true; }
-  ~Ocupado() { marca_ = false; }
-  Ocupado(const Ocupado&) = delete;
-  Ocupado& operator=(const Ocupado&) = delete;
-
- private:
-  bool& marca_;
-};
-
 bool ListaDesplegada(const QWidget* campo) {
   const auto* lista = qobject_cast<const QComboBox*>(campo);
   return lista != nullptr && lista->view() != nullptr && lista->view()->isVisible();
@@ -47,15 +35,13 @@ void VigilanteFoco::Exime(QWidget& widget) {
 
 bool VigilanteFoco::DejaCampo() {
   if (ocupado_) return false;
-  const Ocupado marca(ocupado_);
+  const Pausa pausa(*this);
   return SaleDelCampo();
 }
 
 void VigilanteFoco::VaA(QWidget& campo) {
-  const bool estaba = ocupado_;
-  ocupado_ = true;
+  const Pausa pausa(*this);
   Toma(&campo);
-  ocupado_ = estaba;
 }
 
 bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
@@ -78,7 +64,7 @@ void VigilanteFoco::FocoCambia(QWidget* ahora) {
   if (ocupado_ || ahora == nullptr || !pantalla_.isAncestorOf(ahora)) return;
   auto* campo = CampoDe(ahora);
   if ((campo != nullptr && campo == enMano_) || Es(exentos_, ahora)) return;
-  const Ocupado marca(ocupado_);
+  const Pausa pausa(*this);
   if (!SaleDelCampo() || campo == nullptr) return;
   // A rule may have closed the way to it.
   if (campo->isVisible() && campo->isEnabled()) Toma(campo);

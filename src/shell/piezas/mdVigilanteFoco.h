@@ -25,6 +25,21 @@ class VigilanteFoco : public QObject {
 
   VigilanteFoco(QWidget& pantalla, Reglas reglas);
 
+  /// While it lives, the focus goes where it likes and no rule runs.
+  class Pausa {
+   public:
+    explicit Pausa(VigilanteFoco& vigilante) : vigilante_(vigilante), estaba_(vigilante.ocupado_) {
+      vigilante_.ocupado_ = true;
+    }
+    ~Pausa() { vigilante_.ocupado_ = estaba_; }
+    Pausa(const Pausa&) = delete;
+    Pausa& operator=(const Pausa&) = delete;
+
+   private:
+    VigilanteFoco& vigilante_;
+    bool estaba_;
+  };
+
   /// A field: a widget whose children count as itself. Enter goes on to the next field.
   void Vigila(QWidget& campo);
   /// Going to this widget never leaves the field in hand.
