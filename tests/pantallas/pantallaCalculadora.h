@@ -87,7 +87,6 @@ inline std::vector<std::pair<const QWidget*, QString>> TextosALaVista(const QWid
 /// two have the same key.
 inline void CompruebaTextos(const QWidget& pantalla, const Catalogo& catalogo,
                             const QSet<QString>& compuestos) {
-  QTest::qWait(10);  // frames within frames take more than one round
   QSet<QString> buenos;
   for (int n = 101; n < 1300; ++n) {
     if (catalogo.Existe(n)) buenos.insert(SinMarcas(Q(catalogo.Texto(n))));

@@ -1,7 +1,6 @@
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 
 #include <QButtonGroup>
-#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -62,13 +61,6 @@ class Columna : public QScrollArea {
   }
   QSize minimumSizeHint() const override {
     return {sizeHint().width(), QScrollArea::minimumSizeHint().height()};
-  }
-
- protected:
-  // A scroll area does not tell its layout that what it holds has grown.
-  bool eventFilter(QObject* objeto, QEvent* suceso) override {
-    if (objeto == widget() && suceso->type() == QEvent::LayoutRequest) updateGeometry();
-    return QScrollArea::eventFilter(objeto, suceso);
   }
 };
 
@@ -214,6 +206,7 @@ void CalculoHidraulico::RenuevaTextos() {
                {txt::RugosidadAbsolutaKs, txt::RugosidadArenaKa, txt::CoeficienteCwh});
   ReservaAncho(*lbNota_, {txt::ReglaCwh});
   Muestra();
+  Recoloca();
 }
 
 void CalculoHidraulico::ReservaAncho(QLabel& etiqueta, std::initializer_list<int> textos) {

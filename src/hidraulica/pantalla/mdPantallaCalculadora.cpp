@@ -33,6 +33,10 @@ PantallaCalculadora::PantallaCalculadora(Entorno& entorno, const QString& nombre
   connect(ayuda, &QShortcut::activated, this, [this, ancla] { entorno_.ayuda(ancla); });
 }
 
+PantallaCalculadora::~PantallaCalculadora() {
+  if (isVisible()) GuardaSitio();  // the program ends with the window open
+}
+
 CasillaNumero* PantallaCalculadora::CreaCasilla(const QString& nombre) {
   auto* casilla = new CasillaNumero(entorno_.SeparadorDecimal, true, this);
   casilla->setObjectName(nombre);
@@ -120,15 +124,23 @@ void PantallaCalculadora::Dice(const AvisoCampo& aviso) {
         aviso.titulo != 0 ? Q(T(aviso.titulo)) : QString{});
 }
 
+void PantallaCalculadora::Recoloca() {
+  // By itself a frame hears only some rounds later, or not before it is shown, that a piece within
+  // it has grown.
+  const auto disposiciones = findChildren<QLayout*>();
+  for (auto* disposicion : disposiciones) disposicion->invalidate();
+  for (auto* pieza : findChildren<QWidget*>()) pieza->updateGeometry();
+  layout()->activate();
+  for (auto* disposicion : disposiciones) disposicion->activate();
+}
+
 void PantallaCalculadora::TomaSuSitio() {
   if (entorno_.preferencias.RecuperaVentana(nombre_, *this)) return;
-  // Before a window is shown, its layouts do not hear that a piece has grown.
-  for (auto* disposicion : findChildren<QLayout*>()) disposicion->invalidate();
   resize(sizeHint().boundedTo(screen()->availableSize() * kParteDePantalla));
 }
 
 void PantallaCalculadora::hideEvent(QHideEvent* suceso) {
-  if (!suceso->spontaneous()) entorno_.preferencias.GuardaVentana(nombre_, *this);
+  if (!suceso->spontaneous()) GuardaSitio();
   QDialog::hideEvent(suceso);
 }
 

@@ -29,6 +29,7 @@ class PantallaCalculadora : public QDialog {
   /// @param ancla   of its page in the manual
   PantallaCalculadora(Entorno& entorno, const QString& nombre, const QString& ancla,
                       QWidget* padre);
+  ~PantallaCalculadora() override;
 
   /// A field and its moments.
   struct Campo {
@@ -63,6 +64,9 @@ class PantallaCalculadora : public QDialog {
   void Dice(const AvisoCampo& aviso);
   void VaA(CasillaNumero& casilla) { vigilante_.VaA(casilla); }
 
+  /// Makes room for texts that have changed.
+  void Recoloca();
+
   /// The window is complete: it takes its place, or the size that shows all of it.
   void TomaSuSitio();
 
@@ -81,6 +85,7 @@ class PantallaCalculadora : public QDialog {
   QWidget* AlEntrar(QWidget* casilla);
   QWidget* AlSalir(QWidget* casilla);
   void Actua(const std::function<void()>& accion);
+  void GuardaSitio() { entorno_.preferencias.GuardaVentana(nombre_, *this); }
 };
 
 }  // namespace zorbin

@@ -179,6 +179,7 @@ void Protecciones::RenuevaTextos() {
   RenuevaEjemplo();
   RenuevaAnalisis();
   ReparteTeclas(*this);
+  Recoloca();
 }
 
 void Protecciones::RenuevaCampo(Medio medio) {
