@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -93,6 +94,8 @@ void CampoPantalla::CreaLista(QWidget* padre, bool editable) {
   lista_ = new QComboBox(padre);
   widget_ = lista_;
   lista_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  lista_->setFocusPolicy(Qt::StrongFocus);
+  lista_->installEventFilter(this);
   if (!editable) {
     connect(lista_, &QComboBox::activated, this, [this](int) {
       if (!escribiendo_) emit entradaElegida(lista_->currentText());
@@ -115,6 +118,13 @@ void CampoPantalla::CreaLista(QWidget* padre, bool editable) {
       if (!escribiendo_) emit entradaElegida(lista_->currentText());
     });
   }
+}
+
+// The wheel that scrolls a page never changes a datum under the pointer.
+bool CampoPantalla::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (suceso->type() != QEvent::Wheel || objeto != lista_ || lista_->hasFocus()) return false;
+  suceso->ignore();
+  return true;
 }
 
 void CampoPantalla::EnlazaLinea() {

@@ -48,6 +48,9 @@ class CampoPantalla : public QObject {
   void opcionElegida(int opcion);
   void pegadoRechazado(const QString& texto);
 
+ protected:
+  bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
  private:
   Ed id_;
   char separador_;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QWidget>
 
@@ -27,6 +28,9 @@ VigilanteFoco::VigilanteFoco(QWidget& pantalla, Reglas reglas)
 void VigilanteFoco::Vigila(QWidget& campo) {
   campos_.insert(&campo);
   campo.installEventFilter(this);
+  // The line of a list takes its keys first.
+  const auto* lista = qobject_cast<QComboBox*>(&campo);
+  if (lista != nullptr && lista->lineEdit() != nullptr) lista->lineEdit()->installEventFilter(this);
 }
 
 void VigilanteFoco::Exime(QWidget& widget) {
@@ -46,7 +50,9 @@ void VigilanteFoco::VaA(QWidget& campo) {
 
 bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
   if (suceso->type() != QEvent::KeyPress || ocupado_) return false;
-  auto* campo = qobject_cast<QWidget*>(objeto);
+  auto* widget = qobject_cast<QWidget*>(objeto);
+  auto* campo = CampoDe(widget);
+  if (campo == nullptr) return false;
   const auto tecla = static_cast<QKeyEvent*>(suceso)->key();
   const bool adelante = tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
   if (ListaDesplegada(campo)) return false;
@@ -56,7 +62,7 @@ bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
   if (campo == enMano_ && !DejaCampo()) return true;
   if (!adelante) return false;
   QKeyEvent siguiente(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-  QApplication::sendEvent(campo, &siguiente);
+  QApplication::sendEvent(widget, &siguiente);
   return true;
 }
 
