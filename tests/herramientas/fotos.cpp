@@ -14,6 +14,8 @@
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "pantallas/entornoPrueba.h"
 #include "protecciones/pantalla/Protecciones.h"
+#include "recursos/mdCarpetas.h"
+#include "recursos/mdRtf.h"
 #include "shell/CapturaDatos.h"
 #include "shell/FormaPrincipal.h"
 
@@ -115,12 +117,15 @@ void Calculadoras_(Fotografo& foto, Entorno& entorno) {
   foto.Saca(hidraulica, "hidraulica2");
   hidraulica.hide();
 
-  Protecciones medios(entorno, [](int) { return QString{}; });
+  Protecciones medios(entorno, [&entorno](int entrada) {
+    return Q(HtmlDeRtf(LeeRtf(RutaDocumento(entorno.textos.Texto(entrada)))));
+  });
   medios.show();
   medios.activateWindow();
   foto.Saca(medios, "medios0");
   Escribe(medios, "txpH0", "5");
   Escribe(medios, "txpH5", "13000");
+  Escribe(medios, "txpH6", "8");
   medios.findChild<QAbstractButton*>("Check1")->click();
   medios.findChild<QAbstractButton*>("btVisualizar")->click();
   foto.Saca(medios, "medios1");

@@ -145,14 +145,16 @@ void Protecciones::ColocaPiezas() {
   auto* ejemplo = new QVBoxLayout(frEjemplo_);
   ejemplo->addWidget(edEjemplo_);
 
-  auto* arriba = new QHBoxLayout;
-  arriba->addWidget(frAgresividad_);
-  arriba->addWidget(frEjemplo_, 1);
   frMedidas_ = Marco("frMedidas", this);
   (new QVBoxLayout(frMedidas_))->addWidget(edResultadoAgres_);
+  auto* analisis = new QVBoxLayout;
+  analisis->addWidget(frAgresividad_);
+  analisis->addWidget(frMedidas_, 1);
+  auto* centro = new QHBoxLayout;
+  centro->addLayout(analisis);
+  centro->addWidget(frEjemplo_);
   auto* filas = new QVBoxLayout(this);
-  filas->addLayout(arriba);
-  filas->addWidget(frMedidas_, 1);
+  filas->addLayout(centro, 1);
   filas->addLayout(FilaDeBotones({btVisualizar_, btImprimir_}));
   setTabOrder(edResultadoAgres_, edEjemplo_);
 }
