@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@
 #include "recursos/mdCatalogo.h"
 #include "shell/piezas/mdEntorno.h"
 #include "shell/piezas/mdQt.h"
+
+// A failed comparison shows the text, not its bytes.
+inline void PrintTo(const QString& texto, std::ostream* salida) {
+  *salida << '"' << texto.toStdString() << '"';
+}
 
 namespace zorbin::prueba {
 
