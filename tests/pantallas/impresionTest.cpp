@@ -13,7 +13,6 @@
 
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
-#include "pantallas/archivero.h"
 #include "pantallas/entornoPrueba.h"
 #include "shell/impresion/frImpresoras.h"
 #include "shell/impresion/frVistaPrevia.h"
@@ -195,7 +194,7 @@ TEST(Papel, UnaImpresoraQueYaNoEstaSeDiceYNoImprime) {
 TEST(Papel, SinHojasOCanceladoNoSaleNada) {
   Imprenta i;
   Persona persona;
-  Archivero archivero({i.Fichero("nada.pdf"), i.Fichero("nada.pdf")});
+  persona.fichero = i.Fichero("nada.pdf");
   const auto cancela = [](DestinoHojas& destino) {
     destino.RecibeHoja(Hoja{});
     throw DocumentoCancelado{};
@@ -219,11 +218,11 @@ TEST(Papel, SinImpresorasEsUnPdfConNombrePropuesto) {
   i.predeterminada.clear();
   EXPECT_EQ(i.impresora.EnUso(), kImpresoraPdf);
   i.mesa.preferencias.PonUltimaCarpeta(i.mesa.carpeta.path());
-  Archivero archivero({i.Fichero("obra"), i.Fichero("obra.pdf")});
   Persona persona;
+  persona.ficheros = QStringList{i.Fichero("obra"), i.Fichero("obra.pdf")};
   const auto hojas = Listado("pantalla");
   ASSERT_TRUE(i.impresora.Imprime(nullptr, "acequia/1 - Normal", De(hojas)));
-  EXPECT_EQ(archivero.propuestos, QStringList{i.Fichero("acequia 1 - Normal.pdf")});
+  EXPECT_EQ(persona.propuestos, QStringList{i.Fichero("acequia 1 - Normal.pdf")});
   EXPECT_EQ(Medidas(i.Fichero("obra.pdf")), std::to_string(hojas.size()) + " 595 x 842 pts (A4)");
   EXPECT_TRUE(persona.cajas.empty());
   // The same name again: it is asked about, and No leads back to the dialog, which is given up.
@@ -242,11 +241,11 @@ TEST(Papel, UnFicheroQueNoSeEscribeSeDiceYElAnteriorQueda) {
   ASSERT_TRUE(viejo.open(QIODevice::WriteOnly));
   viejo.write("antes");
   viejo.close();
-  Archivero archivero({"/proc/no/hay.pdf", i.Fichero("viejo.pdf")});
+  persona.ficheros = QStringList{"/proc/hay.pdf", i.Fichero("viejo.pdf")};
   auto& m = i.mesa;
   EXPECT_FALSE(GuardaPdf(nullptr, m.textos, m.preferencias, "x", De(Listado("pantalla"))));
   ASSERT_EQ(persona.cajas.size(), 1U);
-  EXPECT_NE(persona.Ultima().indexOf("/proc/no/hay.pdf"), -1) << S(persona.Ultima());
+  EXPECT_NE(persona.Ultima().indexOf("/proc/hay.pdf"), -1) << S(persona.Ultima());
   const auto falla = [](DestinoHojas& destino) {
     destino.RecibeHoja(Hoja{});
     throw ErrorPintor("disco lleno");

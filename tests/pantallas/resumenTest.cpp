@@ -17,7 +17,7 @@
 #include "captura/mdEdicion.h"
 #include "comun/comparaFichero.h"
 #include "listados/mdHojasTexto.h"
-#include "pantallas/archivero.h"
+#include "pantallas/enPantalla.h"
 #include "pantallas/entornoPrueba.h"
 #include "shell/frEscribePantalla.h"
 #include "shell/mdCalculos.h"
@@ -100,8 +100,8 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   auto pantalla = r.Abre(texto);
   const QString nombre = r.mesa.carpeta.filePath("r.txt");
   const QString pdf = r.mesa.carpeta.filePath("r.pdf");
-  Archivero archivero({nombre, pdf, "/proc/no/r.txt"});
   Persona persona;
+  persona.ficheros = QStringList{nombre, pdf, "/proc/r.txt"};
   Pulsa(*pantalla, "btTexto");
   QFile f(nombre);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));
@@ -110,7 +110,7 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   EXPECT_TRUE(QFile::exists(pdf));
   EXPECT_TRUE(persona.cajas.empty());
   Pulsa(*pantalla, "btTexto");
-  EXPECT_NE(persona.Ultima().indexOf("/proc/no/r.txt"), -1);
+  EXPECT_NE(persona.Ultima().indexOf("/proc/r.txt"), -1);
   EXPECT_TRUE(pantalla->isVisible());
   Pulsa(*pantalla, "btCopiar");
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), texto);
