@@ -22,6 +22,8 @@ inline constexpr int SistemaMKS = 148;
 inline constexpr int SistemaSI = 149;
 
 // Captions of the data screen
+inline constexpr int PaginaArmado = 137;
+inline constexpr int PaginaPostesado = 138;
 inline constexpr int RotSistema = 150;
 inline constexpr int RotSI = 151;
 inline constexpr int RotMKS = 152;
@@ -37,6 +39,7 @@ inline constexpr int RotInicial = 161;
 inline constexpr int RotFinal = 162;
 inline constexpr int RotIncremento = 163;
 inline constexpr int RotAlturas = 164;
+inline constexpr int RotIncrementoAltura = 1296;
 inline constexpr int RotTramo = 168;
 inline constexpr int RotDescriTramo = 169;
 inline constexpr int OpcionEmbebida = 170;

@@ -6,7 +6,7 @@
 #include <system_error>
 
 #include "core/mdTextos.h"
-#include "persistencia/mdAnsi.h"
+#include "recursos/mdAnsi.h"
 #include "recursos/textos.h"
 
 namespace zorbin {

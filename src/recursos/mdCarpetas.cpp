@@ -23,6 +23,17 @@ bool IgualSinCaja(const std::string& a, const std::string& b) {
   });
 }
 
+// A file by its name in the first folder that has it.
+fs::path BuscaFichero(const std::array<fs::path, 2>& carpetas, const std::string& nombre) {
+  std::error_code error;
+  for (const auto& carpeta : carpetas) {
+    for (const auto& f : fs::directory_iterator(carpeta, error)) {
+      if (IgualSinCaja(f.path().filename().string(), nombre)) return f.path();
+    }
+  }
+  return {};
+}
+
 }  // namespace
 
 fs::path CarpetaRecursos() {
@@ -36,14 +47,12 @@ fs::path CarpetaRecursos() {
 }
 
 fs::path RutaFigura(const std::string& nombre) {
-  std::error_code error;
-  const std::array<fs::path, 2> candidatas{CarpetaInstalada() / "figuras", ZORBIN_FIGURAS};
-  for (const auto& carpeta : candidatas) {
-    for (const auto& f : fs::directory_iterator(carpeta, error)) {
-      if (IgualSinCaja(f.path().filename().string(), nombre)) return f.path();
-    }
-  }
-  return {};
+  return BuscaFichero({CarpetaInstalada() / "figuras", ZORBIN_FIGURAS}, nombre);
+}
+
+fs::path RutaDocumento(const std::string& nombre) {
+  return BuscaFichero({CarpetaInstalada() / "documentos", fs::path(ZORBIN_RECURSOS) / "documentos"},
+                      nombre);
 }
 
 }  // namespace zorbin

@@ -9,7 +9,7 @@
 #include "core/mdTextos.h"
 #include "core/mdUnidades.h"
 #include "listados/mdFlujo.h"
-#include "persistencia/mdAnsi.h"
+#include "recursos/mdAnsi.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 

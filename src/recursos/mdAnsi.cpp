@@ -1,4 +1,4 @@
-#include "persistencia/mdAnsi.h"
+#include "recursos/mdAnsi.h"
 
 #include <algorithm>
 #include <array>
@@ -13,20 +13,6 @@ constexpr std::array<std::uint16_t, 32> kAltos{
     0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
-void AnadeUtf8(std::string& texto, unsigned c) {
-  const auto byte = [&texto](unsigned b) { texto.push_back(static_cast<char>(b)); };
-  if (c < 0x80) {
-    byte(c);
-  } else if (c < 0x800) {
-    byte(0xC0 | (c >> 6));
-    byte(0x80 | (c & 0x3F));
-  } else {
-    byte(0xE0 | (c >> 12));
-    byte(0x80 | ((c >> 6) & 0x3F));
-    byte(0x80 | (c & 0x3F));
-  }
-}
 
 // One character of a UTF-8 text and its bytes; a broken sequence counts as one byte that no page
 // has.
@@ -58,13 +44,40 @@ std::optional<char> ByteAnsi(unsigned codigo) {
 
 }  // namespace
 
+std::optional<char32_t> CaracterAnsi(unsigned char byte) {
+  if (byte < 0x80 || byte >= 0xA0) return byte;
+  const std::uint16_t codigo = kAltos[byte - 0x80u];
+  if (codigo == 0) return std::nullopt;
+  return codigo;
+}
+
+void AnadeUtf8(std::string& texto, char32_t c) {
+  const auto byte = [&texto](char32_t b) { texto.push_back(static_cast<char>(b)); };
+  const auto resto = [&byte, &c](unsigned bits) { byte(0x80 | ((c >> bits) & 0x3F)); };
+  if (c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) c = 0xFFFD;
+  if (c < 0x80) {
+    byte(c);
+  } else if (c < 0x800) {
+    byte(0xC0 | (c >> 6));
+    resto(0);
+  } else if (c < 0x10000) {
+    byte(0xE0 | (c >> 12));
+    resto(6);
+    resto(0);
+  } else {
+    byte(0xF0 | (c >> 18));
+    resto(12);
+    resto(6);
+    resto(0);
+  }
+}
+
 std::optional<std::string> DeAnsi(std::string_view bytes) {
   std::string texto;
   for (const char c : bytes) {
-    const auto b = static_cast<unsigned char>(c);
-    const unsigned codigo = b >= 0x80 && b < 0xA0 ? kAltos[b - 0x80u] : b;
-    if (codigo == 0 && b != 0) return std::nullopt;
-    AnadeUtf8(texto, codigo);
+    const auto codigo = CaracterAnsi(static_cast<unsigned char>(c));
+    if (!codigo) return std::nullopt;
+    AnadeUtf8(texto, *codigo);
   }
   return texto;
 }

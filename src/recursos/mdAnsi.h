@@ -1,5 +1,5 @@
-// Windows-1252, the code page of the texts in the project's files. Inside the program all text is
-// UTF-8.
+// Windows-1252, the code page of the texts in the project's files and of the documents. Inside the
+// program all text is UTF-8.
 #pragma once
 
 #include <optional>
@@ -7,6 +7,13 @@
 #include <string_view>
 
 namespace zorbin {
+
+/// Character of a byte. No value for the bytes that stand for none (see DeAnsi).
+std::optional<char32_t> CaracterAnsi(unsigned char byte);
+
+/// Adds a character to a UTF-8 text; what is no character of Unicode, such as half a surrogate
+/// pair, is added as U+FFFD.
+void AnadeUtf8(std::string& texto, char32_t c);
 
 /// UTF-8 of a text in Windows-1252. No value when a byte stands for no character (0x81, 0x8D,
 /// 0x8F, 0x90, 0x9D).

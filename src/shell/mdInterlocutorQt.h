@@ -1,0 +1,35 @@
+// The window's side of the capture rules: message boxes and the dialog of a file.
+#pragma once
+
+#include "captura/mdInterlocutor.h"
+#include "recursos/mdCatalogo.h"
+#include "shell/piezas/mdPreferencias.h"
+
+class QWidget;
+
+namespace zorbin {
+
+class InterlocutorQt : public Interlocutor {
+ public:
+  InterlocutorQt(const Catalogo& textos, Preferencias& preferencias)
+      : textos_(textos), preferencias_(preferencias) {}
+
+  /// The window that the boxes stand on.
+  void PonPadre(QWidget* padre) { padre_ = padre; }
+
+  void Muestra(const std::string& texto, const std::string& titulo) override;
+  bool Pregunta(const std::string& texto, const std::string& titulo) override;
+  std::optional<std::string> PideFichero(const std::string& titulo) override;
+  // The screen follows the model after every action.
+  void VaA(Ed) override {}
+
+ private:
+  const Catalogo& textos_;
+  Preferencias& preferencias_;
+  QWidget* padre_ = nullptr;
+};
+
+/// Filters of the file dialogs: Obras, and all files.
+QString FiltrosObra(const Catalogo& textos);
+
+}  // namespace zorbin

@@ -1,0 +1,46 @@
+#include "shell/piezas/mdDialogos.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "shell/piezas/mdQt.h"
+#include "shell/piezas/textosPiezas.h"
+
+namespace zorbin {
+
+namespace {
+
+QString Titulo(const QString& titulo) {
+  return titulo.trimmed().isEmpty() ? QString::fromLatin1(kTituloAplicacion) : titulo.trimmed();
+}
+
+// What a person typed may stand in a message: never taken for rich text.
+void Prepara(QMessageBox& caja, const QString& texto, const QString& titulo) {
+  caja.setWindowTitle(Titulo(titulo));
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(texto.trimmed());
+}
+
+}  // namespace
+
+void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto, const QString& titulo) {
+  QMessageBox caja(padre);
+  Prepara(caja, texto, titulo);
+  caja.setIcon(QMessageBox::Warning);
+  caja.addButton(Rotulo(textos.Texto(txt::BotonAceptar)), QMessageBox::AcceptRole);
+  caja.exec();
+}
+
+bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, const QString& titulo) {
+  QMessageBox caja(padre);
+  Prepara(caja, texto, titulo);
+  caja.setIcon(QMessageBox::Question);
+  auto* si = caja.addButton('&' + Rotulo(textos.Texto(txt::BotonSi)), QMessageBox::YesRole);
+  auto* no = caja.addButton('&' + Rotulo(textos.Texto(txt::BotonNo)), QMessageBox::NoRole);
+  caja.setDefaultButton(si);
+  caja.setEscapeButton(no);
+  caja.exec();
+  return caja.clickedButton() == si;
+}
+
+}  // namespace zorbin

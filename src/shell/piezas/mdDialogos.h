@@ -1,0 +1,23 @@
+// Message boxes in the words of the catalogue.
+#pragma once
+
+#include <QString>
+
+#include "recursos/mdCatalogo.h"
+
+class QWidget;
+
+namespace zorbin {
+
+/// Title of a box without a title of its own.
+inline constexpr char kTituloAplicacion[] = "ZORBIN";
+
+/// A message with one button. An empty title is that of the application.
+void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto,
+           const QString& titulo = {});
+
+/// A question with Yes and No; Escape answers No. @return whether the answer was Yes
+bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto,
+              const QString& titulo = {});
+
+}  // namespace zorbin

@@ -1,0 +1,13 @@
+// Names of the catalogue entries that the boxes and fields of every screen share.
+#pragma once
+
+namespace zorbin::txt {
+
+// clang-format off
+inline constexpr int BotonAceptar = 682;
+inline constexpr int BotonNo = 736;
+inline constexpr int BotonSi = 737;
+inline constexpr int PegadoSinNumero = 1200;  // {1} what was pasted
+// clang-format on
+
+}  // namespace zorbin::txt
