@@ -74,11 +74,12 @@ int Genera(const QDir& carpeta, const QDir& figuras, const QString& salida) {
   try {
     const Tipografia tipografia;
     const auto portada = LeeHtml(QString::fromUtf8(Lee(carpeta.filePath(fichero))));
+    const Rotulos rotulos = LeeRotulos(portada);
     auto capitulos = LeeCapitulos(carpeta, fichero);
-    const auto paginas = Maqueta(tipografia, portada, capitulos, figuras, fichero);
+    const auto paginas = Maqueta(tipografia, rotulos, portada, capitulos, figuras, fichero);
     QDir().mkpath(QFileInfo(salida).path());
     QSaveFile f(salida);
-    const QByteArray bytes = Pdf(paginas, QStringLiteral("ZORBIN"));
+    const QByteArray bytes = Pdf(paginas, rotulos.documento);
     const bool escrito =
         f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.commit();
     return escrito ? 0 : Falla(kFalla, salida + ": " + f.errorString());

@@ -1,6 +1,5 @@
 #include "mdBloques.h"
 
-#include <QLocale>
 #include <algorithm>
 
 #include "mdDibujos.h"

@@ -93,7 +93,7 @@ QPainterPath Corona(double interior, double exterior) {
   return p;
 }
 
-QPainterPath Caja2(double x1, double y1, double x2, double y2) {
+QPainterPath Rectangulo(double x1, double y1, double x2, double y2) {
   QPainterPath p;
   p.addRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)));
   return p;
@@ -133,8 +133,8 @@ void SignosAnillo(Plano& p, double x) {
   const double ancho = 84;
   const double alto = 22;
   const double y = 8;
-  p.Mancha(Caja2(x, y - alto / 2, x + ancho, y + alto / 2), 225);
-  p.Trazo(Caja2(x, y - alto / 2, x + ancho, y + alto / 2), kFino);
+  p.Mancha(Rectangulo(x, y - alto / 2, x + ancho, y + alto / 2), 225);
+  p.Trazo(Rectangulo(x, y - alto / 2, x + ancho, y + alto / 2), kFino);
   p.Texto({x + ancho / 2, y - alto / 2 - 5}, QStringLiteral("cara exterior"));
   p.Texto({x + ancho / 2, y + alto / 2 + 11}, QStringLiteral("cara interior"));
   for (const int lado : {-1, 1}) {
@@ -166,8 +166,8 @@ Caja Pared(const Tipografia& tipografia) {
   constexpr double xInt = 40, xCam = 86, xNuc = 220, xAlambre = 227, xRev = 290;
   constexpr double y1 = -46, y2 = 46, xFibra = 152;
   Plano p(tipografia);
-  p.Mancha(Caja2(xInt, y1, xNuc, y2), 222);
-  p.Mancha(Caja2(xNuc, y1, xRev, y2), 240);
+  p.Mancha(Rectangulo(xInt, y1, xNuc, y2), 222);
+  p.Mancha(Rectangulo(xNuc, y1, xRev, y2), 240);
   p.Linea({xCam, y1}, {xCam, y2}, 2.2);
   for (const double x : {xInt, xNuc, xRev}) p.Linea({x, y1}, {x, y2}, kMedio);
   for (double y = y1 + 10; y < y2; y += 24) {
@@ -234,6 +234,7 @@ Caja Moviles(const Tipografia& tipografia) {
                                          {3, 0.8, 0, "carro de 60 t"},
                                          {2, 1.6, 110, "eje de 13 t"},
                                          {1, 0.8, 110, "eje de 7 t"}}};
+  p.Mancha(Rectangulo(x(2.3), -alto + 4, x(3.6), -alto + 60), 255);
   double yLeyenda = -alto + 16;
   for (const auto& t : kTrenes) {
     QPainterPath curva({x(hMin), y(PresionMovil(t.codigo, hMin))});

@@ -1,5 +1,6 @@
 #include "mdMaqueta.h"
 
+#include <QHash>
 #include <algorithm>
 
 #include "mdBloques.h"
@@ -97,25 +98,6 @@ const Elemento& Cuerpo(const Elemento& raiz) {
   const auto* cuerpo = html == nullptr ? nullptr : Hijo(*html, QStringLiteral("body"));
   if (cuerpo == nullptr) throw ErrorFuente(1, QStringLiteral("<html><body> is missing"));
   return *cuerpo;
-}
-
-Rotulos LeeRotulos(const Elemento& portada) {
-  const auto* html = Hijo(portada, QStringLiteral("html"));
-  const auto* head = html == nullptr ? nullptr : Hijo(*html, QStringLiteral("head"));
-  if (head == nullptr) throw ErrorFuente(1, QStringLiteral("<html><head> is missing"));
-  QHash<QString, QString> metas;
-  for (const auto& e : head->hijos) {
-    metas.insert(e.Atributo(QStringLiteral("name")), e.Atributo(QStringLiteral("content")));
-  }
-  const auto lee = [&](const char* nombre) {
-    const QString valor = metas.value(QString::fromLatin1(nombre));
-    if (valor.isEmpty()) {
-      throw ErrorFuente(head->linea, QStringLiteral("no <meta name=\"%1\">").arg(nombre));
-    }
-    return valor;
-  };
-  return {lee("documento"), lee("indice"), lee("capitulo"), lee("apartado"),
-          lee("formula"),   lee("tabla"),  lee("figura")};
 }
 
 struct Entrada {
@@ -290,10 +272,28 @@ Caja Portada(const Tipografia& tipografia, const Elemento& cuerpo, const Bloques
 
 }  // namespace
 
-std::vector<Caja> Maqueta(const Tipografia& tipografia, const Elemento& portada,
-                          std::vector<Capitulo>& capitulos, const QDir& figuras, QString& fichero) {
-  fichero = QStringLiteral("portada.html");
-  const Rotulos rotulos = LeeRotulos(portada);
+Rotulos LeeRotulos(const Elemento& portada) {
+  const auto* html = Hijo(portada, QStringLiteral("html"));
+  const auto* head = html == nullptr ? nullptr : Hijo(*html, QStringLiteral("head"));
+  if (head == nullptr) throw ErrorFuente(1, QStringLiteral("<html><head> is missing"));
+  QHash<QString, QString> metas;
+  for (const auto& e : head->hijos) {
+    metas.insert(e.Atributo(QStringLiteral("name")), e.Atributo(QStringLiteral("content")));
+  }
+  const auto lee = [&](const char* nombre) {
+    const QString valor = metas.value(QString::fromLatin1(nombre));
+    if (valor.isEmpty()) {
+      throw ErrorFuente(head->linea, QStringLiteral("no <meta name=\"%1\">").arg(nombre));
+    }
+    return valor;
+  };
+  return {lee("documento"), lee("indice"), lee("capitulo"),
+          lee("apartado"),  lee("tabla"),  lee("figura")};
+}
+
+std::vector<Caja> Maqueta(const Tipografia& tipografia, const Rotulos& rotulos,
+                          const Elemento& portada, std::vector<Capitulo>& capitulos,
+                          const QDir& figuras, QString& fichero) {
   const Numeros numeros = Numerador().Numera(capitulos, fichero);
   const Referencia referencia = Referencias(numeros, rotulos);
   Bloques bloques(tipografia, rotulos, referencia, figuras);

@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QDir>
-#include <QHash>
-#include <memory>
 
 #include "mdHtml.h"
 #include "mdParrafo.h"
@@ -22,13 +20,17 @@ struct Capitulo {
 struct Rotulos {
   QString documento;  // of the running head
   QString indice;
-  QString capitulo, apartado, formula, tabla, figura;
+  QString capitulo, apartado, tabla, figura;
 };
+
+/// @throws ErrorFuente naming what the cover lacks
+Rotulos LeeRotulos(const Elemento& portada);
 
 /// Pages of the whole document, the cover first. Numbers the elements of the chapters.
 /// @param figuras  folder of the pictures
 /// @throws ErrorFuente; `fichero` names the chapter in hand
-std::vector<Caja> Maqueta(const Tipografia& tipografia, const Elemento& portada,
-                          std::vector<Capitulo>& capitulos, const QDir& figuras, QString& fichero);
+std::vector<Caja> Maqueta(const Tipografia& tipografia, const Rotulos& rotulos,
+                          const Elemento& portada, std::vector<Capitulo>& capitulos,
+                          const QDir& figuras, QString& fichero);
 
 }  // namespace zorbin::memoria

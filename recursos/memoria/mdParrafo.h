@@ -1,7 +1,6 @@
 // Running text: the words of an element, and their lines.
 #pragma once
 
-#include <QHash>
 #include <functional>
 
 #include "mdHtml.h"

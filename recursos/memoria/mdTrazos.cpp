@@ -111,10 +111,6 @@ Caja Tipografia::DeTexto(const QString& texto, const Tipo& tipo) const {
   return c;
 }
 
-double Tipografia::AltoEquis(const Tipo& tipo) const {
-  return De(tipo.letra).metrica.xHeight() * tipo.cuerpo / kMedidaPx;
-}
-
 QPainterPath Tipografia::Contorno(const QString& texto, const Tipo& tipo) const {
   QPainterPath camino;
   camino.addText(0, 0, De(tipo.letra).fuente, texto);

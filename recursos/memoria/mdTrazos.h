@@ -76,8 +76,6 @@ class Tipografia {
   /// Box of a text; its height is that of its ink.
   Caja DeTexto(const QString& texto, const Tipo& tipo) const;
 
-  double AltoEquis(const Tipo& tipo) const;
-
   /// Outline of a text at its baseline.
   QPainterPath Contorno(const QString& texto, const Tipo& tipo) const;
 
