@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -89,7 +90,7 @@ class Persona : public QObject {
       propuestos += dialogo->selectedFiles();
       const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
       if (elegido.isEmpty()) return dialogo->reject();
-      dialogo->selectFile(elegido);
+      dialogo->findChild<QLineEdit*>("fileNameEdit")->setText(elegido);
       QMetaObject::invokeMethod(dialogo, "accept");
       return;
     }
