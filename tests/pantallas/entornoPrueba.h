@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,11 @@
 #include "recursos/mdCatalogo.h"
 #include "shell/piezas/mdEntorno.h"
 #include "shell/piezas/mdQt.h"
+
+// A failed comparison shows the text, not its bytes.
+inline void PrintTo(const QString& texto, std::ostream* salida) {
+  *salida << '"' << texto.toStdString() << '"';
+}
 
 namespace zorbin::prueba {
 
