@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -97,7 +98,7 @@ class Persona : public QObject {
     propuestos += dialogo.selectedFiles();
     const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
     if (elegido.isEmpty()) return dialogo.reject();
-    dialogo.selectFile(elegido);
+    dialogo.findChild<QLineEdit*>("fileNameEdit")->setText(elegido);
     static_cast<QDialog&>(dialogo).done(QDialog::Accepted);
   }
 
