@@ -55,4 +55,8 @@ fs::path RutaDocumento(const std::string& nombre) {
                       nombre);
 }
 
+fs::path RutaAyuda(const std::string& nombre) {
+  return BuscaFichero({CarpetaInstalada() / "ayuda", fs::path(ZORBIN_RECURSOS) / "ayuda"}, nombre);
+}
+
 }  // namespace zorbin
