@@ -3,9 +3,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <regex>
 #include <set>
@@ -55,7 +57,7 @@ Opciones OpcionesDeAyuda(const std::string& ayuda) {
   std::smatch m;
   for (std::string linea; std::getline(lineas, linea);) {
     if (!std::regex_search(linea, m, opcion)) continue;
-    opciones[m[1]] = m[2].str();
+    opciones[m.str(1)] = m.str(2);
   }
   return opciones;
 }
@@ -70,8 +72,9 @@ std::map<std::string, Opciones> OpcionesDePagina(const std::string& pagina) {
   std::string seccion, anterior;
   std::smatch m;
   for (std::string linea; std::getline(lineas, linea); anterior = linea) {
-    if (std::regex_match(linea, m, titulo)) seccion = m[1];
-    if (anterior == ".TP" && std::regex_match(linea, m, opcion)) secciones[seccion][m[1]] = m[2];
+    if (std::regex_match(linea, m, titulo)) seccion = m.str(1);
+    if (anterior == ".TP" && std::regex_match(linea, m, opcion))
+      secciones[seccion][m.str(1)] = m.str(2);
   }
   return secciones;
 }
@@ -85,7 +88,7 @@ std::set<std::string> CodigosDePagina(const std::string& pagina) {
   return codigos;
 }
 
-TEST(Paginas, DicenLasOpcionesYLosCodigosDeLaLinea) {
+TEST(PaginasDeManual, DicenLasOpcionesYLosCodigosDeLaLinea) {
   std::map<std::string, Opciones> deLaAyuda;
   for (const char* orden : {"calcula", "valida", "hidraulica", "medios"}) {
     deLaAyuda[orden] =
@@ -140,10 +143,11 @@ TEST(Escritorio, LaFirmaDelTipoEsLaDelFichero) {
                                 std::regex(R"re(type="little16" offset="0" value="(\d+)")re")));
   ASSERT_TRUE(std::regex_search(tipo, texto,
                                 std::regex(R"re(type="string" offset="2" value="([^"]+)")re")));
-  EXPECT_EQ(texto[1], kVersionFichero);
-  EXPECT_EQ(std::stoul(longitud[1]), kVersionFichero.size());
-  EXPECT_EQ(muestra.substr(0, 2), std::string({static_cast<char>(std::stoi(longitud[1])), '\0'}));
-  EXPECT_EQ(muestra.substr(2, texto[1].length()), texto[1]);
+  EXPECT_EQ(texto.str(1), kVersionFichero);
+  EXPECT_EQ(std::stoul(longitud.str(1)), kVersionFichero.size());
+  EXPECT_EQ(muestra.substr(0, 2),
+            std::string({static_cast<char>(std::stoi(longitud.str(1))), '\0'}));
+  EXPECT_EQ(muestra.substr(2, kVersionFichero.size()), kVersionFichero);
 }
 
 TEST(Escritorio, ElRegistroDeCambiosEmpiezaPorEstaVersion) {
