@@ -31,7 +31,7 @@ limpia() {
     wait "$xvfb" 2>/dev/null || true
   fi
   [ -n "$raiz" ] || return 0
-  umount --recursive "$raiz" 2>/dev/null || umount --recursive --lazy "$raiz" 2>/dev/null || true
+  umount --recursive "$raiz" 2>/dev/null || umount --recursive --lazy "$raiz"
   rm -rf --one-file-system "$raiz"
 }
 trap limpia EXIT
@@ -46,7 +46,7 @@ bien() { echo "  bien: $*"; }
 dentro() { LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive PATH=/usr/sbin:/usr/bin:/sbin:/bin chroot "$raiz" "$@"; }
 # As a person without rights, in their home; the process is the program itself.
 como_persona() {
-  exec env -i PATH=/usr/bin:/bin HOME=/home/$persona LC_ALL=C.UTF-8 DISPLAY="${DISPLAY:-}" \
+  exec env -i PATH=/usr/sbin:/usr/bin HOME=/home/$persona LC_ALL=C.UTF-8 DISPLAY="${DISPLAY:-}" \
     chroot --userspec=$persona:$persona "$raiz" "$@"
 }
 
@@ -70,6 +70,7 @@ prepara_raiz() {
   rm -rf --one-file-system "$taller"/raiz.*
   raiz=$(mktemp -d "$taller/raiz.XXXXXX")
   chmod 755 "$raiz"
+  mount --bind "$raiz" "$raiz" # so that everything mounted in it goes with it
   tar -C "$raiz" -xf "$base"
   mkdir -p "$taller/archivos/partial" "$raiz/tmp/.X11-unix"
   mount -t proc proc "$raiz/proc"
@@ -101,7 +102,7 @@ comprueba_linea() {
     falla "zorbin-calc calcula"
   cmp "$taller/resumen.txt" "$aqui/../datos/acequia-resumen.txt" || falla "el resumen es otro"
   bien "el resumen de la muestra"
-  (como_persona zorbin-calc calcula $muestra --listado normal --pdf /home/$persona/acequia.pdf) ||
+  (como_persona zorbin-calc calcula $muestra --listado normal --pdf /home/$persona/acequia.pdf) 2>"$taller/listado.log" ||
     falla "el listado en PDF"
   pdffonts "$raiz/home/$persona/acequia.pdf" | grep -q LiberationMono ||
     falla "el PDF no lleva su letra"
