@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,11 @@
 #include "recursos/mdCatalogo.h"
 #include "shell/piezas/mdEntorno.h"
 #include "shell/piezas/mdQt.h"
+
+// A failed comparison shows the text, not its bytes.
+inline void PrintTo(const QString& texto, std::ostream* salida) {
+  *salida << '"' << texto.toStdString() << '"';
+}
 
 namespace zorbin::prueba {
 
@@ -74,6 +80,8 @@ class Persona : public QObject {
   std::vector<Caja> cajas;
   std::vector<bool> respuestas;  // Yes or No of the questions to come, in order
   QString fichero;               // chosen in a file dialog; empty: given up
+  QStringList ficheros;          // chosen in the next ones, before that
+  QStringList propuestos;        // names that the dialogs came with
   int dialogos = 0;              // file dialogs answered
 
   QString Ultima() const { return cajas.empty() ? QString{} : cajas.back().texto; }
@@ -84,8 +92,10 @@ class Persona : public QObject {
   void Mira() {
     if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
       ++dialogos;
-      if (fichero.isEmpty()) return dialogo->reject();
-      dialogo->selectFile(fichero);
+      propuestos += dialogo->selectedFiles();
+      const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
+      if (elegido.isEmpty()) return dialogo->reject();
+      dialogo->selectFile(elegido);
       QMetaObject::invokeMethod(dialogo, "accept");
       return;
     }

@@ -6,10 +6,10 @@
 #include <QTimer>
 #include <QTranslator>
 #include <array>
+#include <cstdlib>
 #include <stdexcept>
 
 #include "captura/mdCiclo.h"
-#include "captura/textosCaptura.h"
 #include "core/mdNumeros.h"
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "protecciones/pantalla/Protecciones.h"
@@ -34,6 +34,13 @@ constexpr int kEsperaAdvertencia = 1000;  // [ms]
 
 // Names of the toolkit's own texts, by language of the catalogue.
 constexpr std::array<const char*, kIdiomas> kIdiomasDialogos{"es", "en", "ca", "pt_BR", "fr"};
+
+// Each opening begins anew.
+template <class Ventana>
+Ventana* EnVentana(Ventana* ventana) {
+  ventana->setAttribute(Qt::WA_DeleteOnClose);
+  return ventana;
+}
 
 template <class Ventana>
 void Delante(Ventana& ventana) {
@@ -101,13 +108,13 @@ void Programa::Enlaza() {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };
   p.hidraulico = [this, padre] {
-    if (hidraulico_ == nullptr) hidraulico_ = new CalculoHidraulico(entorno_, padre);
+    if (hidraulico_ == nullptr) hidraulico_ = EnVentana(new CalculoHidraulico(entorno_, padre));
     Delante(*hidraulico_);
   };
   p.medidas = [this, padre] {
     if (protecciones_ == nullptr) {
-      protecciones_ = new Protecciones(
-          entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre);
+      protecciones_ = EnVentana(new Protecciones(
+          entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre));
     }
     Delante(*protecciones_);
   };
@@ -132,14 +139,15 @@ frAyuda& Programa::Ayuda() {
 }
 
 void Programa::MuestraAdvertencia(int modo) {
-  frmTip(entorno_, modo, [this](int entrada) { return DocumentoHtml(entrada); }, ventana_.get())
+  frmTip(
+      entorno_, modo, [this](int entrada) { return DocumentoHtml(entrada); }, ventana_.get())
       .exec();
 }
 
 void Programa::Memoria() {
   MemoriaTecnica memoria;
   memoria.ruta = RutaDocumento(textos_.Texto(txt::NombreMemoria));
-  memoria.carpetas = CarpetasEscritorio::DeLaMaquina();
+  memoria.carpetas = CarpetasDeLaSesion([](const char* v) { return std::getenv(v); });
   memoria.documento = [this](int entrada) { return DocumentoHtml(entrada); };
   MuestraMemoria(entorno_, memoria, ventana_.get());
 }
