@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -51,7 +52,9 @@ struct Mesa {
       : textos(Catalogo::Lee(ZORBIN_FUENTES "recursos/textos")),
         tablas(LeeTablas(ZORBIN_FUENTES "recursos/tablas")),
         preferencias(carpeta.filePath("usuario.ini"), carpeta.filePath("maquina.ini")),
-        entorno{textos, tablas, preferencias, papel} {}
+        entorno{textos, tablas, preferencias, papel} {
+    preferencias.PonUltimaCarpeta(carpeta.path());
+  }
 
   QTemporaryDir carpeta;
   Catalogo textos;
@@ -89,14 +92,19 @@ class Persona : public QObject {
  private:
   QTimer reloj_;
 
+  // The dialog's own checks of a name are left out: they wait for it to read its folder.
+  void Contesta(QFileDialog& dialogo) {
+    ++dialogos;
+    propuestos += dialogo.selectedFiles();
+    const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
+    if (elegido.isEmpty()) return dialogo.reject();
+    dialogo.findChild<QLineEdit*>("fileNameEdit")->setText(elegido);
+    static_cast<QDialog&>(dialogo).done(QDialog::Accepted);
+  }
+
   void Mira() {
     if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-      ++dialogos;
-      propuestos += dialogo->selectedFiles();
-      const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
-      if (elegido.isEmpty()) return dialogo->reject();
-      dialogo->selectFile(elegido);
-      QMetaObject::invokeMethod(dialogo, "accept");
+      Contesta(*dialogo);
       return;
     }
     auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -241,11 +241,11 @@ TEST(Papel, UnFicheroQueNoSeEscribeSeDiceYElAnteriorQueda) {
   ASSERT_TRUE(viejo.open(QIODevice::WriteOnly));
   viejo.write("antes");
   viejo.close();
-  persona.ficheros = QStringList{"/proc/hay.pdf", i.Fichero("viejo.pdf")};
+  persona.ficheros = QStringList{i.Fichero("no/hay.pdf"), i.Fichero("viejo.pdf")};
   auto& m = i.mesa;
   EXPECT_FALSE(GuardaPdf(nullptr, m.textos, m.preferencias, "x", De(Listado("pantalla"))));
   ASSERT_EQ(persona.cajas.size(), 1U);
-  EXPECT_NE(persona.Ultima().indexOf("/proc/hay.pdf"), -1) << S(persona.Ultima());
+  EXPECT_NE(persona.Ultima().indexOf(i.Fichero("no/hay.pdf")), -1) << S(persona.Ultima());
   const auto falla = [](DestinoHojas& destino) {
     destino.RecibeHoja(Hoja{});
     throw ErrorPintor("disco lleno");

@@ -101,7 +101,7 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   const QString nombre = r.mesa.carpeta.filePath("r.txt");
   const QString pdf = r.mesa.carpeta.filePath("r.pdf");
   Persona persona;
-  persona.ficheros = QStringList{nombre, pdf, "/proc/r.txt"};
+  persona.ficheros = QStringList{nombre, pdf, r.mesa.carpeta.filePath("no/r.txt")};
   Pulsa(*pantalla, "btTexto");
   QFile f(nombre);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));
@@ -110,7 +110,7 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   EXPECT_TRUE(QFile::exists(pdf));
   EXPECT_TRUE(persona.cajas.empty());
   Pulsa(*pantalla, "btTexto");
-  EXPECT_NE(persona.Ultima().indexOf("/proc/r.txt"), -1);
+  EXPECT_NE(persona.Ultima().indexOf("no/r.txt"), -1);
   EXPECT_TRUE(pantalla->isVisible());
   Pulsa(*pantalla, "btCopiar");
   EXPECT_EQ(QApplication::clipboard()->text().toStdString(), texto);
