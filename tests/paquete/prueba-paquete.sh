@@ -6,7 +6,8 @@
 # FOLDER keeps the base system and the packages fetched, for the next time. Needs root and Debian's
 # packages; ESPEJO=URL takes them from another mirror. Everything runs in namespaces of its own, so
 # that no mount and no process outlives it, however it ends.
-set -euo pipefail
+set -Eeuo pipefail
+trap 'echo "FALLA: línea $LINENO" >&2' ERR
 
 paquete=$(realpath "$1")
 mkdir -p "$2"
@@ -102,7 +103,7 @@ comprueba_linea() {
     falla "zorbin-calc calcula"
   cmp "$taller/resumen.txt" "$aqui/../datos/acequia-resumen.txt" || falla "el resumen es otro"
   bien "el resumen de la muestra"
-  (como_persona zorbin-calc calcula $muestra --listado normal --pdf /home/$persona/acequia.pdf) 2>"$taller/listado.log" ||
+  (como_persona zorbin-calc calcula $muestra --listado normal --pdf /home/$persona/acequia.pdf) >"$taller/listado.log" 2>&1 ||
     falla "el listado en PDF"
   pdffonts "$raiz/home/$persona/acequia.pdf" | grep -q LiberationMono ||
     falla "el PDF no lleva su letra"
@@ -133,7 +134,7 @@ comprueba_ventana() {
   local ventana=
   for _ in $(seq 100); do
     kill -0 $programa 2>/dev/null || falla "zorbin acabó: $(cat "$taller/zorbin.log")"
-    ventana=$(ventanas | grep -o '0x[0-9a-f]*' | head -1)
+    ventana=$(ventanas | grep -o '0x[0-9a-f]*' | head -1 || true)
     [ -n "$ventana" ] && break
     sleep 0.2
   done
