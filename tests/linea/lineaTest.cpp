@@ -177,7 +177,50 @@ TEST_F(Linea, LosAjustesDelFicheroEntranEnLosResultados) {
   const auto& casos = j["tramos"][0]["casos"];
   EXPECT_TRUE(casos[0]["armado"]["HayAjuste"].get<bool>());
   EXPECT_EQ(casos[0]["armado"]["Total"], 60.0);
+  EXPECT_EQ(casos[0]["armado"]["ajuste"],
+            (nlohmann::json{{"Camisa", 30.0}, {"Espiras", 5.0}, {"Exterior", 25.0}}));
   EXPECT_FALSE(casos[1]["armado"]["HayAjuste"].get<bool>());
+}
+
+// Another pressure of the same Caso takes the adjustment; one 0.05 off does not. The records are
+// the first and last DP and MDP of the Obra.
+TEST_F(Linea, ElAjusteDeUnaPresionValeParaLasQueSonElMismoCaso) {
+  for (const auto& [presion, ajustado] :
+       {std::pair{"6,04 // 0,604", true}, {"6,05 // 0,605", false}}) {
+    const std::string copia = Copia(7, presion);
+    FicheroRegistros obra(copia, FicheroRegistros::Modo::LecturaEscritura);
+    for (const int r : {8, 11, 12}) obra.EscribeRegistro(r, presion);
+    obra.Vacia();
+    FicheroRegistros f(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {{6, 1, 2, {30, 5, 25}}}, '.');
+    const auto r = Llama("calcula " + copia + " --tramo 1 --sin-validar --formato json");
+    ASSERT_EQ(r.codigo, 0) << r.quejas;
+    const auto caso = nlohmann::json::parse(r.salida)["tramos"][0]["casos"][0];
+    EXPECT_EQ(caso["armado"]["HayAjuste"].get<bool>(), ajustado) << presion;
+    EXPECT_EQ(caso["armado"]["ajuste"].is_null(), !ajustado);
+  }
+}
+
+// The adjustments are lost, not the Obra.
+TEST_F(Linea, UnFicheroDeAjustesRotoSeDiceYLaObraSeCalcula) {
+  const std::string copia = Copia(5, "Obra");
+  std::ofstream(RutaDpe(copia)) << "no es un fichero de registros";
+  const auto sin = Llama("calcula " + acequia + " --tramo 1 --formato json");
+  const auto r = Llama("calcula " + copia + " --tramo 1 --formato json");
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_NE(r.quejas.find("copia.dpe: registro 1"), std::string::npos) << r.quejas;
+  EXPECT_NE(r.quejas.find("Calculado sin los ajustes"), std::string::npos) << r.quejas;
+  EXPECT_EQ(nlohmann::json::parse(r.salida)["tramos"], nlohmann::json::parse(sin.salida)["tramos"]);
+  EXPECT_EQ(Llama("valida " + copia).codigo, 1);
+  for (const char* listado :
+       {"", " --listado normal", " --listado tabular", " --listado pantalla"}) {
+    const auto texto = Llama("calcula " + copia + " --tramo 1" + listado).salida;
+    EXPECT_NE(texto.find("** Calculado sin los ajustes de armaduras guardados"), std::string::npos)
+        << listado;
+    // A post-tensioned Tramo has none to miss.
+    EXPECT_EQ(Llama("calcula " + copia + " --tramo 7" + listado).salida.find("sin los ajustes"),
+              std::string::npos);
+  }
 }
 
 TEST_F(Linea, LaSalidaNuncaPisaLaObra) {
