@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <type_traits>
 
 namespace zorbin {
 
@@ -100,27 +101,30 @@ struct ModeloAjustes {
   bool Habilitado(BotonAjuste b) const { return botones[static_cast<std::size_t>(b)].habilitado; }
   bool Abierto(CampoAjuste c) const { return abiertos[static_cast<std::size_t>(c)]; }
   /// Text of a field that is typed in.
-  std::string& Texto(CampoAjuste c);
-  const std::string& Texto(CampoAjuste c) const {
-    return const_cast<ModeloAjustes*>(this)->Texto(c);
+  std::string& Texto(CampoAjuste c) { return TextoDe(*this, c); }
+  const std::string& Texto(CampoAjuste c) const { return TextoDe(*this, c); }
+
+ private:
+  template <class M>
+  using TextoEn = std::conditional_t<std::is_const_v<M>, const std::string, std::string>;
+
+  template <class M>
+  static TextoEn<M>& TextoDe(M& modelo, CampoAjuste c) {
+    auto& directa = modelo.filas[kFilaDirecta];
+    switch (c) {
+      case CampoAjuste::txArmCamisa:
+        return directa.txArmCamisa;
+      case CampoAjuste::txArmRefuerzo:
+        return directa.txArmRefuerzo;
+      case CampoAjuste::txArmExterior:
+        return directa.txArmExterior;
+      case CampoAjuste::txRecInterior:
+        return modelo.txRecInterior;
+      case CampoAjuste::txRecExterior:
+        break;
+    }
+    return modelo.txRecExterior;
   }
 };
-
-inline std::string& ModeloAjustes::Texto(CampoAjuste c) {
-  auto& directa = filas[kFilaDirecta];
-  switch (c) {
-    case CampoAjuste::txArmCamisa:
-      return directa.txArmCamisa;
-    case CampoAjuste::txArmRefuerzo:
-      return directa.txArmRefuerzo;
-    case CampoAjuste::txArmExterior:
-      return directa.txArmExterior;
-    case CampoAjuste::txRecInterior:
-      return txRecInterior;
-    case CampoAjuste::txRecExterior:
-      break;
-  }
-  return txRecExterior;
-}
 
 }  // namespace zorbin
