@@ -104,10 +104,17 @@ DatosDelCaso Datos(double m1, double n1, double m2, double n2, double m3, double
   return d;
 }
 
-// Equal sections in pure tension of N = 7·42000/... so that the mean is `media`.
+// Three equal sections without moment, so that the mean is `media`: N/(2·fyd).
 DatosDelCaso DeMedia(double media) {
   const double n = media * 2 * kFyd / 1000 - 36;
   return Datos(0, n, 0, n, 0, n);
+}
+
+// A moment of 0 belongs to the inner face, but at the haunches to the outer one.
+TEST(Tanteo, LaCaraQueElMomentoTracciona) {
+  EXPECT_TRUE(TraccionaInterior(CLAVE, 0) && TraccionaInterior(SOLERA, 0));
+  EXPECT_FALSE(TraccionaInterior(RINONES, 0));
+  EXPECT_FALSE(TraccionaInterior(CLAVE, -0.1) || TraccionaInterior(RINONES, -0.1));
 }
 
 std::vector<double> Interiores(const Tanteo& t) {
