@@ -78,7 +78,6 @@ inline constexpr int NoEsObra = 1286;        // {1} file
 inline constexpr int CampoRequerido = 1287;
 inline constexpr int CampoBloqueado = 1288;
 inline constexpr int IdiomaSinElegir = 1289;
-inline constexpr int SinAjustes = 1290;
 inline constexpr int CierraEjecucion = 1291;  // {1} cause
 inline constexpr int SinTablas = 1292;
 inline constexpr int VerEnGrande = 1293;

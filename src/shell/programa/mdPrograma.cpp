@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include "ajustes/pantalla/frAjustes.h"
 #include "captura/mdCiclo.h"
 #include "core/mdNumeros.h"
 #include "hidraulica/pantalla/CalculoHidraulico.h"
@@ -100,9 +101,8 @@ void Programa::Enlaza() {
   p.calculaTramo = [this, padre] { CalculaElTramo(*captura_, entorno_, padre); };
   p.imprimeObra = [this, padre] { ImprimeLaObra(*captura_, entorno_, padre); };
   p.ajusta = [this, padre] {
-    if (PreparaCalculo(*captura_, true)) {
-      Avisa(padre, textos_, Q(textos_.Texto(txt::SinAjustes)));
-    }
+    AjustaArmaduras(
+        *captura_, entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre);
   };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
