@@ -7,6 +7,8 @@
 #include <QTest>
 #include <iostream>
 
+#include "ajustes/banco.h"
+#include "ajustes/pantalla/frAjustes.h"
 #include "captura/mdCiclo.h"
 #include "captura/mdEdicion.h"
 #include "captura/mdEtiquetas.h"
@@ -131,6 +133,47 @@ void Calculadoras_(Fotografo& foto, Entorno& entorno) {
   foto.Saca(medios, "medios1");
 }
 
+// The screen of adjustments, over an Obra of its own that the other pictures do not see.
+struct FotoAjustes {
+  FotoAjustes(prueba::Mesa& mesa, int idioma, const std::string& tramo)
+      : banco(tramo), entorno{banco.textos, banco.tablas, mesa.preferencias, mesa.papel} {
+    CambiaIdioma(banco.c, static_cast<std::int16_t>(idioma));
+    AccionGrabaTramo(banco.c);
+    banco.Abre();
+    pantalla = std::make_unique<frAjustes>(*banco.a, entorno, [this](int entrada) {
+      return Q(HtmlDeRtf(LeeRtf(RutaDocumento(banco.textos.Texto(entrada)))));
+    });
+    pantalla->resize(1366, 700);
+    pantalla->show();
+    pantalla->activateWindow();
+  }
+  void Pulsa(const char* nombre) { pantalla->findChild<QAbstractButton*>(nombre)->click(); }
+
+  prueba::BancoAjustes banco;
+  Entorno entorno;
+  std::unique_ptr<frAjustes> pantalla;
+};
+
+void Ajustes_(Fotografo& foto, prueba::Mesa& mesa, int idioma) {
+  FotoAjustes f(mesa, idioma, "1");
+  f.Pulsa("btSiguientePresion");
+  foto.Saca(*f.pantalla, "ajustes0");
+  f.Pulsa("obSeleccion5");
+  foto.Saca(*f.pantalla, "ajustes1");
+  f.Pulsa("obSeleccion8");
+  Escribe(*f.pantalla, "txArmCamisa8", "15");
+  Escribe(*f.pantalla, "txArmRefuerzo8", "3");
+  Escribe(*f.pantalla, "txArmExterior8", "16");
+  foto.Saca(*f.pantalla, "ajustes2");
+  f.Pulsa("btSeleccionDirecta");
+  foto.Saca(*f.pantalla, "ajustes3");
+  f.Pulsa("btCambiarRecubrimientos");
+  foto.Saca(*f.pantalla, "ajustes4");
+  FotoAjustes traccion(mesa, idioma, "2");
+  traccion.Pulsa("btSiguientePresion");
+  foto.Saca(*traccion.pantalla, "ajustes5");
+}
+
 }  // namespace
 }  // namespace zorbin
 
@@ -165,6 +208,7 @@ int main(int argumentos, char** palabras) {
   Fotografo foto(lista[1], QString("-%1%2").arg(idioma).arg(oscura ? "-oscura" : ""));
   Captura_(foto, c, ventana, idioma);
   Calculadoras_(foto, mesa.entorno);
+  Ajustes_(foto, mesa, idioma);
   for (const auto& caja : persona.cajas) std::cerr << S(caja.texto) << '\n';
   return 0;
 }

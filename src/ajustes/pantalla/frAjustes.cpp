@@ -176,16 +176,16 @@ QWidget* frAjustes::ColumnaDelCaso() {
   auto* filas = new QVBoxLayout(columna);
   filas->setContentsMargins(0, 0, 0, 0);
   auto* pasos = new QGridLayout;
-  pasos->setColumnStretch(1, 1);
+  pasos->setColumnStretch(4, 1);
   const auto paso = [&](const QString& nombre, BotonAjuste anterior, BotonAjuste siguiente,
                         QLabel*& rotulo, QLineEdit*& valor) {
     const int fila = pasos->count() / 4;
-    pasos->addWidget(CreaBoton(anterior, "btAnterior" + nombre), fila, 0);
-    rotulo = Etiqueta("lb" + nombre, this, true);
+    rotulo = Etiqueta("lb" + nombre, this);
     valor = Valor("tx" + nombre, this);
     rotulo->setBuddy(valor);
-    pasos->addWidget(rotulo, fila, 1);
-    pasos->addWidget(valor, fila, 2);
+    pasos->addWidget(rotulo, fila, 0);
+    pasos->addWidget(valor, fila, 1);
+    pasos->addWidget(CreaBoton(anterior, "btAnterior" + nombre), fila, 2);
     pasos->addWidget(CreaBoton(siguiente, "btSiguiente" + nombre), fila, 3);
   };
   paso("Altura", btAnteriorAltura, btSiguienteAltura, lbAltura_, txAltura_);
@@ -207,6 +207,7 @@ QWidget* frAjustes::ColumnaDelCaso() {
   botones->addWidget(CreaBoton(btBajarValorMedio, "btBajarValorMedio"), 1, 1);
   filasMarco->addLayout(botones);
   filas->addWidget(frFilas_);
+  filas->addWidget(MarcoRecubrimientos());
   filas->addStretch(1);
   return columna;
 }
@@ -225,7 +226,6 @@ QWidget* frAjustes::ColumnaDeLaComprobacion() {
   vigilante_.Exime(*tbAviso_);
   hueco_->addWidget(tbAviso_);
   filas->addWidget(hueco_, 1);
-  filas->addWidget(MarcoRecubrimientos());
   return columna;
 }
 
@@ -239,6 +239,7 @@ QGroupBox* frAjustes::MarcoComprobacion() {
     auto* cabeza = new QHBoxLayout;
     cabeza->addStretch(1);
     cabeza->addWidget(new MuestraTrazo(kTrazos[i], this), 0, Qt::AlignTop);
+    cabeza->addSpacing(kAire / 2);
     cabezasLineas_[i] = Etiqueta(QStringLiteral("lbCabezaLinea%1").arg(i), this, true);
     cabeza->addWidget(cabezasLineas_[i]);
     rejilla->addLayout(cabeza, 0, static_cast<int>(i) + 1);
@@ -273,29 +274,28 @@ QGroupBox* frAjustes::MarcoComprobacion() {
 QWidget* frAjustes::MarcoPared() {
   frPared_ = new QGroupBox(this);
   frPared_->setObjectName("frPared");
-  auto* centro = new QHBoxLayout(frPared_);
+  auto* filas = new QVBoxLayout(frPared_);
   pared_ = new DibujoPared(this);
   pared_->setObjectName("pared");
-  centro->addWidget(pared_, 1);
+  filas->addWidget(pared_, 1);
   auto* leyenda = new QGridLayout;
-  int fila = 0;
+  leyenda->setColumnStretch(1, 1);
   const auto linea = [&](Trazo trazo, const char* nombre) {
-    auto* etiqueta = EnVariasLineas(Etiqueta(nombre, this));
-    leyenda->addWidget(new MuestraTrazo(trazo, this), fila, 0, Qt::AlignTop);
-    leyenda->addWidget(etiqueta, fila++, 1);
+    auto* etiqueta = Etiqueta(nombre, this);
+    const int fila = leyenda->rowCount();
+    leyenda->addWidget(new MuestraTrazo(trazo, this), fila, 0);
+    leyenda->addWidget(etiqueta, fila, 1);
     return etiqueta;
   };
   lbExteriores_ = linea(Trazo::Exteriores, "lbExteriores");
   lbCamisa_ = linea(Trazo::Camisa, "lbCamisa");
   lbEspiras_ = linea(Trazo::Espiras, "lbEspiras");
-  lbSupuestas_ = EnVariasLineas(Etiqueta("lbSupuestas", this));
+  filas->addLayout(leyenda);
+  lbSupuestas_ = Etiqueta("lbSupuestas", this);
   auto politica = lbSupuestas_->sizePolicy();
   politica.setRetainSizeWhenHidden(true);
   lbSupuestas_->setSizePolicy(politica);
-  leyenda->addWidget(lbSupuestas_, fila++, 0, 1, 2);
-  leyenda->setRowStretch(fila, 1);
-  leyenda->setColumnMinimumWidth(1, fontMetrics().averageCharWidth() * 24);
-  centro->addLayout(leyenda);
+  filas->addWidget(lbSupuestas_);
   return frPared_;
 }
 

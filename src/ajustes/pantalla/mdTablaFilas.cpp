@@ -18,6 +18,7 @@ constexpr int kCifras = 9;     // of an area in its field
 constexpr int kOpacidad = 60;  // of the band, over 255
 constexpr int kAireFilas = 1;  // [px]
 constexpr int kAireColumnas = 12;
+constexpr int kAltoFila = 8;  // beyond its text
 
 // The unit under the name.
 QString Cabeza(const std::string& texto) {
@@ -52,6 +53,7 @@ void TablaFilas::CreaFila(int fila, char separador) {
   opcion->setObjectName(QStringLiteral("obSeleccion%1").arg(fila));
   obSeleccion_->addButton(opcion, fila);
   rejilla_->addWidget(opcion, fila + 1, 0);
+  rejilla_->setRowMinimumHeight(fila + 1, fontMetrics().height() + kAltoFila);
   for (int columna = 0; columna < kColumnas; ++columna) {
     const auto i = static_cast<std::size_t>(columna);
     const auto nombre = QLatin1String(kNombres[i]) + QString::number(fila);
