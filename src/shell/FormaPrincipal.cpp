@@ -195,8 +195,8 @@ void FormaPrincipal::CreaEstado() {
 
 // A letter of each entry answers to the keyboard; where the text marks one, it is that.
 void FormaPrincipal::PonMnemonicos() {
-  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas) {
-    QString usadas;
+  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas,
+                          QString usadas = {}) {
     for (const auto& [accion, texto] : entradas) {
       const auto marca = texto.indexOf(QLatin1Char('&'));
       if (marca >= 0 && marca + 1 < texto.size()) usadas += texto[marca + 1].toUpper();
@@ -225,11 +225,12 @@ void FormaPrincipal::PonMnemonicos() {
     }
     reparte(entradas);
   }
-  reparte(principales);
+  reparte(principales, captura_->Mnemonicos());
 }
 
 void FormaPrincipal::AplicaIdioma() {
   idiomaPuesto_ = c_.textos.IdiomaOffset();
+  captura_->RenuevaTextos();
   PonMnemonicos();
   for (const auto& entrada : entradas_) {
     const QString texto = Rotulo(c_.textos.Texto(entrada.texto)).remove(QLatin1Char('&'));
@@ -237,7 +238,6 @@ void FormaPrincipal::AplicaIdioma() {
     entrada.accion->setToolTip(tecla.isEmpty() ? texto : texto + " (" + tecla + ")");
   }
   barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
-  captura_->RenuevaTextos();
   inicio_->Renueva();
   if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
   Actualiza();
