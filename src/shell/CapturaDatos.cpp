@@ -359,18 +359,6 @@ void CapturaDatos::RenuevaTextos() {
   Refresca();
 }
 
-QString CapturaDatos::Mnemonicos() const {
-  QString letras;
-  for (auto* pestanas : {TabPrincipal_, TabTipologia_, TabPostesados_, TabDatosColocacion_}) {
-    for (int i = 0; i < pestanas->barra().count(); ++i) {
-      const QString texto = pestanas->barra().tabText(i);
-      const auto marca = texto.indexOf(QLatin1Char('&'));
-      if (marca >= 0 && marca + 1 < texto.size()) letras += texto[marca + 1].toUpper();
-    }
-  }
-  return letras;
-}
-
 void CapturaDatos::PideAyuda() {
   const auto par = porWidget_.find(vigilante_->EnMano());
   entorno_.ayuda(par == porWidget_.end() ? QStringLiteral("captura") : Q(Fila(*par).nombre));

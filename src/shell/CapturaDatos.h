@@ -38,9 +38,6 @@ class CapturaDatos : public QWidget {
   /// Every text that is not the model's, in the language in force; and the screen.
   void RenuevaTextos();
 
-  /// Letters that its tabs answer to, in capitals: the menus take others.
-  QString Mnemonicos() const;
-
   /// The list of the stored Tramos, read anew.
   void RenuevaTramos();
 
