@@ -258,7 +258,7 @@ void NuevaObra(Captura& c) {
 bool AbreObra(Captura& c, const fs::path& ruta) {
   Vacia(c);
   try {
-    FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    FicheroRegistros f(ruta, FicheroRegistros::Modo::EscrituraSiPuede);
     auto leida = CargaObra(c.e, f);
     c.fichero.emplace(std::move(f));
     c.lista = std::move(leida.lista);

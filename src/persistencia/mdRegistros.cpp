@@ -20,6 +20,10 @@ std::string CausaDelSistema() {
   return std::generic_category().message(errno);
 }
 
+bool SoloSeLee(int error) {
+  return error == EACCES || error == EPERM || error == EROFS;
+}
+
 std::size_t Desde(int numero) {
   return static_cast<std::size_t>(numero - 1) * kBytesRegistro;
 }
@@ -33,11 +37,15 @@ FicheroRegistros::FicheroRegistros(std::filesystem::path ruta, Modo modo) : ruta
   }
   errno = 0;
   auto banderas = std::ios::binary | std::ios::in;
-  if (modo == Modo::LecturaEscritura) {
+  if (modo != Modo::Lectura) {
     banderas |= std::ios::out;
     if (!std::filesystem::exists(ruta_, error)) std::ofstream(ruta_, std::ios::binary);
   }
   fichero_.open(ruta_, banderas);
+  if (!fichero_ && modo == Modo::EscrituraSiPuede && SoloSeLee(errno)) {
+    porQueNo_ = CausaDelSistema();
+    fichero_.open(ruta_, std::ios::binary | std::ios::in);
+  }
   if (!fichero_) throw ErrorFichero({txt::NoSeAbre, {Nombre(), CausaDelSistema()}});
   contenido_.resize(kMaxRegistros * kBytesRegistro);
   fichero_.read(contenido_.data(), static_cast<std::streamsize>(contenido_.size()));
@@ -79,6 +87,7 @@ void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
         {txt::TextoLargo,
          {Nombre(), TextoEntero(numero), TextoEntero(static_cast<int>(ansi.size()))}});
   }
+  if (!porQueNo_.empty()) throw ErrorFichero({txt::NoSeEscribe, {Nombre(), porQueNo_}});
   std::array<char, kBytesRegistro> datos{};
   datos[0] = static_cast<char>(ansi.size() & 0xFF);
   datos[1] = static_cast<char>(ansi.size() >> 8);

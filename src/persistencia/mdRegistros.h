@@ -33,7 +33,8 @@ class ErrorFichero : public std::runtime_error {
 
 class FicheroRegistros {
  public:
-  enum class Modo { Lectura, LecturaEscritura };
+  /// EscrituraSiPuede: a file that may only be read opens all the same, and refuses every writing.
+  enum class Modo { Lectura, LecturaEscritura, EscrituraSiPuede };
 
   /// Opens the file; for writing it is created when it does not exist, and never truncated.
   /// @throws ErrorFichero
@@ -59,6 +60,7 @@ class FicheroRegistros {
  private:
   std::filesystem::path ruta_;
   std::fstream fichero_;
+  std::string porQueNo_;   // cause of the system, of a file that may only be read
   std::string contenido_;  // of the file, as far as records can be numbered
 };
 
