@@ -10,7 +10,8 @@ namespace zorbin {
 void BorraAjustesTramo(const std::filesystem::path& obra, int NumeroTramo, char separador);
 
 /// A datum of the Tramo in hand changed: its adjustments are void. Nothing happens without a file,
-/// or while fields are loaded. A refusal of the disk is shown.
+/// or while fields are loaded. Where the file of adjustments refuses it, that is shown once, and
+/// `AjustesPorBorrar` is left: every change after it, and the saving of the Tramo, try again.
 void RegistraCambios(Captura& c);
 
 /// A message of a file, in the language in force.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "captura/mdAjustesTramo.h"
 #include "captura/mdEtiquetas.h"
@@ -64,6 +65,7 @@ void Vacia(Captura& c) {
   c.lista.clear();
   c.UltimoTramo = 0;
   c.ObraCargada = false;
+  c.AjustesPorBorrar = false;
   c.falta.reset();
   c.e.obra = Obra{};
   c.e.tramo = Tramo{};
@@ -343,6 +345,7 @@ bool GrabaTramo(Captura& c) {
     return false;
   }
   RestauraTramo(c);
+  if (std::exchange(c.AjustesPorBorrar, false)) RegistraCambios(c);
   return true;
 }
 
@@ -379,6 +382,7 @@ int PosicionDelTramo(const Captura& c, int numero) {
 
 void LeeTramo(Captura& c, int posicion) {
   CargaTramo(c.e, *c.fichero, posicion);
+  c.AjustesPorBorrar = false;
   PonNumero(c, NumeroDe(c.lista[static_cast<std::size_t>(posicion - 1)]));
   MuestraTramo(c);
 }

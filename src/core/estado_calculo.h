@@ -128,6 +128,7 @@ struct Corrida : Cargas {
   bool ParaCalculoActivo = false;            // the state holds calculation units
   std::vector<FilaCargas> TablaCargas;       // vertical load table of the Tramo
   std::vector<EntradaAjuste> ajustes;        // adjusted Casos of the project
+  bool SinAjustes = false;                   // their file was refused: the run goes without them
   Registro* registro = nullptr;              // debug log, none when null
 };
 

@@ -19,6 +19,7 @@
 #include "listados/mdTipoListado.h"
 #include "persistencia/mdDpe.h"
 #include "persistencia/mdLog.h"
+#include "persistencia/textosDpe.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
@@ -193,6 +194,7 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   const std::int16_t idioma = pedido != 0 ? pedido : e.obra.Idioma;
   if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
   for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
+  if (e.corrida.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));
   const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
   if (!posiciones) return kPalabrasMalas;
   PeticionCalculo peticion{
@@ -202,7 +204,8 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   if (total > 0 && peticion.omitidas.size() == total) return kFicheroRechazado;
   Calculador calculador(e, obra, opciones, peticion, textos);
   const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.Listado();
-  return codigo == kHecho && !peticion.omitidas.empty() ? kFicheroRechazado : codigo;
+  const bool algoRechazado = !peticion.omitidas.empty() || e.corrida.SinAjustes;
+  return codigo == kHecho && algoRechazado ? kFicheroRechazado : codigo;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

@@ -71,7 +71,7 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
     salida.flujo() << textos.Compone(txt::ObraSinFaltas, {opciones.obra.string()}) << '\n';
   }
   salida.Cierra();
-  return lista.Vale() ? kHecho : kFicheroRechazado;
+  return lista.Vale() && !e.corrida.SinAjustes ? kHecho : kFicheroRechazado;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

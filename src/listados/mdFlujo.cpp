@@ -81,7 +81,7 @@ ObraEnFichero AbreObra(EstadoCalculo& e, const std::filesystem::path& ruta) {
   for (const int posicion : TodasLasPosiciones(obra.lista)) {
     CargaTramo(prueba, obra.fichero, posicion);
   }
-  e.corrida.ajustes = LeeAjustes(RutaDpe(ruta));
+  if (auto causa = CargaAjustes(e, ruta)) obra.avisos.push_back(std::move(*causa));
   return obra;
 }
 

@@ -20,7 +20,7 @@ class OyenteObra : public OyenteCorrida {
   virtual void AcabaTramo(const EstadoCalculo&, const ErrorCorrida* fallo) = 0;
 };
 
-/// An open Obra: its file, its list of Tramos and the hand adjustments stored beside it.
+/// An open Obra: its file and its list of Tramos.
 struct ObraEnFichero {
   FicheroRegistros fichero;
   ListaTramos lista;
@@ -28,7 +28,8 @@ struct ObraEnFichero {
 };
 
 /// Opens an Obra into a clean state, and reads every Tramo once so that a damaged file is refused
-/// before anything of it is calculated.
+/// before anything of it is calculated. The hand adjustments stored beside it come with it; a file
+/// of theirs that is refused leaves `corrida.SinAjustes` and says why in `avisos`.
 /// @throws ErrorFichero
 ObraEnFichero AbreObra(EstadoCalculo& e, const std::filesystem::path& ruta);
 

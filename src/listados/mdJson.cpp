@@ -109,6 +109,11 @@ Json DeTramo(const Tramo& t) {
           {"Hr0Delta", t.Hr0Delta}};
 }
 
+Json DeAjuste(const std::optional<Ajuste>& a) {
+  if (!a) return nullptr;
+  return {{"Camisa", a->Camisa}, {"Espiras", a->Espiras}, {"Exterior", a->Exterior}};
+}
+
 Json DeArmado(const ResultadoArmado& r) {
   Json tablaHip = Json::array();
   for (const auto& f : r.TablaHip.v) {
@@ -135,7 +140,8 @@ Json DeArmado(const ResultadoArmado& r) {
           {"TensionAdm", r.TensionAdm},
           {"ErrorPostesado", r.ErrorPostesado},
           {"MomentoTope", r.MomentoTope},
-          {"HayAjuste", r.HayAjuste()}};
+          {"HayAjuste", r.HayAjuste()},
+          {"ajuste", DeAjuste(r.ajuste)}};
 }
 
 Json DeMensaje(const std::optional<ClaseAviso>& mensaje, const Catalogo& textos) {

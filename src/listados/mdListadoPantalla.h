@@ -12,7 +12,7 @@ class ListadoPantalla : public ListadoPapel {
   void Progreso(const EstadoCalculo& e) override;
   void Caso(const EstadoCalculo& e) override;
   void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    if (fallo != nullptr) LineasPagina += Fallo(e, *fallo);
+    LineasPagina += Cierre(e, fallo);
   }
 
  private:

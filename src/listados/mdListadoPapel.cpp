@@ -6,6 +6,7 @@
 
 #include "core/mdTextos.h"
 #include "listados/mdAvisos.h"
+#include "persistencia/textosDpe.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
@@ -74,11 +75,21 @@ int ListadoPapel::BloqueObra(const Obra& obra) {
   return lineas;
 }
 
-int ListadoPapel::Fallo(const EstadoCalculo& e, const ErrorCorrida& fallo) {
+int ListadoPapel::Cierre(const EstadoCalculo& e, const ErrorCorrida* fallo) {
+  int lineas = 0;
+  if (fallo != nullptr) {
+    lineas += Advierte(TextoFallo(*fallo, std::string(Recorta(e.tramo.DescriTramo)), numeroEnLista_,
+                                  textos_, estilo_));
+  }
+  if (e.corrida.SinAjustes && e.tramo.EsArmado) lineas += Advierte(Texto(txt::AjustesSinLeer));
+  return lineas;
+}
+
+// In bold, on as many lines as it takes. @return lines printed
+int ListadoPapel::Advierte(const std::string& texto) {
   int lineas = 1;
   EnBlanco(1);
-  std::string resto = "** " + TextoFallo(fallo, std::string(Recorta(e.tramo.DescriTramo)),
-                                         numeroEnLista_, textos_, estilo_);
+  std::string resto = "** " + texto;
   while (!resto.empty()) {
     auto [linea, queda] = PartirTexto(resto, kAnchoObra);
     EnNegrita(10, linea);

@@ -42,10 +42,9 @@ class ListadoPapel : public OyenteObra {
   void EmpiezaTramo(const EstadoCalculo&, int, const std::string& numero) override {
     numeroEnLista_ = numero;
   }
-  /// Says where and why a Tramo broke off: nobody takes the pages before it for the whole.
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    if (fallo != nullptr) Fallo(e, *fallo);
-  }
+  /// Says where and why a Tramo broke off, and that its hand adjustments could not be read: nobody
+  /// takes the pages before it for the whole.
+  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override { Cierre(e, fallo); }
 
  protected:
   Papel& papel_;
@@ -71,8 +70,8 @@ class ListadoPapel : public OyenteObra {
   /// Obra, client, date and time, with the rule under them. @return lines of the description
   int BloqueObra(const Obra& obra);
 
-  /// @return lines printed
-  int Fallo(const EstadoCalculo& e, const ErrorCorrida& fallo);
+  /// What AcabaTramo says. @return lines printed
+  int Cierre(const EstadoCalculo& e, const ErrorCorrida* fallo);
 
   /// "CASO NUMERO: n/Tramo : description".
   std::string RotuloCaso(const EstadoCalculo& e) const;
@@ -80,6 +79,9 @@ class ListadoPapel : public OyenteObra {
   std::string TextoTipologia(std::int16_t Tipologia) const;
   std::string TextoCuna(std::int16_t TipoCuna) const;  // value of the run
   std::string TextoColocacionCabecera(std::int16_t TipoApoyo) const;
+
+ private:
+  int Advierte(const std::string& texto);
 };
 
 }  // namespace zorbin

@@ -12,7 +12,7 @@ class ListadoTabular : public ListadoPapel {
   void Cabecera(const EstadoCalculo& e) override;
   void Caso(const EstadoCalculo& e) override;
   void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    if (fallo != nullptr) LineasResto -= Fallo(e, *fallo);
+    LineasResto -= Cierre(e, fallo);
   }
   void FinAltura(const EstadoCalculo& e) override;
 

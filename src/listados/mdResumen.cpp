@@ -3,12 +3,16 @@
 #include "core/mdTextos.h"
 #include "listados/mdAvisos.h"
 #include "listados/mdRotulos.h"
+#include "persistencia/textosDpe.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
 
 void Resumen::Progreso(const EstadoCalculo& e) {
   const auto& c = e.corrida;
+  if (c.PrimerCaso && c.SinAjustes && e.tramo.EsArmado) {
+    pantalla_.EscribePantalla(0, "** " + textos_.Texto(txt::AjustesSinLeer) + " **", 2);
+  }
   const auto presion = [this](double p) {
     return std::string(Recorta(estilo_.FormatoNumero(p, 6, 1, "at->MPa", true)));
   };

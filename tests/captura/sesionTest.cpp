@@ -224,6 +224,32 @@ TEST(Sesion, UnCambioDelTramoAnulaSusAjustesYNoLosDeOtro) {
   EXPECT_FALSE(LeeAjustes(dpe)[1].Libre());
 }
 
+// While another program holds the file the wipe waits: it is told once, and again on saving.
+TEST(Sesion, LosAjustesQueNoSePuedenAnularSeDicenYSeReintentan) {
+  const Carpeta carpeta;
+  Banco b;
+  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  const auto dpe = RutaDpe(carpeta / "o.zrb");
+  {
+    FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
+  }
+  b.Teclea(Ed::edTramo, "1");
+  b.Olvida();
+  {
+    const FicheroDpe otro(dpe, ',');
+    b.Teclea(Ed::edGr0, "1,97");
+    EXPECT_EQ(b.voz.mensajes.size(), 1u);
+    EXPECT_NE(b.voz.Ultimo().find("otro programa"), std::string::npos) << b.voz.Ultimo();
+    EXPECT_TRUE(AccionGrabaTramo(b.c));
+    EXPECT_EQ(b.voz.mensajes.size(), 2u);
+    EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+  }
+  EXPECT_TRUE(AccionGrabaTramo(b.c));
+  EXPECT_EQ(b.voz.mensajes.size(), 2u);
+  EXPECT_TRUE(LeeAjustes(dpe)[0].Libre());
+}
+
 // Another laying, and a dimension that moves the width, change the data of the Tramo too.
 TEST(Sesion, LoQueCambiaSinTeclearseAnulaLosAjustes) {
   for (const bool colocacion : {true, false}) {

@@ -87,7 +87,7 @@ TEST_F(Linea, LasPalabrasMalasSeDicenEnUnaLinea) {
         "calcula a --tramo dos", "calcula a --separador punto_y_coma", "--nada",
         "calcula a --pdf b", "calcula a --texto b", "calcula a --listado lame --formato json",
         "calcula a --listado lame --pdf b --texto c", "calcula a --listado lame --pdf b --salida c",
-        "medios --formato json --pdf b",
+        "medios --formato json --pdf b", "ajustes", "ajustes a --formato resumen",
         "hidraulica --metodo hazen --caudal 1 --formato json --pdf b"}) {
     const auto r = Llama(palabras);
     EXPECT_EQ(r.codigo, 2) << palabras;
@@ -177,7 +177,82 @@ TEST_F(Linea, LosAjustesDelFicheroEntranEnLosResultados) {
   const auto& casos = j["tramos"][0]["casos"];
   EXPECT_TRUE(casos[0]["armado"]["HayAjuste"].get<bool>());
   EXPECT_EQ(casos[0]["armado"]["Total"], 60.0);
+  EXPECT_EQ(casos[0]["armado"]["ajuste"],
+            (nlohmann::json{{"Camisa", 30.0}, {"Espiras", 5.0}, {"Exterior", 25.0}}));
   EXPECT_FALSE(casos[1]["armado"]["HayAjuste"].get<bool>());
+}
+
+// Another pressure of the same Caso takes the adjustment; one 0.05 off does not. The records are
+// the first and last DP and MDP of the Obra.
+TEST_F(Linea, ElAjusteDeUnaPresionValeParaLasQueSonElMismoCaso) {
+  for (const auto& [presion, ajustado] :
+       {std::pair{"6,04 // 0,604", true}, {"6,05 // 0,605", false}}) {
+    const std::string copia = Copia(7, presion);
+    FicheroRegistros obra(copia, FicheroRegistros::Modo::LecturaEscritura);
+    for (const int r : {8, 11, 12}) obra.EscribeRegistro(r, presion);
+    obra.Vacia();
+    FicheroRegistros f(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {{6, 1, 2, {30, 5, 25}}}, '.');
+    const auto r = Llama("calcula " + copia + " --tramo 1 --sin-validar --formato json");
+    ASSERT_EQ(r.codigo, 0) << r.quejas;
+    const auto caso = nlohmann::json::parse(r.salida)["tramos"][0]["casos"][0];
+    EXPECT_EQ(caso["armado"]["HayAjuste"].get<bool>(), ajustado) << presion;
+    EXPECT_EQ(caso["armado"]["ajuste"].is_null(), !ajustado);
+  }
+}
+
+// The adjustments are lost, not the Obra.
+TEST_F(Linea, UnFicheroDeAjustesRotoSeDiceYLaObraSeCalcula) {
+  const std::string copia = Copia(5, "Obra");
+  std::ofstream(RutaDpe(copia)) << "no es un fichero de registros";
+  const auto sin = Llama("calcula " + acequia + " --tramo 1 --formato json");
+  const auto r = Llama("calcula " + copia + " --tramo 1 --formato json");
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_NE(r.quejas.find("copia.dpe: registro 1"), std::string::npos) << r.quejas;
+  EXPECT_NE(r.quejas.find("Calculado sin los ajustes"), std::string::npos) << r.quejas;
+  EXPECT_EQ(nlohmann::json::parse(r.salida)["tramos"], nlohmann::json::parse(sin.salida)["tramos"]);
+  EXPECT_EQ(Llama("valida " + copia).codigo, 1);
+  for (const char* listado :
+       {"", " --listado normal", " --listado tabular", " --listado pantalla"}) {
+    const auto texto = Llama("calcula " + copia + " --tramo 1" + listado).salida;
+    EXPECT_NE(texto.find("** Calculado sin los ajustes de armaduras guardados"), std::string::npos)
+        << listado;
+    // A post-tensioned Tramo has none to miss.
+    EXPECT_EQ(Llama("calcula " + copia + " --tramo 7" + listado).salida.find("sin los ajustes"),
+              std::string::npos);
+  }
+}
+
+TEST_F(Linea, LosAjustesSeListan) {
+  const std::string copia = Copia(5, "Obra");
+  const auto ninguno = Llama("ajustes " + copia);
+  EXPECT_EQ(ninguno.codigo, 0);
+  EXPECT_NE(ninguno.salida.find("no hay armaduras ajustadas"), std::string::npos);
+  {
+    FicheroRegistros f(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(
+        f, {{6.04, 2, 3, {30, 5, 25}}, {}, {4, 1, 2, {15.5, 0, 14.25}}, {4, 9, 2, {1, 2, 3}}}, '.');
+  }
+  EXPECT_EQ(Llama("ajustes " + copia + " --separador coma").salida,
+            "Tramo  Altura        DP    Camisa  Refuerzo  Exterior     Total\n"
+            "          (m)     (MPa)   (cm2/m)   (cm2/m)   (cm2/m)   (cm2/m)\n"
+            "    1    2,00     0,400     15,50      0,00     14,25     29,75\n"
+            "    2    3,00     0,604     30,00      5,00     25,00     60,00\n"
+            "    9    2,00     0,400      1,00      2,00      3,00      6,00"
+            "  (ese Tramo no está en la Obra)\n");
+  const auto j = nlohmann::json::parse(Llama("ajustes " + copia + " --formato json").salida);
+  ASSERT_EQ(j["ajustes"].size(), 3u);
+  EXPECT_EQ(j["ajustes"][1]["DP"], 6.04);  // in at, as every result
+  EXPECT_EQ(j["ajustes"][1]["entrada"], 1);
+  EXPECT_EQ(j["ajustes"][0]["NumeroTramo"], 1);
+  EXPECT_FALSE(j["ajustes"][2]["enLaObra"].get<bool>());
+  const auto uno = Llama("ajustes " + copia + " --tramo 2 --formato json");
+  EXPECT_EQ(nlohmann::json::parse(uno.salida)["ajustes"].size(), 1u);
+  EXPECT_EQ(Llama("ajustes " + copia + " --tramo 9").codigo, 2);
+  std::ofstream(RutaDpe(copia)) << "roto";
+  const auto roto = Llama("ajustes " + copia);
+  EXPECT_EQ(roto.codigo, 1);
+  EXPECT_EQ(roto.salida, "");
 }
 
 TEST_F(Linea, LaSalidaNuncaPisaLaObra) {

@@ -179,16 +179,7 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
       {"cortado en la cabecera", [&] { fs::resize_file(ruta, 4 * 128 + 5); }, "1152|5|60|5"},
       {"cortado en un texto", [&] { fs::resize_file(ruta, 77 * 128 + 6); }, "1152|78|10|6"},
       {"cortado en un Tramo", [&] { fs::resize_file(ruta, 40 * 128); }, "1155|40|1|80"},
-      {"cortado entre Tramos", [&] { Estropea(20, Registro("2")); }, "1155|80|2|140"},
-      {"ajustes descomunales",
-       [&] {
-         std::ofstream(carpeta / "obra.dpe", std::ios::binary)
-             << Registro("9") << Registro(std::string(126, '9'));
-       },
-       "1153|2|DP|" + std::string(126, '9')},
-      {"ajustes rotos",
-       [&] { std::ofstream(carpeta / "obra.dpe", std::ios::binary) << Registro("nueve"); },
-       "1153|1|TotalRegistrosDpe|nueve"}};
+      {"cortado entre Tramos", [&] { Estropea(20, Registro("2")); }, "1155|80|2|140"}};
   for (const auto& d : danos) {
     Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
     EXPECT_EQ(Rechazo(), "") << d.nombre;
@@ -200,6 +191,23 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
   EXPECT_EQ(Rechazo().substr(0, 4), "1150");  // no file at all
   fs::create_directory(ruta);
   EXPECT_EQ(Rechazo().substr(0, 4), "1150");
+}
+
+// The adjustments are lost, and it is said; not the Obra.
+TEST_F(Zrb, UnFicheroDeAjustesDanadoNoSeLlevaLaObra) {
+  Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
+  for (const auto& [contenido, aviso] :
+       {std::pair{Registro("9") + Registro(std::string(126, '9')), 1301},
+        {Registro("9") + Registro("x") + std::string(6 * 128, '\0'), 1153},
+        {Registro("nueve"), 1302}}) {
+    std::ofstream(carpeta / "obra.dpe", std::ios::binary) << contenido;
+    EstadoCalculo e;
+    const auto obra = AbreObra(e, ruta);
+    ASSERT_EQ(obra.avisos.size(), 1u);
+    EXPECT_EQ(obra.avisos[0].texto, aviso);
+    EXPECT_TRUE(e.corrida.SinAjustes);
+    EXPECT_EQ(obra.lista.size(), 1u);
+  }
 }
 
 TEST_F(Zrb, UnRechazoDejaElEstadoYNombraFicheroYVersion) {
