@@ -11,8 +11,9 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Liberation Mono sets the listings. Where no other font is installed it would set the screens too.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "fonts-liberation, hicolor-icon-theme, qt6-qpa-plugins, qt6-translations-l10n")
+  "fonts-dejavu-core, fonts-liberation, hicolor-icon-theme, qt6-qpa-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "desktop-file-utils, evince | pdf-viewer, shared-mime-info, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-gtk-platformtheme, qt6-wayland")

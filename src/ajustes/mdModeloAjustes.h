@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace zorbin {
 
@@ -96,6 +97,7 @@ struct ModeloAjustes {
   std::string edAvisoCaldera;
   bool edAvisoCalderaVisible = false;
 
+  std::vector<std::string> avisosDelCaso;  // warnings of its design
   std::string aviso;  // what did not stop the work but should be known; empty for nothing
 
   bool Habilitado(BotonAjuste b) const { return botones[static_cast<std::size_t>(b)].habilitado; }

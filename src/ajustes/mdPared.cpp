@@ -17,8 +17,12 @@ CapaDeBarras Capa(double diametro, int cuenta) {
 
 CapaDeBarras CapaPara(double area) {
   if (area <= 0) return {};
-  const auto r = ReparteArmadura(area, 0, 0.0, false, 0.0);
-  return Capa(r.DIA, r.NESP);
+  try {
+    const auto r = ReparteArmadura(area, 0, 0.0, false, 0.0);
+    return Capa(r.DIA, r.NESP);
+  } catch (const ErrorEjecucion&) {
+    return {};  // more than bars can give
+  }
 }
 
 }  // namespace

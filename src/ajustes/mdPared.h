@@ -5,7 +5,7 @@
 
 namespace zorbin {
 
-/// Bars of one layer. None: a count of 0.
+/// Bars of one layer. None, and more than bars can give: a count of 0.
 struct CapaDeBarras {
   int cuenta = 0;         // [1/m]
   double diametro = 0;    // [mm]

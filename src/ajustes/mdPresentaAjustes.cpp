@@ -9,6 +9,7 @@
 #include "core/mdNumeros.h"
 #include "core/mdTextos.h"
 #include "core/mdUnidades.h"
+#include "listados/mdAvisos.h"
 
 namespace zorbin {
 
@@ -149,6 +150,10 @@ void MuestraCaso(Ajustes& a) {
   p.tbHRaCalcular = EnTotal(a.t.HrAjuste, a.c.SeparadorDecimal);
   p.tbPRSaCalcular = EnTotal(a.t.PrsAjuste, a.c.SeparadorDecimal);
   p.edAvisoCalderaVisible = a.t.e.caso.armado.HipotesisRige == kHipPPNeta;
+  p.avisosDelCaso.clear();
+  for (const auto& aviso : a.t.e.caso.avisos) {
+    if (aviso.fase == FaseAviso::Final) p.avisosDelCaso.push_back(TextoAviso(aviso, a.c.textos));
+  }
 }
 
 void MuestraFilas(Ajustes& a) {

@@ -77,10 +77,9 @@ frEscribePantalla::frEscribePantalla(const Entorno& entorno, Resumido resumido, 
     edPantalla_->setMinimumSize(0, 0);
   }
   edPantalla_->setFocus();
-  QTextCursor principio = edPantalla_->textCursor();
-  principio.setKeepPositionOnInsert(true);
-  edPantalla_->setTextCursor(principio);
   MuestraTrozo();
+  // The first text pushed the cursor along; the rest comes after it.
+  edPantalla_->moveCursor(QTextCursor::Start);
 }
 
 frEscribePantalla::~frEscribePantalla() {

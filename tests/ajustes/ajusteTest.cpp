@@ -9,12 +9,14 @@
 #include <csignal>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <random>
 #include <sstream>
 
 #include "ajustes/banco.h"
 #include "ajustes/mdPared.h"
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
+#include "core/mdNumeros.h"
 #include "core/mdUnidades.h"
 #include "listados/mdJson.h"
 #include "listados/mdResumen.h"
@@ -692,6 +694,70 @@ TEST(Ajuste, LaParedAEscala) {
   EXPECT_EQ(p.CAMISA, 1.7);
   EXPECT_EQ(p.espiras.cuenta, 0);
   EXPECT_GE(p.exteriores.cuenta * p.exteriores.diametro * p.exteriores.diametro * kPi / 400, 13.56);
+}
+
+TEST(Ajuste, UnAreaQueNingunaBarraDaNoSeDibuja) {
+  BancoAjustes b;
+  ASSERT_TRUE(b.Abre());
+  b.Directa("1000000", "0", "1000000");
+  EXPECT_EQ(b.p().opcion, kFilaDirecta);
+  EXPECT_EQ(ParedElegida(*b.a).exteriores.cuenta, 0);
+}
+
+// The warnings of a design that nobody would see otherwise: there is no summary here.
+TEST(Ajuste, LosAvisosDelDisenoEstanALaVista) {
+  BancoAjustes b("4");
+  b.Teclea(Ed::edFck, "20");
+  b.Teclea(Ed::edHr0, "30");
+  b.Teclea(Ed::edHr0Final, "30");
+  ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
+  ASSERT_TRUE(b.Abre()) << b.voz.Ultimo();
+  ASSERT_FALSE(b.p().avisosDelCaso.empty());
+  EXPECT_NE(b.p().avisosDelCaso[0].find("MOMENTO MAYOR QUE MOMENTO TOPE"), std::string::npos)
+      << b.p().avisosDelCaso[0];
+}
+
+// ---- Anybody at all
+
+// Buttons, rows and texts in any order: nothing breaks, what is chosen is one of the rows that can
+// be, its areas are those on the screen, and the file holds what it says.
+TEST(Ajuste, UnaPersonaAlAzar) {
+  constexpr std::array<const char*, 9> kTextos{"",   "0",   "2,5", "15",       "31,27",
+                                               "-3", "dos", "1e9", "999999999"};
+  std::mt19937 azar(20260807);
+  const auto hasta = [&azar](int n) { return static_cast<int>(azar() % static_cast<unsigned>(n)); };
+  BancoAjustes b;
+  int abiertas = 0;
+  for (int i = 0; i < 1500; ++i) {
+    if (!b.a) {
+      b.Teclea(Ed::edTramo, std::to_string(1 + hasta(5)));
+      if (b.c.EnModificaciones()) CancelaCaptura(b.c);
+      ASSERT_TRUE(b.Abre()) << b.voz.Ultimo();
+      ++abiertas;
+    }
+    switch (hasta(4)) {
+      case 0:
+        b.Pulsa(static_cast<BotonAjuste>(hasta(kBotonesAjuste)));
+        break;
+      case 1:
+        EligeFila(*b.a, hasta(kFilasAjuste));
+        break;
+      default:
+        b.Escribe(static_cast<CampoAjuste>(hasta(kCamposAjuste)),
+                  kTextos[static_cast<std::size_t>(hasta(kTextos.size()))]);
+    }
+    if (!b.a) continue;
+    const auto& t = b.a->t;
+    const auto& fila = b.p().filas[static_cast<std::size_t>(b.p().opcion)];
+    ASSERT_TRUE(fila.utilizable) << i;
+    if (b.p().estado == EstadoAjuste::Libre) {
+      ASSERT_EQ(fila.txArmExterior, FormatoMascara(t.Disp.Exterior, kMascaraArea, ',')) << i;
+      ASSERT_EQ(fila.txArmCamisa, FormatoMascara(t.Disp.Camisa, kMascaraArea, ',')) << i;
+    }
+    ParedElegida(*b.a);
+    ASSERT_EQ(b.Guardados().size(), b.a->dpe->entradas().size()) << i;
+  }
+  EXPECT_GT(abiertas, 10);
 }
 
 }  // namespace

@@ -102,6 +102,7 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   const QString pdf = r.mesa.carpeta.filePath("r.pdf");
   Persona persona;
   persona.ficheros = QStringList{nombre, pdf, r.mesa.carpeta.filePath("no/r.txt")};
+  EXPECT_FALSE(pantalla->findChild<QPlainTextEdit*>("edPantalla")->textCursor().hasSelection());
   Pulsa(*pantalla, "btTexto");
   QFile f(nombre);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));

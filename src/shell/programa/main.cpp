@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
+#include <cstdio>
+#include <cstring>
 
 #include "shell/piezas/mdQt.h"
 #include "shell/programa/mdPrograma.h"
@@ -22,6 +24,15 @@ int main(int argumentos, char** palabras) {
   QApplication::setApplicationName(QStringLiteral("ZORBIN"));
   QApplication::setApplicationVersion(QStringLiteral(ZORBIN_VERSION));
   QApplication::setDesktopFileName(QStringLiteral("zorbin"));
+  // Told without a display too.
+  if (argumentos == 2 && std::strcmp(palabras[1], "--version") == 0) {
+    std::puts("zorbin " ZORBIN_VERSION);
+    return 0;
+  }
+  if (argumentos == 2 && std::strcmp(palabras[1], "--help") == 0) {
+    std::puts("zorbin [OBRA.zrb]");
+    return 0;
+  }
   QApplication aplicacion(argumentos, palabras);
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zorbin")));
   try {
