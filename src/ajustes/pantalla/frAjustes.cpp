@@ -208,6 +208,8 @@ QWidget* frAjustes::ColumnaDelCaso() {
   filasMarco->addLayout(botones);
   filas->addWidget(frFilas_);
   filas->addWidget(MarcoRecubrimientos());
+  lbAvisosDelCaso_ = EnVariasLineas(Etiqueta("lbAvisosDelCaso", this));
+  filas->addWidget(lbAvisosDelCaso_);
   filas->addStretch(1);
   return columna;
 }
@@ -418,6 +420,10 @@ void frAjustes::MuestraCaso() {
   txPresion_->setToolTip(Q(entorno_.textos.Compone(txt::AjPistaPresion, {p.tbPRSaCalcular})));
   edAvisoCaldera_->setText(Q(p.edAvisoCaldera));
   edAvisoCaldera_->setVisible(p.edAvisoCalderaVisible);
+  QStringList avisos;
+  for (const auto& aviso : p.avisosDelCaso) avisos += Rotulo(aviso);
+  lbAvisosDelCaso_->setText(avisos.join('\n'));
+  lbAvisosDelCaso_->setVisible(!avisos.isEmpty());
 }
 
 void frAjustes::MuestraCampos() {
@@ -472,9 +478,6 @@ void frAjustes::MuestraPared() {
   const auto diametro = [this](double v) {
     return Formato(a_, v, v == std::floor(v) ? "####0" : "####0.0");
   };
-  const auto capa = [&](int texto, const CapaDeBarras& b) {
-    return Q(textos.Compone(texto, {std::to_string(b.cuenta), diametro(b.diametro)}));
-  };
   DibujoPared::Rotulos r;
   r.exterior = Rotulo(T(txt::AjLineaExterior));
   r.interior = Rotulo(T(txt::AjLineaInterior));
@@ -494,9 +497,14 @@ void frAjustes::MuestraPared() {
   pared_->Pon(pared, r);
   lbCamisa_->setText(
       Q(textos.Compone(txt::AjDibujoCamisa, {Formato(a_, pared.CAMISA, "####0.00")})));
-  lbEspiras_->setText(pared.espiras.cuenta > 0 ? capa(txt::AjDibujoEspiras, pared.espiras)
-                                               : Q(T(txt::AjSinEspiras)));
-  lbExteriores_->setText(capa(txt::AjDibujoExteriores, pared.exteriores));
+  const auto barras = [&](int texto, const CapaDeBarras& b) {
+    return b.cuenta > 0 ? Q(textos.Compone(texto, {std::to_string(b.cuenta), diametro(b.diametro)}))
+                        : Q(T(txt::AjDemasiadaArea));
+  };
+  const bool sinEspiras = pared.espiras.cuenta == 0 && a_.t.Disp.Espiras == 0.0;
+  lbEspiras_->setText(sinEspiras ? Q(T(txt::AjSinEspiras))
+                                 : barras(txt::AjDibujoEspiras, pared.espiras));
+  lbExteriores_->setText(barras(txt::AjDibujoExteriores, pared.exteriores));
   lbSupuestas_->setText(Q(T(txt::AjBarrasSupuestas)));
   lbSupuestas_->setVisible(!pared.delDiseno);
   QStringList dicho{frPared_->title(),

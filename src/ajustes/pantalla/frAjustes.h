@@ -68,6 +68,7 @@ class frAjustes : public QDialog {
   QLabel* lbAltura_ = nullptr;
   QLabel* lbPresion_ = nullptr;
   QLabel* edAvisoCaldera_ = nullptr;
+  QLabel* lbAvisosDelCaso_ = nullptr;
   QLabel* lbRecInterior_ = nullptr;
   QLabel* lbRecExterior_ = nullptr;
   QLabel* lbSinGrabar_ = nullptr;

@@ -26,6 +26,7 @@ inline constexpr int PistaRecubrimientos = 1388;
 inline constexpr int AjFilaTanteo = 1389;          // {1} number of the row
 inline constexpr int PistaGuardarAjuste = 1390;
 inline constexpr int PistaArmaduraDirecta = 1391;
+inline constexpr int AjDemasiadaArea = 1392;
 inline constexpr int AjCambiosSinGrabar = 1284;
 inline constexpr int AjFicheroNoEncontrado = 698;
 // clang-format on
