@@ -11,6 +11,7 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
@@ -527,7 +528,14 @@ void frAjustes::Elige(int fila) {
   const auto antes = a_.t.pantalla.estado;
   EligeFila(a_, fila);
   Muestra();
-  if (a_.t.pantalla.estado != antes) LlevaElFoco(antes);
+  if (a_.t.pantalla.estado == antes) return;
+  LlevaElFoco(antes);
+  // An arrow key chooses an option before it takes the focus there.
+  QTimer::singleShot(0, this, [this] {
+    if (a_.t.pantalla.estado == EstadoAjuste::Directa && tabla_->Opcion(kFilaDirecta)->hasFocus()) {
+      vigilante_.VaA(*campos_[I(CampoAjuste::txArmCamisa)]);
+    }
+  });
 }
 
 // Leaving the Caso forgets what was not stored.

@@ -1,6 +1,7 @@
 #include "shell/piezas/mdTeclasRapidas.h"
 
 #include <QAbstractButton>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QSet>
@@ -15,7 +16,11 @@ namespace {
 struct Rotulado {
   QString texto;  // without its mark
   std::function<void(const QString&)> pon;
+  qsizetype lugar = -1;  // of its letter; none
 };
+
+// Who has each letter.
+using Duenos = QHash<QChar, Rotulado*>;
 
 QString SinMarca(QString texto) {
   // A doubled mark is the sign itself.
@@ -38,31 +43,52 @@ bool AbrePalabra(const QString& texto, qsizetype i) {
   return i == 0 || !texto[i - 1].isLetterOrNumber();
 }
 
-// Place of the first letter that nobody has; -1 when there is none.
-qsizetype Libre(const QString& texto, const QSet<QChar>& dadas, bool soloIniciales) {
+void Toma(Rotulado& rotulado, qsizetype lugar, Duenos& duenos) {
+  rotulado.lugar = lugar;
+  duenos[rotulado.texto[lugar].toUpper()] = &rotulado;
+}
+
+// The first letter that nobody has.
+bool TomaLibre(Rotulado& rotulado, Duenos& duenos, bool soloIniciales) {
+  const auto& texto = rotulado.texto;
   for (qsizetype i = 0; i < texto.size(); ++i) {
     if (soloIniciales && !AbrePalabra(texto, i)) continue;
-    if (EsTecla(texto[i]) && !dadas.contains(texto[i].toUpper())) return i;
+    if (!EsTecla(texto[i]) || duenos.contains(texto[i].toUpper())) continue;
+    Toma(rotulado, i, duenos);
+    return true;
   }
-  return -1;
+  return false;
 }
 
-bool Marca(const Rotulado& rotulado, QSet<QChar>& dadas, bool soloIniciales) {
-  const auto lugar = Libre(rotulado.texto, dadas, soloIniciales);
-  if (lugar < 0) return false;
-  dadas.insert(rotulado.texto[lugar].toUpper());
-  rotulado.pon(QString(rotulado.texto).insert(lugar, '&'));
-  return true;
+// A letter whose owner can do with another one.
+bool TomaCedida(Rotulado& rotulado, Duenos& duenos, QSet<QChar>& vistas) {
+  for (qsizetype i = 0; i < rotulado.texto.size(); ++i) {
+    const QChar letra = rotulado.texto[i].toUpper();
+    if (!EsTecla(letra) || vistas.contains(letra)) continue;
+    vistas.insert(letra);
+    auto* dueno = duenos.value(letra);
+    if (dueno != nullptr && !TomaCedida(*dueno, duenos, vistas)) continue;
+    Toma(rotulado, i, duenos);
+    return true;
+  }
+  return false;
 }
 
-void Reparte(const std::vector<Rotulado>& rotulados, QSet<QChar>& dadas) {
-  std::vector<const Rotulado*> quedan;
-  for (const auto& rotulado : rotulados) {
-    if (!Marca(rotulado, dadas, true)) quedan.push_back(&rotulado);
+void Reparte(std::vector<Rotulado>& rotulados, Duenos& duenos, bool piden) {
+  std::vector<Rotulado*> quedan;
+  for (auto& rotulado : rotulados) {
+    if (!TomaLibre(rotulado, duenos, true)) quedan.push_back(&rotulado);
   }
-  for (const auto* rotulado : quedan) {
-    if (!Marca(*rotulado, dadas, false)) rotulado->pon(rotulado->texto);
+  for (auto* rotulado : quedan) {
+    QSet<QChar> vistas;
+    if (!TomaLibre(*rotulado, duenos, false) && piden) TomaCedida(*rotulado, duenos, vistas);
   }
+}
+
+void Pon(const Rotulado& rotulado) {
+  QString texto = rotulado.texto;
+  if (rotulado.lugar >= 0) texto.insert(rotulado.lugar, '&');
+  rotulado.pon(texto);
 }
 
 }  // namespace
@@ -80,8 +106,13 @@ void ReparteTeclas(QWidget& pantalla) {
     etiquetas.push_back({SinMarca(etiqueta->text()),
                          [etiqueta](const QString& texto) { etiqueta->setText(texto); }});
   }
-  QSet<QChar> dadas;
-  for (const auto* grupo : {&ordenes, &opciones, &etiquetas}) Reparte(*grupo, dadas);
+  Duenos duenos;
+  Reparte(ordenes, duenos, true);
+  Reparte(opciones, duenos, true);
+  Reparte(etiquetas, duenos, false);
+  for (const auto* grupo : {&ordenes, &opciones, &etiquetas}) {
+    for (const auto& rotulado : *grupo) Pon(rotulado);
+  }
 }
 
 }  // namespace zorbin
