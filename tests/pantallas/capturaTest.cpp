@@ -136,6 +136,7 @@ TEST(Ventana, UnaObraDesdeCeroConElTeclado) {
   EXPECT_DOUBLE_EQ(leido.tramo.Di, 1.2);
   EXPECT_EQ(leido.tramo.DescriTramo, "Primer tramo");
   EXPECT_EQ(p.mesa.preferencias.ObrasRecientes().size(), 1);
+  EXPECT_EQ(p.mesa.preferencias.IdiomaPropio(), 1) << "a new Obra settles the language";
 }
 
 TEST(Ventana, MenusDeCadaEstado) {
