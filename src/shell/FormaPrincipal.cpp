@@ -367,9 +367,7 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return LanzaPantalla(pantallas_.imprimeObra, true);
     case Orden::mnGrabaObra:
     case Orden::btGrabaObra:
-      captura().Hace([this] {
-        if (AccionGrabaObra(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
-      });
+      captura().Hace([this] { Graba(AccionGrabaObra); });
       return ActualizaRecientes();
     case Orden::mnCerrarObra:
     case Orden::btCerrarObra:
@@ -388,9 +386,7 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return;
     case Orden::mnGrabaTramo:
     case Orden::btGrabar:
-      captura().Hace([this] {
-        if (AccionGrabaTramo(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
-      });
+      captura().Hace([this] { Graba(AccionGrabaTramo); });
       captura().RenuevaTramos();
       return ActualizaRecientes();
     case Orden::mnCalculaTramo:
@@ -402,6 +398,14 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
     case Orden::mnTramos:
       return;
   }
+}
+
+// The language of a new Obra is that of the program from its first save on.
+void FormaPrincipal::Graba(bool (*grabacion)(Captura&)) {
+  const bool nueva = !c_.e.obra.ObraAbierta;
+  if (!grabacion(c_)) return;
+  entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
+  if (nueva) entorno_.preferencias.GrabaIdioma(c_.e.obra.Idioma);
 }
 
 void FormaPrincipal::AbreConDialogo() {

@@ -112,6 +112,7 @@ class FormaPrincipal : public QMainWindow {
   void EjecutaDeVerdad(Orden orden);
   void Protege(const std::function<void()>& hace);
   void LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo);
+  void Graba(bool (*grabacion)(Captura&));
   bool AbreFichero(const QString& ruta);
   void Actualiza();
   void ActualizaEstado();
