@@ -214,7 +214,7 @@ void DibujoPared::PintaCapa(QPainter& pintor, const Encaje& e, const CapaDeBarra
   const double radio = std::max(capa.diametro / kMmPorCm * e.escala / 2, kBarraVista);
   pintor.setPen(QPen(Tinta(palette()), 1));
   pintor.setBrush(Color(trazo, palette()));
-  for (double x = e.pared.left() + paso / 2; x < e.pared.right() + radio; x += paso) {
+  for (double x = e.pared.left() + paso / 2; x + radio <= e.pared.right(); x += paso) {
     pintor.drawEllipse(QPointF(x, y), radio, radio);
   }
 }
