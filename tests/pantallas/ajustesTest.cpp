@@ -1,6 +1,7 @@
 // The screen of adjustments as a person uses it, from the capture to the summary that shows them.
 #include "ajustes/pantalla/frAjustes.h"
 
+#include <QAction>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -13,7 +14,9 @@
 #include "captura/mdEtiquetas.h"
 #include "pantallas/enPantalla.h"
 #include "pantallas/pantallaCalculadora.h"
+#include "shell/CapturaDatos.h"
 #include "shell/mdTrabajo.h"
+#include "shell/programa/mdPrograma.h"
 
 namespace zorbin {
 namespace {
@@ -390,6 +393,36 @@ TEST_P(AjustesEnIdioma, TodoTextoEsDelCatalogoYCabe) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Idiomas, AjustesEnIdioma, testing::Range(1, 6));
+
+// The order of the program: over its own capture, with the program's own document.
+TEST(PantallaAjustes, LaAbreElPrograma) {
+  const Carpeta carpeta;
+  std::filesystem::copy_file(ZORBIN_FUENTES "muestras/acequia.zrb", carpeta / "o.zrb");
+  Persona persona;
+  Programa programa(std::make_unique<Preferencias>(Q((carpeta / "u.ini").string()),
+                                                   Q((carpeta / "m.ini").string())));
+  auto& ventana = programa.ventana();
+  ventana.show();
+  ASSERT_TRUE(ventana.Abre(Q((carpeta / "o.zrb").string())));
+  ventana.captura().Hace([&] {
+    Entra(programa.captura(), Ed::edTramo);
+    Cambia(programa.captura(), Ed::edTramo, "1");
+    Sale(programa.captura(), Ed::edTramo);
+  });
+  ASSERT_TRUE(ventana.accion(Orden::mnAjustarArmaduras)->isEnabled()) << S(persona.Ultima());
+  QString aviso;
+  EnPantalla<frAjustes> ingeniero([&](frAjustes& p) {
+    Activa(p);
+    aviso = Pieza<QTextBrowser>(p, "tbAviso").toPlainText();
+    Pulsa(p, "obSeleccion5");
+    Pulsa(p, "btAceptarAjuste");
+  });
+  ventana.accion(Orden::mnAjustarArmaduras)->trigger();
+  EXPECT_EQ(ingeniero.veces, 1) << S(persona.Ultima());
+  EXPECT_GT(aviso.size(), 200);
+  EXPECT_EQ(LeeAjustes(RutaDpe(carpeta / "o.zrb")).size(), 1u);
+  EXPECT_FALSE(programa.captura().EnCambio());
+}
 
 TEST(PantallaAjustes, LaAyudaEsLaSuya) {
   Sala s;
