@@ -11,8 +11,8 @@ namespace {
 
 constexpr double kMmPorCm = 10.0;
 constexpr int kAire = 6;  // between pieces of a drawing [px]
-constexpr double kTramoVisto =
-    1.5;  // separations of the widest spaced layer that are seen at least
+// Separations of the widest spaced layer that are seen at least.
+constexpr double kTramoVisto = 2.0;
 constexpr double kCamisaVista = 2.5;  // least height of a sheet, which would be a hair [px]
 constexpr double kBarraVista = 2;     // least radius of a bar [px]
 
