@@ -123,14 +123,14 @@ frAjustes::frAjustes(Ajustes& ajustes, const Entorno& entorno,
   columnas->addWidget(ColumnaDelCaso());
   columnas->addWidget(ColumnaDeLaComprobacion(), 1);
   // It scrolls only where the screen is too small for it.
-  auto* vista = new QScrollArea(this);
-  vista->setFrameShape(QFrame::NoFrame);
-  vista->setWidgetResizable(true);
-  vista->setFocusPolicy(Qt::NoFocus);
-  vista->setWidget(cuerpo);
+  vista_ = new QScrollArea(this);
+  vista_->setFrameShape(QFrame::NoFrame);
+  vista_->setWidgetResizable(true);
+  vista_->setFocusPolicy(Qt::NoFocus);
+  vista_->setWidget(cuerpo);
   auto* filas = new QVBoxLayout(this);
   filas->setContentsMargins(0, 0, 0, kAire);
-  filas->addWidget(vista, 1);
+  filas->addWidget(vista_, 1);
   filas->addLayout(FilaDeSalida());
   CreaCampos();
   PonPistas();
@@ -138,7 +138,7 @@ frAjustes::frAjustes(Ajustes& ajustes, const Entorno& entorno,
   connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
           [this] { entorno_.ayuda(QStringLiteral("ajustes")); });
   Muestra();
-  TomaSuSitio(*cuerpo);
+  TomaSuSitio();
   tabla_->Opcion(a_.t.pantalla.opcion)->setFocus();
 }
 
@@ -376,11 +376,21 @@ void frAjustes::MuestraDocumento(const DocumentoAjustes& documentoHtml) {
   tbAviso_->setAccessibleName(frRecubrimientos_->title());
 }
 
-void frAjustes::TomaSuSitio(const QWidget& cuerpo) {
-  if (entorno_.preferencias.RecuperaVentana(kVentana, *this)) return;
-  const int salida = layout()->itemAt(1)->sizeHint().height() + 3 * kAire;
-  const QSize cabe = cuerpo.sizeHint() + QSize(0, salida);
-  resize(cabe.boundedTo(screen()->availableSize() * kParteDePantalla));
+void frAjustes::TomaSuSitio() {
+  entorno_.preferencias.RecuperaVentana(kVentana, *this);
+}
+
+// What the rows ask for is known once they stand on a screen: the window grows to it then, as far
+// as the screen goes.
+void frAjustes::showEvent(QShowEvent* suceso) {
+  QDialog::showEvent(suceso);
+  if (suceso->spontaneous()) return;
+  const QSize cuerpo = vista_->widget()->sizeHint().expandedTo(vista_->widget()->minimumSizeHint());
+  const QSize falta = (cuerpo - vista_->viewport()->size()).expandedTo(QSize(0, 0));
+  if (falta.isNull()) return;
+  resize((size() + falta).boundedTo(screen()->availableSize() * kParteDePantalla));
+  move(screen()->availableGeometry().center() - frameGeometry().center() +
+       frameGeometry().topLeft());
 }
 
 // ---------------------------------------------------------------------------------------------

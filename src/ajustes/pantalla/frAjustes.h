@@ -19,6 +19,8 @@ class QPushButton;
 class QStackedWidget;
 class QTextBrowser;
 
+class QScrollArea;
+
 namespace zorbin {
 
 class BarraArmadura;
@@ -46,9 +48,11 @@ class frAjustes : public QDialog {
   void reject() override;
 
  protected:
+  void showEvent(QShowEvent* suceso) override;
   void keyPressEvent(QKeyEvent* suceso) override;
 
  private:
+  QScrollArea* vista_ = nullptr;
   struct Linea {
     QLabel* lbPosicion = nullptr;
     QLabel* txArmNecesaria = nullptr;
@@ -99,7 +103,7 @@ class frAjustes : public QDialog {
   QLayout* FilaDeSalida();
   void PonPistas();
   void MuestraDocumento(const DocumentoAjustes& documentoHtml);
-  void TomaSuSitio(const QWidget& cuerpo);
+  void TomaSuSitio();
 
   void Muestra();
   void MuestraCaso();
