@@ -28,6 +28,7 @@ constexpr std::array<Medio, kMedios> kOrden{
 // The longest sentence of the analysis in any language, and the lines of one with some factors.
 constexpr int kColumnasAnalisis = 122;
 constexpr int kLineasAnalisis = 18;
+constexpr int kColumnasEjemplo = 28;  // below them the note is not worth reading
 
 const CampoMedio& Datos(Medio medio) {
   return kCamposMedios[static_cast<std::size_t>(medio)];
@@ -96,6 +97,7 @@ void Protecciones::CreaPiezas() {
   btImprimir_ = CreaBoton("btImprimir", [this] { Imprimir(); });
   edResultadoAgres_ = CreaArea("edResultadoAgres", kColumnasAnalisis, kLineasAnalisis);
   edEjemplo_ = new QTextBrowser(this);
+  edEjemplo_->setMinimumWidth(fontMetrics().averageCharWidth() * kColumnasEjemplo);
   edEjemplo_->setObjectName("edEjemplo");
   edEjemplo_->setOpenLinks(false);
   edEjemplo_->setTabChangesFocus(true);
