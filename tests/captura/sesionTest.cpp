@@ -77,13 +77,10 @@ TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
 
   // A Tramo with a fault of its own, and a question that nobody is there to answer.
   b.e.tramo.Gr = 0.0;
-  {
-    FicheroRegistros f(carpeta / "obra.zrb", FicheroRegistros::Modo::LecturaEscritura);
-    EscribeTramo(f, b.e, b.c.lista, 2, ',');
-    CargaTramo(b.e, f, 1);
-    b.e.tramo.Fyd = 150.0;
-    EscribeTramo(f, b.e, b.c.lista, 1, ',');
-  }
+  EscribeTramo(*b.c.fichero, b.e, b.c.lista, 2, ',');
+  CargaTramo(b.e, *b.c.fichero, 1);
+  b.e.tramo.Fyd = 150.0;
+  EscribeTramo(*b.c.fichero, b.e, b.c.lista, 1, ',');
   const auto lista = ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {});
   ASSERT_EQ(lista.faltas.size(), 1U);
   EXPECT_EQ(lista.faltas[0].posicion, 2);
@@ -304,10 +301,12 @@ TEST(Sesion, UnNumeroRepetidoNoPisaElTramoDeOtro) {
   const Carpeta carpeta;
   Banco b;
   ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  ASSERT_TRUE(CierraObra(b.c));
   {
     FicheroRegistros f(carpeta / "o.zrb", FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(21, "5");
     f.EscribeRegistro(81, "4");
+    f.Vacia();
   }
   Banco otra;
   ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));

@@ -52,6 +52,7 @@ class Linea : public testing::Test {
     fs::copy_file(acequia, copia, fs::copy_options::overwrite_existing);
     FicheroRegistros f(copia, FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(registro, texto);
+    f.Vacia();
     return copia.string();
   }
 };
