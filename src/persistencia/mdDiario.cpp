@@ -151,6 +151,16 @@ bool TieneSentido(const Cambios& c) {
   return c.largoDespues == LargoCon(c.registros, c.largoAntes);
 }
 
+// Also a beginning of the magic, or some zeros in it: neither a first write nor that which makes it
+// void came to its end.
+bool AMedioAnular(std::string_view bytes) {
+  const auto n = std::min(bytes.size(), kMagia.size());
+  for (std::size_t i = 0; i < n; ++i) {
+    if (bytes[i] != '\0' && bytes[i] != kMagia[i]) return false;
+  }
+  return true;
+}
+
 DiarioLeido LeeCompleto(std::string_view bytes, std::size_t cuenta) {
   Cambios c;
   bool vale = true;
@@ -251,9 +261,7 @@ std::string BytesDiario(const Cambios& c) {
 
 DiarioLeido InterpretaDiario(std::string_view bytes) {
   using Estado = DiarioLeido::Estado;
-  const auto magia = bytes.substr(0, kMagia.size());
-  if (magia.find_first_not_of('\0') == std::string_view::npos) return {Estado::Nulo};
-  if (magia != kMagia) return {Estado::Ajeno};
+  if (!bytes.starts_with(kMagia)) return {AMedioAnular(bytes) ? Estado::Nulo : Estado::Ajeno};
   if (bytes.size() < kCabecera) return {Estado::Incompleto};
   if (Toma<std::uint32_t>(bytes, kLugarVersion) > kVersion) return {Estado::MasNuevo};
   const std::size_t cuenta = Toma<std::uint32_t>(bytes, kLugarCuenta);
