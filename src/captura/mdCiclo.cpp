@@ -289,10 +289,11 @@ bool EscribeTramoEnMano(Captura& c) {
 
 // ---- Reading only
 
-// The question of a file that can't be written. @return whether it is open for reading
+// One that another program has is asked about: it may be a slip. @return whether it is open
 bool AbreParaLeer(Captura& c, const fs::path& ruta, const SoloParaLeer& error) {
-  const std::string causa = TextoDeError(c, error);
-  if (!c.voz.Pregunta(causa + "\n" + Texto(c, txt::AbrirParaLeer), Texto(c, txt::TituloAviso))) {
+  if (error.motivo() == SoloParaLeer::Motivo::Ocupado &&
+      !c.voz.Pregunta(TextoDeError(c, error) + "\n" + Texto(c, txt::AbrirParaLeer),
+                      Texto(c, txt::TituloAviso))) {
     return false;
   }
   TomaFichero(c, {ruta, FicheroRegistros::Modo::Lectura});

@@ -145,6 +145,14 @@ std::optional<double> AlturaSiguiente(double h, double paso, double ultima) {
   return std::fabs(ultima - siguiente) < kEngancheAltura ? ultima : siguiente;
 }
 
+std::optional<double> AlturaAnterior(double h, double paso, double primera) {
+  if (!(paso > 0.0)) return std::nullopt;
+  const double margen = std::min(kEngancheAltura, paso / 2.0);
+  const double pasos = std::ceil((h - primera - margen) / paso) - 1.0;
+  if (pasos < 0.0) return std::nullopt;
+  return primera + pasos * paso;
+}
+
 void EligePresiones(EstadoCalculo& e) {
   auto& c = e.corrida;
   const auto& t = e.tramo;

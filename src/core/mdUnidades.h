@@ -28,6 +28,10 @@ void EligeAlturas(EstadoCalculo& e);
 /// None after the last height, or with a step of 0.
 std::optional<double> AlturaSiguiente(double h, double paso, double ultima);
 
+/// The height before h in a range that the steps begin at its first height [m], also from a last
+/// height that a step landed on. None before the first one, or with a step that does not advance.
+std::optional<double> AlturaAnterior(double h, double paso, double primera);
+
 /// Takes the pressures in force into DPIni, DPFin, MDPIni, MDPFin and PendienteMDP, in the units
 /// that the state holds. A slope that is not finite becomes 0, which leaves the step undefined.
 void EligePresiones(EstadoCalculo& e);

@@ -31,6 +31,24 @@ inline constexpr int AyudaRugosidadDoble = 770;
 inline constexpr int PendienteMPorM = 771;
 inline constexpr int CaudalM3PorSeg = 772;
 inline constexpr int DatoSinTipo = 669;
+inline constexpr int MarcoRugosidad = 1210;
+inline constexpr int MarcoResultado = 1211;
+
+// Both calculators; {1} the caption of the button that calculates
+inline constexpr int EscribaLosDatos = 1212;
+inline constexpr int DatosCambiados = 1213;
+
+// Tips
+inline constexpr int PistaPrandtl = 1214;
+inline constexpr int PistaDarcy = 1215;
+inline constexpr int PistaHazen = 1216;
+inline constexpr int PistaPendiente = 1217;
+inline constexpr int PistaCaudal = 1218;
+inline constexpr int PistaDato = 1219;
+inline constexpr int PistaRugosidad = 1220;
+inline constexpr int PistaCwh = 1221;
+inline constexpr int PistaCalcular = 1222;
+inline constexpr int PistaImprimirTabla = 1223;
 
 // Refusals
 inline constexpr int TituloError = 670;

@@ -4,8 +4,10 @@
 
 #include "linea/mdCalcula.h"
 #include "linea/mdCalculadoras.h"
+#include "linea/mdListaAjustes.h"
 #include "linea/mdPalabras.h"
 #include "linea/mdValida.h"
+#include "linea/textosListaAjustes.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
@@ -27,6 +29,7 @@ class Ordenes {
     PonRotulosDeAyuda(app_, textos_);
     DeclaraCalcula();
     DeclaraValida();
+    DeclaraAjustes();
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -43,6 +46,7 @@ class Ordenes {
     }
     if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
     if (valida_->parsed()) return Valida(deValida_, textos_);
+    if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -52,10 +56,12 @@ class Ordenes {
   CLI::App app_;
   CLI::App* calcula_ = nullptr;
   CLI::App* valida_ = nullptr;
+  CLI::App* ajustes_ = nullptr;
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
   OpcionesValida deValida_;
+  OpcionesListaAjustes deAjustes_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -97,6 +103,14 @@ class Ordenes {
     DeclaraObra(valida_, o.obra, o.tramos);
     Opcion(valida_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
     Eleccion(valida_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+  }
+
+  void DeclaraAjustes() {
+    ajustes_ = Orden("ajustes", txt::AyudaAjustes);
+    auto& o = deAjustes_;
+    DeclaraObra(ajustes_, o.obra, o.tramos);
+    Eleccion(ajustes_, "--formato", o.formato, txt::AyudaFormatoCalculadora, {"texto", "json"});
+    Eleccion(ajustes_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
   }
 
   void DeclaraCalcula() {

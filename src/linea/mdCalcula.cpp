@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <iostream>
-#include <memory>
 
 #include "core/mdNumeros.h"
 #include "core/mdTextos.h"
@@ -15,11 +14,9 @@
 #include "listados/mdFlujo.h"
 #include "listados/mdHojasTexto.h"
 #include "listados/mdJson.h"
-#include "listados/mdListadoNormal.h"
-#include "listados/mdListadoPantalla.h"
-#include "listados/mdListadoTabular.h"
 #include "listados/mdPantalla.h"
 #include "listados/mdResumen.h"
+#include "listados/mdTipoListado.h"
 #include "persistencia/mdDpe.h"
 #include "persistencia/mdLog.h"
 #include "persistencia/textosDpe.h"
@@ -49,6 +46,12 @@ bool PisaLaObra(const std::filesystem::path& salida, const std::filesystem::path
   std::error_code error;
   return !salida.empty() && (std::filesystem::equivalent(salida, obra, error) ||
                              std::filesystem::equivalent(salida, RutaDpe(obra), error));
+}
+
+TipoListado TipoDeLinea(const std::string& listado) {
+  if (listado == "tabular") return TipoListado::Tabular;
+  if (listado == "pantalla") return TipoListado::Pantalla;
+  return listado == "lame" ? TipoListado::Lame : TipoListado::Normal;
 }
 
 EstiloNumeros Estilo(const EstadoCalculo& e, const OpcionesCalcula& opciones) {
@@ -158,9 +161,9 @@ class Calculador {
   }
 
   void Imprime(DestinoHojas& hojas) {
-    const bool tabular = opciones_.listado == "tabular";
-    Papel papel(hojas, tabular ? Orientacion::Apaisada : Orientacion::Vertical);
-    const auto listado = CreaListado({papel, textos_, estilo_, FechaPedida()});
+    const TipoListado tipo = TipoDeLinea(opciones_.listado);
+    Papel papel(hojas, OrientacionDe(tipo));
+    const auto listado = CreaListado(tipo, {papel, textos_, estilo_, FechaPedida()});
     Corre(*listado);
     papel.FinDocumento();
   }
@@ -170,12 +173,6 @@ class Calculador {
     const auto corte = opciones_.fecha.find(' ');
     return {opciones_.fecha.substr(0, corte),
             corte == std::string::npos ? std::string{} : opciones_.fecha.substr(corte + 1)};
-  }
-
-  std::unique_ptr<OyenteObra> CreaListado(const MediosPapel& medios) const {
-    if (opciones_.listado == "tabular") return std::make_unique<ListadoTabular>(medios);
-    if (opciones_.listado == "pantalla") return std::make_unique<ListadoPantalla>(medios);
-    return std::make_unique<ListadoNormal>(medios, opciones_.listado == "lame");
   }
 };
 

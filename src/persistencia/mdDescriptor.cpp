@@ -116,6 +116,10 @@ Causa SincronizaNombre(const std::filesystem::path& fichero) {
   return causa == EINVAL || causa == EOPNOTSUPP ? 0 : causa;
 }
 
+bool Permite(const std::filesystem::path& ruta, int modo) {
+  return ::faccessat(AT_FDCWD, ruta.c_str(), modo, AT_EACCESS) == 0;
+}
+
 bool EsElMismo(const Descriptor& d, const std::filesystem::path& ruta) {
   struct stat abierto, nombrado;
   return ::fstat(d.numero(), &abierto) == 0 && ::stat(ruta.c_str(), &nombrado) == 0 &&

@@ -53,6 +53,10 @@ inline constexpr mode_t kPermisosFichero = 0666;
 /// the rights of the person allow it to be asked for.
 [[nodiscard]] Causa SincronizaNombre(const std::filesystem::path& fichero);
 
+/// Whether the person may do it to what a name leads to.
+/// @param modo  R_OK or W_OK
+bool Permite(const std::filesystem::path& ruta, int modo);
+
 /// Whether a name leads to the file that is open.
 bool EsElMismo(const Descriptor& d, const std::filesystem::path& ruta);
 

@@ -91,7 +91,7 @@ FicheroSeguro::~FicheroSeguro() {
 void FicheroSeguro::AbreExistente(PideCerrojo pide) {
   for (int i = 0; !d_.abierto(); ++i) {
     const Causa causa = AbreFichero(d_, ruta_, O_RDWR | O_NONBLOCK | O_NOCTTY);
-    if (EsDePermisos(causa) && ::access(ruta_.c_str(), R_OK) == 0) {
+    if (EsDePermisos(causa) && Permite(ruta_, R_OK)) {
       throw SoloParaLeer({txt::SinPermiso, {nombre_, TextoDeCausa(causa)}},
                          SoloParaLeer::Motivo::SinPermiso);
     }
@@ -138,7 +138,7 @@ void FicheroSeguro::TomaOSeNiega(PideCerrojo pide) {
 
 void FicheroSeguro::AvisaDeCarpeta() {
   const fs::path carpeta = ruta_.parent_path();
-  if (::access(carpeta.c_str(), W_OK) == 0) return;
+  if (Permite(carpeta, W_OK)) return;
   avisos_.push_back({txt::CarpetaCerrada, {nombre_, carpeta.string()}});
 }
 
@@ -194,7 +194,7 @@ void FicheroSeguro::DeshacePendiente() {
 
 void FicheroSeguro::CompruebaQueSigueAhi() const {
   if (!EsElMismo(d_, ruta_)) throw ErrorFichero({txt::YaNoEsta, {nombre_}});
-  if (::access(ruta_.c_str(), W_OK) != 0) throw Error(txt::NadaGrabado, nombre_, errno);
+  if (!Permite(ruta_, W_OK)) throw Error(txt::NadaGrabado, nombre_, errno);
   std::string ahora;
   if (const Causa causa = LeeBytes(d_, kMaxContenido, ahora)) {
     throw Error(txt::ErrorDeLectura, nombre_, causa);

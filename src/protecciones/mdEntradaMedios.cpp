@@ -51,6 +51,7 @@ char Tecla(const EntradaMedios& e, Medio medio, char tecla) {
 }
 
 void Cambia(EntradaMedios& e, Medio medio, std::string texto) {
+  if (Campo(e, medio).texto != texto) e.alDia = false;
   Cambia(Campo(e, medio), std::move(texto));
 }
 
@@ -64,6 +65,11 @@ std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio) {
   Muestra(e, medio, aviso ? campo.valor : valor);
   campo.seleccionado = aviso.has_value();
   return aviso;
+}
+
+void MarcaCiclos(EntradaMedios& e, bool marcado) {
+  if (e.Check1 != marcado) e.alDia = false;
+  e.Check1 = marcado;
 }
 
 std::optional<AvisoCampo> Analiza(EntradaMedios& e) {
@@ -82,6 +88,7 @@ std::optional<AvisoCampo> Analiza(EntradaMedios& e) {
     muestra.valor[static_cast<std::size_t>(medio)] = valor;
   }
   e.resultado = AnalizaMedios(muestra);
+  e.alDia = true;
   return std::nullopt;
 }
 

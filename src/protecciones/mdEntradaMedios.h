@@ -16,6 +16,7 @@ struct EntradaMedios {
   bool Check1 = false;                    // cycles of wetting and drying, or half-buried pipe
   char SeparadorDecimal = ',';
   std::optional<ResultadoMedios> resultado;  // of the last analysis
+  bool alDia = false;                        // the result belongs to the inputs in sight
 };
 
 /// The screen as it opens, with the defaults.
@@ -27,6 +28,9 @@ void Entra(EntradaMedios& e, Medio medio);
 char Tecla(const EntradaMedios& e, Medio medio, char tecla);
 void Cambia(EntradaMedios& e, Medio medio, std::string texto);
 std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio);
+
+/// The tick box.
+void MarcaCiclos(EntradaMedios& e, bool marcado);
 
 /// The buttons "   Visualizar" and "  Imprimir". The fields are read in the order 0 to 4, 8, 5, 6,
 /// 7, and an empty one keeps the value read before it (0 for the first). A refusal leaves the

@@ -28,6 +28,15 @@ inline constexpr int AlternaCiclos = 729;
 inline constexpr int EjemploAguas = 730;
 inline constexpr int BotonVisualizar = 731;
 inline constexpr int FicheroAguasPuras = 410;
+inline constexpr int FicheroNoEncontrado = 698;
+
+// Tips; {1} a default, a unit
+inline constexpr int PistaVisualizar = 1224;
+inline constexpr int PistaImprimirAnalisis = 1225;
+inline constexpr int PistaPH = 1226;
+inline constexpr int PistaContenido = 1227;
+inline constexpr int PistaTerreno = 1228;
+inline constexpr int PistaCiclos = 1229;
 
 // Values of the result
 inline constexpr int CementoNormal = 734;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <vector>
 
 #include "recursos/mdCatalogo.h"
 
@@ -24,7 +25,7 @@ bool IgualSinCaja(const std::string& a, const std::string& b) {
 }
 
 // A file by its name in the first folder that has it.
-fs::path BuscaFichero(const std::array<fs::path, 2>& carpetas, const std::string& nombre) {
+fs::path BuscaFichero(const std::vector<fs::path>& carpetas, const std::string& nombre) {
   std::error_code error;
   for (const auto& carpeta : carpetas) {
     for (const auto& f : fs::directory_iterator(carpeta, error)) {
@@ -51,8 +52,13 @@ fs::path RutaFigura(const std::string& nombre) {
 }
 
 fs::path RutaDocumento(const std::string& nombre) {
-  return BuscaFichero({CarpetaInstalada() / "documentos", fs::path(ZORBIN_RECURSOS) / "documentos"},
+  return BuscaFichero({CarpetaInstalada() / "documentos", fs::path(ZORBIN_RECURSOS) / "documentos",
+                       ZORBIN_DOCUMENTOS},
                       nombre);
+}
+
+fs::path RutaAyuda(const std::string& nombre) {
+  return BuscaFichero({CarpetaInstalada() / "ayuda", fs::path(ZORBIN_RECURSOS) / "ayuda"}, nombre);
 }
 
 }  // namespace zorbin

@@ -3,6 +3,7 @@
 #include <array>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 namespace zorbin {
 
@@ -53,13 +54,28 @@ Catalogo Catalogo::Lee(const std::filesystem::path& carpeta) {
       if (i == 0) throw ErrorCatalogo(ruta.string() + ": the file does not exist");
       continue;
     }
-    LeeIdioma(ruta, i * kPasoIdioma, c.entradas_);
+    c.porLeer_[lugar] = ruta;
     c.leidos_[lugar] = true;
   }
+  c.Asegura(0);
   return c;
 }
 
+// Few sessions need more than one language: each is read when the first of its texts is asked for.
+void Catalogo::Asegura(int n) const {
+  const auto lugar = static_cast<std::size_t>(n / kPasoIdioma);
+  if (n < 0 || lugar >= porLeer_.size() || porLeer_[lugar].empty()) return;
+  const auto ruta = std::exchange(porLeer_[lugar], {});
+  LeeIdioma(ruta, static_cast<int>(lugar) * kPasoIdioma, entradas_);
+}
+
+bool Catalogo::Existe(int n) const {
+  Asegura(n);
+  return entradas_.contains(n);
+}
+
 const std::string& Catalogo::LoadRes(int n) const {
+  Asegura(n);
   const auto e = entradas_.find(n);
   if (e != entradas_.end()) return e->second;
   return faltas_.try_emplace(n, "Falta Recurso " + std::to_string(n)).first->second;
@@ -77,6 +93,7 @@ std::int16_t Catalogo::PonIdioma(std::int16_t idioma) {
   const bool hay =
       idioma >= 1 && idioma <= kIdiomas && leidos_[static_cast<std::size_t>(idioma - 1)];
   const std::int16_t vale = hay ? idioma : std::int16_t{1};
+  Asegura((vale - 1) * kPasoIdioma);
   offset_ = (vale - 1) * kPasoIdioma;
   return vale;
 }

@@ -5,6 +5,7 @@
 // it, so that a number alone names a text in a language.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <initializer_list>
@@ -36,7 +37,8 @@ struct Mensaje {
 
 class Catalogo {
  public:
-  /// Reads the languages found in `carpeta`; Spanish must be there.
+  /// Reads Spanish, which must be there, and finds the other languages of `carpeta`; each of them
+  /// is read when it is first used, and what is wrong with it is thrown then.
   /// @throws ErrorCatalogo naming the file and what is wrong with it.
   static Catalogo Lee(const std::filesystem::path& carpeta);
 
@@ -46,7 +48,7 @@ class Catalogo {
   /// Entry `n` as given. A missing one reads "Falta Recurso n".
   const std::string& LoadRes(int n) const;
 
-  bool Existe(int n) const { return entradas_.contains(n); }
+  bool Existe(int n) const;
 
   /// Number of languages with a name in the catalogue.
   int CuentaIdiomas() const;
@@ -61,10 +63,14 @@ class Catalogo {
   std::string Compone(const Mensaje& m) const;
 
  private:
-  std::unordered_map<int, std::string> entradas_;
+  mutable std::unordered_map<int, std::string> entradas_;
+  mutable std::array<std::filesystem::path, kIdiomas> porLeer_;  // empty once read
   mutable std::unordered_map<int, std::string> faltas_;
   std::vector<bool> leidos_ = std::vector<bool>(kIdiomas, false);
   int offset_ = 0;
+
+  /// The language of entry `n` is read. @throws ErrorCatalogo
+  void Asegura(int n) const;
 };
 
 }  // namespace zorbin

@@ -35,6 +35,20 @@ namespace {
 const QString kNombreVentana = QStringLiteral("FormaPrincipal");
 constexpr int kSinRuta = 0;
 
+// Letters that the tabs of the capture answer to, in capitals: the menus take others.
+QString LetrasDePestanas(const Catalogo& textos) {
+  QString letras;
+  for (const int entrada :
+       {txt::PagObra, txt::PagObra + 1, txt::PagObra + 2, txt::PagArmado, txt::PagPostesado,
+        txt::PagModulos, txt::PagResistencias, txt::PagTensiones, txt::PagCoeficientes,
+        txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
+    const QString texto = Q(textos.Texto(entrada));
+    const auto marca = texto.indexOf(QLatin1Char('&'));
+    if (marca >= 0 && marca + 1 < texto.size()) letras += texto[marca + 1].toUpper();
+  }
+  return letras;
+}
+
 bool EsDeObra(const QString& ruta) {
   return ruta.endsWith(QStringLiteral(".zrb"), Qt::CaseInsensitive);
 }
@@ -48,19 +62,11 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
   setAcceptDrops(true);
   centro_ = new QStackedWidget(this);
   inicio_ = new PaginaInicio(entorno, this);
-  captura_ = new CapturaDatos(c, entorno, this);
   centro_->addWidget(inicio_);
-  centro_->addWidget(captura_);
   setCentralWidget(centro_);
   connect(inicio_, &PaginaInicio::nuevaPedida, this, &FormaPrincipal::Nueva);
   connect(inicio_, &PaginaInicio::abrirPedido, this, &FormaPrincipal::AbreConDialogo);
   connect(inicio_, &PaginaInicio::obraPedida, this, &FormaPrincipal::Abre);
-  connect(captura_, &CapturaDatos::cambiada, this, &FormaPrincipal::Actualiza);
-  connect(captura_, &CapturaDatos::pedida, this, [this](Orden o) { Ejecuta(o); });
-  connect(captura_, &CapturaDatos::figuraPedida, this,
-          [this](const QString& ruta, const QString& titulo) {
-            (new frFiguras(ruta, titulo, this))->show();
-          });
   CreaMenus();
   CreaBarra();
   CreaEstado();
@@ -74,6 +80,20 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
 }
 
 FormaPrincipal::~FormaPrincipal() = default;
+
+// Made when it is first needed: the window stands at once.
+CapturaDatos& FormaPrincipal::captura() {
+  if (captura_ != nullptr) return *captura_;
+  captura_ = new CapturaDatos(c_, entorno_, this);
+  centro_->addWidget(captura_);
+  connect(captura_, &CapturaDatos::cambiada, this, &FormaPrincipal::Actualiza);
+  connect(captura_, &CapturaDatos::pedida, this, [this](Orden o) { Ejecuta(o); });
+  connect(captura_, &CapturaDatos::figuraPedida, this,
+          [this](const QString& ruta, const QString& titulo) {
+            (new frFiguras(ruta, titulo, this))->show();
+          });
+  return *captura_;
+}
 
 // ---------------------------------------------------------------------------------------------
 // Menus
@@ -195,8 +215,8 @@ void FormaPrincipal::CreaEstado() {
 
 // A letter of each entry answers to the keyboard; where the text marks one, it is that.
 void FormaPrincipal::PonMnemonicos() {
-  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas) {
-    QString usadas;
+  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas,
+                          QString usadas = {}) {
     for (const auto& [accion, texto] : entradas) {
       const auto marca = texto.indexOf(QLatin1Char('&'));
       if (marca >= 0 && marca + 1 < texto.size()) usadas += texto[marca + 1].toUpper();
@@ -225,11 +245,12 @@ void FormaPrincipal::PonMnemonicos() {
     }
     reparte(entradas);
   }
-  reparte(principales);
+  reparte(principales, LetrasDePestanas(c_.textos));
 }
 
 void FormaPrincipal::AplicaIdioma() {
   idiomaPuesto_ = c_.textos.IdiomaOffset();
+  if (captura_ != nullptr) captura_->RenuevaTextos();
   PonMnemonicos();
   for (const auto& entrada : entradas_) {
     const QString texto = Rotulo(c_.textos.Texto(entrada.texto)).remove(QLatin1Char('&'));
@@ -237,7 +258,6 @@ void FormaPrincipal::AplicaIdioma() {
     entrada.accion->setToolTip(tecla.isEmpty() ? texto : texto + " (" + tecla + ")");
   }
   barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
-  captura_->RenuevaTextos();
   inicio_->Renueva();
   if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
   Actualiza();
@@ -254,7 +274,7 @@ void FormaPrincipal::Actualiza() {
   for (const auto& [orden, accion] : acciones_) {
     accion->setEnabled(c_.pantalla.Habilitada(orden));
   }
-  QWidget* delante = c_.ObraCargada ? static_cast<QWidget*>(captura_) : inicio_;
+  QWidget* delante = c_.ObraCargada ? static_cast<QWidget*>(&captura()) : inicio_;
   if (centro_->currentWidget() != delante) {
     centro_->setCurrentWidget(delante);
     if (delante == inicio_) inicio_->Renueva();
@@ -319,7 +339,7 @@ void FormaPrincipal::Protege(const std::function<void()>& hace) {
     Avisa(this, c_.textos, Q(c_.textos.Compone(txt::CierraEjecucion, {error.what()})));
   }
   ocupada_ = false;
-  captura_->Refresca();
+  if (captura_ != nullptr) captura_->Refresca();
   Actualiza();
 }
 
@@ -330,7 +350,7 @@ void FormaPrincipal::Ejecuta(Orden orden) {
 
 void FormaPrincipal::LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo) {
   if (!pantalla) return;
-  captura_->Hace(pantalla, !dejaCampo);
+  captura().Hace(pantalla, !dejaCampo);
 }
 
 void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
@@ -347,7 +367,7 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return LanzaPantalla(pantallas_.imprimeObra, true);
     case Orden::mnGrabaObra:
     case Orden::btGrabaObra:
-      captura_->Hace([this] {
+      captura().Hace([this] {
         if (AccionGrabaObra(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
       });
       return ActualizaRecientes();
@@ -360,18 +380,18 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return;
     case Orden::mnNuevoTramo:
     case Orden::btNuevoTramo:
-      captura_->Hace([this] { NuevoTramo(c_); });
+      captura().Hace([this] { NuevoTramo(c_); });
       return;
     case Orden::mnCancelar:
     case Orden::btCancelar:
-      captura_->Hace([this] { CancelaCaptura(c_); }, true);
+      captura().Hace([this] { CancelaCaptura(c_); }, true);
       return;
     case Orden::mnGrabaTramo:
     case Orden::btGrabar:
-      captura_->Hace([this] {
+      captura().Hace([this] {
         if (AccionGrabaTramo(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
       });
-      captura_->RenuevaTramos();
+      captura().RenuevaTramos();
       return ActualizaRecientes();
     case Orden::mnCalculaTramo:
     case Orden::btCalcular:
@@ -407,7 +427,7 @@ bool FormaPrincipal::Abre(const QString& ruta) {
 
 bool FormaPrincipal::AbreFichero(const QString& ruta) {
   bool abierta = false;
-  captura_->Hace(
+  captura().Hace(
       [&] { abierta = AbreObra(c_, std::filesystem::path(QFile::encodeName(ruta).toStdString())); },
       true);
   if (abierta) {
@@ -415,7 +435,7 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   } else {
     entorno_.preferencias.OlvidaObra(ruta);
   }
-  captura_->RenuevaTramos();
+  captura().RenuevaTramos();
   ActualizaRecientes();
   Actualiza();
   return abierta;
@@ -423,20 +443,20 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
 
 void FormaPrincipal::Nueva() {
   if (c_.ObraCargada) return;
-  captura_->Hace(
+  captura().Hace(
       [this] {
         NuevaObra(c_);
-        captura_->RenuevaTramos();
+        captura().RenuevaTramos();
         if (!entorno_.preferencias.NuevaEnSI()) RevisaUnidades(c_, "MKS");
       },
       true);
   // The page was not in sight when the action ended.
-  captura_->Hace([] {}, true);
+  captura().Hace([] {}, true);
 }
 
 bool FormaPrincipal::Cierra() {
   bool cerrada = false;
-  captura_->Hace([&] { cerrada = CierraObra(c_); }, true);
+  captura().Hace([&] { cerrada = CierraObra(c_); }, true);
   return cerrada;
 }
 

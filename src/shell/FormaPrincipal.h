@@ -54,7 +54,7 @@ class FormaPrincipal : public QMainWindow {
   /// Opens an Obra by its file; one that is open is closed first, unless it has unsaved edits.
   bool Abre(const QString& ruta);
 
-  CapturaDatos& captura() const { return *captura_; }
+  CapturaDatos& captura();
   QAction* accion(Orden orden) const { return acciones_.at(orden); }
 
   /// All texts in the language in force.

@@ -63,6 +63,7 @@ inline constexpr int MenuMemoria = 1068;
 // Opening
 inline constexpr int NingunFichero = 402;
 inline constexpr int PictoAnagrama = 408;
+inline constexpr int NombreMemoria = 432;
 inline constexpr int NombreAyuda = 433;
 inline constexpr int TituloAbrir = 529;
 

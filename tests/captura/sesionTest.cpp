@@ -1,5 +1,6 @@
 // A person's work with Obras and Tramos, from the first key to the file and back.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 
@@ -294,6 +295,39 @@ TEST(Sesion, UnTramoQueNoSeGuardaNoDejaRastroEnElFichero) {
   Banco otra;
   ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));
   EXPECT_EQ(otra.c.lista.size(), 2u);
+}
+
+// The administrator of a machine may read every file; as anybody else, this one cannot be written.
+class SinDerechos {
+ public:
+  SinDerechos() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
+  ~SinDerechos() { EXPECT_TRUE(::geteuid() == ::getuid() || ::seteuid(::getuid()) == 0); }
+  SinDerechos(const SinDerechos&) = delete;
+  SinDerechos& operator=(const SinDerechos&) = delete;
+};
+
+TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
+  const Carpeta carpeta;
+  const auto ruta = carpeta / "ajena.zrb";
+  {
+    Banco b;
+    ObraDeDosTramos(b, ruta.string());
+  }
+  std::filesystem::permissions(ruta, std::filesystem::perms::owner_read |
+                                         std::filesystem::perms::group_read |
+                                         std::filesystem::perms::others_read);
+  const SinDerechos sinDerechos;
+  Banco b;
+  ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
+  EXPECT_EQ(b.c.lista.size(), 2u);
+  b.Teclea(Ed::edTramo, "1");
+  b.Teclea(Ed::edDescriTramo, "Otro");
+  EXPECT_FALSE(AccionGrabaTramo(b.c));
+  EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"),
+            std::string::npos)
+      << b.voz.Ultimo();
+  EXPECT_TRUE(b.c.EnCambio());
+  EXPECT_EQ(b.c[Ed::edDescriTramo].texto, "Otro");
 }
 
 // Tramos 5 and 4: the new one is 5 again, and takes a block of its own.

@@ -11,7 +11,11 @@
 #include "captura/mdEdicion.h"
 #include "captura/mdEtiquetas.h"
 #include "captura/mdTipologias.h"
+#include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "pantallas/entornoPrueba.h"
+#include "protecciones/pantalla/Protecciones.h"
+#include "recursos/mdCarpetas.h"
+#include "recursos/mdRtf.h"
 #include "shell/CapturaDatos.h"
 #include "shell/FormaPrincipal.h"
 
@@ -92,6 +96,41 @@ void Captura_(Fotografo& foto, Captura& c, FormaPrincipal& ventana, int idioma) 
   foto.Saca(ventana, "nuevo");
 }
 
+void Escribe(QWidget& ventana, const QString& campo, const QString& texto) {
+  auto* casilla = ventana.findChild<QLineEdit*>(campo);
+  casilla->setFocus();
+  casilla->selectAll();
+  QTest::keyClicks(casilla, texto);
+}
+
+void Calculadoras_(Fotografo& foto, Entorno& entorno) {
+  CalculoHidraulico hidraulica(entorno);
+  hidraulica.show();
+  hidraulica.activateWindow();
+  foto.Saca(hidraulica, "hidraulica0");
+  hidraulica.findChild<QAbstractButton*>("rdTipoCalculo2")->click();
+  hidraulica.findChild<QAbstractButton*>("rdTipoDato1")->click();
+  Escribe(hidraulica, "txDatoOrigen", "0,85");
+  hidraulica.findChild<QAbstractButton*>("btCalcular")->click();
+  foto.Saca(hidraulica, "hidraulica1");
+  hidraulica.findChild<QAbstractButton*>("rdTipoCalculo0")->click();
+  foto.Saca(hidraulica, "hidraulica2");
+  hidraulica.hide();
+
+  Protecciones medios(entorno, [&entorno](int entrada) {
+    return Q(HtmlDeRtf(LeeRtf(RutaDocumento(entorno.textos.Texto(entrada)))));
+  });
+  medios.show();
+  medios.activateWindow();
+  foto.Saca(medios, "medios0");
+  Escribe(medios, "txpH0", "5");
+  Escribe(medios, "txpH5", "13000");
+  Escribe(medios, "txpH6", "8");
+  medios.findChild<QAbstractButton*>("Check1")->click();
+  medios.findChild<QAbstractButton*>("btVisualizar")->click();
+  foto.Saca(medios, "medios1");
+}
+
 }  // namespace
 }  // namespace zorbin
 
@@ -125,6 +164,7 @@ int main(int argumentos, char** palabras) {
   QTest::qWait(50);
   Fotografo foto(lista[1], QString("-%1%2").arg(idioma).arg(oscura ? "-oscura" : ""));
   Captura_(foto, c, ventana, idioma);
+  Calculadoras_(foto, mesa.entorno);
   for (const auto& caja : persona.cajas) std::cerr << S(caja.texto) << '\n';
   return 0;
 }

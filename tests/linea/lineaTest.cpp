@@ -88,7 +88,7 @@ TEST_F(Linea, LasPalabrasMalasSeDicenEnUnaLinea) {
         "calcula a --tramo dos", "calcula a --separador punto_y_coma", "--nada",
         "calcula a --pdf b", "calcula a --texto b", "calcula a --listado lame --formato json",
         "calcula a --listado lame --pdf b --texto c", "calcula a --listado lame --pdf b --salida c",
-        "medios --formato json --pdf b",
+        "medios --formato json --pdf b", "ajustes", "ajustes a --formato resumen",
         "hidraulica --metodo hazen --caudal 1 --formato json --pdf b"}) {
     const auto r = Llama(palabras);
     EXPECT_EQ(r.codigo, 2) << palabras;
@@ -222,6 +222,38 @@ TEST_F(Linea, UnFicheroDeAjustesRotoSeDiceYLaObraSeCalcula) {
     EXPECT_EQ(Llama("calcula " + copia + " --tramo 7" + listado).salida.find("sin los ajustes"),
               std::string::npos);
   }
+}
+
+TEST_F(Linea, LosAjustesSeListan) {
+  const std::string copia = Copia(5, "Obra");
+  const auto ninguno = Llama("ajustes " + copia);
+  EXPECT_EQ(ninguno.codigo, 0);
+  EXPECT_NE(ninguno.salida.find("no hay armaduras ajustadas"), std::string::npos);
+  {
+    FicheroRegistros f(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(
+        f, {{6.04, 2, 3, {30, 5, 25}}, {}, {4, 1, 2, {15.5, 0, 14.25}}, {4, 9, 2, {1, 2, 3}}}, '.');
+  }
+  EXPECT_EQ(Llama("ajustes " + copia + " --separador coma").salida,
+            "Tramo  Altura        DP    Camisa  Refuerzo  Exterior     Total\n"
+            "          (m)     (MPa)   (cm2/m)   (cm2/m)   (cm2/m)   (cm2/m)\n"
+            "    1    2,00     0,400     15,50      0,00     14,25     29,75\n"
+            "    2    3,00     0,604     30,00      5,00     25,00     60,00\n"
+            "    9    2,00     0,400      1,00      2,00      3,00      6,00"
+            "  (ese Tramo no está en la Obra)\n");
+  const auto j = nlohmann::json::parse(Llama("ajustes " + copia + " --formato json").salida);
+  ASSERT_EQ(j["ajustes"].size(), 3u);
+  EXPECT_EQ(j["ajustes"][1]["DP"], 6.04);  // in at, as every result
+  EXPECT_EQ(j["ajustes"][1]["entrada"], 1);
+  EXPECT_EQ(j["ajustes"][0]["NumeroTramo"], 1);
+  EXPECT_FALSE(j["ajustes"][2]["enLaObra"].get<bool>());
+  const auto uno = Llama("ajustes " + copia + " --tramo 2 --formato json");
+  EXPECT_EQ(nlohmann::json::parse(uno.salida)["ajustes"].size(), 1u);
+  EXPECT_EQ(Llama("ajustes " + copia + " --tramo 9").codigo, 2);
+  std::ofstream(RutaDpe(copia)) << "roto";
+  const auto roto = Llama("ajustes " + copia);
+  EXPECT_EQ(roto.codigo, 1);
+  EXPECT_EQ(roto.salida, "");
 }
 
 TEST_F(Linea, LaSalidaNuncaPisaLaObra) {

@@ -5,11 +5,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,11 @@
 #include "recursos/mdCatalogo.h"
 #include "shell/piezas/mdEntorno.h"
 #include "shell/piezas/mdQt.h"
+
+// A failed comparison shows the text, not its bytes.
+inline void PrintTo(const QString& texto, std::ostream* salida) {
+  *salida << '"' << texto.toStdString() << '"';
+}
 
 namespace zorbin::prueba {
 
@@ -45,7 +52,9 @@ struct Mesa {
       : textos(Catalogo::Lee(ZORBIN_FUENTES "recursos/textos")),
         tablas(LeeTablas(ZORBIN_FUENTES "recursos/tablas")),
         preferencias(carpeta.filePath("usuario.ini"), carpeta.filePath("maquina.ini")),
-        entorno{textos, tablas, preferencias, papel} {}
+        entorno{textos, tablas, preferencias, papel} {
+    preferencias.PonUltimaCarpeta(carpeta.path());
+  }
 
   QTemporaryDir carpeta;
   Catalogo textos;
@@ -74,6 +83,8 @@ class Persona : public QObject {
   std::vector<Caja> cajas;
   std::vector<bool> respuestas;  // Yes or No of the questions to come, in order
   QString fichero;               // chosen in a file dialog; empty: given up
+  QStringList ficheros;          // chosen in the next ones, before that
+  QStringList propuestos;        // names that the dialogs came with
   int dialogos = 0;              // file dialogs answered
 
   QString Ultima() const { return cajas.empty() ? QString{} : cajas.back().texto; }
@@ -81,12 +92,19 @@ class Persona : public QObject {
  private:
   QTimer reloj_;
 
+  // The dialog's own checks of a name are left out: they wait for it to read its folder.
+  void Contesta(QFileDialog& dialogo) {
+    ++dialogos;
+    propuestos += dialogo.selectedFiles();
+    const QString elegido = ficheros.isEmpty() ? fichero : ficheros.takeFirst();
+    if (elegido.isEmpty()) return dialogo.reject();
+    dialogo.findChild<QLineEdit*>("fileNameEdit")->setText(elegido);
+    static_cast<QDialog&>(dialogo).done(QDialog::Accepted);
+  }
+
   void Mira() {
     if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-      ++dialogos;
-      if (fichero.isEmpty()) return dialogo->reject();
-      dialogo->selectFile(fichero);
-      QMetaObject::invokeMethod(dialogo, "accept");
+      Contesta(*dialogo);
       return;
     }
     auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -2,12 +2,16 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QLocale>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <cstdlib>
 
 int main(int argumentos, char** palabras) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QStandardPaths::setTestModeEnabled(true);
+  // The toolkit remembers folders of its dialogs: those of the tests are nobody's.
+  const QTemporaryDir carpeta;
+  qputenv("XDG_CONFIG_HOME", carpeta.path().toUtf8());
+  qputenv("XDG_STATE_HOME", carpeta.path().toUtf8());
+  qputenv("XDG_DATA_HOME", carpeta.path().toUtf8());
   QApplication aplicacion(argumentos, palabras);
   QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
   ::testing::InitGoogleTest(&argumentos, palabras);

@@ -1,5 +1,6 @@
 #include "shell/piezas/mdCasillaNumero.h"
 
+#include <QGuiApplication>
 #include <QTimer>
 #include <QValidator>
 
@@ -75,6 +76,14 @@ CasillaNumero::CasillaNumero(char separador, bool soloCifras, QWidget* padre) : 
   setAlignment(Qt::AlignRight);
   setInputMethodHints(Qt::ImhFormattedNumbersOnly);
   setValidator(new Filtro(*this, separador, soloCifras));
+}
+
+void CasillaNumero::Selecciona() {
+  selectAll();
+  if (QGuiApplication::mouseButtons() == Qt::NoButton) return;
+  QTimer::singleShot(0, this, [this] {
+    if (hasFocus()) selectAll();
+  });
 }
 
 }  // namespace zorbin

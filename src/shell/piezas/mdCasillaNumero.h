@@ -13,6 +13,10 @@ class CasillaNumero : public QLineEdit {
   /// @param soloCifras  only digits and one separator pass, so no sign can be typed
   CasillaNumero(char separador, bool soloCifras, QWidget* padre = nullptr);
 
+  /// Selects the whole content, also while the press of the mouse that brought the focus is still
+  /// to place the cursor.
+  void Selecciona();
+
  signals:
   /// What was pasted is no number, or could be read as two; the field stays as it was.
   void pegadoRechazado(const QString& texto);

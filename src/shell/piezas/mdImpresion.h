@@ -10,8 +10,12 @@ class QWidget;
 
 namespace zorbin {
 
-/// Writes a document on the sheets of a destination.
+/// Writes a document on the sheets of a destination. It may throw DocumentoCancelado.
 using Documento = std::function<void(DestinoHojas&)>;
+
+/// The person gave up while a document was being made: nothing of it comes out, and nothing is
+/// said.
+struct DocumentoCancelado {};
 
 class ServicioImpresion {
  public:

@@ -1,0 +1,115 @@
+#include "shell/impresion/mdGuardar.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "shell/impresion/textosImpresion.h"
+#include "shell/mdPintor.h"
+#include "shell/piezas/mdDialogos.h"
+#include "shell/piezas/mdQt.h"
+
+namespace zorbin {
+
+namespace {
+
+const QString kCarpeta = QStringLiteral("Listado/Carpeta");
+
+QString UltimaCarpeta(const Preferencias& preferencias) {
+  const QString carpeta = preferencias.Valor(kCarpeta).toString();
+  const bool vale = !carpeta.isEmpty() && QFileInfo(carpeta).isDir();
+  return vale ? carpeta : preferencias.UltimaCarpeta();
+}
+
+// A name of a document as a name of a file.
+QString SinBarras(QString nombre) {
+  for (const char letra : {'/', '\\', ':', '*', '?', '"', '<', '>', '|', '\n', '\r', '\t'}) {
+    nombre.replace(QLatin1Char(letra), QLatin1Char(' '));
+  }
+  nombre = nombre.simplified();
+  while (nombre.startsWith('.')) nombre.remove(0, 1);
+  return nombre.isEmpty() ? QStringLiteral("ZORBIN") : nombre;
+}
+
+QString Frase(const Catalogo& textos, int n, const QString& a, const QString& b = {}) {
+  return Q(textos.Compone(n, {S(a), S(b)}));
+}
+
+}  // namespace
+
+QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+                          const ClaseFichero& clase, const QString& propuesto) {
+  const QString punto = '.' + clase.extension;
+  QFileDialog dialogo(padre, Rotulo(textos.Texto(clase.titulo)), UltimaCarpeta(preferencias),
+                      Q(textos.Texto(clase.filtro)) + " (*" + punto + ')');
+  dialogo.setAcceptMode(QFileDialog::AcceptSave);
+  dialogo.setFileMode(QFileDialog::AnyFile);
+  dialogo.setOption(QFileDialog::DontConfirmOverwrite);  // of the name with its extension, below
+  dialogo.selectFile(SinBarras(propuesto) + punto);
+  while (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
+    QString ruta = dialogo.selectedFiles().constFirst();
+    if (!ruta.endsWith(punto, Qt::CaseInsensitive)) ruta += punto;
+    preferencias.PonValor(kCarpeta, QFileInfo(ruta).absolutePath());
+    if (!QFileInfo::exists(ruta) ||
+        Pregunta(padre, textos, Frase(textos, txt::YaExiste, QDir::toNativeSeparators(ruta)),
+                 Rotulo(textos.Texto(txt::TituloAvisoImpresion)))) {
+      return ruta;
+    }
+  }
+  return {};
+}
+
+bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
+                  const std::function<void()>& trabajo) {
+  try {
+    trabajo();
+    return true;
+  } catch (const DocumentoCancelado&) {
+  } catch (const ErrorFuente& error) {
+    Avisa(padre, textos, Frase(textos, txt::SinLetra, Q(error.what())));
+  } catch (const ErrorPintor& error) {
+    const bool conCausa = *error.what() != '\0';
+    Avisa(padre, textos,
+          conCausa ? Frase(textos, txt::NoSePuedeEscribir, donde, Q(error.what()))
+                   : Frase(textos, txt::ImpresoraNoAcepta, donde));
+  } catch (const std::exception& error) {
+    Avisa(padre, textos, Frase(textos, txt::NoSePuedeEscribir, donde, Q(error.what())));
+  }
+  return false;
+}
+
+bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+               const QString& nombre, const Documento& documento) {
+  const QString ruta =
+      PideNombreFichero(padre, textos, preferencias,
+                        {txt::GuardarPdf, txt::FiltroPdf, QStringLiteral("pdf")}, nombre);
+  if (ruta.isEmpty()) return false;
+  bool vacio = false;
+  const bool hecho = HazDocumento(padre, textos, ruta, [&] {
+    HojasPdf hojas(S(ruta), S(nombre));
+    documento(hojas);
+    vacio = hojas.paginas() == 0;
+    if (!vacio) hojas.Cierra();
+  });
+  if (vacio) Avisa(padre, textos, Q(textos.Texto(txt::DocumentoVacio)));
+  return hecho && !vacio;
+}
+
+bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+                 const QString& nombre, const std::string& texto) {
+  const QString ruta =
+      PideNombreFichero(padre, textos, preferencias,
+                        {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
+  if (ruta.isEmpty()) return false;
+  return HazDocumento(padre, textos, ruta, [&] {
+    QSaveFile fichero(ruta);
+    const auto bytes = static_cast<qint64>(texto.size());
+    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(texto.data(), bytes) != bytes ||
+        !fichero.commit()) {
+      throw ErrorPintor(S(fichero.errorString()));
+    }
+  });
+}
+
+}  // namespace zorbin

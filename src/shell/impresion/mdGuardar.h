@@ -1,0 +1,40 @@
+// Documents and texts in files that a person names. What goes wrong is shown, and no half-written
+// file is left.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "recursos/mdCatalogo.h"
+#include "shell/piezas/mdImpresion.h"
+#include "shell/piezas/mdPreferencias.h"
+
+namespace zorbin {
+
+/// A kind of file, for the dialog that asks its name.
+struct ClaseFichero {
+  int titulo = 0;  // entries of the catalogue
+  int filtro = 0;
+  QString extension;  // without its point; a name always ends in it
+};
+
+/// Asks for the name of a file to write, in the folder of the last one; a file that exists is
+/// replaced only if the person says so. @return empty when the person gave up
+QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+                          const ClaseFichero& clase, const QString& propuesto);
+
+/// Asks for a name and writes the document as a PDF. @return whether it was written
+bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+               const QString& nombre, const Documento& documento);
+
+/// Asks for a name and writes the text, in UTF-8. @return whether it was written
+bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
+                 const QString& nombre, const std::string& texto);
+
+/// Makes a document, and shows what goes wrong. `donde` names the file or the printer in a refusal.
+/// @return whether it went well; false too when the person gave up
+bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
+                  const std::function<void()>& trabajo);
+
+}  // namespace zorbin

@@ -1,0 +1,53 @@
+// The printer of the program: one of the machine's, or a PDF file. Which one, and in how many
+// copies, is remembered in the settings; the screen Impresoras chooses it.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+#include "recursos/mdCatalogo.h"
+#include "shell/piezas/mdImpresion.h"
+#include "shell/piezas/mdPreferencias.h"
+
+class QPrinter;
+
+namespace zorbin {
+
+/// Name under which the settings remember the PDF file; no printer can have it.
+inline const QString kImpresoraPdf = QStringLiteral("/pdf");
+
+/// The printers of the machine, as the program sees them.
+struct Impresoras {
+  std::function<QStringList()> nombres;
+  std::function<QString()> predeterminada;  // empty: none
+  std::function<std::unique_ptr<QPrinter>(const QString& nombre)> abre;
+
+  static Impresoras DeLaMaquina();
+};
+
+class Impresora : public ServicioImpresion {
+ public:
+  Impresora(const Catalogo& textos, Preferencias& preferencias,
+            Impresoras impresoras = Impresoras::DeLaMaquina());
+
+  bool Imprime(QWidget* padre, const QString& nombre, const Documento& documento) override;
+  void VistaPrevia(QWidget* padre, const QString& nombre, const Documento& documento) override;
+
+  const Impresoras& DelSistema() const { return impresoras_; }
+
+  /// The printer in force: the one chosen, else the machine's default one, else kImpresoraPdf. One
+  /// that was chosen and is gone is still named.
+  QString EnUso() const;
+
+ private:
+  const Catalogo& textos_;
+  Preferencias& preferencias_;
+  Impresoras impresoras_;
+
+  bool ImprimeEn(QWidget* padre, const QString& impresora, const QString& nombre,
+                 const Documento& documento);
+};
+
+}  // namespace zorbin

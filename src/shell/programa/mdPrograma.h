@@ -1,0 +1,66 @@
+// The desktop program put together: its data read, its screens made and joined.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <filesystem>
+#include <memory>
+
+#include "captura/mdCaptura.h"
+#include "shell/FormaPrincipal.h"
+#include "shell/impresion/mdImpresora.h"
+#include "shell/mdInterlocutorQt.h"
+#include "shell/piezas/mdEntorno.h"
+
+class QTranslator;
+
+namespace zorbin {
+
+class CalculoHidraulico;
+class Protecciones;
+class frAyuda;
+
+class Programa : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Reads catalogue and tables and builds the main window, closed.
+  /// @throws std::runtime_error  without texts or tables there is no program; says what is missing
+  explicit Programa(std::unique_ptr<Preferencias> preferencias);
+  ~Programa() override;
+
+  /// Shows the window; a second later, the warning of the start where the person wants it.
+  void Empieza();
+
+  FormaPrincipal& ventana() { return *ventana_; }
+  Captura& captura() { return *captura_; }
+  const Catalogo& textos() const { return textos_; }
+
+ private:
+  std::unique_ptr<Preferencias> preferencias_;
+  Catalogo textos_;
+  TablasCatalogo tablas_;
+  Impresora impresora_;
+  Entorno entorno_;
+  InterlocutorQt voz_;
+  EstadoCalculo estado_;
+  std::unique_ptr<Captura> captura_;
+  std::unique_ptr<FormaPrincipal> ventana_;
+  QPointer<CalculoHidraulico> hidraulico_;
+  QPointer<Protecciones> protecciones_;
+  QPointer<frAyuda> ayuda_;
+  std::unique_ptr<QTranslator> traductor_;
+  int idiomaTraducido_ = 0;
+
+  void EligeIdioma();
+  void LeeLasTablas();
+  void Enlaza();
+  void RenuevaTextos();
+  void TraduceDialogos();
+  void MuestraAdvertencia(int modo);
+  void Memoria();
+  frAyuda& Ayuda();
+  QString DocumentoHtml(int entrada) const;
+};
+
+}  // namespace zorbin
