@@ -34,6 +34,7 @@ struct Oficina {
     if (registro != 0) {
       FicheroRegistros f(obra, FicheroRegistros::Modo::LecturaEscritura);
       f.EscribeRegistro(registro, texto);
+      f.Vacia();
     }
     EXPECT_TRUE(AbreObra(b.c, obra)) << b.voz.Ultimo();
     medios.registros = carpeta / "registros";
@@ -335,6 +336,7 @@ TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
   {
     FicheroRegistros f(RutaDpe(o.obra), FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(1, "x");
+    f.Vacia();
   }
   EXPECT_EQ(ResumeTramo(o.b.c, o.medios).fin, FinTrabajo::NoEmpieza);
   EXPECT_NE(o.b.voz.Ultimo().find("copia.dpe"), std::string::npos) << o.b.voz.Ultimo();
