@@ -150,7 +150,13 @@ class Trabajo {
   /// What failed is also said there.
   void Anota(std::function<void(const std::string&)> nota) { nota_ = std::move(nota); }
 
-  void Empieza() { e_.corrida.ajustes = LeeAjustes(RutaDpe(c_.e.obra.NombreFichero)); }
+  // A file of adjustments that is refused takes nothing else with it.
+  void Empieza() {
+    const auto causa = CargaAjustes(e_, c_.e.obra.NombreFichero);
+    if (!causa) return;
+    resultado.aviso = c_.textos.Compone(*causa);
+    if (nota_) nota_(resultado.aviso);
+  }
 
   /// Runs the Tramo of the capture. `numero` is its text in the list, `mostrado` the number of the
   /// listing.
@@ -189,7 +195,8 @@ class Trabajo {
   void Acaba() {
     log_.registro().Vuelca();
     if (log_.SinEscribir().empty()) return;
-    resultado.aviso = c_.textos.Compone(txt::SinRegistro, {log_.SinEscribir()});
+    if (!resultado.aviso.empty()) resultado.aviso += '\n';
+    resultado.aviso += c_.textos.Compone(txt::SinRegistro, {log_.SinEscribir()});
   }
 
   ResultadoTrabajo resultado;

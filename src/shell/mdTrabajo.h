@@ -47,7 +47,7 @@ struct ResultadoTrabajo {
   std::string resumen;              // text of the summary; empty for a listing
   std::vector<std::string> fallos;  // arithmetic failures, each with its place, a line each
   std::string detenido;             // which Tramo was refused, and why
-  std::string aviso;                // the debug log could not be written; empty if it could
+  std::string aviso;                // debug log not written, adjustments not read; else empty
   bool hayPostesado = false;        // a post-tensioned Tramo was run
 };
 

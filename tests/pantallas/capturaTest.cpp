@@ -412,6 +412,11 @@ TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
   const std::set<QString> datos{Q(p.e.obra.NombreObra)};
   RecorrePaginas(p, [&](const std::string& donde) {
     QTest::qWait(5);
+    // The layouts settle in rounds, one inside the other.
+    for (int i = 0; i < 5; ++i) {
+      QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+      QApplication::processEvents();
+    }
     for (auto* area : p.ventana->findChildren<QScrollArea*>()) {
       if (!area->isVisible()) continue;
       EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << donde;

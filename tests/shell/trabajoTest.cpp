@@ -338,9 +338,12 @@ TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
     f.EscribeRegistro(1, "x");
     f.Vacia();
   }
-  EXPECT_EQ(ResumeTramo(o.b.c, o.medios).fin, FinTrabajo::NoEmpieza);
-  EXPECT_NE(o.b.voz.Ultimo().find("copia.dpe"), std::string::npos) << o.b.voz.Ultimo();
-  EXPECT_EQ(o.Papel(false, TipoListado::Normal), "");
+  const auto sinAjustes = ResumeTramo(o.b.c, o.medios);
+  EXPECT_EQ(sinAjustes.fin, FinTrabajo::Completo);
+  EXPECT_NE(sinAjustes.aviso.find("copia.dpe"), std::string::npos) << sinAjustes.aviso;
+  EXPECT_NE(sinAjustes.resumen.find("copia.dpe"), std::string::npos);
+  EXPECT_EQ(sinAjustes.resumen.find(" 60,00 cm2/m"), std::string::npos);
+  EXPECT_NE(o.Papel(false, TipoListado::Normal), "");
 }
 
 // Whoever cannot write the debug log calculates all the same, and is told.
