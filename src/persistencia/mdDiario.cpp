@@ -4,9 +4,8 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <bit>
 #include <cerrno>
-#include <cstring>
+#include <chrono>
 
 namespace zorbin {
 
@@ -23,6 +22,7 @@ constexpr std::size_t kLugarAntes = 16;
 constexpr std::size_t kLugarDespues = 24;
 constexpr std::size_t kLugarResto = 32;
 constexpr std::size_t kLugarSuma = 40;
+constexpr std::size_t kLugarSerie = 48;
 constexpr std::size_t kDatos = 16;  // of a record, after its number and its checksum
 constexpr std::size_t kRegistro = kDatos + 2 * kBytesRegistro;
 constexpr std::size_t kMaxDiario = kCabecera + kMaxRegistros * kRegistro;
@@ -238,7 +238,7 @@ fs::path RutaDiario(const fs::path& fichero) {
   return ruta;
 }
 
-std::string BytesDiario(const Cambios& c) {
+std::string BytesDiario(const Cambios& c, std::uint64_t serie) {
   std::string bytes(kCabecera + c.registros.size() * kRegistro, '\0');
   bytes.replace(0, kMagia.size(), kMagia);
   Pon(bytes, kLugarVersion, kVersion);
@@ -246,6 +246,7 @@ std::string BytesDiario(const Cambios& c) {
   Pon(bytes, kLugarAntes, c.largoAntes);
   Pon(bytes, kLugarDespues, c.largoDespues);
   Pon(bytes, kLugarResto, c.resto);
+  Pon(bytes, kLugarSerie, serie);
   std::size_t lugar = kCabecera;
   for (const auto& r : c.registros) {
     Pon(bytes, lugar, static_cast<std::uint32_t>(r.numero));
@@ -275,20 +276,30 @@ DiarioLeido InterpretaDiario(std::string_view bytes) {
   return LeeCompleto(bytes, cuenta);
 }
 
-Causa LeeDiario(const fs::path& fichero, DiarioLeido& leido) {
-  leido = {};
+Causa LeeDiario(const fs::path& fichero, std::optional<std::string>& bytes) {
+  bytes.reset();
   Descriptor d;
   const Causa causa = AbreFichero(d, RutaDiario(fichero), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
   if (causa == ENOENT) return 0;
   if (causa != 0) return causa;
   if (!EsCorriente(d)) return EINVAL;
-  std::string bytes;
-  if (const Causa lectura = LeeBytes(d, kMaxDiario, bytes)) return lectura;
-  leido = InterpretaDiario(bytes);
-  return 0;
+  return LeeBytes(d, kMaxDiario, bytes.emplace());
+}
+
+bool MismoGrabado(const std::optional<std::string>& a, const std::optional<std::string>& b) {
+  const auto sinMagia = [](const std::string& bytes) {
+    return std::string_view(bytes).substr(std::min(bytes.size(), kMagia.size()));
+  };
+  return a && b ? sinMagia(*a) == sinMagia(*b) : !a && !b;
 }
 
 // ---------------------------------------------------------------------------------------------
+
+Diario::Diario(const fs::path& fichero)
+    : ruta_(RutaDiario(fichero)),
+      serie_(
+          static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {
+}
 
 Diario::~Diario() {
   if (!d_.abierto() || seConserva_) return;
@@ -313,7 +324,7 @@ Causa Diario::Escribe(const Cambios& cambios, mode_t permisos) {
   if (!d_.abierto() || !EsElMismo(d_, ruta_)) {
     if (const Causa causa = Crea(permisos)) return causa;
   }
-  std::string bytes = BytesDiario(cambios);
+  std::string bytes = BytesDiario(cambios, ++serie_);
   if (bytes.size() > largo_) {
     largo_ = (bytes.size() + kEscalon - 1) / kEscalon * kEscalon;
     bytes.resize(largo_);

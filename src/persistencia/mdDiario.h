@@ -10,7 +10,8 @@
 //   24  8  length of the file after it
 //   32  8  checksum of the bytes before the save that it does not touch: whose journal this is
 //   40  8  checksum of header and records with these 8 bytes at zero: the journal is complete
-//   48 16  zeros
+//   48  8  a number that no other journal of this file had: who reads meanwhile sees a new save
+//   56  8  zeros
 //
 // and 272 bytes for each record that changes, in ascending order: its number (4), zeros (4), the
 // checksum of the rest (8), its 128 bytes before and its 128 bytes after. What follows has no
@@ -27,6 +28,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -90,7 +92,7 @@ std::string ComoAntes(const Cambios& cambios, std::string contenido);
 
 std::filesystem::path RutaDiario(const std::filesystem::path& fichero);
 
-std::string BytesDiario(const Cambios& cambios);
+std::string BytesDiario(const Cambios& cambios, std::uint64_t serie = 0);
 
 struct DiarioLeido {
   enum class Estado {
@@ -106,13 +108,18 @@ struct DiarioLeido {
 };
 DiarioLeido InterpretaDiario(std::string_view bytes);
 
-/// The journal found beside a file. @return why it can't be read; 0 also when there is none
-[[nodiscard]] Causa LeeDiario(const std::filesystem::path& fichero, DiarioLeido& leido);
+/// Bytes of the journal found beside a file; no value when there is none.
+/// @return why it can't be read
+[[nodiscard]] Causa LeeDiario(const std::filesystem::path& fichero,
+                              std::optional<std::string>& bytes);
+
+/// Whether two readings of it found the same save, made void meanwhile or not.
+bool MismoGrabado(const std::optional<std::string>& a, const std::optional<std::string>& b);
 
 /// The journal of a file that is open for writing. It goes away with this, unless it is kept.
 class Diario {
  public:
-  explicit Diario(const std::filesystem::path& fichero) : ruta_(RutaDiario(fichero)) {}
+  explicit Diario(const std::filesystem::path& fichero);
   ~Diario();
   Diario(const Diario&) = delete;
   Diario& operator=(const Diario&) = delete;
@@ -136,6 +143,7 @@ class Diario {
   std::filesystem::path ruta_;
   Descriptor d_;
   std::uint64_t largo_ = 0;
+  std::uint64_t serie_;
   bool nombreEnDisco_ = false;
   bool seConserva_ = false;
 };

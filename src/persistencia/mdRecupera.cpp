@@ -32,15 +32,26 @@ ErrorFichero NoSeAbre(const std::string& nombre, Causa causa) {
   return ErrorFichero({txt::NoSeAbre, {nombre, TextoDeCausa(causa)}});
 }
 
-DiarioLeido DiarioDe(const fs::path& ruta, const std::string& nombre) {
-  DiarioLeido leido;
-  if (const Causa causa = LeeDiario(ruta, leido)) {
+std::optional<std::string> BytesDelDiario(const fs::path& ruta, const std::string& nombre) {
+  std::optional<std::string> bytes;
+  if (const Causa causa = LeeDiario(ruta, bytes)) {
     throw ErrorFichero({txt::DiarioIlegible, {nombre, NombreDiario(ruta), TextoDeCausa(causa)}});
   }
+  return bytes;
+}
+
+DiarioLeido Interpreta(const std::optional<std::string>& bytes, const fs::path& ruta,
+                       const std::string& nombre) {
+  if (!bytes) return {};
+  auto leido = InterpretaDiario(*bytes);
   if (leido.estado == Estado::MasNuevo) {
     throw ErrorFichero({txt::DiarioMasNuevo, {nombre, NombreDiario(ruta)}});
   }
   return leido;
+}
+
+DiarioLeido DiarioDe(const fs::path& ruta, const std::string& nombre) {
+  return Interpreta(BytesDelDiario(ruta, nombre), ruta, nombre);
 }
 
 ErrorFichero NoSeDeshace(const fs::path& ruta, const std::string& nombre, Causa causa) {
@@ -104,28 +115,36 @@ struct Vista {
   bool ajeno = false;
 };
 
-Vista Mira(const Descriptor& f, const fs::path& ruta, const std::string& nombre) {
-  const DiarioLeido diario = DiarioDe(ruta, nombre);
-  Vista v;
-  if (const Causa causa = LeeBytes(f, kMaxContenido, v.contenido)) throw NoSeAbre(nombre, causa);
-  v.ajeno = diario.estado == Estado::Ajeno;
+std::string BytesDelFichero(const Descriptor& f, const std::string& nombre) {
+  std::string bytes;
+  if (const Causa causa = LeeBytes(f, kMaxContenido, bytes)) throw NoSeAbre(nombre, causa);
+  return bytes;
+}
+
+Vista Compon(const DiarioLeido& diario, std::string contenido, std::uint64_t largo) {
+  Vista v{std::move(contenido), false, diario.estado == Estado::Ajeno};
   if (diario.estado != Estado::Completo) return v;
-  const Encaje encaje = Encaja(diario.cambios, v.contenido, Largo(f));
+  const Encaje encaje = Encaja(diario.cambios, v.contenido, largo);
   v.ajeno = encaje == Encaje::OtroFichero;
   v.aMedias = encaje == Encaje::AMedias || encaje == Encaje::Antes;
   if (v.aMedias) v.contenido = ComoAntes(diario.cambios, std::move(v.contenido));
   return v;
 }
 
-// Another program may be saving: what is seen twice is whole.
+// No value when another program began a save meanwhile.
+std::optional<Vista> Mira(const Descriptor& f, const fs::path& ruta, const std::string& nombre) {
+  const auto diario = BytesDelDiario(ruta, nombre);
+  std::string contenido = BytesDelFichero(f, nombre);
+  const auto largo = Largo(f);
+  // Without a journal it may have come and gone.
+  if (!diario && BytesDelFichero(f, nombre) != contenido) return std::nullopt;
+  if (!MismoGrabado(diario, BytesDelDiario(ruta, nombre))) return std::nullopt;
+  return Compon(Interpreta(diario, ruta, nombre), std::move(contenido), largo);
+}
+
 Vista MiraHastaQueRepose(const Descriptor& f, const fs::path& ruta, const std::string& nombre) {
-  Vista anterior = Mira(f, ruta, nombre);
   for (int i = 0; i < kIntentosLectura; ++i) {
-    Vista ahora = Mira(f, ruta, nombre);
-    const bool reposa = ahora.contenido == anterior.contenido;
-    // A journal that fits no file may be one of a save that just ended.
-    if (reposa && (!ahora.ajeno || i >= kIntentosLectura / 2)) return ahora;
-    anterior = std::move(ahora);
+    if (auto vista = Mira(f, ruta, nombre)) return std::move(*vista);
     std::this_thread::sleep_for(kEsperaLectura);
   }
   throw ErrorFichero({txt::EscribiendoOtro, {nombre}});

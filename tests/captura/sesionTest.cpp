@@ -9,6 +9,7 @@
 #include "captura/mdFaltas.h"
 #include "captura/mdTipologias.h"
 #include "captura/mdValidaTramo.h"
+#include "comun/sinDerechos.h"
 #include "guion.h"
 #include "persistencia/mdDpe.h"
 
@@ -297,15 +298,6 @@ TEST(Sesion, UnTramoQueNoSeGuardaNoDejaRastroEnElFichero) {
   EXPECT_EQ(otra.c.lista.size(), 2u);
 }
 
-// The administrator of a machine may read every file; as anybody else, this one cannot be written.
-class SinDerechos {
- public:
-  SinDerechos() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
-  ~SinDerechos() { EXPECT_TRUE(::geteuid() == ::getuid() || ::seteuid(::getuid()) == 0); }
-  SinDerechos(const SinDerechos&) = delete;
-  SinDerechos& operator=(const SinDerechos&) = delete;
-};
-
 TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   const Carpeta carpeta;
   const auto ruta = carpeta / "ajena.zrb";
@@ -316,15 +308,14 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   std::filesystem::permissions(ruta, std::filesystem::perms::owner_read |
                                          std::filesystem::perms::group_read |
                                          std::filesystem::perms::others_read);
-  const SinDerechos sinDerechos;
+  const pruebas::SinDerechos sinDerechos;
   Banco b;
   ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
   EXPECT_EQ(b.c.lista.size(), 2u);
   b.Teclea(Ed::edTramo, "1");
   b.Teclea(Ed::edDescriTramo, "Otro");
   EXPECT_FALSE(AccionGrabaTramo(b.c));
-  EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"),
-            std::string::npos)
+  EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"), std::string::npos)
       << b.voz.Ultimo();
   EXPECT_TRUE(b.c.EnCambio());
   EXPECT_EQ(b.c[Ed::edDescriTramo].texto, "Otro");
