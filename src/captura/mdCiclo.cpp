@@ -159,6 +159,7 @@ std::string PideNombre(Captura& c) {
 
 void TomaFichero(Captura& c, FicheroRegistros f) {
   c.fichero.emplace(std::move(f));
+  c.fichero->PreparaGrabado();
   for (const auto& aviso : c.fichero->avisos()) c.voz.Anuncia(c.textos.Compone(aviso));
 }
 

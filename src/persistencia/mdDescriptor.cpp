@@ -85,6 +85,23 @@ Causa LeeBytes(const Descriptor& d, std::size_t maximo, std::string& bytes) {
   return 0;
 }
 
+Causa ComparaBytes(const Descriptor& d, std::size_t maximo, std::string_view bytes, bool& iguales) {
+  std::string trozo(kTrozo, '\0');
+  std::size_t hecho = 0;
+  iguales = true;
+  while (iguales && hecho < maximo) {
+    const auto leidos = LeeEn(d, trozo.data(), std::min(kTrozo, maximo - hecho), hecho);
+    if (leidos < 0) return errno;
+    if (leidos == 0) break;
+    const auto n = static_cast<std::size_t>(leidos);
+    iguales =
+        bytes.substr(std::min(hecho, bytes.size()), n) == std::string_view(trozo).substr(0, n);
+    hecho += n;
+  }
+  iguales = iguales && hecho == bytes.size();
+  return 0;
+}
+
 Causa EscribeBytes(const Descriptor& d, std::string_view bytes, std::uint64_t desde) {
   while (!bytes.empty()) {
     const auto escritos = Repite([&] {

@@ -43,6 +43,9 @@ inline constexpr mode_t kPermisosFichero = 0666;
 
 /// Its bytes from the first on, as many as `maximo`.
 [[nodiscard]] Causa LeeBytes(const Descriptor& d, std::size_t maximo, std::string& bytes);
+/// Whether these are its bytes, as far as `maximo`.
+[[nodiscard]] Causa ComparaBytes(const Descriptor& d, std::size_t maximo, std::string_view bytes,
+                                 bool& iguales);
 [[nodiscard]] Causa EscribeBytes(const Descriptor& d, std::string_view bytes, std::uint64_t desde);
 [[nodiscard]] Causa Trunca(const Descriptor& d, std::uint64_t largo);
 

@@ -47,18 +47,25 @@ Entero Toma(std::string_view bytes, std::size_t lugar) {
   return n;
 }
 
+// Of pieces that are whole words, but for the last one.
 class Suma {
  public:
   Suma& operator<<(std::string_view bytes) {
-    for (const char c : bytes) {
-      valor_ ^= static_cast<unsigned char>(c);
-      valor_ *= 0x100000001b3;
+    while (bytes.size() >= sizeof(std::uint64_t)) {
+      Mezcla(Toma<std::uint64_t>(bytes, 0));
+      bytes.remove_prefix(sizeof(std::uint64_t));
     }
+    for (const char c : bytes) Mezcla(static_cast<unsigned char>(c));
     return *this;
   }
   std::uint64_t valor() const { return valor_; }
 
  private:
+  void Mezcla(std::uint64_t palabra) {
+    valor_ = (valor_ ^ palabra) * 0x100000001b3;
+    valor_ ^= valor_ >> 32;
+  }
+
   std::uint64_t valor_ = 0xcbf29ce484222325;
 };
 
@@ -85,15 +92,24 @@ Bloque BloqueDe(std::string_view contenido, int numero) {
   return b;
 }
 
+std::uint64_t SumaDe(int numero, const Bloque& b) {
+  std::string cabeza(sizeof(std::uint64_t), '\0');
+  Pon(cabeza, 0, static_cast<std::uint64_t>(numero));
+  return (Suma() << cabeza << Vista(b)).valor();
+}
+
+int RegistrosEn(std::uint64_t largo) {
+  return static_cast<int>((largo + kBytesRegistro - 1) / kBytesRegistro);
+}
+
 std::uint64_t SumaDelResto(const Cambios& c, std::string_view contenido) {
-  const auto antes = Parte(contenido, 0, c.largoAntes);
-  Suma suma;
-  std::size_t desde = 0;
+  contenido = Parte(contenido, 0, c.largoAntes);
+  std::uint64_t suma = SumaDeRegistros(contenido);
   for (const auto& r : c.registros) {
-    suma << Parte(antes, desde, Desde(r.numero));
-    desde = Desde(r.numero + 1);
+    if (r.numero > RegistrosEn(contenido.size())) break;
+    suma -= SumaDe(r.numero, BloqueDe(contenido, r.numero));
   }
-  return (suma << Parte(antes, desde, antes.size())).valor();
+  return suma;
 }
 
 std::uint64_t LargoCon(const std::vector<CambioRegistro>& registros, std::uint64_t largo) {
@@ -182,16 +198,35 @@ bool EsCorriente(const Descriptor& d) {
 
 }  // namespace
 
+std::uint64_t SumaDeRegistros(std::string_view contenido) {
+  std::uint64_t suma = 0;
+  for (int r = 1; r <= RegistrosEn(contenido.size()); ++r)
+    suma += SumaDe(r, BloqueDe(contenido, r));
+  return suma;
+}
+
+std::uint64_t SumaDespues(const Cambios& c) {
+  std::uint64_t suma = c.resto;
+  for (const auto& r : c.registros) suma += SumaDe(r.numero, r.despues);
+  return suma;
+}
+
 Cambios CalculaCambios(std::string_view contenido, std::uint64_t largo, const Bloques& bloques) {
+  return CalculaCambios(contenido, largo, SumaDeRegistros(contenido), bloques);
+}
+
+Cambios CalculaCambios(std::string_view contenido, std::uint64_t largo, std::uint64_t suma,
+                       const Bloques& bloques) {
   Cambios c;
+  c.largoAntes = largo;
+  c.resto = suma;
   for (const auto& [numero, despues] : bloques) {
     const Bloque antes = BloqueDe(contenido, numero);
     if (antes == despues && Desde(numero + 1) <= contenido.size()) continue;
+    if (Desde(numero) < contenido.size()) c.resto -= SumaDe(numero, antes);
     c.registros.push_back({numero, antes, despues});
   }
-  c.largoAntes = largo;
   c.largoDespues = LargoCon(c.registros, largo);
-  c.resto = SumaDelResto(c, contenido);
   return c;
 }
 
@@ -320,11 +355,21 @@ Causa Diario::Crea(mode_t permisos) {
   return 0;
 }
 
+Causa Diario::Prepara(mode_t permisos) {
+  if (d_.abierto()) return 0;
+  if (const Causa causa = Crea(permisos)) return causa;
+  return Fija(std::string(1, '\0'));
+}
+
 Causa Diario::Escribe(const Cambios& cambios, mode_t permisos) {
   if (!d_.abierto() || !EsElMismo(d_, ruta_)) {
     if (const Causa causa = Crea(permisos)) return causa;
   }
-  std::string bytes = BytesDiario(cambios, ++serie_);
+  return Fija(BytesDiario(cambios, ++serie_));
+}
+
+// Writes it and waits for the disk.
+Causa Diario::Fija(std::string bytes) {
   if (bytes.size() > largo_) {
     largo_ = (bytes.size() + kEscalon - 1) / kEscalon * kEscalon;
     bytes.resize(largo_);

@@ -8,14 +8,16 @@
 //   12  4  number of records
 //   16  8  length of the file before the save
 //   24  8  length of the file after it
-//   32  8  checksum of the bytes before the save that it does not touch: whose journal this is
+//   32  8  sum of the checksums of the records that the save leaves as they are, each with its
+//          number (8) before its 128 bytes: whose journal this is
 //   40  8  checksum of header and records with these 8 bytes at zero: the journal is complete
 //   48  8  a number that no other journal of this file had: who reads meanwhile sees a new save
 //   56  8  zeros
 //
 // and 272 bytes for each record that changes, in ascending order: its number (4), zeros (4), the
 // checksum of the rest (8), its 128 bytes before and its 128 bytes after. What follows has no
-// meaning. Checksums are FNV-1a of 64 bits.
+// meaning. Checksums are of 64 bits: for each word of 8 bytes, and each byte of what is left of the
+// last one, h = (h ^ word) * 0x100000001b3, h = h ^ (h >> 32), from 0xcbf29ce484222325.
 //
 // The order of a save: journal written and made durable, with its name in the folder; records
 // written and made durable; journal made void. As the journal holds what comes after too, one that
@@ -63,13 +65,21 @@ struct CambioRegistro {
 struct Cambios {
   std::uint64_t largoAntes = 0;  // bytes
   std::uint64_t largoDespues = 0;
-  std::uint64_t resto = 0;  // checksum of what stays, before the save
+  std::uint64_t resto = 0;  // sum of the checksums of the records that stay
   std::vector<CambioRegistro> registros;
 };
+
+/// Sum of the checksums of all records of a file.
+std::uint64_t SumaDeRegistros(std::string_view contenido);
+/// The same after a save that leaves the file its length.
+std::uint64_t SumaDespues(const Cambios& cambios);
 
 /// What `bloques` change; records that stay as they are are left out.
 /// @param contenido  bytes of the file, kMaxContenido at most
 /// @param largo      of the file
+/// @param suma       of its records
+Cambios CalculaCambios(std::string_view contenido, std::uint64_t largo, std::uint64_t suma,
+                       const Bloques& bloques);
 Cambios CalculaCambios(std::string_view contenido, std::uint64_t largo, const Bloques& bloques);
 
 /// How a file stands to a save.
@@ -126,6 +136,9 @@ class Diario {
 
   const std::filesystem::path& ruta() const { return ruta_; }
 
+  /// Makes a void one, so that no save has to wait for its name to be on the disk.
+  [[nodiscard]] Causa Prepara(mode_t permisos);
+
   /// The journal and its name are on the disk when this returns without a cause.
   /// @param permisos  of the file it protects
   [[nodiscard]] Causa Escribe(const Cambios& cambios, mode_t permisos);
@@ -139,6 +152,7 @@ class Diario {
 
  private:
   [[nodiscard]] Causa Crea(mode_t permisos);
+  [[nodiscard]] Causa Fija(std::string bytes);
 
   std::filesystem::path ruta_;
   Descriptor d_;

@@ -110,6 +110,7 @@ void FicheroSeguro::AbreExistente(PideCerrojo pide) {
   if (const Causa causa = LeeBytes(d_, kMaxContenido, contenido_)) {
     throw Error(txt::ErrorDeLectura, nombre_, causa);
   }
+  suma_ = SumaDeRegistros(contenido_);
 }
 
 // The file takes its name when its first save is on the disk: nobody ever finds half of it.
@@ -145,19 +146,26 @@ void FicheroSeguro::AvisaDeCarpeta() {
 // ---------------------------------------------------------------------------------------------
 // Saving
 
+void FicheroSeguro::PreparaGrabado() {
+  diarioListo_ = true;
+  if (provisional_.empty()) static_cast<void>(diario_->Prepara(permisos_));
+}
+
 void FicheroSeguro::Graba(const Bloques& bloques) {
   if (!provisional_.empty()) return GrabaNuevo(bloques);
   DeshacePendiente();
   CompruebaQueSigueAhi();
   FijaNombre();
-  const Cambios cambios = CalculaCambios(contenido_, largo_, bloques);
+  const Cambios cambios = CalculaCambios(contenido_, largo_, suma_, bloques);
   if (cambios.registros.empty()) return;
   GrabaCambios(cambios);
+  const bool mismoLargo = largo_ == cambios.largoDespues;
   largo_ = cambios.largoDespues;
   if (contenido_.size() < largo_) contenido_.resize(std::min<std::size_t>(largo_, kMaxContenido));
   for (const auto& r : cambios.registros) {
     contenido_.replace(Desde(r.numero), r.despues.size(), r.despues.data(), r.despues.size());
   }
+  suma_ = mismoLargo ? SumaDespues(cambios) : SumaDeRegistros(contenido_);
 }
 
 void FicheroSeguro::GrabaCambios(const Cambios& cambios) {
@@ -195,11 +203,11 @@ void FicheroSeguro::DeshacePendiente() {
 void FicheroSeguro::CompruebaQueSigueAhi() const {
   if (!EsElMismo(d_, ruta_)) throw ErrorFichero({txt::YaNoEsta, {nombre_}});
   if (!Permite(ruta_, W_OK)) throw Error(txt::NadaGrabado, nombre_, errno);
-  std::string ahora;
-  if (const Causa causa = LeeBytes(d_, kMaxContenido, ahora)) {
+  bool igual = false;
+  if (const Causa causa = ComparaBytes(d_, kMaxContenido, contenido_, igual)) {
     throw Error(txt::ErrorDeLectura, nombre_, causa);
   }
-  if (ahora != contenido_) throw ErrorFichero({txt::CambiadoPorOtro, {nombre_}});
+  if (!igual) throw ErrorFichero({txt::CambiadoPorOtro, {nombre_}});
 }
 
 void FicheroSeguro::GrabaNuevo(const Bloques& bloques) {
@@ -213,8 +221,10 @@ void FicheroSeguro::GrabaNuevo(const Bloques& bloques) {
   provisional_.clear();
   contenido_ = bytes;
   largo_ = bytes.size();
+  suma_ = SumaDeRegistros(contenido_);
   nombrePorSincronizar_ = true;
   FijaNombre();
+  if (diarioListo_) PreparaGrabado();
 }
 
 void FicheroSeguro::FijaNombre() {

@@ -47,6 +47,10 @@ class FicheroSeguro {
   const std::vector<Mensaje>& avisos() const { return avisos_; }
   bool ConCerrojo() const { return cerrojo_ == Cerrojo::Tomado; }
 
+  /// Makes ready for saves, so that the first one costs what the others do. What keeps it from
+  /// that, the first save tells.
+  void PreparaGrabado();
+
   /// Writes records, all or none; they are on the disk when this returns.
   /// @throws ErrorFichero; the file is then as before, or will be whole when it is opened again,
   /// and the message says which
@@ -74,8 +78,10 @@ class FicheroSeguro {
   std::optional<Diario> diario_;
   std::filesystem::path provisional_;  // name of a file that no save has made yet
   bool nombrePorSincronizar_ = false;
+  bool diarioListo_ = false;            // it is wanted before the first save
   std::optional<Cambios> porDeshacer_;  // of a save that could be neither finished nor undone
   std::uint64_t largo_ = 0;             // of the file
+  std::uint64_t suma_ = 0;              // of its records
   std::string contenido_;
   std::vector<Mensaje> avisos_;
 };

@@ -24,6 +24,10 @@ FicheroRegistros::FicheroRegistros(std::filesystem::path ruta, Modo modo, PideCe
   avisos_ = std::move(leido.avisos);
 }
 
+void FicheroRegistros::PreparaGrabado() {
+  if (disco_) disco_->PreparaGrabado();
+}
+
 int FicheroRegistros::UltimoRegistro() const {
   const auto enFichero = (Contenido().size() + kBytesRegistro - 1) / kBytesRegistro;
   const int pendiente = pendientes_.empty() ? 0 : pendientes_.rbegin()->first;

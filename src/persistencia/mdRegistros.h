@@ -39,6 +39,10 @@ class FicheroRegistros {
   /// What the person should know of the opening.
   const std::vector<Mensaje>& avisos() const { return disco_ ? disco_->avisos() : avisos_; }
 
+  /// Makes ready for saves, for a file that stays open: the first one then costs what the others
+  /// do.
+  void PreparaGrabado();
+
   /// Number of the last record of which there is at least a byte.
   int UltimoRegistro() const;
 

@@ -3,12 +3,14 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <set>
 
 #include "captura/mdAjustesTramo.h"
 #include "captura/mdEtiquetas.h"
 #include "captura/mdFaltas.h"
 #include "captura/mdTipologias.h"
 #include "captura/mdValidaTramo.h"
+#include "comun/grabadoRoto.h"
 #include "comun/sinDerechos.h"
 #include "guion.h"
 #include "persistencia/mdDpe.h"
@@ -319,6 +321,77 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
       << b.voz.Ultimo();
   EXPECT_TRUE(b.c.EnCambio());
   EXPECT_EQ(b.c[Ed::edDescriTramo].texto, "Otro");
+}
+
+TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
+  const Carpeta carpeta;
+  const auto ruta = carpeta / "o.zrb";
+  Banco b;
+  ObraDeDosTramos(b, ruta.string());
+  {
+    FicheroRegistros f(RutaDpe(ruta), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
+  }
+  const std::string antes = pruebas::Bytes(ruta);
+  Banco otra;
+  otra.voz.responde = false;
+  EXPECT_FALSE(AbreObra(otra.c, ruta));
+  ASSERT_EQ(otra.voz.preguntas.size(), 1u);
+  EXPECT_NE(otra.voz.preguntas[0].texto.find("lo tiene abierto"), std::string::npos);
+  EXPECT_NE(otra.voz.preguntas[0].texto.find(std::to_string(::getpid())), std::string::npos);
+  EXPECT_FALSE(otra.c.ObraCargada);
+  EXPECT_FALSE(otra.c.fichero);
+
+  otra.voz.responde = true;
+  ASSERT_TRUE(AbreObra(otra.c, ruta)) << otra.voz.Ultimo();
+  EXPECT_TRUE(otra.c.SoloLectura());
+  ASSERT_EQ(otra.voz.anuncios.size(), 1u);
+  EXPECT_NE(otra.voz.anuncios[0].find("sólo para lectura"), std::string::npos);
+  otra.Teclea(Ed::edTramo, "1");
+  otra.Teclea(Ed::edGr0, "1,9");
+  EXPECT_TRUE(ValidaTramo(otra.c, true)) << otra.voz.Ultimo();
+  EXPECT_FALSE(AccionGrabaTramo(otra.c));
+  EXPECT_NE(otra.voz.Ultimo().find("o.zrb: está abierto sólo para lectura"), std::string::npos);
+  EXPECT_FALSE(AccionGrabaObra(otra.c));
+  EXPECT_FALSE(GrabaTramo(otra.c));
+  EXPECT_FALSE(LeeAjustes(RutaDpe(ruta))[0].Libre());  // those are the other program's too
+  EXPECT_EQ(pruebas::Bytes(ruta), antes);
+  otra.voz.responde = false;
+  EXPECT_FALSE(CierraFormulario(otra.c));
+  EXPECT_FALSE(CierraObra(otra.c));
+  otra.voz.responde = true;
+  EXPECT_TRUE(CierraObra(otra.c));
+  EXPECT_NE(otra.voz.preguntas.back().texto.find("se perderá"), std::string::npos);
+
+  EXPECT_TRUE(AccionGrabaObra(b.c));  // the one that has it goes on
+  EXPECT_TRUE(CierraObra(b.c));
+  ASSERT_TRUE(AbreObra(otra.c, ruta));
+  EXPECT_FALSE(otra.c.SoloLectura());
+}
+
+TEST(Sesion, UnGrabadoQueSeRompioSeDeshaceAlAbrirYSeAnunciaEnSuIdioma) {
+  const Carpeta carpeta;
+  const auto ruta = carpeta / "o.zrb";
+  Banco b;
+  ObraDeDosTramos(b, ruta.string());
+  ASSERT_TRUE(CierraObra(b.c));
+  const std::string antes = pruebas::Bytes(ruta);
+  std::set<std::string> distintos;
+  for (std::int16_t idioma = 1; idioma <= 5; ++idioma) {
+    pruebas::DejaCabeceraAMedias(ruta);
+    ASSERT_NE(pruebas::Bytes(ruta), antes);
+    b.textos.PonIdioma(idioma);
+    b.Olvida();
+    ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
+    EXPECT_EQ(b.c[Ed::edObra].texto, "Traida de aguas");
+    ASSERT_EQ(b.voz.anuncios.size(), 1u);
+    EXPECT_NE(b.voz.anuncios[0].find(ruta.string()), std::string::npos);
+    EXPECT_TRUE(b.voz.mensajes.empty());
+    distintos.insert(b.voz.anuncios[0]);
+    EXPECT_EQ(pruebas::Bytes(ruta), antes);
+    EXPECT_TRUE(CierraObra(b.c));
+  }
+  EXPECT_EQ(distintos.size(), 5u);
 }
 
 // Tramos 5 and 4: the new one is 5 again, and takes a block of its own.
