@@ -17,7 +17,7 @@ void BorraAjustesTramo(const std::filesystem::path& obra, int NumeroTramo, char 
 }
 
 void RegistraCambios(Captura& c) {
-  if (c.LeyendoDatos || !c.e.obra.ObraAbierta || !c.fichero) return;
+  if (c.LeyendoDatos || !c.e.obra.ObraAbierta || !c.fichero || c.SoloLectura()) return;
   try {
     BorraAjustesTramo(c.fichero->ruta(), c.e.tramo.NumeroTramo, c.SeparadorDecimal);
     c.AjustesPorBorrar = false;

@@ -70,6 +70,8 @@ struct Captura {
   bool BandaRece = false;
   std::optional<Falta> falta;
 
+  /// The Obra is open for reading: another program has it, or its rights forbid writing.
+  bool SoloLectura() const { return fichero && fichero->SoloLectura(); }
   bool EnCambio() const { return ObraEditada || TramoEditado; }
   bool EsSI() const { return e.obra.EsSI(); }
   bool EnAltas() const { return EstadoCaptura == kAltas; }

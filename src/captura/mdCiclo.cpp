@@ -15,6 +15,7 @@
 #include "core/mdNumeros.h"
 #include "core/mdTextos.h"
 #include "core/mdUnidades.h"
+#include "persistencia/textosGrabado.h"
 
 namespace zorbin {
 
@@ -156,12 +157,18 @@ std::string PideNombre(Captura& c) {
   return conPunto ? corto : corto + std::string(kExtension);
 }
 
+void TomaFichero(Captura& c, FicheroRegistros f) {
+  c.fichero.emplace(std::move(f));
+  c.fichero->PreparaGrabado();
+  for (const auto& aviso : c.fichero->avisos()) c.voz.Anuncia(c.textos.Compone(aviso));
+}
+
 // The file of the Obra, asked for when there is none.
 bool TieneFichero(Captura& c) {
   if (c.fichero) return true;
   const std::string nombre = PideNombre(c);
   if (nombre.empty()) return false;
-  c.fichero.emplace(nombre, FicheroRegistros::Modo::LecturaEscritura);
+  TomaFichero(c, {nombre, FicheroRegistros::Modo::LecturaEscritura});
   c.e.obra.NombreFichero = nombre;
   c.e.obra.ObraAbierta = true;
   ActualizaMenus(c);
@@ -214,24 +221,106 @@ bool TextosEnElEstado(Captura& c) {
   return false;
 }
 
-// The header counts a Tramo whose block could not be written: without it the file opens again.
-void RehaceCuenta(Captura& c) {
+// Brings the texts of the Obra into the state and has a file to write them to. What keeps it from
+// that is told. @throws ErrorFichero
+bool DisponeObra(Captura& c) {
+  CompruebaTextos(c, c.e.obra.NombreFichero, false);
+  TraeTextosObra(c);
+  const int error = SincronizaObra(c, c.EsSI());
+  if (error == 0) return TieneFichero(c);
+  c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidades),
+                {});
+  c.pantalla.pagina.TabPrincipal = 0;
+  c[Ed::edPrs3].gris = false;
+  VaA(c, Ed::edPrs3);
+  return false;
+}
+
+void EscribeCabecera(Captura& c) {
+  EscribeObra(*c.fichero, c.e, c.lista, c.textos, c.SeparadorDecimal);
+}
+
+void EscribeBloque(Captura& c) {
+  const int posicion = PosicionDelTramo(c, c.e.tramo.NumeroTramo);
+  EscribeTramo(*c.fichero, c.e, c.lista, posicion, c.SeparadorDecimal);
+}
+
+bool EstaEnLista(Captura& c) {
+  if (PosicionDelTramo(c, c.e.tramo.NumeroTramo) != 0) return true;
+  c.voz.Muestra(Texto(c, txt::NoEstaEnLista), {});
+  return false;
+}
+
+void ObraEscrita(Captura& c) {
+  RestauraObra(c);
+  c.ObraEditada = false;
+}
+
+void TramoEscrito(Captura& c) {
+  RestauraTramo(c);
+  if (std::exchange(c.AjustesPorBorrar, false)) RegistraCambios(c);
+}
+
+// Header and block of the Tramo in hand: in the file both, or neither.
+void EscribeObraYTramo(Captura& c) {
+  Transaccion juntos(*c.fichero);
+  EscribeCabecera(c);
+  EscribeBloque(c);
+  juntos.Confirma();
+}
+
+bool EscribeTramoEnMano(Captura& c) {
+  const bool nuevo = c.EnAltas();
+  const ListaTramos lista = c.lista;
+  if (!TextosEnElEstado(c)) return false;
+  if (nuevo) c.lista.push_back(TextoEntero(c.e.tramo.NumeroTramo));
   try {
-    EscribeObra(*c.fichero, c.e, c.lista, c.textos, c.SeparadorDecimal);
+    if (EstaEnLista(c) && DisponeObra(c)) {
+      EscribeObraYTramo(c);
+      ObraEscrita(c);
+      TramoEscrito(c);
+      return true;
+    }
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);
   }
+  c.lista = lista;
+  return false;
 }
 
-bool EscribeTramoNuevo(Captura& c) {
-  const bool nuevo = c.EnAltas();
-  if (!TextosEnElEstado(c)) return false;
-  if (nuevo) c.lista.push_back(TextoEntero(c.e.tramo.NumeroTramo));
-  const bool cabecera = GrabaObra(c);
-  if (cabecera && GrabaTramo(c)) return true;
-  if (nuevo) c.lista.pop_back();
-  if (nuevo && cabecera) RehaceCuenta(c);
-  return false;
+// ---- Reading only
+
+// One that another program has is asked about: it may be a slip. @return whether it is open
+bool AbreParaLeer(Captura& c, const fs::path& ruta, const SoloParaLeer& error) {
+  if (error.motivo() == SoloParaLeer::Motivo::Ocupado &&
+      !c.voz.Pregunta(TextoDeError(c, error) + "\n" + Texto(c, txt::AbrirParaLeer),
+                      Texto(c, txt::TituloAviso))) {
+    return false;
+  }
+  TomaFichero(c, {ruta, FicheroRegistros::Modo::Lectura});
+  c.voz.Anuncia(c.textos.Compone(txt::AbiertoParaLeer, {c.fichero->Nombre()}));
+  return true;
+}
+
+bool AbreFichero(Captura& c, const fs::path& ruta) {
+  try {
+    TomaFichero(c, {ruta, FicheroRegistros::Modo::LecturaEscritura});
+    return true;
+  } catch (const SoloParaLeer& error) {
+    return AbreParaLeer(c, ruta, error);
+  }
+}
+
+bool NiegaGrabar(Captura& c) {
+  if (!c.SoloLectura()) return false;
+  c.voz.Muestra(c.textos.Compone(txt::SoloLecturaNoGraba, {c.fichero->Nombre()}), {});
+  return true;
+}
+
+// In an Obra that is only read there is nothing to save first.
+bool AceptaCerrarSinGrabar(Captura& c) {
+  return c.SoloLectura() &&
+         c.voz.Pregunta(Texto(c, txt::CerrarSinGrabar), Texto(c, txt::TituloAviso));
 }
 
 }  // namespace
@@ -258,9 +347,11 @@ void NuevaObra(Captura& c) {
 bool AbreObra(Captura& c, const fs::path& ruta) {
   Vacia(c);
   try {
-    FicheroRegistros f(ruta, FicheroRegistros::Modo::EscrituraSiPuede);
-    auto leida = CargaObra(c.e, f);
-    c.fichero.emplace(std::move(f));
+    if (!AbreFichero(c, ruta)) {
+      ActualizaMenus(c);
+      return false;
+    }
+    auto leida = CargaObra(c.e, *c.fichero);
     c.lista = std::move(leida.lista);
     for (const auto& aviso : leida.avisos) c.voz.Muestra(c.textos.Compone(aviso), {});
   } catch (const ErrorFichero& error) {
@@ -310,52 +401,35 @@ void RestauraTramo(Captura& c) {
 
 bool GrabaObra(Captura& c) {
   try {
-    CompruebaTextos(c, c.e.obra.NombreFichero, false);
-    TraeTextosObra(c);
-    if (const int error = SincronizaObra(c, c.EsSI()); error != 0) {
-      c.voz.Muestra(
-          Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidades), {});
-      c.pantalla.pagina.TabPrincipal = 0;
-      c[Ed::edPrs3].gris = false;
-      VaA(c, Ed::edPrs3);
-      return false;
-    }
-    if (!TieneFichero(c)) return false;
-    EscribeObra(*c.fichero, c.e, c.lista, c.textos, c.SeparadorDecimal);
+    if (!DisponeObra(c)) return false;
+    EscribeCabecera(c);
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);
     return false;
   }
-  RestauraObra(c);
-  c.ObraEditada = false;
+  ObraEscrita(c);
   return true;
 }
 
 bool GrabaTramo(Captura& c) {
-  const int posicion = PosicionDelTramo(c, c.e.tramo.NumeroTramo);
-  if (posicion == 0 || !c.fichero) {
-    c.voz.Muestra(Texto(c, txt::NoEstaEnLista), {});
-    return false;
-  }
-  if (!TextosEnElEstado(c)) return false;
+  if (!c.fichero || !EstaEnLista(c) || !TextosEnElEstado(c)) return false;
   try {
-    EscribeTramo(*c.fichero, c.e, c.lista, posicion, c.SeparadorDecimal);
+    EscribeBloque(c);
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);
     return false;
   }
-  RestauraTramo(c);
-  if (std::exchange(c.AjustesPorBorrar, false)) RegistraCambios(c);
+  TramoEscrito(c);
   return true;
 }
 
 bool AccionGrabaObra(Captura& c) {
-  return ValidaObra(c) && GrabaObra(c);
+  return !NiegaGrabar(c) && ValidaObra(c) && GrabaObra(c);
 }
 
 bool CierraObra(Captura& c) {
-  if (c.EnCambio()) {
-    Avisa(c, txt::SalvePrimero);
+  if (c.EnCambio() && !AceptaCerrarSinGrabar(c)) {
+    if (!c.SoloLectura()) Avisa(c, txt::SalvePrimero);
     return false;
   }
   Vacia(c);
@@ -364,7 +438,8 @@ bool CierraObra(Captura& c) {
 }
 
 bool CierraFormulario(Captura& c) {
-  if (!c.EnCambio()) return true;
+  if (!c.EnCambio() || AceptaCerrarSinGrabar(c)) return true;
+  if (c.SoloLectura()) return false;
   c.voz.Muestra(Texto(c, txt::NoPuedeCerrar) + "\n" + Texto(c, txt::DatosCambiados), {});
   return false;
 }
@@ -413,7 +488,7 @@ void NuevoTramo(Captura& c) {
 }
 
 bool AccionGrabaTramo(Captura& c) {
-  if (c.SinTramoEnMano()) return false;
+  if (c.SinTramoEnMano() || NiegaGrabar(c)) return false;
   if (!Confirma(c, txt::SalvaElTramo, txt::TituloConfirmacion)) return false;
   if (!ValidaObra(c) || !ValidaTramo(c, true)) return false;
   try {
@@ -422,7 +497,7 @@ bool AccionGrabaTramo(Captura& c) {
     MuestraError(c, error);
     return false;
   }
-  if (!EscribeTramoNuevo(c)) return false;
+  if (!EscribeTramoEnMano(c)) return false;
   MuestraListaTramos(c);
   c.UltimoTramo = static_cast<int>(c.lista.size());
   Desbloquea(c, Ed::edTramo);

@@ -15,7 +15,9 @@ namespace zorbin {
 /// An Obra without file, with the defaults of a new one; nothing of the previous one survives.
 void NuevaObra(Captura& c);
 
-/// Opens an Obra for editing. A refusal of the file is shown and leaves no Obra.
+/// Opens an Obra for editing. One that another program has, or that may not be written, is opened
+/// for reading if the person wants it so: nothing of it is then ever saved. A refusal of the file
+/// is shown and leaves no Obra.
 bool AbreObra(Captura& c, const std::filesystem::path& ruta);
 
 /// Brings the texts of the Obra into the state, both systems' values of the pressures too. The
@@ -38,7 +40,8 @@ bool GrabaTramo(Captura& c);
 /// The button and the menu entry: validates and writes.
 bool AccionGrabaObra(Captura& c);
 
-/// Closes the Obra, unless there are unsaved edits. @return whether it is closed
+/// Closes the Obra, unless there are unsaved edits; of one that is only read they may be given up.
+/// @return whether it is closed
 bool CierraObra(Captura& c);
 /// The close box of the capture screen. @return whether it may close
 bool CierraFormulario(Captura& c);
@@ -46,7 +49,7 @@ bool CierraFormulario(Captura& c);
 // ---- The Tramo
 
 void NuevoTramo(Captura& c);
-/// Asks, validates and writes Obra and Tramo. @return whether they were written
+/// Asks, validates and writes Obra and Tramo, both or neither. @return whether they were written
 bool AccionGrabaTramo(Captura& c);
 void CancelaCaptura(Captura& c);
 /// Leaving edTramo with a number: reads that Tramo. @return whether the field may be left

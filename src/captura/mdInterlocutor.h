@@ -20,6 +20,9 @@ class Interlocutor {
   /// Shows a message box. An empty title is that of the application.
   virtual void Muestra(const std::string& texto, const std::string& titulo) = 0;
 
+  /// Tells what needs no answer, for the status bar.
+  virtual void Anuncia(const std::string& texto) { Muestra(texto, {}); }
+
   /// Asks with Yes and No. @return whether the answer was Yes
   virtual bool Pregunta(const std::string& texto, const std::string& titulo) = 0;
 

@@ -76,7 +76,8 @@ ObraEnFichero AbreObra(EstadoCalculo& e, const std::filesystem::path& ruta) {
   e = EstadoCalculo{};
   auto leida = CargaObra(e, obra.fichero);
   obra.lista = std::move(leida.lista);
-  obra.avisos = std::move(leida.avisos);
+  obra.avisos = obra.fichero.avisos();
+  obra.avisos.insert(obra.avisos.end(), leida.avisos.begin(), leida.avisos.end());
   EstadoCalculo prueba = e;
   for (const int posicion : TodasLasPosiciones(obra.lista)) {
     CargaTramo(prueba, obra.fichero, posicion);

@@ -1,34 +1,25 @@
 #include "persistencia/mdCerrojo.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cerrno>
-#include <system_error>
-
-#include "persistencia/mdRegistros.h"
-#include "recursos/textos.h"
+#include <chrono>
+#include <thread>
 
 namespace zorbin {
 
 namespace {
 
-constexpr mode_t kPermisos = 0666;
+constexpr int kIntentos = 5;
+constexpr std::chrono::milliseconds kEspera{10};
 
-int Abre(const std::filesystem::path& ruta) {
-  const int descriptor = ::open(ruta.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kPermisos);
-  if (descriptor >= 0) return descriptor;
-  throw ErrorFichero({txt::NoSeAbre, {ruta.string(), std::generic_category().message(errno)}});
-}
-
-Cerrojo::Estado Toma(int descriptor, PideCerrojo pide) {
+Cerrojo Pide(const Descriptor& d, int operacion, PideCerrojo pide) {
   int resultado = 0;
   do {
-    resultado = pide(descriptor, LOCK_EX | LOCK_NB);
+    resultado = pide(d.numero(), operacion | LOCK_NB);
   } while (resultado != 0 && errno == EINTR);
-  if (resultado == 0) return Cerrojo::Estado::Tomado;
-  return errno == EWOULDBLOCK ? Cerrojo::Estado::Ocupado : Cerrojo::Estado::SinCerrojos;
+  if (resultado == 0) return Cerrojo::Tomado;
+  return errno == EWOULDBLOCK ? Cerrojo::Ocupado : Cerrojo::SinCerrojos;
 }
 
 }  // namespace
@@ -37,11 +28,19 @@ int CerrojoDelSistema(int descriptor, int operacion) {
   return ::flock(descriptor, operacion);
 }
 
-Cerrojo::Cerrojo(const std::filesystem::path& ruta, PideCerrojo pide)
-    : descriptor_(Abre(ruta)), estado_(Toma(descriptor_, pide)) {}
+Cerrojo TomaCerrojo(const Descriptor& d, PideCerrojo pide) {
+  Cerrojo estado = Pide(d, LOCK_EX, pide);
+  for (int i = 1; i < kIntentos && estado == Cerrojo::Ocupado; ++i) {
+    std::this_thread::sleep_for(kEspera);
+    estado = Pide(d, LOCK_EX, pide);
+  }
+  return estado;
+}
 
-Cerrojo::~Cerrojo() {
-  ::close(descriptor_);
+bool LoTieneOtro(const Descriptor& d, PideCerrojo pide) {
+  const Cerrojo estado = Pide(d, LOCK_SH, pide);
+  if (estado == Cerrojo::Tomado) pide(d.numero(), LOCK_UN);
+  return estado == Cerrojo::Ocupado;
 }
 
 }  // namespace zorbin

@@ -1,7 +1,8 @@
-// An advisory lock on a file, against another program that would write it at the same time.
+// An advisory lock on an open file, against another program that would write it at the same time.
+// It goes with the descriptor: the system takes it from a process that dies.
 #pragma once
 
-#include <filesystem>
+#include "persistencia/mdDescriptor.h"
 
 namespace zorbin {
 
@@ -9,26 +10,16 @@ namespace zorbin {
 using PideCerrojo = int (*)(int descriptor, int operacion);
 int CerrojoDelSistema(int descriptor, int operacion);
 
-class Cerrojo {
- public:
-  enum class Estado {
-    Tomado,       // nobody else takes it while this lives
-    Ocupado,      // another program has it
-    SinCerrojos,  // this file system has no locks
-  };
-
-  /// Opens the file, which is created when it does not exist, and tries the lock without waiting.
-  /// @throws ErrorFichero when the file cannot be opened for writing
-  explicit Cerrojo(const std::filesystem::path& ruta, PideCerrojo pide = CerrojoDelSistema);
-  ~Cerrojo();
-  Cerrojo(const Cerrojo&) = delete;
-  Cerrojo& operator=(const Cerrojo&) = delete;
-
-  Estado estado() const { return estado_; }
-
- private:
-  int descriptor_;
-  Estado estado_;
+enum class Cerrojo {
+  Tomado,       // nobody else takes it while the descriptor is open
+  Ocupado,      // another program has it
+  SinCerrojos,  // this file system has no locks
 };
+
+/// Tries for some hundredths of a second: a program that only reads holds it for an instant.
+Cerrojo TomaCerrojo(const Descriptor& d, PideCerrojo pide = CerrojoDelSistema);
+
+/// Whether another program has the lock. False where there are no locks.
+bool LoTieneOtro(const Descriptor& d, PideCerrojo pide = CerrojoDelSistema);
 
 }  // namespace zorbin

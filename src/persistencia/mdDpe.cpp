@@ -90,6 +90,27 @@ EntradaAjuste Guardada(EntradaAjuste x) {
   return x;
 }
 
+void EscribeEntrada(FicheroRegistros& f, int posicion, EntradaAjuste x, char separador) {
+  const int primero = PrimerRegistro(posicion);
+  int r = primero;
+  for (const auto& c : kCampos) {
+    f.EscribeRegistro(r++, FormatoMascara(c.campo(x), kMascara, separador));
+  }
+  while (r < primero + kRegistrosEntrada) {
+    f.EscribeRegistro(r++, FormatoMascara(0.0, kMascara, separador));
+  }
+}
+
+// Who holds it has the adjustment of reinforcement open, and it is there that it is let go.
+FicheroRegistros Abre(const std::filesystem::path& ruta, PideCerrojo pide) {
+  try {
+    return {ruta, FicheroRegistros::Modo::LecturaEscritura, pide};
+  } catch (const SoloParaLeer& error) {
+    if (error.motivo() != SoloParaLeer::Motivo::Ocupado) throw;
+    throw ErrorFichero({txt::DpeOcupado, {ruta.string()}});
+  }
+}
+
 bool Iguales(EntradaAjuste a, EntradaAjuste b) {
   return std::all_of(kCampos.begin(), kCampos.end(),
                      [&](const CampoEntrada& c) { return c.campo(a) == c.campo(b); });
@@ -124,29 +145,16 @@ std::optional<Mensaje> CargaAjustes(EstadoCalculo& e, const std::filesystem::pat
 
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,
                     char separador) {
+  Transaccion juntos(f);
   f.EscribeRegistro(1, TextoEntero(TotalRegistros(entradas.size())));
-  int registro = PrimerRegistro(1);
-  for (EntradaAjuste x : entradas) {
-    int r = registro;
-    for (const auto& c : kCampos) {
-      f.EscribeRegistro(r++, FormatoMascara(c.campo(x), kMascara, separador));
-    }
-    while (r < registro + kRegistrosEntrada) {
-      f.EscribeRegistro(r++, FormatoMascara(0.0, kMascara, separador));
-    }
-    registro += kRegistrosEntrada;
+  for (std::size_t i = 0; i < entradas.size(); ++i) {
+    EscribeEntrada(f, static_cast<int>(i) + 1, entradas[i], separador);
   }
-  f.Vacia();
+  juntos.Confirma();
 }
 
 FicheroDpe::FicheroDpe(const std::filesystem::path& ruta, char separador, PideCerrojo pide)
-    : cerrojo_(ruta, pide),
-      f_(ruta, FicheroRegistros::Modo::LecturaEscritura),
-      separador_(separador) {
-  if (cerrojo_.estado() == Cerrojo::Estado::Ocupado) {
-    throw ErrorFichero({txt::DpeOcupado, {f_.Nombre()}});
-  }
-  entradas_ = LeeEntradas(f_);
+    : f_(Abre(ruta, pide)), separador_(separador), entradas_(LeeEntradas(f_)) {
   if (!f_.LeeRegistro(1).empty()) return;
   f_.EscribeRegistro(1, TextoEntero(0));
   f_.Vacia();
@@ -159,51 +167,44 @@ int FicheroDpe::TotalRegistrosDpe() const {
 void FicheroDpe::GrabaUnTramoPresion(const EntradaAjuste& caso, bool sinDatos) {
   const int hallado =
       BuscaCaso(entradas_, caso.DP, static_cast<int>(std::lround(caso.Tramo)), caso.Hr);
+  if (hallado <= 0 && sinDatos) return;
+  auto entradas = entradas_;
   if (hallado > 0) {
-    EntradaAjuste entrada;
-    if (!sinDatos) {
-      entrada = entradas_[static_cast<std::size_t>(hallado - 1)];
-      entrada.areas = caso.areas;
-      entrada.Hr = caso.Hr;
-    }
-    EscribeEntrada(hallado, entrada);
-  } else if (!sinDatos) {
-    EscribeEntrada(hallado < 0 ? -hallado : static_cast<int>(entradas_.size()) + 1, caso);
+    auto& entrada = entradas[static_cast<std::size_t>(hallado - 1)];
+    const EntradaAjuste nueva{entrada.DP, entrada.Tramo, caso.Hr, caso.areas};
+    entrada = sinDatos ? EntradaAjuste{} : nueva;
+  } else if (hallado < 0) {
+    entradas[static_cast<std::size_t>(-hallado - 1)] = caso;
+  } else {
+    entradas.push_back(caso);
   }
+  Graba(std::move(entradas));
 }
 
 void FicheroDpe::BorraTramo(int NumeroTramo) {
-  for (std::size_t i = 0; i < entradas_.size(); ++i) {
-    const auto& x = entradas_[i];
-    if (x.Libre() || std::lround(x.Tramo) != NumeroTramo) continue;
-    EscribeEntrada(static_cast<int>(i) + 1, {});
+  auto entradas = entradas_;
+  for (auto& x : entradas) {
+    if (!x.Libre() && std::lround(x.Tramo) == NumeroTramo) x = {};
   }
+  Graba(std::move(entradas));
 }
 
-void FicheroDpe::EscribeEntrada(int posicion, const EntradaAjuste& entrada) {
-  const bool nueva = posicion > static_cast<int>(entradas_.size());
-  if (posicion > kMaxEntradas) {
+// The entries that differ from those of the file, and their count.
+void FicheroDpe::Graba(std::vector<EntradaAjuste> entradas) {
+  if (entradas.size() > static_cast<std::size_t>(kMaxEntradas)) {
     throw ErrorFichero({txt::DpeLleno, {f_.Nombre(), TextoEntero(kMaxEntradas)}});
   }
-  EntradaAjuste x = Guardada(entrada);
-  if (!nueva && Iguales(x, entradas_[static_cast<std::size_t>(posicion - 1)])) return;
-  const int primero = PrimerRegistro(posicion);
-  int r = primero;
-  for (const auto& c : kCampos) {
-    f_.EscribeRegistro(r++, FormatoMascara(c.campo(x), kMascara, separador_));
+  Transaccion juntas(f_);
+  for (std::size_t i = 0; i < entradas.size(); ++i) {
+    if (i < entradas_.size() && Iguales(entradas[i], entradas_[i])) continue;
+    entradas[i] = Guardada(entradas[i]);
+    EscribeEntrada(f_, static_cast<int>(i) + 1, entradas[i], separador_);
   }
-  while (r < primero + kRegistrosEntrada) {
-    f_.EscribeRegistro(r++, FormatoMascara(0.0, kMascara, separador_));
+  if (entradas.size() != entradas_.size()) {
+    f_.EscribeRegistro(1, TextoEntero(TotalRegistros(entradas.size())));
   }
-  // The count last: an entry that the disk cut short is not counted.
-  f_.Vacia();
-  if (nueva) {
-    f_.EscribeRegistro(1, TextoEntero(TotalRegistros(entradas_.size() + 1)));
-    f_.Vacia();
-    entradas_.push_back(x);
-  } else {
-    entradas_[static_cast<std::size_t>(posicion - 1)] = x;
-  }
+  juntas.Confirma();
+  entradas_ = std::move(entradas);
 }
 
 }  // namespace zorbin

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/estado_calculo.h"
-#include "persistencia/mdCerrojo.h"
 #include "persistencia/mdRegistros.h"
 
 namespace zorbin {
@@ -26,7 +25,7 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe);
 /// @return why it was refused
 std::optional<Mensaje> CargaAjustes(EstadoCalculo& e, const std::filesystem::path& obra);
 
-/// Writes the entries from the first record on.
+/// Writes the entries from the first record on, all or none.
 /// @throws ErrorFichero
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,
                     char separador);
@@ -38,7 +37,7 @@ class FicheroDpe {
   /// Creates the file when it does not exist, with no entries.
   /// @param separador  decimal separator of what is written
   /// @throws ErrorFichero where it cannot be opened, another program holds it, or LeeAjustes would
-  /// refuse it; nothing has then been written
+  /// refuse it; nothing has then been written but what undoes a save that broke off
   explicit FicheroDpe(const std::filesystem::path& ruta, char separador,
                       PideCerrojo pide = CerrojoDelSistema);
 
@@ -47,7 +46,9 @@ class FicheroDpe {
   const std::vector<EntradaAjuste>& entradas() const { return entradas_; }
   int TotalRegistrosDpe() const;
   /// False on a file system without locks: nothing keeps another program off.
-  bool ConCerrojo() const { return cerrojo_.estado() == Cerrojo::Estado::Tomado; }
+  bool ConCerrojo() const { return f_.ConCerrojo(); }
+  /// What the person should know of the opening.
+  const std::vector<Mensaje>& avisos() const { return f_.avisos(); }
 
   /// Stores the adjustment of a Caso over its entry, else in the last free one, else at the end;
   /// without data the Caso's entry is freed. An entry found keeps its pressure and its Tramo.
@@ -55,16 +56,15 @@ class FicheroDpe {
   /// @throws ErrorFichero when the disk refuses it, or no entry more fits
   void GrabaUnTramoPresion(const EntradaAjuste& caso, bool sinDatos);
 
-  /// Frees every entry of a Tramo. @throws ErrorFichero
+  /// Frees every entry of a Tramo, all or none. @throws ErrorFichero
   void BorraTramo(int NumeroTramo);
 
  private:
-  Cerrojo cerrojo_;  // before the file is read
   FicheroRegistros f_;
   char separador_;
   std::vector<EntradaAjuste> entradas_;
 
-  void EscribeEntrada(int posicion, const EntradaAjuste& entrada);
+  void Graba(std::vector<EntradaAjuste> entradas);
 };
 
 }  // namespace zorbin

@@ -1,66 +1,52 @@
 #include "persistencia/mdRegistros.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 #include "core/mdTextos.h"
+#include "persistencia/mdRecupera.h"
+#include "persistencia/textosGrabado.h"
 #include "recursos/mdAnsi.h"
 #include "recursos/textos.h"
 
 namespace zorbin {
 
-namespace {
-
-// Records that the 16-bit arithmetic of the format can name.
-constexpr std::size_t kMaxRegistros = 32767;
-
-std::string CausaDelSistema() {
-  return std::generic_category().message(errno);
+FicheroRegistros::FicheroRegistros(std::filesystem::path ruta, Modo modo, PideCerrojo pide)
+    : ruta_(std::move(ruta)) {
+  if (modo == Modo::LecturaEscritura) {
+    disco_ = std::make_unique<FicheroSeguro>(ruta_, pide);
+    return;
+  }
+  auto leido = LeeSinEscribir(ruta_);
+  leido_ = std::move(leido.bytes);
+  avisos_ = std::move(leido.avisos);
 }
 
-bool SoloSeLee(int error) {
-  return error == EACCES || error == EPERM || error == EROFS;
-}
-
-std::size_t Desde(int numero) {
-  return static_cast<std::size_t>(numero - 1) * kBytesRegistro;
-}
-
-}  // namespace
-
-FicheroRegistros::FicheroRegistros(std::filesystem::path ruta, Modo modo) : ruta_(std::move(ruta)) {
-  std::error_code error;
-  if (std::filesystem::is_directory(ruta_, error)) {
-    throw ErrorFichero({txt::NoSeAbre, {Nombre(), std::generic_category().message(EISDIR)}});
-  }
-  errno = 0;
-  auto banderas = std::ios::binary | std::ios::in;
-  if (modo != Modo::Lectura) {
-    banderas |= std::ios::out;
-    if (!std::filesystem::exists(ruta_, error)) std::ofstream(ruta_, std::ios::binary);
-  }
-  fichero_.open(ruta_, banderas);
-  if (!fichero_ && modo == Modo::EscrituraSiPuede && SoloSeLee(errno)) {
-    porQueNo_ = CausaDelSistema();
-    fichero_.open(ruta_, std::ios::binary | std::ios::in);
-  }
-  if (!fichero_) throw ErrorFichero({txt::NoSeAbre, {Nombre(), CausaDelSistema()}});
-  contenido_.resize(kMaxRegistros * kBytesRegistro);
-  fichero_.read(contenido_.data(), static_cast<std::streamsize>(contenido_.size()));
-  if (fichero_.bad()) throw ErrorFichero({txt::NoSeAbre, {Nombre(), CausaDelSistema()}});
-  contenido_.resize(static_cast<std::size_t>(fichero_.gcount()));
+void FicheroRegistros::PreparaGrabado() {
+  if (disco_) disco_->PreparaGrabado();
 }
 
 int FicheroRegistros::UltimoRegistro() const {
-  return static_cast<int>((contenido_.size() + kBytesRegistro - 1) / kBytesRegistro);
+  const auto enFichero = (Contenido().size() + kBytesRegistro - 1) / kBytesRegistro;
+  const int pendiente = pendientes_.empty() ? 0 : pendientes_.rbegin()->first;
+  return std::max(static_cast<int>(enFichero), pendiente);
+}
+
+// As far as the file has them.
+std::string_view FicheroRegistros::Bytes(int registro) const {
+  const auto pendiente = pendientes_.find(registro);
+  if (pendiente != pendientes_.end()) {
+    return {pendiente->second.data(), pendiente->second.size()};
+  }
+  if (Desde(registro) >= Contenido().size()) return {};
+  return std::string_view(Contenido()).substr(Desde(registro), kBytesRegistro);
 }
 
 std::string FicheroRegistros::LeeRegistro(int numero) const {
-  const auto desde = Desde(numero);
-  if (desde >= contenido_.size()) return {};
-  const auto datos = std::string_view(contenido_).substr(desde, kBytesRegistro);
+  const std::string_view datos = Bytes(numero);
+  if (datos.empty()) return {};
   if (datos.size() < 2) {
     throw ErrorFichero(
         {txt::RegistroCortado, {Nombre(), TextoEntero(numero), TextoEntero(2), TextoEntero(1)}});
@@ -82,30 +68,42 @@ std::string FicheroRegistros::LeeRegistro(int numero) const {
 }
 
 void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
+  if (!disco_) throw ErrorFichero({txt::SoloLecturaNoGraba, {Nombre()}});
   if (ansi.size() > kMaxTexto) {
     throw ErrorFichero(
         {txt::TextoLargo,
          {Nombre(), TextoEntero(numero), TextoEntero(static_cast<int>(ansi.size()))}});
   }
-  if (!porQueNo_.empty()) throw ErrorFichero({txt::NoSeEscribe, {Nombre(), porQueNo_}});
-  std::array<char, kBytesRegistro> datos{};
+  Bloque datos{};
   datos[0] = static_cast<char>(ansi.size() & 0xFF);
   datos[1] = static_cast<char>(ansi.size() >> 8);
   std::copy(ansi.begin(), ansi.end(), datos.begin() + 2);
-  const auto desde = Desde(numero);
-  fichero_.clear();
-  errno = 0;
-  fichero_.seekp(static_cast<std::streamoff>(desde));
-  fichero_.write(datos.data(), datos.size());
-  if (!fichero_) throw ErrorFichero({txt::NoSeEscribe, {Nombre(), CausaDelSistema()}});
-  if (contenido_.size() < desde + kBytesRegistro) contenido_.resize(desde + kBytesRegistro, '\0');
-  std::copy(datos.begin(), datos.end(), contenido_.begin() + static_cast<std::ptrdiff_t>(desde));
+  pendientes_[numero] = datos;
 }
 
 void FicheroRegistros::Vacia() {
-  fichero_.clear();
-  errno = 0;
-  if (!fichero_.flush()) throw ErrorFichero({txt::NoSeEscribe, {Nombre(), CausaDelSistema()}});
+  if (transacciones_ == 0) Graba();
+}
+
+void FicheroRegistros::Graba() {
+  const Bloques bloques = std::exchange(pendientes_, {});
+  if (!bloques.empty()) disco_->Graba(bloques);
+}
+
+Transaccion::Transaccion(FicheroRegistros& f) : f_(f), antes_(f.pendientes_) {
+  ++f_.transacciones_;
+}
+
+Transaccion::~Transaccion() {
+  if (!abierta_) return;
+  --f_.transacciones_;
+  f_.pendientes_ = std::move(antes_);
+}
+
+void Transaccion::Confirma() {
+  abierta_ = false;
+  --f_.transacciones_;
+  f_.Vacia();
 }
 
 std::string BytesDeCampo(const std::string& fichero, const std::string& campo,

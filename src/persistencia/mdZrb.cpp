@@ -315,8 +315,9 @@ void EscribeTodos(FicheroRegistros& f, const std::vector<Registro128>& registros
   for (const auto& r : registros) {
     bytes.emplace_back(r.numero, BytesDeCampo(f.Nombre(), r.nombre, r.texto));
   }
+  Transaccion juntos(f);
   for (const auto& [numero, ansi] : bytes) f.EscribeRegistro(numero, ansi);
-  f.Vacia();
+  juntos.Confirma();
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f);
 /// @throws ErrorFichero as CargaObra, also where the end of the file cuts the block
 void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion);
 
-/// Writes the header. Nothing is written unless every field can be.
+/// Writes the header, all of it or nothing.
 /// @param separador  decimal separator of the machine
 /// @throws ErrorFichero naming the field that cannot be stored, or the disk's refusal
 void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,

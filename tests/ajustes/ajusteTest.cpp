@@ -73,7 +73,7 @@ TEST(Ajuste, EnMksSonLasMismasAreas) {
   BancoAjustes mks;
   {
     const auto e = pruebas::EnMks(pruebas::EstadoDeMuestra(1));
-    FicheroRegistros f(mks.obra, FicheroRegistros::Modo::LecturaEscritura);
+    FicheroRegistros& f = *mks.c.fichero;
     EscribeObra(f, e, {"1"}, mks.textos, ',');
     EscribeTramo(f, e, {"1"}, 1, ',');
   }
@@ -653,7 +653,7 @@ TEST(Ajuste, ElTramoSeGuardaPorSuNumero) {
   BancoAjustes b;
   {
     EstadoCalculo e;
-    FicheroRegistros f(b.obra, FicheroRegistros::Modo::LecturaEscritura);
+    FicheroRegistros& f = *b.c.fichero;
     CargaObra(e, f);
     CargaTramo(e, f, 1);
     const ListaTramos lista{"2", "5"};

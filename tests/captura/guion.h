@@ -17,6 +17,7 @@ class Guion : public Interlocutor {
   void Muestra(const std::string& texto, const std::string& titulo) override {
     mensajes.push_back({texto, titulo});
   }
+  void Anuncia(const std::string& texto) override { anuncios.push_back(texto); }
   bool Pregunta(const std::string& texto, const std::string& titulo) override {
     preguntas.push_back({texto, titulo});
     return responde && titulo != niega;
@@ -30,6 +31,7 @@ class Guion : public Interlocutor {
   };
   std::vector<Caja> mensajes;
   std::vector<Caja> preguntas;
+  std::vector<std::string> anuncios;
   bool responde = true;
   std::string niega = "-";  // a box with this title is answered No
   std::optional<std::string> fichero;
@@ -40,6 +42,7 @@ class Guion : public Interlocutor {
   void Olvida() {
     mensajes.clear();
     preguntas.clear();
+    anuncios.clear();
     foco.reset();
   }
 };

@@ -3,12 +3,15 @@
 #include <unistd.h>
 
 #include <fstream>
+#include <set>
 
 #include "captura/mdAjustesTramo.h"
 #include "captura/mdEtiquetas.h"
 #include "captura/mdFaltas.h"
 #include "captura/mdTipologias.h"
 #include "captura/mdValidaTramo.h"
+#include "comun/grabadoRoto.h"
+#include "comun/sinDerechos.h"
 #include "guion.h"
 #include "persistencia/mdDpe.h"
 
@@ -78,13 +81,10 @@ TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
 
   // A Tramo with a fault of its own, and a question that nobody is there to answer.
   b.e.tramo.Gr = 0.0;
-  {
-    FicheroRegistros f(carpeta / "obra.zrb", FicheroRegistros::Modo::LecturaEscritura);
-    EscribeTramo(f, b.e, b.c.lista, 2, ',');
-    CargaTramo(b.e, f, 1);
-    b.e.tramo.Fyd = 150.0;
-    EscribeTramo(f, b.e, b.c.lista, 1, ',');
-  }
+  EscribeTramo(*b.c.fichero, b.e, b.c.lista, 2, ',');
+  CargaTramo(b.e, *b.c.fichero, 1);
+  b.e.tramo.Fyd = 150.0;
+  EscribeTramo(*b.c.fichero, b.e, b.c.lista, 1, ',');
   const auto lista = ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {});
   ASSERT_EQ(lista.faltas.size(), 1U);
   EXPECT_EQ(lista.faltas[0].posicion, 2);
@@ -300,16 +300,6 @@ TEST(Sesion, UnTramoQueNoSeGuardaNoDejaRastroEnElFichero) {
   EXPECT_EQ(otra.c.lista.size(), 2u);
 }
 
-// Tramos 5 and 4: the new one is 5 again, and takes a block of its own.
-// The administrator of a machine may read every file; as anybody else, this one cannot be written.
-class SinDerechos {
- public:
-  SinDerechos() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
-  ~SinDerechos() { EXPECT_TRUE(::geteuid() == ::getuid() || ::seteuid(::getuid()) == 0); }
-  SinDerechos(const SinDerechos&) = delete;
-  SinDerechos& operator=(const SinDerechos&) = delete;
-};
-
 TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   const Carpeta carpeta;
   const auto ruta = carpeta / "ajena.zrb";
@@ -320,28 +310,101 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   std::filesystem::permissions(ruta, std::filesystem::perms::owner_read |
                                          std::filesystem::perms::group_read |
                                          std::filesystem::perms::others_read);
-  const SinDerechos sinDerechos;
+  const pruebas::SinDerechos sinDerechos;
   Banco b;
   ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
   EXPECT_EQ(b.c.lista.size(), 2u);
   b.Teclea(Ed::edTramo, "1");
   b.Teclea(Ed::edDescriTramo, "Otro");
   EXPECT_FALSE(AccionGrabaTramo(b.c));
-  EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: no se puede escribir: Permission denied"),
-            std::string::npos)
+  EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"), std::string::npos)
       << b.voz.Ultimo();
   EXPECT_TRUE(b.c.EnCambio());
   EXPECT_EQ(b.c[Ed::edDescriTramo].texto, "Otro");
 }
 
+TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
+  const Carpeta carpeta;
+  const auto ruta = carpeta / "o.zrb";
+  Banco b;
+  ObraDeDosTramos(b, ruta.string());
+  {
+    FicheroRegistros f(RutaDpe(ruta), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
+  }
+  const std::string antes = pruebas::Bytes(ruta);
+  Banco otra;
+  otra.voz.responde = false;
+  EXPECT_FALSE(AbreObra(otra.c, ruta));
+  ASSERT_EQ(otra.voz.preguntas.size(), 1u);
+  EXPECT_NE(otra.voz.preguntas[0].texto.find("lo tiene abierto"), std::string::npos);
+  EXPECT_NE(otra.voz.preguntas[0].texto.find(std::to_string(::getpid())), std::string::npos);
+  EXPECT_FALSE(otra.c.ObraCargada);
+  EXPECT_FALSE(otra.c.fichero);
+
+  otra.voz.responde = true;
+  ASSERT_TRUE(AbreObra(otra.c, ruta)) << otra.voz.Ultimo();
+  EXPECT_TRUE(otra.c.SoloLectura());
+  ASSERT_EQ(otra.voz.anuncios.size(), 1u);
+  EXPECT_NE(otra.voz.anuncios[0].find("sólo para lectura"), std::string::npos);
+  otra.Teclea(Ed::edTramo, "1");
+  otra.Teclea(Ed::edGr0, "1,9");
+  EXPECT_TRUE(ValidaTramo(otra.c, true)) << otra.voz.Ultimo();
+  EXPECT_FALSE(AccionGrabaTramo(otra.c));
+  EXPECT_NE(otra.voz.Ultimo().find("o.zrb: está abierto sólo para lectura"), std::string::npos);
+  EXPECT_FALSE(AccionGrabaObra(otra.c));
+  EXPECT_FALSE(GrabaTramo(otra.c));
+  EXPECT_FALSE(LeeAjustes(RutaDpe(ruta))[0].Libre());  // those are the other program's too
+  EXPECT_EQ(pruebas::Bytes(ruta), antes);
+  otra.voz.responde = false;
+  EXPECT_FALSE(CierraFormulario(otra.c));
+  EXPECT_FALSE(CierraObra(otra.c));
+  otra.voz.responde = true;
+  EXPECT_TRUE(CierraObra(otra.c));
+  EXPECT_NE(otra.voz.preguntas.back().texto.find("se perderá"), std::string::npos);
+
+  EXPECT_TRUE(AccionGrabaObra(b.c));  // the one that has it goes on
+  EXPECT_TRUE(CierraObra(b.c));
+  ASSERT_TRUE(AbreObra(otra.c, ruta));
+  EXPECT_FALSE(otra.c.SoloLectura());
+}
+
+TEST(Sesion, UnGrabadoQueSeRompioSeDeshaceAlAbrirYSeAnunciaEnSuIdioma) {
+  const Carpeta carpeta;
+  const auto ruta = carpeta / "o.zrb";
+  Banco b;
+  ObraDeDosTramos(b, ruta.string());
+  ASSERT_TRUE(CierraObra(b.c));
+  const std::string antes = pruebas::Bytes(ruta);
+  std::set<std::string> distintos;
+  for (std::int16_t idioma = 1; idioma <= 5; ++idioma) {
+    pruebas::DejaCabeceraAMedias(ruta);
+    ASSERT_NE(pruebas::Bytes(ruta), antes);
+    b.textos.PonIdioma(idioma);
+    b.Olvida();
+    ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
+    EXPECT_EQ(b.c[Ed::edObra].texto, "Traida de aguas");
+    ASSERT_EQ(b.voz.anuncios.size(), 1u);
+    EXPECT_NE(b.voz.anuncios[0].find(ruta.string()), std::string::npos);
+    EXPECT_TRUE(b.voz.mensajes.empty());
+    distintos.insert(b.voz.anuncios[0]);
+    EXPECT_EQ(pruebas::Bytes(ruta), antes);
+    EXPECT_TRUE(CierraObra(b.c));
+  }
+  EXPECT_EQ(distintos.size(), 5u);
+}
+
+// Tramos 5 and 4: the new one is 5 again, and takes a block of its own.
 TEST(Sesion, UnNumeroRepetidoNoPisaElTramoDeOtro) {
   const Carpeta carpeta;
   Banco b;
   ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  ASSERT_TRUE(CierraObra(b.c));
   {
     FicheroRegistros f(carpeta / "o.zrb", FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(21, "5");
     f.EscribeRegistro(81, "4");
+    f.Vacia();
   }
   Banco otra;
   ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));

@@ -10,6 +10,7 @@
 
 #include "comun/comparaFichero.h"
 #include "comun/estadoDeJson.h"
+#include "comun/grabadoRoto.h"
 #include "persistencia/mdDpe.h"
 #include "persistencia/mdZrb.h"
 
@@ -52,6 +53,7 @@ class Linea : public testing::Test {
     fs::copy_file(acequia, copia, fs::copy_options::overwrite_existing);
     FicheroRegistros f(copia, FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(registro, texto);
+    f.Vacia();
     return copia.string();
   }
 };
@@ -108,6 +110,26 @@ TEST_F(Linea, UnFicheroRechazadoNoEscribeNada) {
   EXPECT_EQ(std::count(r.quejas.begin(), r.quejas.end(), '\n'), 1);
   EXPECT_FALSE(fs::exists(fichero));
   EXPECT_EQ(Llama("calcula /no/hay.zrb").codigo, 1);
+}
+
+// Whoever only reads neither waits for the program that has the file nor mends what it left.
+TEST_F(Linea, UnGrabadoAMediasSeLeeComoAntesYSeDice) {
+  const auto copia = carpeta / "copia.zrb";
+  fs::copy_file(acequia, copia);
+  const std::string palabras = "calcula " + copia.string() + " --tramo 1 --separador coma";
+  const auto sana = Llama(palabras);
+  {
+    const FicheroRegistros otro(copia, FicheroRegistros::Modo::LecturaEscritura);
+    EXPECT_EQ(Llama(palabras).quejas, "");
+  }
+  pruebas::DejaCabeceraAMedias(copia);
+  const std::string rota = Lee(copia);
+  const auto r = Llama(palabras);
+  EXPECT_EQ(r.codigo, 0);
+  EXPECT_EQ(r.salida, sana.salida);
+  EXPECT_NE(r.quejas.find("copia.zrb: el último grabado no llegó a terminar"), std::string::npos);
+  EXPECT_EQ(Lee(copia), rota);
+  EXPECT_TRUE(fs::exists(RutaDiario(copia)));
 }
 
 // Strength of the concrete, record 30 of the block; the pressure of the Obra, record 8.

@@ -216,6 +216,7 @@ struct Despacho {
     if (registro != 0) {
       FicheroRegistros f(carpeta / "acequia.zrb", FicheroRegistros::Modo::LecturaEscritura);
       f.EscribeRegistro(registro, texto);
+      f.Vacia();
     }
     EXPECT_TRUE(AbreObra(b.c, carpeta / "acequia.zrb"));
   }

@@ -66,8 +66,9 @@ class DpeAbierto : public testing::Test {
     }
   }
   void Pon(int registro, const std::string& texto) const {
-    FicheroRegistros(ruta, FicheroRegistros::Modo::LecturaEscritura)
-        .EscribeRegistro(registro, texto);
+    FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    f.EscribeRegistro(registro, texto);
+    f.Vacia();
   }
   std::string Registro(int n) const {
     return FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura).LeeRegistro(n);

@@ -31,10 +31,12 @@ class Zrb : public testing::Test {
 
   void Escribe(const std::vector<EstadoCalculo>& tramos, const ListaTramos& lista, char separador) {
     FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    Transaccion juntos(f);
     EscribeObra(f, tramos.at(0), lista, textos, separador);
     for (std::size_t i = 0; i < tramos.size(); ++i) {
       EscribeTramo(f, tramos[i], lista, static_cast<int>(i) + 1, separador);
     }
+    juntos.Confirma();
   }
 
   // Overwrites a record with raw bytes: a length and what follows it.

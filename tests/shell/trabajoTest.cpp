@@ -34,6 +34,7 @@ struct Oficina {
     if (registro != 0) {
       FicheroRegistros f(obra, FicheroRegistros::Modo::LecturaEscritura);
       f.EscribeRegistro(registro, texto);
+      f.Vacia();
     }
     EXPECT_TRUE(AbreObra(b.c, obra)) << b.voz.Ultimo();
     medios.registros = carpeta / "registros";
@@ -335,6 +336,7 @@ TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
   {
     FicheroRegistros f(RutaDpe(o.obra), FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(1, "x");
+    f.Vacia();
   }
   const auto sinAjustes = ResumeTramo(o.b.c, o.medios);
   EXPECT_EQ(sinAjustes.fin, FinTrabajo::Completo);

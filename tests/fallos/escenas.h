@@ -1,0 +1,83 @@
+// The program at work on an Obra in a folder, as a person does it: what it saves, and how the file
+// stands after each save. The ground of the tests of failing disks.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "captura/guion.h"
+#include "persistencia/mdDpe.h"
+
+namespace zorbin::fallos {
+
+namespace fs = std::filesystem;
+
+/// One run of the program.
+class Sesion {
+ public:
+  explicit Sesion(const fs::path& carpeta);
+
+  void Teclea(Ed campo, const std::string& texto);
+  void EligeElTramo(const std::string& numero);
+
+  fs::path carpeta;
+  EstadoCalculo e;
+  prueba::Guion voz;
+  Captura c;
+  std::optional<FicheroDpe> dpe;
+  std::string queja;  // of a save that was refused
+};
+
+struct Escena {
+  std::string nombre;
+  std::string fichero;                           // the one that is watched
+  std::function<void(const fs::path&)> prepara;  // the folder before the program starts
+  std::function<void(Sesion&)> abre;
+  std::vector<std::function<bool(Sesion&)>> grabados;
+};
+
+/// Of the header, of a Tramo, of a new one, two in a row, a new Obra, and of the adjustments.
+const std::vector<Escena>& Escenas();
+
+/// The file's bytes; none when there is no file.
+using Bytes = std::optional<std::string>;
+Bytes BytesDe(const fs::path& ruta);
+
+/// The file before the first save and after each of them, nothing failing.
+std::vector<Bytes> Estados(const Escena& escena, const fs::path& carpeta);
+
+/// Empties the folder and prepares it.
+void Prepara(const Escena& escena, const fs::path& carpeta);
+
+/// Opens the file as the program does and closes it. @return its bytes
+Bytes AbreYCierra(const Escena& escena, const fs::path& carpeta);
+
+/// Which of the states these bytes are; -1 when none: the file is torn.
+int Indice(const std::vector<Bytes>& estados, const Bytes& bytes);
+
+/// Names in the folder, in order, with a blank after each.
+std::string Nombres(const fs::path& carpeta);
+
+/// Names and bytes of all its files.
+std::string Contenido(const fs::path& carpeta);
+
+/// A folder of its real name, which goes away with the process that made it. What is synced in it
+/// is not waited for.
+class CarpetaReal {
+ public:
+  explicit CarpetaReal(const std::string& nombre);
+  ~CarpetaReal();
+  CarpetaReal(const CarpetaReal&) = delete;
+  CarpetaReal& operator=(const CarpetaReal&) = delete;
+  const fs::path& ruta() const { return ruta_; }
+  /// No call fails from now on.
+  void Sana() const;
+
+ private:
+  fs::path ruta_;
+};
+
+}  // namespace zorbin::fallos
