@@ -565,6 +565,7 @@ bool PreparaCalculo(Captura& c, bool ajuste) {
     Avisa(c, txt::DebeSalvarObra);
     return false;
   }
+  if (ajuste && NiegaGrabar(c)) return false;
   if (ajuste && c.EnCambio()) {
     Avisa(c, txt::DebeSalvarCambios);
     return false;

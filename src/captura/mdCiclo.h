@@ -61,7 +61,7 @@ void LeeTramo(Captura& c, int posicion);
 int PosicionDelTramo(const Captura& c, int numero);
 
 /// What stands before a calculation or an adjustment: validates, asks for a file and, for an
-/// adjustment, for no unsaved edits. @return whether it may go on
+/// adjustment, for no unsaved edits and a file that may be written. @return whether it may go on
 bool PreparaCalculo(Captura& c, bool ajuste);
 
 }  // namespace zorbin
