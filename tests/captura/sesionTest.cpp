@@ -355,7 +355,7 @@ TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
   EXPECT_FALSE(AccionGrabaObra(otra.c));
   EXPECT_FALSE(GrabaTramo(otra.c));
   EXPECT_TRUE(PreparaCalculo(otra.c, false)) << otra.voz.Ultimo();
-  EXPECT_FALSE(PreparaCalculo(otra.c, true));  // adjusting writes beside the Obra
+  EXPECT_FALSE(PreparaCalculo(otra.c, true));          // adjusting writes beside the Obra
   EXPECT_FALSE(LeeAjustes(RutaDpe(ruta))[0].Libre());  // those are the other program's too
   EXPECT_EQ(pruebas::Bytes(ruta), antes);
   otra.voz.responde = false;
