@@ -1,6 +1,7 @@
 #include "persistencia/mdDescriptor.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,12 +29,18 @@ Causa CausaDe(long resultado) {
   return resultado < 0 ? errno : 0;
 }
 
-// A pipe has no positions.
+// A pipe has no positions. While somebody has it to write into, it is waited for; without anybody
+// it is at its end.
 ssize_t LeeEn(const Descriptor& d, char* destino, std::size_t n, std::size_t desde) {
   const auto leidos =
       Repite([&] { return ::pread(d.numero(), destino, n, static_cast<off_t>(desde)); });
   if (leidos >= 0 || errno != ESPIPE) return leidos;
-  return Repite([&] { return ::read(d.numero(), destino, n); });
+  const auto lee = [&] { return Repite([&] { return ::read(d.numero(), destino, n); }); };
+  auto deTuberia = lee();
+  for (pollfd espera{d.numero(), POLLIN, 0}; deTuberia < 0 && errno == EAGAIN; deTuberia = lee()) {
+    static_cast<void>(::poll(&espera, 1, -1));
+  }
+  return deTuberia;
 }
 
 // A file system that does not know how to take a name only where it is free.

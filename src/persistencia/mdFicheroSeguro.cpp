@@ -83,9 +83,9 @@ FicheroSeguro::FicheroSeguro(const fs::path& ruta, PideCerrojo pide)
   AvisaDeCarpeta();
 }
 
-FicheroSeguro::~FicheroSeguro() {
+Provisional::~Provisional() {
   // The disk may refuse it: the next file of that name takes it over.
-  if (!provisional_.empty()) static_cast<void>(BorraFichero(provisional_));
+  if (hay()) static_cast<void>(BorraFichero(ruta_));
 }
 
 void FicheroSeguro::AbreExistente(PideCerrojo pide) {
@@ -122,7 +122,7 @@ void FicheroSeguro::AbreNuevo(PideCerrojo pide) {
     TomaOSeNiega(pide);
     if (!EsElMismo(d_, provisional) && i < kIntentosAbrir) d_.Cierra();
   }
-  provisional_ = provisional;
+  provisional_.Pon(provisional);
   for (auto& aviso : RetiraDiario(ruta_, nombre_)) avisos_.push_back(std::move(aviso));
 }
 
@@ -148,11 +148,11 @@ void FicheroSeguro::AvisaDeCarpeta() {
 
 void FicheroSeguro::PreparaGrabado() {
   diarioListo_ = true;
-  if (provisional_.empty()) static_cast<void>(diario_->Prepara(permisos_));
+  if (!provisional_.hay()) static_cast<void>(diario_->Prepara(permisos_));
 }
 
 void FicheroSeguro::Graba(const Bloques& bloques) {
-  if (!provisional_.empty()) return GrabaNuevo(bloques);
+  if (provisional_.hay()) return GrabaNuevo(bloques);
   DeshacePendiente();
   CompruebaQueSigueAhi();
   FijaNombre();
@@ -215,10 +215,10 @@ void FicheroSeguro::GrabaNuevo(const Bloques& bloques) {
   Causa causa = EscribeBytes(d_, bytes, 0);
   if (causa == 0) causa = Trunca(d_, bytes.size());
   if (causa == 0) causa = SincronizaDatos(d_);
-  if (causa == 0) causa = PonNombre(provisional_, ruta_);
+  if (causa == 0) causa = PonNombre(provisional_.ruta(), ruta_);
   if (causa == EEXIST) throw ErrorFichero({txt::NombreYaTomado, {nombre_}});
   if (causa != 0) throw Error(txt::NadaGrabado, nombre_, causa);
-  provisional_.clear();
+  provisional_.Olvida();
   contenido_ = bytes;
   largo_ = bytes.size();
   suma_ = SumaDeRegistros(contenido_);

@@ -30,6 +30,24 @@ class SoloParaLeer : public ErrorFichero {
   std::optional<Titular> titular_;
 };
 
+/// The name of a file that is in the making; it goes away with this, also when an opening fails.
+class Provisional {
+ public:
+  Provisional() = default;
+  ~Provisional();
+  Provisional(const Provisional&) = delete;
+  Provisional& operator=(const Provisional&) = delete;
+
+  void Pon(std::filesystem::path ruta) { ruta_ = std::move(ruta); }
+  /// The file has its own name from now on.
+  void Olvida() { ruta_.clear(); }
+  bool hay() const { return !ruta_.empty(); }
+  const std::filesystem::path& ruta() const { return ruta_; }
+
+ private:
+  std::filesystem::path ruta_;
+};
+
 class FicheroSeguro {
  public:
   /// Opens the file and undoes a save that did not come to its end. One that does not exist is made
@@ -37,7 +55,6 @@ class FicheroSeguro {
   /// @throws SoloParaLeer where another program has it, or its rights forbid it
   /// @throws ErrorFichero
   explicit FicheroSeguro(const std::filesystem::path& ruta, PideCerrojo pide = CerrojoDelSistema);
-  ~FicheroSeguro();
   FicheroSeguro(const FicheroSeguro&) = delete;
   FicheroSeguro& operator=(const FicheroSeguro&) = delete;
 
@@ -76,7 +93,7 @@ class FicheroSeguro {
   Cerrojo cerrojo_ = Cerrojo::SinCerrojos;
   std::optional<Marca> marca_;
   std::optional<Diario> diario_;
-  std::filesystem::path provisional_;  // name of a file that no save has made yet
+  Provisional provisional_;  // name of a file that no save has made yet
   bool nombrePorSincronizar_ = false;
   bool diarioListo_ = false;            // it is wanted before the first save
   std::optional<Cambios> porDeshacer_;  // of a save that could be neither finished nor undone

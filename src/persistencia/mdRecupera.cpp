@@ -176,7 +176,8 @@ std::vector<Mensaje> RetiraDiario(const fs::path& ruta, const std::string& nombr
 ContenidoLeido LeeSinEscribir(const fs::path& ruta) {
   const std::string nombre = ruta.string();
   Descriptor f;
-  if (const Causa causa = AbreFichero(f, ruta, O_RDONLY)) throw NoSeAbre(nombre, causa);
+  if (const Causa causa = AbreFichero(f, ruta, O_RDONLY | O_NONBLOCK | O_NOCTTY))
+    throw NoSeAbre(nombre, causa);
   struct stat datos;
   if (::fstat(f.numero(), &datos) != 0) throw NoSeAbre(nombre, errno);
   ContenidoLeido leido;

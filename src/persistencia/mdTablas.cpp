@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <charconv>
-#include <fstream>
 #include <functional>
 #include <optional>
 #include <string>
@@ -11,6 +10,7 @@
 
 #include "core/mdTextos.h"
 #include "persistencia/textosTablas.h"
+#include "recursos/mdContenido.h"
 
 namespace zorbin {
 
@@ -19,6 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kLineasCabecera = 3;
+constexpr std::size_t kMaxBytes = 256 * 1024;  // a full one has some 8 KiB
 constexpr std::size_t kAnchoValor = 4;
 constexpr double kPasoArmaduras = 5.0;  // of the series in use without TUB#ES [cm2/m]
 
@@ -51,16 +52,27 @@ std::optional<int> Entero(std::string_view texto) {
   return valor;
 }
 
-// Walks the lines of a file, without their CR. The caller gets the number of each from 1.
-void CadaLinea(const fs::path& ruta, const std::function<void(std::string_view, int)>& hace) {
-  std::error_code error;
-  std::ifstream f(ruta, std::ios::binary);
-  if (fs::is_directory(ruta, error) || !f) {
+std::string Contenido(const fs::path& ruta) {
+  std::string bytes;
+  if (LeeContenido(ruta, kMaxBytes, bytes) != 0) {
     throw ErrorFichero({txt::TablaNoSeAbre, {ruta.string()}, txt::AlAbrirElFichero});
   }
-  std::string linea;
-  for (int n = 1; std::getline(f, linea); ++n) {
-    if (!linea.empty() && linea.back() == '\r') linea.pop_back();
+  if (bytes.size() > kMaxBytes) {
+    throw ErrorFichero(
+        {txt::TablaDemasiado, {ruta.string(), TextoEntero(static_cast<int>(kMaxBytes / 1024))}});
+  }
+  return bytes;
+}
+
+// Walks the lines of a file, without their CR. The caller gets the number of each from 1.
+void CadaLinea(const fs::path& ruta, const std::function<void(std::string_view, int)>& hace) {
+  const std::string bytes = Contenido(ruta);
+  std::string_view resto = bytes;
+  for (int n = 1; !resto.empty(); ++n) {
+    const auto fin = std::min(resto.find('\n'), resto.size());
+    std::string_view linea = resto.substr(0, fin);
+    resto.remove_prefix(std::min(fin + 1, resto.size()));
+    if (linea.ends_with('\r')) linea.remove_suffix(1);
     hace(linea, n);
   }
 }

@@ -12,6 +12,7 @@
 #include <map>
 
 #include "persistencia/mdDescriptor.h"
+#include "recursos/mdContenido.h"
 
 namespace zorbin {
 
@@ -24,11 +25,18 @@ constexpr std::size_t kMaxDato = 128;    // bytes that are shown of a name
 constexpr std::string_view kCabecera = "ZORBIN 1";
 constexpr int kCampoArranque = 22;  // of /proc/PID/stat
 
+bool EsContinuacion(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
 // Lines can't be broken, nor a box overrun, by a name.
 std::string Legible(std::string_view texto) {
-  std::string limpio(texto.substr(0, kMaxDato));
+  std::string limpio = TextoLimpio(texto.substr(0, kMaxDato));
+  std::size_t fin = std::min(limpio.size(), kMaxDato);
+  while (fin > 0 && fin < limpio.size() && EsContinuacion(limpio[fin])) --fin;
+  limpio.resize(fin);
   std::replace_if(
-      limpio.begin(), limpio.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; }, ' ');
+      limpio.begin(), limpio.end(), [](unsigned char c) { return c < ' '; }, ' ');
   return limpio;
 }
 

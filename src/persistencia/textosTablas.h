@@ -12,6 +12,7 @@ inline constexpr int TablaNoSeAbre = 1165;
 inline constexpr int TablaMalFormada = 1166;
 inline constexpr int DemasiadasDimensiones = 1167;
 inline constexpr int DemasiadasArmaduras = 1168;
+inline constexpr int TablaDemasiado = 1450;  // {1} file, {2} KiB at most
 // clang-format on
 
 }  // namespace zorbin::txt

@@ -14,28 +14,15 @@ constexpr std::array<std::uint16_t, 32> kAltos{
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
-// One character of a UTF-8 text and its bytes; a broken sequence counts as one byte that no page
-// has.
-struct Caracter {
-  unsigned codigo;
-  std::size_t bytes;
-};
+constexpr CaracterUtf8 kSinCaracter{0xFFFD, 1};
 
-Caracter Siguiente(std::string_view resto) {
-  const auto b = static_cast<unsigned char>(resto[0]);
-  if (b < 0x80) return {b, 1};
-  const std::size_t n = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : 2;
-  if (b < 0xC2 || b > 0xF4 || resto.size() < n) return {0xFFFD, 1};
-  unsigned codigo = b & (0x7Fu >> n);
-  for (std::size_t i = 1; i < n; ++i) {
-    const auto c = static_cast<unsigned char>(resto[i]);
-    if ((c & 0xC0) != 0x80) return {0xFFFD, 1};
-    codigo = (codigo << 6) | (c & 0x3Fu);
-  }
-  return {codigo, n};
+// A character has one sequence only: a longer one for it is none, nor is half a surrogate pair.
+bool EsSuya(char32_t codigo, std::size_t bytes) {
+  const char32_t minimo = bytes == 4 ? 0x10000 : bytes == 3 ? 0x800 : 0x80;
+  return codigo >= minimo && codigo <= 0x10FFFF && !(codigo >= 0xD800 && codigo < 0xE000);
 }
 
-std::optional<char> ByteAnsi(unsigned codigo) {
+std::optional<char> ByteAnsi(char32_t codigo) {
   if (codigo < 0x80 || (codigo >= 0xA0 && codigo <= 0xFF)) return static_cast<char>(codigo);
   const auto alto = std::find(kAltos.begin(), kAltos.end(), codigo);
   if (alto == kAltos.end()) return std::nullopt;
@@ -72,6 +59,20 @@ void AnadeUtf8(std::string& texto, char32_t c) {
   }
 }
 
+CaracterUtf8 PrimerCaracter(std::string_view utf8) {
+  const auto b = static_cast<unsigned char>(utf8[0]);
+  if (b < 0x80) return {b, 1};
+  const std::size_t n = b >= 0xF0 ? 4 : b >= 0xE0 ? 3 : 2;
+  if (b < 0xC2 || b > 0xF4 || utf8.size() < n) return kSinCaracter;
+  auto codigo = static_cast<char32_t>(b & (0x7Fu >> n));
+  for (std::size_t i = 1; i < n; ++i) {
+    const auto c = static_cast<unsigned char>(utf8[i]);
+    if ((c & 0xC0) != 0x80) return kSinCaracter;
+    codigo = (codigo << 6) | (c & 0x3Fu);
+  }
+  return EsSuya(codigo, n) ? CaracterUtf8{codigo, n} : kSinCaracter;
+}
+
 std::optional<std::string> DeAnsi(std::string_view bytes) {
   std::string texto;
   for (const char c : bytes) {
@@ -85,7 +86,7 @@ std::optional<std::string> DeAnsi(std::string_view bytes) {
 TextoAnsi AAnsi(std::string_view utf8) {
   TextoAnsi r;
   while (!utf8.empty()) {
-    const Caracter c = Siguiente(utf8);
+    const CaracterUtf8 c = PrimerCaracter(utf8);
     const auto byte = ByteAnsi(c.codigo);
     if (!byte) {
       r.sobra = std::string(utf8.substr(0, c.bytes));

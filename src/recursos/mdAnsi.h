@@ -15,6 +15,14 @@ std::optional<char32_t> CaracterAnsi(unsigned char byte);
 /// pair, is added as U+FFFD.
 void AnadeUtf8(std::string& texto, char32_t c);
 
+/// The character that begins a UTF-8 text and its bytes; U+FFFD of one byte where none does.
+struct CaracterUtf8 {
+  char32_t codigo;
+  std::size_t bytes;
+};
+/// @param utf8  not empty
+CaracterUtf8 PrimerCaracter(std::string_view utf8);
+
 /// UTF-8 of a text in Windows-1252. No value when a byte stands for no character (0x81, 0x8D,
 /// 0x8F, 0x90, 0x9D).
 std::optional<std::string> DeAnsi(std::string_view bytes);

@@ -1,9 +1,12 @@
 #include "recursos/mdCatalogo.h"
 
 #include <array>
-#include <fstream>
+#include <charconv>
 #include <nlohmann/json.hpp>
+#include <system_error>
 #include <utility>
+
+#include "recursos/mdContenido.h"
 
 namespace zorbin {
 
@@ -11,33 +14,50 @@ namespace {
 
 constexpr std::array<std::string_view, kIdiomas> kFicheros{"es.json", "en.json", "ca.json",
                                                            "pt.json", "fr.json"};
+constexpr std::size_t kMaxBytes = 8 * 1024 * 1024;
+constexpr std::size_t kMaxCita = 200;  // bytes of what is wrong
 constexpr int kPrimerNombreIdioma = 101;
 constexpr int kUltimoNombreIdioma = 112;
 
+ErrorCatalogo Error(const std::filesystem::path& ruta, const std::string& causa) {
+  return ErrorCatalogo(TextoLimpio(ruta.string() + ": " + causa));
+}
+
+// Of a text that may be as long as the file.
+std::string Cita(std::string_view texto) {
+  return std::string(texto.substr(0, kMaxCita)) + (texto.size() > kMaxCita ? "..." : "");
+}
+
+// One way to write each: two keys are never one entry.
 int NumeroEntrada(const std::string& clave, const std::filesystem::path& ruta) {
-  try {
-    std::size_t fin = 0;
-    const int n = std::stoi(clave, &fin);
-    if (fin == clave.size() && n > 0 && n < kPasoIdioma) return n;
-  } catch (const std::exception&) {
+  int n = 0;
+  const auto fin = clave.data() + clave.size();
+  const auto r = std::from_chars(clave.data(), fin, n);
+  if (r.ec == std::errc{} && r.ptr == fin && n > 0 && n < kPasoIdioma && clave[0] != '0') return n;
+  throw Error(ruta, "\"" + Cita(clave) + "\" is not the number of an entry");
+}
+
+nlohmann::json LeeJson(const std::filesystem::path& ruta) {
+  std::string bytes;
+  if (const int causa = LeeContenido(ruta, kMaxBytes, bytes)) {
+    throw Error(ruta, std::generic_category().message(causa));
   }
-  throw ErrorCatalogo(ruta.string() + ": \"" + clave + "\" is not the number of an entry");
+  if (bytes.size() > kMaxBytes) throw Error(ruta, "too large for a catalogue of texts");
+  try {
+    return nlohmann::json::parse(bytes);
+  } catch (const nlohmann::json::exception& e) {
+    throw Error(ruta, "not a catalogue of texts: " + Cita(e.what()));
+  }
 }
 
 void LeeIdioma(const std::filesystem::path& ruta, int offset,
                std::unordered_map<int, std::string>& entradas) {
-  std::ifstream entrada(ruta, std::ios::binary);
-  nlohmann::json textos;
-  try {
-    textos = nlohmann::json::parse(entrada);
-  } catch (const nlohmann::json::exception& e) {
-    throw ErrorCatalogo(ruta.string() + ": not a catalogue of texts: " + e.what());
-  }
-  if (!textos.is_object()) throw ErrorCatalogo(ruta.string() + ": not an object of texts");
+  const nlohmann::json textos = LeeJson(ruta);
+  if (!textos.is_object()) throw Error(ruta, "not an object of texts");
   for (const auto& [clave, texto] : textos.items()) {
     const int n = NumeroEntrada(clave, ruta);
     if (!texto.is_string()) {
-      throw ErrorCatalogo(ruta.string() + ": entry " + clave + " is not a text");
+      throw Error(ruta, "entry " + clave + " is not a text");
     }
     entradas[n + offset] = texto.get<std::string>();
   }
@@ -51,7 +71,7 @@ Catalogo Catalogo::Lee(const std::filesystem::path& carpeta) {
     const auto lugar = static_cast<std::size_t>(i);
     const auto ruta = carpeta / kFicheros[lugar];
     if (!std::filesystem::exists(ruta)) {
-      if (i == 0) throw ErrorCatalogo(ruta.string() + ": the file does not exist");
+      if (i == 0) throw Error(ruta, "the file does not exist");
       continue;
     }
     c.porLeer_[lugar] = ruta;
@@ -112,7 +132,7 @@ std::string Catalogo::Compone(int n, const std::vector<std::string>& datos) cons
                        plantilla[i + 1] >= '1' && plantilla[i + 1] <= '9';
     const auto dato = marca ? static_cast<std::size_t>(plantilla[i + 1] - '1') : datos.size();
     if (dato < datos.size()) {
-      texto += datos[dato];
+      texto += TextoLimpio(datos[dato]);
       i += 2;
     } else {
       texto.push_back(plantilla[i]);

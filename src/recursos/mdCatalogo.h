@@ -58,7 +58,8 @@ class Catalogo {
   std::int16_t PonIdioma(std::int16_t idioma);
   int IdiomaOffset() const { return offset_; }
 
-  /// Entry `n` of the current language with its marks {1}, {2}... replaced by the data.
+  /// Entry `n` of the current language with its marks {1}, {2}... replaced by the data, which may
+  /// come from a file of anybody: of them it takes what TextoLimpio leaves.
   std::string Compone(int n, const std::vector<std::string>& datos) const;
   std::string Compone(const Mensaje& m) const;
 

@@ -1,12 +1,11 @@
 #include "recursos/mdRtf.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
 #include <system_error>
 #include <utility>
 
 #include "recursos/mdAnsi.h"
+#include "recursos/mdContenido.h"
 #include "recursos/mdRtfFichas.h"
 #include "recursos/mdRtfPalabras.h"
 #include "recursos/textosRtf.h"
@@ -203,21 +202,6 @@ ErrorRtf NoSeAbre(const fs::path& ruta, int causa) {
       {txt::DocumentoNoSeAbre, {ruta.string(), std::generic_category().message(causa)}});
 }
 
-// One byte more than a document may have, where there is one.
-std::string Contenido(const fs::path& ruta) {
-  std::error_code error;
-  if (fs::is_directory(ruta, error)) throw NoSeAbre(ruta, EISDIR);
-  if (fs::is_other(ruta, error)) throw NoSeAbre(ruta, EINVAL);  // a device may never end
-  errno = 0;
-  std::ifstream fichero(ruta, std::ios::binary);
-  if (!fichero) throw NoSeAbre(ruta, errno);
-  std::string bytes(kMaxBytesRtf + 1, '\0');
-  fichero.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (fichero.bad()) throw NoSeAbre(ruta, errno);
-  bytes.resize(static_cast<std::size_t>(fichero.gcount()));
-  return bytes;
-}
-
 }  // namespace
 
 DocumentoRtf InterpretaRtf(std::string_view bytes, const std::string& nombre) {
@@ -229,7 +213,9 @@ DocumentoRtf InterpretaRtf(std::string_view bytes, const std::string& nombre) {
 }
 
 DocumentoRtf LeeRtf(const fs::path& ruta) {
-  return InterpretaRtf(Contenido(ruta), ruta.string());
+  std::string bytes;
+  if (const int causa = LeeContenido(ruta, kMaxBytesRtf, bytes)) throw NoSeAbre(ruta, causa);
+  return InterpretaRtf(bytes, ruta.string());
 }
 
 }  // namespace zorbin

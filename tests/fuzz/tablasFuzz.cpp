@@ -1,0 +1,66 @@
+// The manufacturers' tables, TUB#GM, TUB#ES and TUB#PM with a form feed between them, and the rules
+// of a sound Obra over them.
+#include <array>
+#include <cmath>
+
+#include "captura/mdFaltas.h"
+#include "fuzz/comun.h"
+
+namespace zorbin::hostil {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<const char*, 3> kNombres{"TUB#GM", "TUB#ES", "TUB#PM"};
+
+void ExigeTablas(const TablasCatalogo& t) {
+  Exige(t.NumDiametros() <= kMaxDimensiones, "rows are limited");
+  Exige(t.NumArmaduras() >= 1 && t.NumArmaduras() <= kMaxArmaduras, "there is a series");
+  Exige(t.MaxAnchoZanja >= 0 && t.MaxAnchoZanja <= 99, "the width is of two digits");
+  for (const auto& fila : t.TablaDimensiones) {
+    for (const auto& g : fila.grupos) {
+      Exige(g.Reci >= 0 && g.Rece >= 0 && g.Esp >= 0 && g.Esp <= 9999, "values are of four digits");
+    }
+  }
+  for (const double a : t.TablaArmaduras) Exige(a >= 0 && a < 1e9, "areas are areas");
+}
+
+void Usa(const TablasCatalogo& t) {
+  Catalogo& textos = TextosParaCambiar();
+  const auto faltas = ValidaObraEnFichero(ZORBIN_FUENTES "muestras/acequia.zrb", textos, t, {});
+  for (const auto& p : faltas.preguntas) Exige(EsTextoLimpio(p.texto), "a question is clean text");
+  for (const auto& [posicion, tramo] : faltas.tramos) {
+    for (const double v : {tramo.Esp, tramo.Reci, tramo.Rece, tramo.De, tramo.B0}) {
+      Exige(std::isfinite(v), "a dimension is a number");
+    }
+  }
+}
+
+void PruebaTablas(std::string_view datos) {
+  VaciaCarpeta();
+  for (const char* nombre : kNombres) {
+    const auto corte = std::min(datos.find('\f'), datos.size());
+    Pon(Carpeta() / nombre, datos.substr(0, corte));
+    if (corte == datos.size()) break;
+    datos.remove_prefix(corte + 1);
+  }
+  const auto t = LeeTablas(Carpeta());
+  ExigeTablas(t);
+  Usa(t);
+}
+
+}  // namespace
+
+}  // namespace zorbin::hostil
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
+  using namespace zorbin;
+  using namespace zorbin::hostil;
+  try {
+    PruebaTablas(Vista(datos, largo));
+  } catch (const ErrorFichero& error) {
+    ExigeClaro(error.mensaje(), Carpeta());
+  }
+  return 0;
+}

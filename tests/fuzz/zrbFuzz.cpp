@@ -1,0 +1,242 @@
+// An Obra: opened as the command line opens it, validated, calculated for some Casos, and each of
+// its Tramos chosen and saved at the capture, which then finds what it saved.
+#include <cmath>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "captura/mdCiclo.h"
+#include "captura/mdEdicion.h"
+#include "captura/mdFaltas.h"
+#include "captura/mdPresenta.h"
+#include "core/mdUnidades.h"
+#include "fuzz/comun.h"
+#include "listados/mdJson.h"
+
+namespace zorbin::hostil {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMaxCasos = 2;                 // of a Tramo
+constexpr std::size_t kMaxTramosUsados = 2;  // of an Obra
+
+const TablasCatalogo& Tablas() {
+  static const TablasCatalogo tablas = LeeTablas(ZORBIN_FUENTES "recursos/tablas");
+  return tablas;
+}
+
+// ---- The state
+
+constexpr auto kNumerosObra = std::to_array(
+    {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
+     &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI});
+constexpr auto kNumerosTramo =
+    std::to_array({&Tramo::Adato,       &Tramo::Coepre1,     &Tramo::CamMax,     &Tramo::Fck,
+                   &Tramo::Fct,         &Tramo::Fyk,         &Tramo::Fyd,        &Tramo::GamaB,
+                   &Tramo::Delca,       &Tramo::Es,          &Tramo::Ep,         &Tramo::Fckno,
+                   &Tramo::Fckn,        &Tramo::Fckr,        &Tramo::SFck,       &Tramo::Sf,
+                   &Tramo::FYKPost,     &Tramo::Rel,         &Tramo::Fic,        &Tramo::Fir,
+                   &Tramo::Epsc,        &Tramo::Epsr,        &Tramo::Di,         &Tramo::De,
+                   &Tramo::Esp,         &Tramo::Reci,        &Tramo::Rece,       &Tramo::Gc,
+                   &Tramo::B0,          &Tramo::Gr,          &Tramo::Fi,         &Tramo::Hr1,
+                   &Tramo::QDato,       &Tramo::Prs1Tram,    &Tramo::Prs2Tram,   &Tramo::Prs3Tram,
+                   &Tramo::PrsM1Tram,   &Tramo::PrsM2Tram,   &Tramo::Hr0Tramo,   &Tramo::Hr0Final,
+                   &Tramo::Hr0Delta,    &Tramo::Prs1TramSI,  &Tramo::Prs2TramSI, &Tramo::Prs3TramSI,
+                   &Tramo::PrsM1TramSI, &Tramo::PrsM2TramSI, &Tramo::FckSI,      &Tramo::FctSI,
+                   &Tramo::FykSI,       &Tramo::FydSI,       &Tramo::QDatoSI,    &Tramo::EsSI,
+                   &Tramo::EpSI,        &Tramo::FcknoSI,     &Tramo::FcknSI,     &Tramo::FckrSI,
+                   &Tramo::SFckSI,      &Tramo::SfSI,        &Tramo::FYKPostSI});
+
+void ExigeFinitos(const Obra& o) {
+  for (const auto campo : kNumerosObra) Exige(std::isfinite(o.*campo), "the Obra holds numbers");
+}
+
+void ExigeFinitos(const Tramo& t) {
+  for (const auto campo : kNumerosTramo) Exige(std::isfinite(t.*campo), "the Tramo holds numbers");
+}
+
+void ExigeTextosLimpios(const EstadoCalculo& e) {
+  for (const auto& texto : {e.obra.NombreObra, e.obra.Cliente, e.tramo.DescriTramo}) {
+    Exige(EsTextoLimpio(texto), "a text that is shown is clean", texto);
+  }
+}
+
+// ---- The run
+
+struct Basta {};
+
+// The JSON of some Casos; every number of it must be one.
+class Lector : public OyenteObra {
+ public:
+  explicit Lector(const fs::path& ruta) : json_(flujo_, ruta.string(), Textos(), {true, ','}) {}
+  void EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) override {
+    json_.EmpiezaObra(e);
+    json_.EmpiezaTramo(e, posicion, numero);
+  }
+  void Caso(const EstadoCalculo& e) override {
+    json_.Caso(e);
+    if (++casos_ == kMaxCasos) throw Basta{};
+  }
+  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
+    json_.AcabaTramo(e, fallo);
+    json_.AcabaObra();
+    Exige(nlohmann::json::accept(flujo_.str()), "results are numbers", flujo_.str());
+  }
+
+ private:
+  std::ostringstream flujo_;
+  ListadoJson json_;
+  int casos_ = 0;
+};
+
+void Corre(EstadoCalculo e, const fs::path& ruta, int posicion, const std::string& numero) {
+  Lector lector(ruta);
+  const std::array<OyenteCorrida*, 1> oyentes{&lector};
+  lector.EmpiezaTramo(e, posicion, numero);
+  try {
+    const EnUnidadesDeCalculo unidades(e);
+    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+  } catch (const ErrorCorrida& fallo) {
+    return lector.AcabaTramo(e, &fallo);
+  } catch (const Basta&) {
+  }
+  lector.AcabaTramo(e, nullptr);
+}
+
+// ---- The rules
+
+void CorreValidados(const EstadoCalculo& e, const ObraEnFichero& obra, const ListaFaltas& lista,
+                    const fs::path& ruta) {
+  std::size_t usados = 0;
+  for (const auto& [posicion, tramo] : lista.tramos) {
+    ExigeFinitos(tramo);
+    if (!lista.Vale(posicion) || ++usados > kMaxTramosUsados) continue;
+    EstadoCalculo x = e;
+    PonComprobada(x.obra, lista.obra);
+    x.tramo = tramo;
+    Corre(std::move(x), ruta, posicion, obra.lista[static_cast<std::size_t>(posicion - 1)]);
+  }
+}
+
+void ExigeFaltasClaras(const ListaFaltas& lista) {
+  for (const auto& f : lista.faltas) {
+    Exige(!f.mensaje.empty() && EsTextoLimpio(f.mensaje + f.titulo + f.valor + f.numero),
+          "a fault is told in clean text", f.mensaje);
+  }
+}
+
+void Valida(const EstadoCalculo& e, const ObraEnFichero& obra, const fs::path& ruta) {
+  Catalogo& textos = TextosParaCambiar();
+  const auto lista = ValidaObraEnFichero(ruta, textos, Tablas(), {});
+  ExigeFaltasClaras(lista);
+  ExigeFinitos(lista.obra);
+  CorreValidados(e, obra, lista, ruta);
+}
+
+// ---- The capture
+
+class Asiente : public Interlocutor {
+ public:
+  void Muestra(const std::string& texto, const std::string&) override {
+    Exige(EsTextoLimpio(texto), "a message is clean text", texto);
+    ultimo = texto;
+  }
+  bool Pregunta(const std::string&, const std::string&) override { return true; }
+  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+  void VaA(Ed) override {}
+  std::string ultimo;
+};
+
+// Opens the Obra at the capture, chooses a Tramo and saves it. @return whether it was saved
+bool GrabaTramoDe(const fs::path& ruta, const std::string& numero, std::string& queja) {
+  EstadoCalculo e;
+  Catalogo& textos = TextosParaCambiar();
+  Asiente voz;
+  Captura c(e, textos, Tablas(), voz, ',');
+  PreparaPantalla(c);
+  Exige(AbreObra(c, ruta), "what is read can be opened", voz.ultimo);
+  Escribe(c, Ed::edTramo, numero);
+  EligeTramo(c);
+  const bool grabado = c.EnModificaciones() && AccionGrabaTramo(c);
+  queja = voz.ultimo;
+  return grabado;
+}
+
+// The first record that is not the same; empty when all are. Two may differ: the surge, which the
+// format keeps as a word of the language of the Obra and reads in Spanish, and the increment of a
+// Tramo without heights of its own, which follows the Obra's one save later and is of no use.
+std::string Diferencia(const std::string& una, const std::string& otra) {
+  constexpr std::size_t kGolpe = 4, kIncremento = 76, kPaso = 60;
+  for (std::size_t n = 1; (n - 1) * kBytesRegistro < std::max(una.size(), otra.size()); ++n) {
+    const auto a = una.substr(std::min((n - 1) * kBytesRegistro, una.size()), kBytesRegistro);
+    const auto b = otra.substr(std::min((n - 1) * kBytesRegistro, otra.size()), kBytesRegistro);
+    const bool puede = n == kGolpe || n % kPaso == kIncremento % kPaso;
+    if (a != b && !puede) return std::to_string(n) + ": " + a + " | " + b;
+  }
+  return {};
+}
+
+void Graba(const fs::path& ruta, const std::string& numero) {
+  const std::string antes = Bytes(ruta);
+  std::string queja;
+  if (!GrabaTramoDe(ruta, numero, queja)) {
+    Exige(Bytes(ruta) == antes, "what is not saved is not touched");
+    return;
+  }
+  try {
+    EstadoCalculo e;
+    AbreObra(e, ruta);
+  } catch (const ErrorFichero& error) {
+    Exige(false, "what was saved can be read", Textos().Compone(error.mensaje()));
+  }
+  const std::string una = Bytes(ruta);
+  // Final pressures that follow from MDP may ask for an increment the second time.
+  const bool otraVez = GrabaTramoDe(ruta, numero, queja);
+  Exige(otraVez || !queja.empty(), "a refusal is told");
+  const std::string otra = Bytes(ruta);
+  Exige(Diferencia(una, otra).empty(), "saved again it is the same", Diferencia(una, otra));
+}
+
+// ---------------------------------------------------------------------------------------------
+
+void PruebaObra(const fs::path& ruta, const std::string& bytes) {
+  EstadoCalculo e;
+  const ObraEnFichero obra = AbreObra(e, ruta);
+  ExigeFinitos(e.obra);
+  std::size_t usados = 0;
+  for (std::size_t i = 0; i < obra.lista.size(); ++i) {
+    if (obra.lista[i].empty() || ++usados > kMaxTramosUsados) continue;
+    EstadoCalculo x = e;
+    CargaTramo(x, obra.fichero, static_cast<int>(i) + 1);
+    ExigeFinitos(x.tramo);
+    ExigeTextosLimpios(x);
+    Corre(x, ruta, static_cast<int>(i) + 1, obra.lista[i]);
+  }
+  Valida(e, obra, ruta);
+  Exige(Bytes(ruta) == bytes, "reading writes nothing");
+  usados = 0;
+  for (const auto& numero : obra.lista) {
+    if (!numero.empty() && ++usados <= kMaxTramosUsados) Graba(ruta, numero);
+  }
+}
+
+}  // namespace
+
+}  // namespace zorbin::hostil
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
+  using namespace zorbin;
+  using namespace zorbin::hostil;
+  VaciaCarpeta();
+  const auto ruta = Carpeta() / "obra.zrb";
+  const std::string bytes = FicheroDeRegistros(Vista(datos, largo));
+  Pon(ruta, bytes);
+  try {
+    PruebaObra(ruta, bytes);
+  } catch (const ErrorFichero& error) {
+    ExigeClaro(error.mensaje(), ruta);
+    Exige(Bytes(ruta) == bytes, "what is refused is not touched");
+  }
+  return 0;
+}
