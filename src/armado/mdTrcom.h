@@ -22,5 +22,8 @@ struct DatosSeccion {
 /// @param Aotra  area of the other face [cm2/m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia
 double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra);
+/// The same as one of many iterations of a search.
+/// @param quedan  rounds left to the whole search; SinConvergencia when there are no more
+double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra, int& quedan);
 
 }  // namespace zorbin

@@ -86,11 +86,9 @@ void MuestraVariable(Captura& c, Ed campo) {
 }
 
 void MuestraSinCero(Captura& c, Ed campo) {
-  if (Variable(c, campo) == 0.0) {
-    Escribe(c, campo, "");
-  } else {
-    MuestraVariable(c, campo);
-  }
+  MuestraVariable(c, campo);
+  // What the mask shows is what is saved: less than its last digit is a zero too.
+  if (NumeroTexto(c[campo].texto) == 0.0) Escribe(c, campo, "");
 }
 
 void Apaga(Captura& c, Ed campo) {

@@ -5,6 +5,7 @@
 #include "captura/mdOrdenes.h"
 #include "captura/mdTipologias.h"
 #include "captura/textosCaptura.h"
+#include "core/mdNumeros.h"
 
 namespace zorbin {
 
@@ -13,12 +14,9 @@ namespace {
 void MuestraNumeros(Captura& c, bool deObra) {
   for (const auto& fila : TablaCampos()) {
     if (fila.clase != Clase::Numero || (fila.obra != nullptr) != deObra) continue;
-    const double valor = Variable(c, fila.id);
-    if (valor == 0.0 && fila.ceroEnBlanco) {
-      Escribe(c, fila.id, "");
-    } else {
-      Escribe(c, fila.id, valor, fila.Lectura(c.EsSI()));
-    }
+    Escribe(c, fila.id, Variable(c, fila.id), fila.Lectura(c.EsSI()));
+    // Less than its last digit is a zero too: what is shown is what a save keeps.
+    if (fila.ceroEnBlanco && NumeroTexto(c[fila.id].texto) == 0.0) Escribe(c, fila.id, "");
   }
 }
 

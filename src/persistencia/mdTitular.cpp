@@ -31,12 +31,13 @@ bool EsContinuacion(char c) {
 
 // Lines can't be broken, nor a box overrun, by a name.
 std::string Legible(std::string_view texto) {
-  std::string limpio = TextoLimpio(texto.substr(0, kMaxDato));
+  std::string limpio(texto.substr(0, kMaxDato));
+  std::replace_if(
+      limpio.begin(), limpio.end(), [](unsigned char c) { return c < ' ' || c == 0x7f; }, ' ');
+  limpio = TextoLimpio(limpio);
   std::size_t fin = std::min(limpio.size(), kMaxDato);
   while (fin > 0 && fin < limpio.size() && EsContinuacion(limpio[fin])) --fin;
   limpio.resize(fin);
-  std::replace_if(
-      limpio.begin(), limpio.end(), [](unsigned char c) { return c < ' '; }, ' ');
   return limpio;
 }
 

@@ -1,6 +1,4 @@
 // A catalogue of texts: a file of its first language, and after a form feed one of the second.
-#include <nlohmann/json.hpp>
-
 #include "fuzz/comun.h"
 
 namespace zorbin::hostil {
@@ -11,10 +9,9 @@ constexpr std::size_t kMaxMensajeCatalogo = 2000;  // bytes
 
 // Every entry of an accepted file can be asked for by its number, as it stands in the file.
 void ExigeEntradas(const Catalogo& c, std::string_view json, int offset) {
-  const auto textos = nlohmann::json::parse(json);
-  for (const auto& [clave, texto] : textos.items()) {
+  for (const auto& [clave, texto] : TextosDeJson(json)) {
     const int n = std::stoi(clave);
-    Exige(std::to_string(n) == clave && c.LoadRes(n + offset) == texto.get<std::string>(),
+    Exige(std::to_string(n) == clave && c.LoadRes(n + offset) == texto,
           "an entry is found by its number", clave);
   }
 }

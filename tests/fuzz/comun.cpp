@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
 #include "persistencia/mdDiario.h"
 
@@ -143,6 +144,19 @@ void Pon(const fs::path& fichero, std::string_view bytes) {
 std::string Bytes(const fs::path& fichero) {
   std::ifstream f(fichero, std::ios::binary);
   return {std::istreambuf_iterator<char>(f), {}};
+}
+
+bool EsJson(std::string_view texto) {
+  return nlohmann::json::accept(texto);
+}
+
+std::vector<std::pair<std::string, std::string>> TextosDeJson(std::string_view json) {
+  std::vector<std::pair<std::string, std::string>> textos;
+  const auto objeto = nlohmann::json::parse(json);
+  for (const auto& [clave, texto] : objeto.items()) {
+    textos.emplace_back(clave, texto.get<std::string>());
+  }
+  return textos;
 }
 
 std::string FicheroDeRegistros(std::string_view datos) {

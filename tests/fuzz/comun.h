@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "persistencia/mdErrorFichero.h"
@@ -44,6 +45,10 @@ std::vector<std::string> NombresEnCarpeta();
 void Pon(const std::filesystem::path& fichero, std::string_view bytes);
 /// Empty for a file that is not there.
 std::string Bytes(const std::filesystem::path& fichero);
+
+bool EsJson(std::string_view texto);
+/// Keys and texts of a JSON object of texts.
+std::vector<std::pair<std::string, std::string>> TextosDeJson(std::string_view json);
 
 /// A file of numbered records. The bytes themselves, or, where they begin with a printable
 /// character, a text that is easier to mutate: a line for each record, one after another or from

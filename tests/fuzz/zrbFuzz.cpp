@@ -1,7 +1,6 @@
 // An Obra: opened as the command line opens it, validated, calculated for some Casos, and each of
 // its Tramos chosen and saved at the capture, which then finds what it saved.
 #include <cmath>
-#include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "captura/mdCiclo.h"
@@ -81,7 +80,7 @@ class Lector : public OyenteObra {
   void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
     json_.AcabaTramo(e, fallo);
     json_.AcabaObra();
-    Exige(nlohmann::json::accept(flujo_.str()), "results are numbers", flujo_.str());
+    Exige(EsJson(flujo_.str()), "results are numbers", flujo_.str());
   }
 
  private:
@@ -163,6 +162,11 @@ bool GrabaTramoDe(const fs::path& ruta, const std::string& numero, std::string& 
   return grabado;
 }
 
+std::string TextoDe(std::string_view registro) {
+  const std::string_view texto = registro.substr(std::min<std::size_t>(2, registro.size()));
+  return std::string(texto.substr(0, texto.find('\0')));
+}
+
 // The first record that is not the same; empty when all are. Two may differ: the surge, which the
 // format keeps as a word of the language of the Obra and reads in Spanish, and the increment of a
 // Tramo without heights of its own, which follows the Obra's one save later and is of no use.
@@ -172,7 +176,7 @@ std::string Diferencia(const std::string& una, const std::string& otra) {
     const auto a = una.substr(std::min((n - 1) * kBytesRegistro, una.size()), kBytesRegistro);
     const auto b = otra.substr(std::min((n - 1) * kBytesRegistro, otra.size()), kBytesRegistro);
     const bool puede = n == kGolpe || n % kPaso == kIncremento % kPaso;
-    if (a != b && !puede) return std::to_string(n) + ": " + a + " | " + b;
+    if (a != b && !puede) return std::to_string(n) + ": " + TextoDe(a) + " | " + TextoDe(b);
   }
   return {};
 }

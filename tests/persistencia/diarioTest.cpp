@@ -2,6 +2,7 @@
 // on.
 #include "persistencia/mdDiario.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -196,6 +197,10 @@ TEST_F(ConDiario, LoQueNoSeEntiendeOImpideLeerloSeRechazaSinTocarlo) {
   for (const Modo modo : {Modo::Lectura, Modo::LecturaEscritura}) {
     EXPECT_EQ(RechazoDeAbrir(modo), txt::DiarioMasNuevo);
   }
+  fs::rename(ruta, carpeta / "otra.zrb");
+  EXPECT_EQ(RechazoDeAbrir(), txt::DiarioMasNuevo);
+  EXPECT_FALSE(fs::exists(ruta.string() + "-nuevo"));  // what was begun is gone
+  fs::rename(carpeta / "otra.zrb", ruta);
   fs::remove(diario);
   fs::create_symlink("/etc/passwd", diario);
   EXPECT_EQ(RechazoDeAbrir(), txt::DiarioIlegible);
@@ -206,6 +211,27 @@ TEST_F(ConDiario, LoQueNoSeEntiendeOImpideLeerloSeRechazaSinTocarlo) {
   ASSERT_EQ(::mkfifo(diario.c_str(), 0600), 0);
   EXPECT_EQ(RechazoDeAbrir(), txt::DiarioIlegible);  // and it does not wait for a writer
   EXPECT_EQ(Bytes(ruta), roto);
+}
+
+// A pipe in the place of a file: one that nobody writes into is at its end, not waited for.
+TEST_F(ConDiario, UnaTuberiaSeLeeYSinNadieEnElOtroExtremoNoSeEspera) {
+  fs::remove(ruta);
+  ASSERT_EQ(::mkfifo(ruta.c_str(), 0600), 0);
+  EXPECT_EQ(FicheroRegistros(ruta, Modo::Lectura).UltimoRegistro(), 0);
+  const Descriptor salida(::open(ruta.c_str(), O_RDWR));
+  const pid_t otro = ::fork();
+  if (otro == 0) {
+    for (const char c : antes) {  // slowly at first, so that the reader has to wait
+      if (::write(salida.numero(), &c, 1) != 1) ::_exit(1);
+      if (&c == antes.data()) ::usleep(50'000);
+    }
+    ::_exit(0);
+  }
+  std::string bytes;
+  Descriptor entrada(::open(ruta.c_str(), O_RDONLY | O_NONBLOCK));
+  EXPECT_EQ(LeeBytes(entrada, antes.size(), bytes), 0);
+  EXPECT_EQ(bytes, antes);
+  ::waitpid(otro, nullptr, 0);
 }
 
 TEST_F(ConDiario, UnFicheroNuevoTomaSuNombreAlGrabarseYNoUnDiarioViejo) {

@@ -117,6 +117,21 @@ TEST_F(Tablas, CienEntradasYNiUnaMas) {
   EXPECT_EQ(Rechazo(), (std::pair<int, std::string>{txt::DemasiadasDimensiones, "104"}));
 }
 
+// A line without end, or lines without end, are not read to the end.
+TEST_F(Tablas, UnFicheroDesmedidoSeRechazaSinLeerlo) {
+  for (const char* nombre : {"TUB#GM", "TUB#ES", "TUB#PM"}) {
+    Pon(nombre, std::string(256 * 1024 + 1, '\n'));
+    EXPECT_EQ(Rechazo(), (std::pair<int, std::string>{txt::TablaDemasiado, "256"})) << nombre;
+    fs::resize_file(carpeta_ / nombre, std::uintmax_t{64} << 30);  // a hole: it takes no disk
+    EXPECT_EQ(Rechazo().first, txt::TablaDemasiado) << nombre;
+    fs::remove(carpeta_ / nombre);
+    Pon("TUB#GM", kCabecera + kFila);
+  }
+  fs::remove(carpeta_ / "TUB#GM");
+  fs::create_symlink("/dev/zero", carpeta_ / "TUB#GM");
+  EXPECT_EQ(Rechazo().first, txt::TablaNoSeAbre);
+}
+
 TEST(TablasDelPrograma, SonDeUnFabricanteDe300A3000) {
   const auto t = LeeTablas(ZORBIN_FUENTES "recursos/tablas");
   EXPECT_EQ(t.TablaDimensiones.front().Diametro, 300);

@@ -196,6 +196,26 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
 }
 
 // The adjustments are lost, and it is said; not the Obra.
+// A terminal obeys control characters: none of a file comes so far.
+TEST_F(Zrb, LosCaracteresDeControlNoLleganANingunaPantalla) {
+  Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
+  Estropea(5, Registro("una\r\ndos\ttres\x1b[2J\x7f"));
+  Estropea(22, Registro("a\bb"));
+  EstadoCalculo e;
+  const auto obra = AbreObra(e, ruta);
+  CargaTramo(e, obra.fichero, 1);
+  EXPECT_EQ(e.obra.NombreObra, "una\r\ndos\ttres [2J ");
+  EXPECT_EQ(e.tramo.DescriTramo, "a b");
+  Estropea(52, Registro("1,2\x1b]0;x\a"));
+  try {
+    AbreObra(e, ruta);
+    FAIL();
+  } catch (const ErrorFichero& error) {
+    const std::string queja = textos.Compone(error.mensaje());
+    EXPECT_NE(queja.find("«1,2\ufffd]0;x\ufffd»"), std::string::npos) << queja;
+  }
+}
+
 TEST_F(Zrb, UnFicheroDeAjustesDanadoNoSeLlevaLaObra) {
   Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
   for (const auto& [contenido, aviso] :
@@ -320,6 +340,11 @@ TEST_F(Zrb, CaracteresDeLaPaginaDeCodigos) {
   EXPECT_FALSE(DeAnsi("\x9d"));
   EXPECT_FALSE(AAnsi("a\xff").sobra.empty());  // broken UTF-8
   EXPECT_FALSE(AAnsi("\xe2\x82").sobra.empty());
+  // A letter has one way to be written, and half a pair is no character.
+  for (const char* malo :
+       {"\xe0\x81\x81", "\xf0\x80\x81\x81", "\xed\xa0\x80", "\xf4\x90\x80\x80"}) {
+    EXPECT_EQ(AAnsi(malo).sobra, std::string(malo, 1)) << malo;
+  }
 }
 
 TEST_F(Zrb, Los545TramosSeCarganYCalculan) {

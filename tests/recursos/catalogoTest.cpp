@@ -57,19 +57,35 @@ TEST(Catalogo, UnaEntradaQueFaltaSeVeYNoPara) {
   EXPECT_EQ(textos.PonIdioma(6), 1);
   EXPECT_EQ(textos.IdiomaOffset(), 0);
   EXPECT_EQ(textos.Compone(1122, {"--formato", "{1}"}), "el valor «{1}» no sirve para --formato");
+  EXPECT_EQ(textos.Compone(1122, {"\x1b[1m\xc2\x9b\xff", "a\nb\té"}),
+            "el valor «a\nb\té» no sirve para \ufffd[1m\ufffd\ufffd");
 }
 
 TEST(Catalogo, UnFicheroRotoSeRechazaPorSuNombre) {
   const auto carpeta = fs::temp_directory_path() / ("zorbin-textos-" + std::to_string(getpid()));
   fs::create_directories(carpeta);
   for (const char* malo :
-       {"", "{", "[]", R"({"x":"a"})", R"({"101":1})", R"({"9999":"a"})", "\xff\xfe"}) {
+       {"", "{", "[]", R"({"x":"a"})", R"({"101":1})", R"({"9999":"a"})", "\xff\xfe",
+        R"({"+12":"a"})", R"({" 12":"a"})", R"({"012":"a"})", "{\"1\":\"\x1b[2J\\uzzzz\"}"}) {
     std::ofstream(carpeta / "es.json", std::ios::binary) << malo;
     try {
       Catalogo::Lee(carpeta);
       ADD_FAILURE() << malo;
     } catch (const ErrorCatalogo& error) {
       EXPECT_NE(std::string(error.what()).find("es.json"), std::string::npos);
+      EXPECT_EQ(std::string(error.what()).find('\x1b'), std::string::npos);
+    }
+  }
+  // Neither the text that is quoted nor what is read grows with the file.
+  for (const auto& malo :
+       {"{\"1\":\"" + std::string(1 << 20, 'x'), std::string(9 << 20, ' '),
+        std::string(1 << 20, '['), "{\"" + std::string(1 << 20, 'y') + "\":\"\"}"}) {
+    std::ofstream(carpeta / "es.json", std::ios::binary) << malo;
+    try {
+      Catalogo::Lee(carpeta);
+      ADD_FAILURE() << malo.substr(0, 9);
+    } catch (const ErrorCatalogo& error) {
+      EXPECT_LT(std::string(error.what()).size(), 500u);
     }
   }
   fs::remove_all(carpeta);
