@@ -1,6 +1,5 @@
 #include "ajustes/mdHoja.h"
 
-
 #include "core/mdNumeros.h"
 #include "persistencia/mdFicheroSalida.h"
 

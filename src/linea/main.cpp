@@ -1,4 +1,5 @@
 // zorbin-calc: the calculation without a window.
+#include <cerrno>
 #include <clocale>
 #include <csignal>
 #include <iostream>
@@ -10,6 +11,7 @@
 #include "linea/mdValida.h"
 #include "linea/mdVigia.h"
 #include "linea/textosListaAjustes.h"
+#include "persistencia/mdDescriptor.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
@@ -40,7 +42,10 @@ class Ordenes {
     try {
       app_.parse(argc, argv);
     } catch (const CLI::Success& ayuda) {
-      return app_.exit(ayuda);
+      app_.exit(ayuda);
+      if (std::cout.flush()) return kHecho;
+      Queja(textos_.Compone(txt::SalidaNoSeEscribe, {"stdout", TextoDeCausa(errno)}));
+      return kSalidaImposible;
     } catch (const CLI::ParseError& error) {
       Queja(TextoPalabrasMalas(error, textos_) + ". " +
             textos_.Compone(txt::VeaLaAyuda, {"zorbin-calc"}));

@@ -301,9 +301,10 @@ void FormaPrincipal::ActualizaEstado() {
   const bool fichero = c_.e.obra.ObraAbierta;
   const QString ruta = fichero ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
   const QString nombre = fichero ? QFileInfo(ruta).fileName() : ruta;
-  setWindowTitle(nombre + QStringLiteral("[*] - ") + QString::fromLatin1(kTituloAplicacion));
+  setWindowTitle(EnTitulo(nombre) + QStringLiteral("[*] - ") +
+                 QString::fromLatin1(kTituloAplicacion));
   estadoObra_->setText(c_.EnCambio() ? ruta + "  -  " + texto(txt::SinGuardar) : ruta);
-  estadoObra_->setToolTip(ruta);
+  estadoObra_->setToolTip(Consejo(ruta));
   estadoUnidades_->setText(texto(c_.EsSI() ? txt::SistemaSI : txt::SistemaMKS));
   const QString tramo = texto(txt::RotTramo) + ' ' + Q(c_[Ed::edTramo].texto);
   estadoCaptura_->setText(c_.EnAltas()            ? tramo + ' ' + texto(txt::AltaDeTramo)
@@ -318,6 +319,7 @@ void FormaPrincipal::ActualizaRecientes() {
   for (const auto& ruta : rutas) {
     QString texto = QFileInfo(ruta).fileName() + " - " + QFileInfo(ruta).absolutePath();
     texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    texto.replace(QLatin1Char('\t'), QLatin1Char(' '));  // what follows one is taken for a key
     auto* accion = recientes_->addAction(QStringLiteral("&%1 ").arg(++n) + texto);
     connect(accion, &QAction::triggered, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
   }
@@ -336,7 +338,9 @@ void FormaPrincipal::Protege(const std::function<void()>& hace) {
   } catch (const ErrorFichero& error) {
     Avisa(this, c_.textos, Q(TextoDeError(c_, error)));
   } catch (const std::exception& error) {
-    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::CierraEjecucion, {error.what()})));
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, &error));
+  } catch (...) {
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, nullptr));
   }
   ocupada_ = false;
   if (captura_ != nullptr) captura_->Refresca();
@@ -471,6 +475,10 @@ void FormaPrincipal::closeEvent(QCloseEvent* suceso) {
   }
   entorno_.preferencias.GuardaVentana(kNombreVentana, *this);
   entorno_.preferencias.GuardaEstado(kNombreVentana, saveState());
+  if (!entorno_.preferencias.Guarda()) {
+    Avisa(this, c_.textos,
+          Q(c_.textos.Compone(txt::AjustesSinGuardar, {S(entorno_.preferencias.Fichero())})));
+  }
   suceso->accept();
   QApplication::closeAllWindows();
 }

@@ -43,6 +43,14 @@ QString EligeFamilia() {
   throw ErrorFuente("Courier New, Liberation Mono");
 }
 
+// A text for what shows it in one line, without control codes.
+QString EnUnaLinea(QString texto) {
+  for (QChar& letra : texto) {
+    if (letra.category() == QChar::Other_Control) letra = QLatin1Char(' ');
+  }
+  return texto.simplified();
+}
+
 // A file that fails, as the painter tells it.
 template <class Accion>
 auto EnFichero(const Accion& accion) {
@@ -172,7 +180,7 @@ HojasPdf::HojasPdf(const std::filesystem::path& fichero, const std::string& titu
     : papel_(papel), fichero_(EnFichero([&] { return std::make_unique<FicheroPdf>(fichero); })) {
   pdf_ = std::make_unique<QPdfWriter>(fichero_.get());
   pdf_->setResolution(kResolucion);
-  pdf_->setTitle(QString::fromStdString(titulo).simplified());
+  pdf_->setTitle(EnUnaLinea(QString::fromStdString(titulo)));
   pdf_->setCreator(QStringLiteral("ZORBIN"));
 }
 

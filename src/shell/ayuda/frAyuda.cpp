@@ -13,7 +13,7 @@
 #include <QWindow>
 
 #include "shell/ayuda/mdGuia.h"
-#include "shell/ayuda/mdVisorHtml.h"
+#include "shell/piezas/mdVisorHtml.h"
 #include "shell/ayuda/textosAyuda.h"
 #include "shell/piezas/mdQt.h"
 

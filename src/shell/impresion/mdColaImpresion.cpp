@@ -3,7 +3,10 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <memory>
+
+#include "persistencia/mdDescriptor.h"
 
 namespace zorbin {
 
@@ -76,10 +79,16 @@ Destino Busca(http_t* conexion, const std::string& impresora) {
       cupsGetNamedDest(conexion, cola.c_str(), instancia.empty() ? nullptr : instancia.c_str()));
 }
 
+// A server that hangs up leaves no error behind.
+std::string UltimaCausa() {
+  const std::string causa = cupsLastErrorString();
+  return causa.empty() || causa == TextoDeCausa(0) ? TextoDeCausa(ECONNRESET) : causa;
+}
+
 }  // namespace
 
 void EntregaACola(const TrabajoImpresion& trabajo) {
-  const auto falla = [&trabajo] { throw ErrorImpresora(trabajo.impresora, cupsLastErrorString()); };
+  const auto falla = [&trabajo] { throw ErrorImpresora(trabajo.impresora, UltimaCausa()); };
   const Conexion conexion = Conecta();
   if (!conexion) falla();
   const Destino destino = Busca(conexion.get(), trabajo.impresora);

@@ -15,7 +15,6 @@
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "protecciones/pantalla/Protecciones.h"
 #include "recursos/mdCarpetas.h"
-#include "recursos/mdRtf.h"
 #include "shell/ayuda/frAcercaDe.h"
 #include "shell/ayuda/frAyuda.h"
 #include "shell/ayuda/frmTip.h"
@@ -56,6 +55,7 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias)
     : preferencias_(std::move(preferencias)),
       textos_(Catalogo::Lee(CarpetaRecursos() / "textos")),
       impresora_(textos_, *preferencias_),
+      documentos_(DocumentosDelPrograma(textos_, RutaDocumento)),
       entorno_{textos_, tablas_, *preferencias_, impresora_, SeparadorDeLaMaquina()},
       voz_(textos_, *preferencias_) {
   EligeIdioma();
@@ -95,15 +95,17 @@ void Programa::Empieza() {
   });
 }
 
+void Programa::DiFallo(const std::exception* error) {
+  auto* delante = QApplication::activeModalWidget();
+  Avisa(delante != nullptr ? delante : ventana_.get(), textos_, TextoInesperado(textos_, error));
+}
+
 void Programa::Enlaza() {
   Pantallas p;
   auto* padre = ventana_.get();
   p.calculaTramo = [this, padre] { CalculaElTramo(*captura_, entorno_, padre); };
   p.imprimeObra = [this, padre] { ImprimeLaObra(*captura_, entorno_, padre); };
-  p.ajusta = [this, padre] {
-    AjustaArmaduras(
-        *captura_, entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre);
-  };
+  p.ajusta = [this, padre] { AjustaArmaduras(*captura_, entorno_, documentos_, padre); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };
@@ -113,8 +115,7 @@ void Programa::Enlaza() {
   };
   p.medidas = [this, padre] {
     if (protecciones_ == nullptr) {
-      protecciones_ = EnVentana(new Protecciones(
-          entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre));
+      protecciones_ = EnVentana(new Protecciones(entorno_, documentos_, padre));
     }
     Delante(*protecciones_);
   };
@@ -139,27 +140,15 @@ frAyuda& Programa::Ayuda() {
 }
 
 void Programa::MuestraAdvertencia(int modo) {
-  frmTip(
-      entorno_, modo, [this](int entrada) { return DocumentoHtml(entrada); }, ventana_.get())
-      .exec();
+  frmTip(entorno_, modo, documentos_, ventana_.get()).exec();
 }
 
 void Programa::Memoria() {
   MemoriaTecnica memoria;
   memoria.ruta = RutaDocumento(textos_.Texto(txt::NombreMemoria));
   memoria.carpetas = CarpetasDeLaSesion([](const char* v) { return std::getenv(v); });
-  memoria.documento = [this](int entrada) { return DocumentoHtml(entrada); };
+  memoria.documento = documentos_;
   MuestraMemoria(entorno_, memoria, ventana_.get());
-}
-
-// A document that cannot be read counts as missing: whoever shows it says so.
-QString Programa::DocumentoHtml(int entrada) const {
-  try {
-    const auto ruta = RutaDocumento(textos_.Texto(entrada));
-    return ruta.empty() ? QString() : Q(HtmlDeRtf(LeeRtf(ruta)));
-  } catch (const std::exception&) {
-    return {};
-  }
 }
 
 void Programa::RenuevaTextos() {

@@ -8,6 +8,7 @@
 
 #include "captura/mdCaptura.h"
 #include "shell/FormaPrincipal.h"
+#include "shell/ayuda/mdDocumento.h"
 #include "shell/impresion/mdImpresora.h"
 #include "shell/mdInterlocutorQt.h"
 #include "shell/piezas/mdEntorno.h"
@@ -32,6 +33,9 @@ class Programa : public QObject {
   /// Shows the window; a second later, the warning of the start where the person wants it.
   void Empieza();
 
+  /// Tells a failure that nobody foresaw. @param error  null for one without words
+  void DiFallo(const std::exception* error);
+
   FormaPrincipal& ventana() { return *ventana_; }
   Captura& captura() { return *captura_; }
   const Catalogo& textos() const { return textos_; }
@@ -41,6 +45,7 @@ class Programa : public QObject {
   Catalogo textos_;
   TablasCatalogo tablas_;
   Impresora impresora_;
+  DocumentoHtml documentos_;
   Entorno entorno_;
   InterlocutorQt voz_;
   EstadoCalculo estado_;
@@ -60,7 +65,6 @@ class Programa : public QObject {
   void MuestraAdvertencia(int modo);
   void Memoria();
   frAyuda& Ayuda();
-  QString DocumentoHtml(int entrada) const;
 };
 
 }  // namespace zorbin
