@@ -37,9 +37,8 @@ int main(int argumentos, char** palabras) {
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zorbin")));
   try {
     zorbin::Programa programa(std::make_unique<zorbin::Preferencias>());
-    programa.Empieza();
     const auto lista = QApplication::arguments();
-    if (lista.size() > 1) programa.ventana().Abre(QFileInfo(lista[1]).absoluteFilePath());
+    programa.Empieza(lista.size() > 1 ? QFileInfo(lista[1]).absoluteFilePath() : QString());
     return QApplication::exec();
   } catch (const std::exception& error) {
     return NoPuedeEmpezar(zorbin::Q(error.what()));
