@@ -206,7 +206,7 @@ std::vector<RenglonVersion> Renglones(const Captura& fichero, const Captura& tec
 }  // namespace
 
 bool HayTrabajoSinGuardar(const Captura& c) {
-  return c.ObraCargada && (c.EnCambio() || c.EnAltas());
+  return c.ObraCargada && !c.SoloLectura() && (c.EnCambio() || c.EnAltas());
 }
 
 Borrador TomaBorrador(const Captura& c) {

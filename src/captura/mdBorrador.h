@@ -69,7 +69,7 @@ struct Borrador {
   bool ConTramo() const { return estado != kSinTramo; }
 };
 
-/// Whether there is something to keep: edits, or a new Tramo in hand.
+/// Whether there is something to keep: edits, or a new Tramo in hand, of an Obra that can be saved.
 bool HayTrabajoSinGuardar(const Captura& c);
 
 Borrador TomaBorrador(const Captura& c);
