@@ -19,9 +19,11 @@
 #include "captura/mdAjustesTramo.h"
 #include "captura/mdCiclo.h"
 #include "captura/mdEtiquetas.h"
+#include "captura/textosBorrador.h"
 #include "captura/textosCaptura.h"
 #include "shell/CapturaDatos.h"
 #include "shell/frFiguras.h"
+#include "shell/mdAvisoEstado.h"
 #include "shell/mdIconos.h"
 #include "shell/mdPaginaInicio.h"
 #include "shell/piezas/mdDialogos.h"
@@ -203,6 +205,8 @@ void FormaPrincipal::DibujaIconos() {
 }
 
 void FormaPrincipal::CreaEstado() {
+  aviso_ = new AvisoEstado(c_.textos, this);
+  statusBar()->addPermanentWidget(aviso_);
   for (auto** rotulo : {&estadoObra_, &estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
     *rotulo = new QLabel(this);
     (*rotulo)->setTextFormat(Qt::PlainText);
@@ -281,16 +285,29 @@ void FormaPrincipal::Actualiza() {
     ActualizaRecientes();
   }
   ActualizaEstado();
+  emit actualizada();
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
   return Q(c_.textos.Texto(txt::EntradaIdioma + c_.textos.IdiomaOffset() / kPasoIdioma));
 }
 
+QString FormaPrincipal::NombreDeObra() const {
+  if (!c_.e.obra.ObraAbierta) return Q(c_.textos.Texto(txt::ObraSinFichero));
+  const QString nombre = QFileInfo(Q(c_.e.obra.NombreFichero)).fileName();
+  if (!c_.SoloLectura()) return nombre;
+  return nombre + QStringLiteral(" (") + Q(c_.textos.Texto(txt::MarcaSoloLectura)) + ')';
+}
+
+void FormaPrincipal::Anuncia(const QString& texto) {
+  aviso_->Anade(texto);
+}
+
 void FormaPrincipal::ActualizaEstado() {
   const auto texto = [this](int n) { return Q(c_.textos.Texto(n)); };
   estadoIdioma_->setText(NombreDeIdioma());
   setWindowModified(c_.EnCambio());
+  if (!c_.EnCambio()) aviso_->Quita(std::exchange(recuperado_, {}));
   if (!c_.ObraCargada) {
     setWindowTitle(QString::fromLatin1(kTituloAplicacion));
     estadoObra_->setText(texto(txt::SinObra));
@@ -298,10 +315,9 @@ void FormaPrincipal::ActualizaEstado() {
     estadoUnidades_->clear();
     return;
   }
-  const bool fichero = c_.e.obra.ObraAbierta;
-  const QString ruta = fichero ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
-  const QString nombre = fichero ? QFileInfo(ruta).fileName() : ruta;
-  setWindowTitle(EnTitulo(nombre) + QStringLiteral("[*] - ") +
+  const QString ruta =
+      c_.e.obra.ObraAbierta ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
+  setWindowTitle(EnTitulo(NombreDeObra()) + QStringLiteral("[*] - ") +
                  QString::fromLatin1(kTituloAplicacion));
   estadoObra_->setText(c_.EnCambio() ? ruta + "  -  " + texto(txt::SinGuardar) : ruta);
   estadoObra_->setToolTip(Consejo(ruta));
@@ -435,6 +451,7 @@ bool FormaPrincipal::Abre(const QString& ruta) {
 
 bool FormaPrincipal::AbreFichero(const QString& ruta) {
   bool abierta = false;
+  aviso_->Vacia();
   captura().Hace(
       [&] { abierta = AbreObra(c_, std::filesystem::path(QFile::encodeName(ruta).toStdString())); },
       true);
@@ -449,8 +466,28 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   return abierta;
 }
 
+bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
+  if (c_.ObraCargada) return false;
+  if (deFichero) {
+    if (!AbreFichero(QFile::decodeName(b.fichero.c_str()))) return false;
+    if (c_.SoloLectura()) {
+      Cierra();
+      return false;
+    }
+  } else {
+    Nueva();
+  }
+  captura().Hace([&] { PonBorrador(c_, b); }, true);
+  captura().RenuevaTramos();
+  recuperado_ = Q(c_.textos.Texto(txt::Recuperado));
+  Anuncia(recuperado_);
+  Actualiza();
+  return true;
+}
+
 void FormaPrincipal::Nueva() {
   if (c_.ObraCargada) return;
+  aviso_->Vacia();
   captura().Hace(
       [this] {
         NuevaObra(c_);
@@ -465,6 +502,7 @@ void FormaPrincipal::Nueva() {
 bool FormaPrincipal::Cierra() {
   bool cerrada = false;
   captura().Hace([&] { cerrada = CierraObra(c_); }, true);
+  if (cerrada) aviso_->Vacia();
   return cerrada;
 }
 

@@ -44,9 +44,8 @@ int main(int argumentos, char** palabras) {
   try {
     zorbin::Programa programa(std::make_unique<zorbin::Preferencias>());
     aplicacion.PonVoz([&programa](const std::exception* error) { programa.DiFallo(error); });
-    programa.Empieza();
     const auto lista = QApplication::arguments();
-    if (lista.size() > 1) programa.ventana().Abre(QFileInfo(lista[1]).absoluteFilePath());
+    programa.Empieza(lista.size() > 1 ? QFileInfo(lista[1]).absoluteFilePath() : QString());
     const int codigo = QApplication::exec();
     aplicacion.PonVoz({});
     return codigo;

@@ -1,6 +1,7 @@
 #include "shell/programa/mdPrograma.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QTimer>
@@ -51,7 +52,7 @@ void Delante(Ventana& ventana) {
 
 }  // namespace
 
-Programa::Programa(std::unique_ptr<Preferencias> preferencias)
+Programa::Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon)
     : preferencias_(std::move(preferencias)),
       textos_(Catalogo::Lee(CarpetaRecursos() / "textos")),
       impresora_(textos_, *preferencias_),
@@ -66,6 +67,10 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias)
   entorno_.ayuda = [this](const QString& ancla) { Ayuda().Muestra(ancla); };
   ventana_ = std::make_unique<FormaPrincipal>(*captura_, entorno_);
   voz_.PonPadre(ventana_.get());
+  voz_.PonAnuncios([this](const QString& texto) { ventana_->Anuncia(texto); });
+  guarda_ = std::make_unique<GuardaBorradores>(*captura_, std::move(cajon));
+  connect(ventana_.get(), &FormaPrincipal::actualizada, guarda_.get(), &GuardaBorradores::Mira);
+  connect(guarda_.get(), &GuardaBorradores::falla, ventana_.get(), &FormaPrincipal::Anuncia);
   Enlaza();
   RenuevaTextos();
 }
@@ -88,16 +93,27 @@ void Programa::LeeLasTablas() {
   }
 }
 
-void Programa::Empieza() {
+void Programa::Empieza(const QString& ruta) {
   ventana_->show();
-  QTimer::singleShot(kEsperaAdvertencia, this, [this] {
-    if (QuiereAviso(*preferencias_, ModoAviso::DerechoDeUso)) MuestraAdvertencia(1);
+  QTimer::singleShot(0, this, [this, ruta] {
+    AbreLoPedido(ruta);
+    QTimer::singleShot(kEsperaAdvertencia, this, [this] {
+      if (QuiereAviso(*preferencias_, ModoAviso::DerechoDeUso)) MuestraAdvertencia(1);
+    });
   });
 }
 
 void Programa::DiFallo(const std::exception* error) {
   auto* delante = QApplication::activeModalWidget();
   Avisa(delante != nullptr ? delante : ventana_.get(), textos_, TextoInesperado(textos_, error));
+}
+
+// Recovered work comes before what was asked for, which may be the same Obra.
+void Programa::AbreLoPedido(const QString& ruta) {
+  const auto recuperada = OfreceRecuperar(entorno_, *guarda_, *ventana_);
+  if (ruta.isEmpty()) return;
+  if (recuperada && QFileInfo(Q(*recuperada)) == QFileInfo(ruta)) return;
+  ventana_->Abre(ruta);
 }
 
 void Programa::Enlaza() {

@@ -11,6 +11,7 @@
 #include "shell/ayuda/mdDocumento.h"
 #include "shell/impresion/mdImpresora.h"
 #include "shell/mdInterlocutorQt.h"
+#include "shell/mdRecuperacion.h"
 #include "shell/piezas/mdEntorno.h"
 
 class QTranslator;
@@ -27,11 +28,13 @@ class Programa : public QObject {
  public:
   /// Reads catalogue and tables and builds the main window, closed.
   /// @throws std::runtime_error  without texts or tables there is no program; says what is missing
-  explicit Programa(std::unique_ptr<Preferencias> preferencias);
+  /// @param cajon  where typed work is kept against a crash
+  explicit Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon = Cajon());
   ~Programa() override;
 
-  /// Shows the window; a second later, the warning of the start where the person wants it.
-  void Empieza();
+  /// Shows the window; then offers what a crash left behind, and opens the Obra that was asked for;
+  /// a second later, the warning of the start where the person wants it.
+  void Empieza(const QString& ruta = {});
 
   /// Tells a failure that nobody foresaw. @param error  null for one without words
   void DiFallo(const std::exception* error);
@@ -50,6 +53,7 @@ class Programa : public QObject {
   InterlocutorQt voz_;
   EstadoCalculo estado_;
   std::unique_ptr<Captura> captura_;
+  std::unique_ptr<GuardaBorradores> guarda_;
   std::unique_ptr<FormaPrincipal> ventana_;
   QPointer<CalculoHidraulico> hidraulico_;
   QPointer<Protecciones> protecciones_;
@@ -57,6 +61,7 @@ class Programa : public QObject {
   std::unique_ptr<QTranslator> traductor_;
   int idiomaTraducido_ = 0;
 
+  void AbreLoPedido(const QString& ruta);
   void EligeIdioma();
   void LeeLasTablas();
   void Enlaza();
