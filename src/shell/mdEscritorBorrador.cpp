@@ -1,5 +1,7 @@
 #include "shell/mdEscritorBorrador.h"
 
+#include "captura/textosBorrador.h"
+
 namespace zorbin {
 
 EscritorBorrador::EscritorBorrador(Cajon cajon, std::function<void(const Mensaje&)> falla)
@@ -56,6 +58,8 @@ void EscritorBorrador::Haz(const Encargo& encargo) const {
     encargo.borra ? cajon_.Borra() : cajon_.Guarda(encargo.texto);
   } catch (const ErrorFichero& error) {
     falla_(error.mensaje());
+  } catch (const std::exception& error) {  // out of a thread it would end the program
+    falla_({txt::BorradorSinGuardar, {CarpetaBorradores().string(), error.what()}});
   }
 }
 

@@ -51,11 +51,6 @@ QLabel* Parrafo(const std::string& texto, QWidget* padre) {
   return rotulo;
 }
 
-// What a person typed is never taken for rich text.
-QString Consejo(const QString& texto) {
-  return QStringLiteral("<span>%1</span>").arg(texto.toHtmlEscaped());
-}
-
 }  // namespace
 
 // ---------------------------------------------------------------------------------------------
