@@ -30,9 +30,10 @@ std::string LineaDeObra(const Catalogo& textos, const Borrador& b) {
 std::string LineaDeTramo(const Catalogo& textos, const Borrador& b, const Versiones& v) {
   if (!b.ConTramo()) return textos.Texto(txt::RecuperarSinTramo);
   const auto& descripcion = b.campos[static_cast<std::size_t>(Ed::edDescriTramo)].texto;
-  return SinDosPuntos(
+  const std::string linea =
       textos.Compone(v.tramoEsNuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
-                     {TextoEntero(b.tramo.NumeroTramo), std::string(Recorta(descripcion))}));
+                     {TextoEntero(b.tramo.NumeroTramo), descripcion});
+  return SinDosPuntos(std::string(Recorta(linea)));
 }
 
 std::string Cabecera(const Catalogo& textos, const Borrador& b, const Versiones& v) {
