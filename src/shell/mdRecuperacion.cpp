@@ -30,8 +30,10 @@ std::string LineaDeObra(const Catalogo& textos, const Borrador& b) {
 std::string LineaDeTramo(const Catalogo& textos, const Borrador& b, const Versiones& v) {
   if (!b.ConTramo()) return textos.Texto(txt::RecuperarSinTramo);
   const auto& descripcion = b.campos[static_cast<std::size_t>(Ed::edDescriTramo)].texto;
-  return textos.Compone(v.tramoEsNuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
-                        {TextoEntero(b.tramo.NumeroTramo), descripcion});
+  const std::string linea =
+      textos.Compone(v.tramoEsNuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
+                     {TextoEntero(b.tramo.NumeroTramo), descripcion});
+  return SinDosPuntos(std::string(Recorta(linea)));
 }
 
 std::string Cabecera(const Catalogo& textos, const Borrador& b, const Versiones& v) {
