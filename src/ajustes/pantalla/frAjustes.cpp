@@ -26,8 +26,8 @@
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTeclasRapidas.h"
-#include "shell/piezas/textosPiezas.h"
 #include "shell/piezas/mdVisorHtml.h"
+#include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {
 
