@@ -1,7 +1,12 @@
 #include "shell/impresion/mdImpresora.h"
 
+#include <QEventLoop>
+#include <QGuiApplication>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
+#include <exception>
+#include <functional>
+#include <thread>
 
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"
@@ -29,6 +34,25 @@ QPageSize PapelDe(const QString& impresora) {
   const auto papeles = informe.supportedPageSizes();
   const QPageSize suyo = informe.defaultPageSize();
   return papeles.isEmpty() || papeles.contains(a4) || !suyo.isValid() ? a4 : suyo;
+}
+
+// While the server keeps silent the windows go on being painted. What is typed waits.
+void EnOtroHilo(const std::function<void()>& trabajo) {
+  std::exception_ptr fallo;
+  QEventLoop espera;
+  std::thread hilo([&] {
+    try {
+      trabajo();
+    } catch (...) {
+      fallo = std::current_exception();
+    }
+    QMetaObject::invokeMethod(&espera, &QEventLoop::quit, Qt::QueuedConnection);
+  });
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  espera.exec(QEventLoop::ExcludeUserInputEvents);
+  QGuiApplication::restoreOverrideCursor();
+  hilo.join();
+  if (fallo) std::rethrow_exception(fallo);
 }
 
 }  // namespace
@@ -74,8 +98,9 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
       throw DocumentoCancelado{};
     }
     hojas.Cierra();
-    impresoras_.entrega(
-        {S(impresora), S(nombre), S(fichero), preferencias_.Copias(), papel.id() == QPageSize::A4});
+    const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
+                                   papel.id() == QPageSize::A4};
+    EnOtroHilo([&] { impresoras_.entrega(trabajo); });
   });
 }
 
