@@ -28,6 +28,7 @@
 #include "shell/mdPaginaInicio.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdRotuloCorto.h"
 #include "shell/textosShell.h"
 
 namespace zorbin {
@@ -207,14 +208,16 @@ void FormaPrincipal::DibujaIconos() {
 void FormaPrincipal::CreaEstado() {
   aviso_ = new AvisoEstado(c_.textos, this);
   statusBar()->addPermanentWidget(aviso_);
-  for (auto** rotulo : {&estadoObra_, &estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
+  estadoObra_ = new RotuloCorto(this);
+  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
+  for (auto** rotulo : {&estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
     *rotulo = new QLabel(this);
     (*rotulo)->setTextFormat(Qt::PlainText);
-    (*rotulo)->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addPermanentWidget(*rotulo, *rotulo == estadoObra_ ? 1 : 0);
   }
-  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
-  estadoObra_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  for (auto* rotulo : {estadoObra_, estadoCaptura_, estadoUnidades_, estadoIdioma_}) {
+    rotulo->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(rotulo, rotulo == estadoObra_ ? 1 : 0);
+  }
 }
 
 // A letter of each entry answers to the keyboard; where the text marks one, it is that.
