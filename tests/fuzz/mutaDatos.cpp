@@ -1,5 +1,6 @@
-// For files of records in the form of a text: half of the mutations put another number, or half a
-// pair, in the place of a line. The bytes of a number change too seldom by chance to pass a reader.
+// For files of records in the form of a text, and for JSON: half of the mutations put another
+// number, or half a pair, in the place of a line, or another value in that of a value. By chance
+// the bytes of a datum change too seldom to something that passes a reader.
 #include <array>
 #include <cstring>
 #include <random>
@@ -57,6 +58,18 @@ std::string ConOtraLinea(Azar& azar, std::string texto) {
   return texto.replace(desde, hasta - desde, linea);
 }
 
+constexpr std::array<std::string_view, 20> kValores{
+    "0",     "1",          "2",         "-1",      "3",      "32767",          "-32768",
+    "99",    "2147483647", "1e12",      "-1e12",   "1e-320", "0.001",          "true",
+    "false", "null",       "\"ALTAS\"", "\"1,2\"", "\"\"",   "\"x\\u001b[2J\""};
+
+std::string ConOtroValor(Azar& azar, std::string json) {
+  const std::size_t desde = json.find(':', azar.Menor(json.size()));
+  if (desde == std::string::npos) return json;
+  const std::size_t hasta = std::min(json.find_first_of(",}", desde), json.size());
+  return json.replace(desde + 1, hasta - desde - 1, kValores[azar.Menor(kValores.size())]);
+}
+
 }  // namespace
 
 }  // namespace zorbin::hostil
@@ -68,7 +81,8 @@ std::size_t LLVMFuzzerCustomMutator(std::uint8_t* datos, std::size_t largo, std:
   if (largo == 0 || datos[0] < ' ' || azar.Menor(2) == 0) {
     return LLVMFuzzerMutate(datos, largo, maximo);
   }
-  std::string texto = ConOtraLinea(azar, std::string(Vista(datos, largo)));
+  const std::string antes(Vista(datos, largo));
+  std::string texto = antes[0] == '{' ? ConOtroValor(azar, antes) : ConOtraLinea(azar, antes);
   texto.resize(std::min(texto.size(), maximo));
   std::memcpy(datos, texto.data(), texto.size());
   return texto.size();
