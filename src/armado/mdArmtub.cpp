@@ -123,11 +123,11 @@ class Busqueda {
 
   double TraccionPos(double Aotra) const {
     return TraccionCompuesta(seccion_, M(pos_.hipotesis, pos_.seccion),
-                             N(pos_.hipotesis, pos_.seccion), Aotra);
+                             N(pos_.hipotesis, pos_.seccion), Aotra, e_.corrida.vueltas);
   }
   double TraccionNeg(double Aotra) const {
     return TraccionCompuesta(seccion_, M(neg_.hipotesis, neg_.seccion),
-                             N(neg_.hipotesis, neg_.seccion), Aotra);
+                             N(neg_.hipotesis, neg_.seccion), Aotra, e_.corrida.vueltas);
   }
 
   // Real steel for the inner face. @return whether the wall takes it.
@@ -226,7 +226,7 @@ class Busqueda {
   }
 
   void CompruebaFisuracion() {
-    Fisuracion f(t_, r_.esfuerzos, H1_, H2_);
+    Fisuracion f(t_, r_.esfuerzos, H1_, H2_, e_.corrida.vueltas);
     f.Comprueba(Ri_, Re_);
     if (ReparteInterior(Ri_) && ReparteExterior(Re_)) f.Comprueba(Ri_, Re_);
     r_.TensionMax = f.TensionMax();
