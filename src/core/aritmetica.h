@@ -45,8 +45,8 @@ class ErrorEjecucion : public std::exception {
 /// Rounds allowed to an iteration that the method leaves unbounded [-].
 inline constexpr int kMaxVueltas = 100'000;
 
-/// Work allowed to all the iterations of a run together, in rounds of the shortest of them [-]: some
-/// seconds, and some hundred times what the hardest pipe asks for.
+/// Work allowed to all the iterations of a run together, in rounds of the shortest of them [-]:
+/// some seconds, and some hundred times what the hardest pipe asks for.
 inline constexpr std::int64_t kMaxVueltasCorrida = 1'000'000'000;
 
 /// Counts the rounds of a run. Each iteration ends by itself or by kMaxVueltas; one inside another,

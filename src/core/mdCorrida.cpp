@@ -150,9 +150,7 @@ class CorridaTramo {
     for (auto* o : oyentes_) (o->*paso)(e_);
   }
 
-  const char* NombreIncPresion() const {
-    return e_.tramo.TieneDPPropia() ? "Prs3Tram" : "Prs3";
-  }
+  const char* NombreIncPresion() const { return e_.tramo.TieneDPPropia() ? "Prs3Tram" : "Prs3"; }
   const char* NombreIncAltura() const {
     return e_.tramo.Hr0Tramo > 0 || e_.tramo.Hr0Final > 0 ? "Hr0Delta" : "Alt3";
   }

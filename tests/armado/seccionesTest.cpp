@@ -38,6 +38,23 @@ TEST(TraccionCompuesta, CumpleElEquilibrioDeLaCapa) {
   }
 }
 
+// One iteration inside another ends although neither of them has met its own bound.
+TEST(TraccionCompuesta, LasVueltasDeUnaCorridaTienenUnTope) {
+  CuentaVueltas vueltas;
+  TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+  EXPECT_GT(vueltas.total(), 2);
+  while (vueltas.total() < kMaxVueltasCorrida - 1) {
+    vueltas.Suma(static_cast<int>(
+        std::min<std::int64_t>(1'000'000, kMaxVueltasCorrida - 1 - vueltas.total())));
+  }
+  try {
+    TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+    ADD_FAILURE();
+  } catch (const ErrorEjecucion& error) {
+    EXPECT_EQ(error.causa(), CausaError::DemasiadasVueltas);
+  }
+}
+
 TEST(TraccionCompuesta, MinimoSobreTodoElEspesorYFallos) {
   CuentaVueltas vueltas;
   auto d = Seccion();
@@ -178,7 +195,6 @@ TEST(Fisuracion, TensionesDeLaSeccionHomogenea) {
   EXPECT_GT(Ri, 10);
   EXPECT_EQ(Re, 10);
   EXPECT_LE(f.TensionMax(), f.TensionAdm());
-  CuentaVueltas vueltas;
   Fisuracion normal(Pared(2), x, 2, 2, vueltas);
   double Ni = 10, Ne = 10;
   normal.Comprueba(Ni, Ne);

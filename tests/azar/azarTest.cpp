@@ -3,8 +3,8 @@
 // ZORBIN_AZAR_DESDE the first index; to repeat one, ZORBIN_AZAR_DESDE=index ZORBIN_AZAR_N=1.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
-#include <cstdlib>
 
 #include "azar/generador.h"
 #include "azar/oraculo.h"
@@ -12,18 +12,6 @@
 
 namespace zorbin::pruebas {
 namespace {
-
-int DelEntorno(const char* nombre, int porDefecto) {
-  const char* texto = std::getenv(nombre);
-  return texto == nullptr ? porDefecto : std::atoi(texto);
-}
-
-int Cuantos() {
-  return DelEntorno("ZORBIN_AZAR_N", ZORBIN_AZAR_N);
-}
-int Desde() {
-  return DelEntorno("ZORBIN_AZAR_DESDE", 0);
-}
 
 const Catalogo& Textos() {
   static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
@@ -73,8 +61,8 @@ TEST_P(AzarDe, SinValidar) {
       ADD_FAILURE() << nombre << ": " << f.quejas << '\n' << datos;
     });
   }
-  cuenta.Imprime(std::string(NombreDe(GetParam())) + ", sin validar; peor " + reloj.Peor() + ", " + std::to_string(vueltas) +
-                 " vueltas");
+  cuenta.Imprime(std::string(NombreDe(GetParam())) + ", sin validar; peor " + reloj.Peor() + ", " +
+                 std::to_string(vueltas) + " vueltas");
 }
 
 // Through the rules of the capture first, as `calcula` does.
@@ -104,8 +92,8 @@ TEST_P(AzarDe, ComoCalcula) {
       ADD_FAILURE() << nombre << ": " << f.quejas << '\n' << datos;
     });
   }
-  cuenta.Imprime(std::string(NombreDe(GetParam())) + ", por la captura; peor " + reloj.Peor() + ", " + std::to_string(vueltas) +
-                 " vueltas");
+  cuenta.Imprime(std::string(NombreDe(GetParam())) + ", por la captura; peor " + reloj.Peor() +
+                 ", " + std::to_string(vueltas) + " vueltas");
 }
 
 INSTANTIATE_TEST_SUITE_P(Clases, AzarDe, testing::ValuesIn(kClases),

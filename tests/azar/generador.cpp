@@ -207,7 +207,7 @@ void Estropea(EstadoCalculo& e, Azar& azar, std::size_t lugar) {
     e.tramo.*kCodigosTramo[lugar].campo = CodigoImposible(azar);
     return;
   }
-  bool Tramo::* const marca = lugar == kCodigosTramo.size() ? &Tramo::Icontes0 : &Tramo::Icontes1;
+  bool Tramo::*const marca = lugar == kCodigosTramo.size() ? &Tramo::Icontes0 : &Tramo::Icontes1;
   e.tramo.*marca = !(e.tramo.*marca);
 }
 
@@ -268,8 +268,8 @@ const char* NombreDe(Clase clase) {
 
 double NumeroImposible(Azar& azar) {
   static constexpr auto kFijos = std::to_array<double>(
-      {0.0, 0.0, -0.0, -1.0, 1.0, 2.0, 1e-300, 5e-324, -1e-300, 1e-13, 1e-6, 0.001, 0.01, -0.01,
-       45.0, 90.0, 180.0, 1e3, 1e5, 1e9, -1e9, 1e12, -1e12});
+      {0.0,  0.0,   -0.0, -1.0, 1.0,   2.0, 1e-300, 5e-324, -1e-300, 1e-13, 1e-6, 0.001,
+       0.01, -0.01, 45.0, 90.0, 180.0, 1e3, 1e5,    1e9,    -1e9,    1e12,  -1e12});
   if (azar.Toca(0.6)) return azar.Uno(kFijos);
   const double x = azar.Magnitud(-8, 8);
   return azar.Toca(0.3) ? -x : x;
@@ -277,8 +277,8 @@ double NumeroImposible(Azar& azar) {
 
 std::int16_t CodigoImposible(Azar& azar) {
   static constexpr auto kFijos = std::to_array<std::int16_t>(
-      {0, 1, 2, 3, 4, 5, 7, 10, 11, 12, 13, 20, 21, 22, 23, 29, 30, 31, 32, 99, 1100, 1210, 2210,
-       2211, 2212, 2221, 2222, 3000, 32767, -1, -32768});
+      {0,  1,  2,  3,  4,    5,    7,    10,   11,   12,   13,   20,   21,    22, 23,    29,
+       30, 31, 32, 99, 1100, 1210, 2210, 2211, 2212, 2221, 2222, 3000, 32767, -1, -32768});
   return azar.Uno(kFijos);
 }
 

@@ -52,15 +52,15 @@ std::int16_t CodigoImposible(Azar& azar);
 /// The captured fields, by name.
 struct CampoObra {
   const char* nombre;
-  double Obra::* campo;
+  double Obra::*campo;
 };
 struct CampoTramo {
   const char* nombre;
-  double Tramo::* campo;
+  double Tramo::*campo;
 };
 struct CodigoTramo {
   const char* nombre;
-  std::int16_t Tramo::* campo;
+  std::int16_t Tramo::*campo;
 };
 std::span<const CampoObra> NumerosDeObra();
 std::span<const CampoTramo> NumerosDeTramo();

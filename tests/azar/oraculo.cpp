@@ -7,6 +7,7 @@
 #include <array>
 #include <cctype>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <memory>
@@ -36,7 +37,7 @@ namespace {
 
 constexpr int kCasosQueSeLeen = 12;      // by the listings of one run
 constexpr int kCasosQueSeTantean = 100;  // in the manner of the screen of adjustments
-constexpr int kMaxQueja = 600;       // characters of what is told of one run
+constexpr int kMaxQueja = 600;           // characters of what is told of one run
 constexpr int kMayorEntero = 32767;
 
 template <int N, class F>
@@ -135,6 +136,12 @@ void Reales(const EstadoCalculo& e, F f) {
 }
 
 }  // namespace
+
+std::vector<Real> RealesDe(const EstadoCalculo& e) {
+  std::vector<Real> v;
+  Reales(e, [&v](const char* nombre, double x) { v.push_back({nombre, x}); });
+  return v;
+}
 
 std::string Basura(const std::string& texto, bool conExponentes) {
   if (texto.find("Falta Recurso") != std::string::npos) return "Falta Recurso";
@@ -468,6 +475,22 @@ Vigilante::Vigilante(const std::string& trabajo) {
 
 Vigilante::~Vigilante() {
   ::alarm(0);
+}
+
+namespace {
+
+int DelEntorno(const char* nombre, int porDefecto) {
+  const char* texto = std::getenv(nombre);
+  return texto == nullptr ? porDefecto : std::atoi(texto);
+}
+
+}  // namespace
+
+int Cuantos() {
+  return DelEntorno("ZORBIN_AZAR_N", ZORBIN_AZAR_N);
+}
+int Desde() {
+  return DelEntorno("ZORBIN_AZAR_DESDE", 0);
 }
 
 void Cuenta::Suma(const Final& f) {

@@ -2,6 +2,7 @@
 // the captured data come out as they went in, and what reads results writes numbers and no more.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -11,6 +12,14 @@
 #include "core/mdCorrida.h"
 
 namespace zorbin::pruebas {
+
+/// A real of the results, by name.
+struct Real {
+  const char* nombre;
+  double valor;
+};
+/// Every real that a Caso leaves in the state, but for the table of loads.
+std::vector<Real> RealesDe(const EstadoCalculo& e);
 
 /// How a run ended.
 struct Final {
@@ -66,6 +75,10 @@ class Vigilante {
   Vigilante(const Vigilante&) = delete;
   Vigilante& operator=(const Vigilante&) = delete;
 };
+
+/// How many of each class, and from which index: ZORBIN_AZAR_N and ZORBIN_AZAR_DESDE.
+int Cuantos();
+int Desde();
 
 /// Counts of what happened, in the order of their names.
 class Cuenta {
