@@ -34,17 +34,6 @@ double NumeroDe(Azar& azar, Clase clase, double desde, double hasta) {
   return azar.Toca(0.5) ? NumeroImposible(azar) : azar.Magnitud(-300, 308);
 }
 
-// Keys that a number may be made of, and some that it may not.
-std::string TextoImposible(Azar& azar) {
-  static constexpr std::string_view kLetras = "0123456789,.-+ eEinfa";
-  std::string texto;
-  for (int n = azar.Toca(0.05) ? azar.Entre(100, 400) : azar.Entre(0, 9); n > 0; --n) {
-    const auto hasta = azar.Toca(0.9) ? 12 : static_cast<int>(kLetras.size());
-    texto.push_back(kLetras[static_cast<std::size_t>(azar.Entre(0, hasta - 1))]);
-  }
-  return texto;
-}
-
 void Mira(const FilaHidraulica& f) {
   EXPECT_TRUE(std::isfinite(f.VLlena));
   for (const auto* x :

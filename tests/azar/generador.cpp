@@ -275,6 +275,16 @@ double NumeroImposible(Azar& azar) {
   return azar.Toca(0.3) ? -x : x;
 }
 
+std::string TextoImposible(Azar& azar) {
+  static constexpr std::string_view kLetras = "0123456789,.-+ eEinfa";
+  std::string texto;
+  for (int n = azar.Toca(0.05) ? azar.Entre(100, 400) : azar.Entre(0, 9); n > 0; --n) {
+    const auto hasta = azar.Toca(0.9) ? 12 : static_cast<int>(kLetras.size());
+    texto.push_back(kLetras[static_cast<std::size_t>(azar.Entre(0, hasta - 1))]);
+  }
+  return texto;
+}
+
 std::int16_t CodigoImposible(Azar& azar) {
   static constexpr auto kFijos = std::to_array<std::int16_t>(
       {0,  1,  2,  3,  4,    5,    7,    10,   11,   12,   13,   20,   21,    22, 23,    29,

@@ -48,6 +48,8 @@ EstadoCalculo PlausibleEn(int indice, bool si);
 /// A number that no pipe has, within what a file may hold (1e12), and a code out of any list.
 double NumeroImposible(Azar& azar);
 std::int16_t CodigoImposible(Azar& azar);
+/// What a person's hand may type into a field: keys of a number, and some that are of none.
+std::string TextoImposible(Azar& azar);
 
 /// The captured fields, by name.
 struct CampoObra {
