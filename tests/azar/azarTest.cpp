@@ -39,6 +39,13 @@ std::string Nombre(Clase clase, int i) {
   return std::string(NombreDe(clase)) + " " + std::to_string(i);
 }
 
+// The numbers of a real pipe fit in their columns and the lines on the paper.
+void CabeEnSusColumnas(const Final& f, const std::string& nombre) {
+  constexpr int kColumnasDelPapel = 99;  // size 10 on an upright A4
+  EXPECT_LE(f.largo, kColumnasDelPapel) << nombre;
+  EXPECT_EQ(f.pegados, "") << nombre;
+}
+
 class AzarDe : public testing::TestWithParam<Clase> {};
 
 // The stored numbers as they are.
@@ -56,6 +63,7 @@ TEST_P(AzarDe, SinValidar) {
       const auto f = Corre(e, Textos(), i % 4 == 0 ? Lectura::Todo : Lectura::Resultados);
       cuenta.Suma(f);
       vueltas = std::max(vueltas, f.vueltas);
+      if (GetParam() == Clase::Plausible) CabeEnSusColumnas(f, nombre);
       if (f.quejas.empty()) return;
       ++quejas;
       ADD_FAILURE() << nombre << ": " << f.quejas << '\n' << datos;
@@ -87,6 +95,7 @@ TEST_P(AzarDe, ComoCalcula) {
       const auto f = Corre(e, textos, i % 4 == 0 ? Lectura::Todo : Lectura::Resultados);
       cuenta.Suma(f);
       vueltas = std::max(vueltas, f.vueltas);
+      if (GetParam() == Clase::Plausible) CabeEnSusColumnas(f, nombre);
       if (f.quejas.empty()) return;
       ++quejas;
       ADD_FAILURE() << nombre << ": " << f.quejas << '\n' << datos;

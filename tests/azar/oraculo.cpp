@@ -169,6 +169,23 @@ std::string Basura(const std::string& texto, bool conExponentes) {
 
 namespace {
 
+// The part of a line where a number with decimals runs into the next one; empty for none. The
+// separator of the listings here is the comma.
+std::string Pegados(const std::string& linea) {
+  const auto cifra = [&](std::size_t i) {
+    return i < linea.size() && std::isdigit(static_cast<unsigned char>(linea[i])) != 0;
+  };
+  for (std::size_t i = 1; i < linea.size(); ++i) {
+    if (linea[i] != ',' || !cifra(i - 1) || !cifra(i + 1)) continue;
+    std::size_t fin = i + 1;
+    while (cifra(fin)) ++fin;
+    if (fin < linea.size() && (linea[fin] == ',' || linea[fin] == '-') && cifra(fin + 1)) {
+      return linea.substr(i < 12 ? 0 : i - 12, 30);
+    }
+  }
+  return {};
+}
+
 // Everything that reads a run, on one run, and the oracle over all of it.
 class Lector : public OyenteCorrida {
  public:
@@ -286,6 +303,7 @@ class Lector : public OyenteCorrida {
     std::istringstream lineas(texto);
     for (std::string linea; std::getline(lineas, linea);) {
       f_.largo = std::max(f_.largo, static_cast<int>(Largo(linea)));
+      if (f_.pegados.empty()) f_.pegados = Pegados(linea);
     }
   }
 
