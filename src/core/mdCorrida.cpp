@@ -18,6 +18,7 @@ namespace {
 constexpr double kDado = -0.5;         // a forced value above it counts as given
 constexpr double kPasePresion = 0.2;   // a step may pass the last pressure by this much [at]
 constexpr double kMargenUltima = 0.1;  // rest for which no shorter last step is made [at]
+constexpr double kEnganche = 0.01;     // a step this near to the last height lands on it [m]
 constexpr double kDiamCorte = 1200.0;  // of the two factory test rules [mm]
 constexpr double kGolpe = 1.0;         // STP over MDP, surge calculated [at]
 constexpr std::int16_t kMaxCasos = std::numeric_limits<std::int16_t>::max();
@@ -105,10 +106,9 @@ void VuelcaLoQueQuede(Registro* registro) {
   }
 }
 
-// Values of a loop from `desde` to `hasta`, but for the rounding of its steps.
+// Values of a loop from `desde` to `hasta`, but for the rounding of its steps; 0 without a step.
 double CuentaPasos(double desde, double hasta, double paso) {
-  if (hasta < desde) return 0.0;
-  return paso > 0.0 ? Int((hasta - desde) / paso) + 1.0 : 1.0;
+  return paso > 0.0 && hasta >= desde ? Int((hasta - desde) / paso) + 1.0 : 0.0;
 }
 
 class CorridaTramo {
@@ -169,10 +169,14 @@ class CorridaTramo {
   // More Casos than can be numbered are told before the first one, not after the last that can.
   // Twice as many are beyond what the rounding of the steps could make of fewer.
   void ExigeCasosContables() const {
-    const double alturas = CuentaPasos(c_.Hr0Actual, c_.Hr0FinalActual, e_.tramo.Hr0Delta);
-    if (alturas == 0.0) return;
+    if (c_.Hr0Actual > c_.Hr0FinalActual) return;
+    const double alturas = CuentaAlturas();
     const double presiones = CuentaPresiones();
     if (alturas * presiones > 2.0 * kMaxCasos) throw DemasiadosCasos(alturas, presiones);
+  }
+  // The last one may be landed on.
+  double CuentaAlturas() const {
+    return 1.0 + CuentaPasos(c_.Hr0Actual, c_.Hr0FinalActual - kEnganche, e_.tramo.Hr0Delta);
   }
   double CuentaPresiones() const {
     return std::max(1.0, CuentaPasos(PrimeraPresion(), UltimaPresion() + kPasePresion, c_.IncDP));

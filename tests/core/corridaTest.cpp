@@ -52,8 +52,8 @@ TEST(Corrida, AlturasQueRecorre) {
   };
   for (const auto& f :
        {Fila{2, 5.5, 1, {2, 3, 4, 5}}, Fila{2, 5.005, 1, {2, 3, 4, 5.005}}, Fila{2, 5, 0, {2}},
-        Fila{3, 3, 0.5, {3}}, Fila{2, 2.018, 0.005, {2, 2.005, 2.018}}, Fila{2, 2, -1, {2}},
-        Fila{3, 2, 1, {}}}) {
+        Fila{3, 3, 0.5, {3}}, Fila{2, 2.018, 0.005, {2, 2.005, 2.018}},
+        Fila{2, 2.005, 1e-9, {2, 2.005}}, Fila{2, 2, -1, {2}}, Fila{3, 2, 1, {}}}) {
     auto e = Rango(f.desde, f.hasta, f.paso, 6, 6, 7, 7, 0);
     Oido oido;
     Corre(e, oido);
