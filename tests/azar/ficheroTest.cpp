@@ -93,7 +93,7 @@ void Calcula(const std::filesystem::path& ruta, const PeticionCalculo& peticion,
   EXPECT_TRUE(SinHuecos(salida.str()));
 }
 
-TEST(AzarPorFichero, SeGuardanSeComprueban_YSeCalculan) {
+TEST(AzarPorFichero, SeGuardanSeCompruebanYSeCalculan) {
   prueba::Carpeta carpeta;
   Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
   const auto tablas = LeeTablas(ZORBIN_FUENTES "recursos/tablas");
