@@ -1,8 +1,7 @@
 #include "ajustes/mdHoja.h"
 
-#include <fstream>
-
 #include "core/mdNumeros.h"
+#include "persistencia/mdFicheroSalida.h"
 
 namespace zorbin {
 
@@ -176,11 +175,15 @@ std::filesystem::path RutaHoja(const std::filesystem::path& carpeta) {
 
 bool EscribeHoja(const std::filesystem::path& carpeta, const std::string& hoja) {
   std::error_code error;
-  std::filesystem::create_directories(carpeta, error);
-  std::ofstream f(RutaHoja(carpeta), std::ios::binary | std::ios::trunc);
-  f << hoja;
-  f.close();
-  return !f.fail();
+  std::filesystem::create_directories(carpeta, error);  // a folder that is missing shows below
+  try {
+    FicheroSalida f(RutaHoja(carpeta));
+    f.Escribe(hoja);
+    f.Termina();
+    return true;
+  } catch (const ErrorSalida&) {  // the caller names the file
+    return false;
+  }
 }
 
 }  // namespace zorbin

@@ -559,6 +559,13 @@ bool EligeTramo(Captura& c) {
   return true;
 }
 
+void TomaEnMano(Captura& c, int numero, std::string_view estado) {
+  PonNumero(c, numero);
+  c.UltimoTramo = static_cast<int>(c.lista.size()) + (estado == kAltas ? 1 : 0);
+  PonEstado(c, estado);
+  Bloquea(c, Ed::edTramo);
+}
+
 bool PreparaCalculo(Captura& c, bool ajuste) {
   if (!ValidaObra(c) || !ValidaTramo(c, true)) return false;
   if (!c.e.obra.ObraAbierta) {

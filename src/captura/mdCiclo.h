@@ -60,6 +60,10 @@ void LeeTramo(Captura& c, int posicion);
 /// Position of a number in the list, from 1; 0 when it is not there.
 int PosicionDelTramo(const Captura& c, int numero);
 
+/// A Tramo whose data are in the state and on the screen is the one in hand from now on.
+/// @param estado  kAltas or kModificaciones
+void TomaEnMano(Captura& c, int numero, std::string_view estado);
+
 /// What stands before a calculation or an adjustment: validates, asks for a file and, for an
 /// adjustment, for no unsaved edits and a file that may be written. @return whether it may go on
 bool PreparaCalculo(Captura& c, bool ajuste);

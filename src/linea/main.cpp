@@ -1,5 +1,7 @@
 // zorbin-calc: the calculation without a window.
+#include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <iostream>
 
 #include "linea/mdCalcula.h"
@@ -7,7 +9,9 @@
 #include "linea/mdListaAjustes.h"
 #include "linea/mdPalabras.h"
 #include "linea/mdValida.h"
+#include "linea/mdVigia.h"
 #include "linea/textosListaAjustes.h"
+#include "persistencia/mdDescriptor.h"
 #include "recursos/mdCarpetas.h"
 #include "recursos/textos.h"
 
@@ -38,17 +42,21 @@ class Ordenes {
     try {
       app_.parse(argc, argv);
     } catch (const CLI::Success& ayuda) {
-      return app_.exit(ayuda);
+      app_.exit(ayuda);
+      if (std::cout.flush()) return kHecho;
+      Queja(textos_.Compone(txt::SalidaNoSeEscribe, {"stdout", TextoDeCausa(errno)}));
+      return kSalidaImposible;
     } catch (const CLI::ParseError& error) {
-      std::cerr << "zorbin-calc: " << TextoPalabrasMalas(error, textos_) << ". "
-                << textos_.Compone(txt::VeaLaAyuda, {"zorbin-calc"}) << '\n';
+      Queja(TextoPalabrasMalas(error, textos_) + ". " +
+            textos_.Compone(txt::VeaLaAyuda, {"zorbin-calc"}));
       return kPalabrasMalas;
     }
-    if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
-    if (valida_->parsed()) return Valida(deValida_, textos_);
-    if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
-    if (medios_->parsed()) return Medios(deMedios_, textos_);
-    return Calcula(deCalcula_, textos_);
+    try {
+      return Haz();
+    } catch (const std::exception& error) {
+      Queja(textos_.Compone(txt::FalloInesperado, {error.what()}));
+      return kFalloDeCorrida;
+    }
   }
 
  private:
@@ -64,6 +72,14 @@ class Ordenes {
   OpcionesListaAjustes deAjustes_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
+
+  int Haz() {
+    if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
+    if (valida_->parsed()) return Valida(deValida_, textos_);
+    if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
+    if (medios_->parsed()) return Medios(deMedios_, textos_);
+    return Calcula(deCalcula_, textos_);
+  }
 
   const std::string& T(int n) const { return textos_.Texto(n); }
 
@@ -180,13 +196,14 @@ class Ordenes {
 }  // namespace
 
 int main(int argc, char** argv) try {
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told as a disk that is full
   Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   return Ordenes(textos).Corre(argc, argv);
 } catch (const ErrorCatalogo& error) {
   // Without the catalogue there is no text to say it with.
-  std::cerr << "zorbin-calc: " << error.what() << '\n';
+  zorbin::Queja(error.what());
   return kFicheroRechazado;
 } catch (const std::exception& error) {
-  std::cerr << "zorbin-calc: " << error.what() << '\n';
+  zorbin::Queja(error.what());
   return kFalloDeCorrida;
 }

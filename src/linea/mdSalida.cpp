@@ -2,58 +2,92 @@
 
 #include <unistd.h>
 
-#include <cerrno>
-#include <iostream>
-#include <system_error>
+#include <functional>
+#include <streambuf>
+#include <vector>
+
+#include "linea/mdTerminal.h"
 
 namespace zorbin {
 
 namespace {
 
-std::string CausaDelSistema() {
-  return std::generic_category().message(errno != 0 ? errno : EIO);
+constexpr std::size_t kBloque = 64 * 1024;  // bytes
+
+void EscribeEnPantalla(std::string_view bytes) {
+  const Descriptor pantalla(::dup(STDOUT_FILENO));
+  if (const Causa causa = EscribeSeguido(pantalla, bytes)) {
+    throw ErrorSalida("stdout", TextoDeCausa(causa));
+  }
 }
 
 }  // namespace
 
-Salida::Salida(const std::filesystem::path& fichero) : fichero_(fichero) {
-  if (fichero_.empty()) return;
-  std::error_code error;
-  // A device or a pipe has no name to give at the end; a link keeps leading where it leads.
-  if (std::filesystem::is_symlink(fichero_, error)) {
-    fichero_ = std::filesystem::weakly_canonical(fichero_, error);
+// Takes the bytes in blocks. A stream forgets why it failed: the first failure is kept for the end.
+class Salida::Deposito : public std::streambuf {
+ public:
+  explicit Deposito(std::function<void(std::string_view)> escribe)
+      : escribe_(std::move(escribe)), bloque_(kBloque) {
+    Vacia();
   }
-  const bool provisional = !std::filesystem::exists(fichero_, error) ||
-                           std::filesystem::is_regular_file(fichero_, error);
-  provisional_ = fichero_;
-  if (provisional) provisional_ += "." + std::to_string(getpid()) + ".tmp";
-  errno = 0;
-  escritura_.open(provisional_, std::ios::binary | std::ios::trunc);
-  if (!escritura_) throw ErrorSalida(fichero_.string(), CausaDelSistema());
+
+  void Acaba() {
+    sync();
+    if (fallo_) throw ErrorSalida(*fallo_);
+  }
+
+ protected:
+  // A block ends where a line does, so that no character is cut in two.
+  int_type overflow(int_type letra) override {
+    const std::string_view bytes = Bytes();
+    const auto linea = bytes.rfind('\n');
+    const std::string resto(linea == std::string_view::npos ? "" : bytes.substr(linea + 1));
+    pbump(-static_cast<int>(resto.size()));
+    if (sync() != 0) return traits_type::eof();
+    xsputn(resto.data(), static_cast<std::streamsize>(resto.size()));
+    if (!traits_type::eq_int_type(letra, traits_type::eof())) {
+      sputc(traits_type::to_char_type(letra));
+    }
+    return traits_type::not_eof(letra);
+  }
+
+  int sync() override {
+    const std::string_view bytes = Bytes();
+    try {
+      if (!fallo_ && !bytes.empty()) escribe_(bytes);
+    } catch (const ErrorSalida& error) {
+      fallo_ = error;
+    }
+    Vacia();
+    return fallo_ ? -1 : 0;
+  }
+
+ private:
+  std::function<void(std::string_view)> escribe_;
+  std::vector<char> bloque_;
+  std::optional<ErrorSalida> fallo_;
+
+  std::string_view Bytes() const { return {pbase(), static_cast<std::size_t>(pptr() - pbase())}; }
+  void Vacia() { setp(bloque_.data(), bloque_.data() + bloque_.size()); }
+};
+
+Salida::Salida(const std::filesystem::path& fichero) : flujo_(nullptr) {
+  std::function<void(std::string_view)> escribe = EscribeEnPantalla;
+  if (!fichero.empty()) {
+    fichero_.emplace(fichero);
+    escribe = [this](std::string_view bytes) { fichero_->Escribe(bytes); };
+  } else if (::isatty(STDOUT_FILENO) != 0) {
+    escribe = [](std::string_view bytes) { EscribeEnPantalla(ParaTerminal(bytes)); };
+  }
+  deposito_ = std::make_unique<Deposito>(std::move(escribe));
+  flujo_.rdbuf(deposito_.get());
 }
 
-Salida::~Salida() {
-  if (!escritura_.is_open()) return;
-  escritura_.close();
-  std::error_code error;
-  if (provisional_ != fichero_) std::filesystem::remove(provisional_, error);
-}
-
-std::ostream& Salida::flujo() {
-  return fichero_.empty() ? std::cout : static_cast<std::ostream&>(escritura_);
-}
+Salida::~Salida() = default;
 
 void Salida::Cierra() {
-  errno = 0;
-  if (fichero_.empty()) {
-    if (!std::cout.flush()) throw ErrorSalida("stdout", CausaDelSistema());
-    return;
-  }
-  if (!escritura_.flush()) throw ErrorSalida(fichero_.string(), CausaDelSistema());
-  escritura_.close();
-  std::error_code error;
-  if (provisional_ != fichero_) std::filesystem::rename(provisional_, fichero_, error);
-  if (error) throw ErrorSalida(fichero_.string(), error.message());
+  deposito_->Acaba();
+  if (fichero_) fichero_->Termina();
 }
 
 }  // namespace zorbin

@@ -2,21 +2,13 @@
 #pragma once
 
 #include <filesystem>
-#include <fstream>
+#include <memory>
+#include <optional>
 #include <ostream>
-#include <stdexcept>
+
+#include "persistencia/mdFicheroSalida.h"
 
 namespace zorbin {
-
-class ErrorSalida : public std::runtime_error {
- public:
-  ErrorSalida(std::string nombre, const std::string& causa)
-      : std::runtime_error(causa), nombre_(std::move(nombre)) {}
-  const std::string& nombre() const { return nombre_; }
-
- private:
-  std::string nombre_;
-};
 
 class Salida {
  public:
@@ -28,15 +20,17 @@ class Salida {
   Salida(const Salida&) = delete;
   Salida& operator=(const Salida&) = delete;
 
-  std::ostream& flujo();
+  std::ostream& flujo() { return flujo_; }
 
   /// Ends the output. @throws ErrorSalida when not everything could be written.
   void Cierra();
 
  private:
-  std::filesystem::path fichero_;
-  std::filesystem::path provisional_;
-  std::ofstream escritura_;
+  class Deposito;
+
+  std::optional<FicheroSalida> fichero_;
+  std::unique_ptr<Deposito> deposito_;
+  std::ostream flujo_;
 };
 
 }  // namespace zorbin

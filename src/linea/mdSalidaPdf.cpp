@@ -1,7 +1,5 @@
 #include "linea/mdSalidaPdf.h"
 
-#include <iostream>
-
 #include "core/mdTextos.h"
 #include "linea/mdSalida.h"
 #include "recursos/textos.h"
@@ -19,9 +17,11 @@ void EscribePdf(const std::filesystem::path& fichero, const std::string& titulo,
     hojas.Cierra();
     std::error_code error;
     if (!std::filesystem::is_regular_file(fichero, error)) return;  // standard output, perhaps
-    std::cout << textos.Compone(txt::ListadoEscrito,
-                                {fichero.string(), TextoEntero(hojas.paginas())})
-              << '\n';
+    Salida salida({});
+    salida.flujo() << textos.Compone(txt::ListadoEscrito,
+                                     {fichero.string(), TextoEntero(hojas.paginas())})
+                   << '\n';
+    salida.Cierra();
   } catch (const ErrorFuente& error) {
     throw ErrorSalida(fichero.string(), textos.Compone(txt::FaltaFuente, {error.what()}));
   } catch (const ErrorPintor& error) {

@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "core/mdTextos.h"
+#include "linea/mdTerminal.h"
 #include "listados/mdAvisos.h"
 #include "recursos/textos.h"
 
@@ -18,7 +19,7 @@ constexpr std::chrono::milliseconds kRefresco{200};
 }  // namespace
 
 void Queja(const std::string& texto) {
-  std::cerr << "zorbin-calc: " << texto << '\n';
+  std::cerr << "zorbin-calc: " << ParaTerminal(texto) << '\n';
 }
 
 std::optional<std::vector<int>> BuscaTramos(const std::vector<int>& numeros,

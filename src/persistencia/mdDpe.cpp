@@ -127,7 +127,8 @@ std::filesystem::path RutaDpe(const std::filesystem::path& obra) {
 
 std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
   std::error_code error;
-  if (!std::filesystem::exists(dpe, error)) return {};
+  // A link without a file, or a name that can't be looked at, is an error of its opening.
+  if (symlink_status(dpe, error).type() == std::filesystem::file_type::not_found) return {};
   return LeeEntradas(FicheroRegistros(dpe, FicheroRegistros::Modo::Lectura));
 }
 

@@ -20,7 +20,7 @@ FicheroLog::FicheroLog(const std::filesystem::path& carpeta)
     : ruta_(carpeta / "Debugpim_cal.txt"),
       registro_([this](std::string_view bloque) { Escribe(bloque); }) {
   std::error_code error;
-  std::filesystem::create_directories(carpeta, error);
+  std::filesystem::create_directories(carpeta, error);  // a folder that is missing shows below
   fichero_.reset(std::fopen(ruta_.c_str(), "ab"));
   if (!fichero_) throw ErrorEjecucion(CausaError::Registro, ruta_.string());
   std::setvbuf(fichero_.get(), nullptr, _IONBF, 0);  // the blocks are the buffer

@@ -27,6 +27,7 @@ class FicheroLog {
 
  private:
   struct Cierra {
+    // Nothing is left to be written: the file has no buffer.
     void operator()(std::FILE* f) const { std::fclose(f); }
   };
 

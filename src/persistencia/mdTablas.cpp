@@ -63,6 +63,7 @@ void CadaLinea(const fs::path& ruta, const std::function<void(std::string_view, 
     if (!linea.empty() && linea.back() == '\r') linea.pop_back();
     hace(linea, n);
   }
+  if (f.bad()) throw ErrorFichero({txt::TablaNoSeAbre, {ruta.string()}, txt::AlAbrirElFichero});
 }
 
 // The characters of a row from a position on, as many as there are.

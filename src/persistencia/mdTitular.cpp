@@ -65,14 +65,16 @@ std::optional<Entero> NumeroDe(std::string_view texto) {
   return n;
 }
 
-// When a process began, in ticks of the machine; 0 when there is no such process. The name of the
-// program stands in brackets before it and may hold anything.
+// When a process began, in ticks of the machine; 0 when there is no such process, or only what its
+// parent has not yet fetched of it. The name of the program stands in brackets before it and may
+// hold anything.
 std::uint64_t Arranque(int proceso) {
   Descriptor d;
   std::string texto;
   const fs::path ruta = "/proc/" + std::to_string(proceso) + "/stat";
   if (AbreFichero(d, ruta, O_RDONLY) != 0 || LeeBytes(d, kMaxMarca, texto) != 0) return 0;
   std::size_t i = texto.rfind(')');
+  if (i == std::string::npos || texto.substr(i + 1, 2) == " Z") return 0;
   for (int campo = 2; campo < kCampoArranque && i != std::string::npos; ++campo) {
     i = texto.find(' ', i + 1);
   }

@@ -410,4 +410,17 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
   EscribeTodos(f, r);
 }
 
+std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion) {
+  std::uint64_t huella = 14695981039346656037U;  // FNV-1a
+  const auto suma = [&](int registro) {
+    for (const char letra : f.LeeRegistro(registro) + '\0') {
+      huella = (huella ^ static_cast<unsigned char>(letra)) * 1099511628211U;
+    }
+  };
+  for (int registro = 1; registro <= kRegistroCuenta; ++registro) suma(registro);
+  if (posicion == 0) return huella;
+  for (int i = kOffsetNumero; i <= kUltimoOffset; ++i) suma(Base(posicion) + i);
+  return huella;
+}
+
 }  // namespace zorbin

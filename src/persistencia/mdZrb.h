@@ -2,6 +2,7 @@
 // Every field is text, numbers included; a field with two unit systems holds "MKS // SI".
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -39,6 +40,10 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion);
 /// @throws ErrorFichero naming the field that cannot be stored, or the disk's refusal
 void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
                  const Catalogo& textos, char separador);
+
+/// Tells whether the header and the block at a position, from 1, are still the same; 0 for the
+/// header alone. @throws ErrorFichero as CargaTramo
+std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion);
 
 /// Writes the block of e.tramo at a position, from 1. As EscribeObra.
 void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,

@@ -19,7 +19,7 @@ int NumeroEntrada(const std::string& clave, const std::filesystem::path& ruta) {
     std::size_t fin = 0;
     const int n = std::stoi(clave, &fin);
     if (fin == clave.size() && n > 0 && n < kPasoIdioma) return n;
-  } catch (const std::exception&) {
+  } catch (const std::exception&) {  // told below, as what is no number at all
   }
   throw ErrorCatalogo(ruta.string() + ": \"" + clave + "\" is not the number of an entry");
 }
@@ -27,6 +27,7 @@ int NumeroEntrada(const std::string& clave, const std::filesystem::path& ruta) {
 void LeeIdioma(const std::filesystem::path& ruta, int offset,
                std::unordered_map<int, std::string>& entradas) {
   std::ifstream entrada(ruta, std::ios::binary);
+  if (!entrada) throw ErrorCatalogo(ruta.string() + ": the file cannot be opened");
   nlohmann::json textos;
   try {
     textos = nlohmann::json::parse(entrada);

@@ -361,6 +361,7 @@ inline constexpr int AyudaRugosidadOrden = 1175;
 inline constexpr int AyudaFormatoCalculadora = 1176;
 inline constexpr int AyudaIdiomaCalculadora = 1177;
 inline constexpr int UnoDeEstos = 1178;
+inline constexpr int FalloInesperado = 1470;  // {1} cause
 // clang-format on
 
 }  // namespace zorbin::txt

@@ -103,6 +103,7 @@ QWidget* CapturaDatos::CreaCabecera() {
   fila->setContentsMargins(0, 0, 0, 0);
   titulo_ = new QLabel(cabecera);
   titulo_->setObjectName(QStringLiteral("lbTitulo"));
+  titulo_->setTextFormat(Qt::PlainText);
   QFont negrita = titulo_->font();
   negrita.setBold(true);
   titulo_->setFont(negrita);

@@ -19,13 +19,16 @@
 #include "captura/mdAjustesTramo.h"
 #include "captura/mdCiclo.h"
 #include "captura/mdEtiquetas.h"
+#include "captura/textosBorrador.h"
 #include "captura/textosCaptura.h"
 #include "shell/CapturaDatos.h"
 #include "shell/frFiguras.h"
+#include "shell/mdAvisoEstado.h"
 #include "shell/mdIconos.h"
 #include "shell/mdPaginaInicio.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdRotuloCorto.h"
 #include "shell/textosShell.h"
 
 namespace zorbin {
@@ -203,14 +206,18 @@ void FormaPrincipal::DibujaIconos() {
 }
 
 void FormaPrincipal::CreaEstado() {
-  for (auto** rotulo : {&estadoObra_, &estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
+  aviso_ = new AvisoEstado(c_.textos, this);
+  statusBar()->addPermanentWidget(aviso_);
+  estadoObra_ = new RotuloCorto(this);
+  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
+  for (auto** rotulo : {&estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
     *rotulo = new QLabel(this);
     (*rotulo)->setTextFormat(Qt::PlainText);
-    (*rotulo)->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addPermanentWidget(*rotulo, *rotulo == estadoObra_ ? 1 : 0);
   }
-  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
-  estadoObra_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  for (auto* rotulo : {estadoObra_, estadoCaptura_, estadoUnidades_, estadoIdioma_}) {
+    rotulo->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(rotulo, rotulo == estadoObra_ ? 1 : 0);
+  }
 }
 
 // A letter of each entry answers to the keyboard; where the text marks one, it is that.
@@ -281,16 +288,29 @@ void FormaPrincipal::Actualiza() {
     ActualizaRecientes();
   }
   ActualizaEstado();
+  emit actualizada();
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
   return Q(c_.textos.Texto(txt::EntradaIdioma + c_.textos.IdiomaOffset() / kPasoIdioma));
 }
 
+QString FormaPrincipal::NombreDeObra() const {
+  if (!c_.e.obra.ObraAbierta) return Q(c_.textos.Texto(txt::ObraSinFichero));
+  const QString nombre = QFileInfo(Q(c_.e.obra.NombreFichero)).fileName();
+  if (!c_.SoloLectura()) return nombre;
+  return nombre + QStringLiteral(" (") + Q(c_.textos.Texto(txt::MarcaSoloLectura)) + ')';
+}
+
+void FormaPrincipal::Anuncia(const QString& texto) {
+  aviso_->Anade(texto);
+}
+
 void FormaPrincipal::ActualizaEstado() {
   const auto texto = [this](int n) { return Q(c_.textos.Texto(n)); };
   estadoIdioma_->setText(NombreDeIdioma());
   setWindowModified(c_.EnCambio());
+  if (!c_.EnCambio()) aviso_->Quita(std::exchange(recuperado_, {}));
   if (!c_.ObraCargada) {
     setWindowTitle(QString::fromLatin1(kTituloAplicacion));
     estadoObra_->setText(texto(txt::SinObra));
@@ -298,12 +318,12 @@ void FormaPrincipal::ActualizaEstado() {
     estadoUnidades_->clear();
     return;
   }
-  const bool fichero = c_.e.obra.ObraAbierta;
-  const QString ruta = fichero ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
-  const QString nombre = fichero ? QFileInfo(ruta).fileName() : ruta;
-  setWindowTitle(nombre + QStringLiteral("[*] - ") + QString::fromLatin1(kTituloAplicacion));
+  const QString ruta =
+      c_.e.obra.ObraAbierta ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
+  setWindowTitle(EnTitulo(NombreDeObra()) + QStringLiteral("[*] - ") +
+                 QString::fromLatin1(kTituloAplicacion));
   estadoObra_->setText(c_.EnCambio() ? ruta + "  -  " + texto(txt::SinGuardar) : ruta);
-  estadoObra_->setToolTip(ruta);
+  estadoObra_->setToolTip(Consejo(ruta));
   estadoUnidades_->setText(texto(c_.EsSI() ? txt::SistemaSI : txt::SistemaMKS));
   const QString tramo = texto(txt::RotTramo) + ' ' + Q(c_[Ed::edTramo].texto);
   estadoCaptura_->setText(c_.EnAltas()            ? tramo + ' ' + texto(txt::AltaDeTramo)
@@ -318,6 +338,7 @@ void FormaPrincipal::ActualizaRecientes() {
   for (const auto& ruta : rutas) {
     QString texto = QFileInfo(ruta).fileName() + " - " + QFileInfo(ruta).absolutePath();
     texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    texto.replace(QLatin1Char('\t'), QLatin1Char(' '));  // what follows one is taken for a key
     auto* accion = recientes_->addAction(QStringLiteral("&%1 ").arg(++n) + texto);
     connect(accion, &QAction::triggered, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
   }
@@ -336,7 +357,9 @@ void FormaPrincipal::Protege(const std::function<void()>& hace) {
   } catch (const ErrorFichero& error) {
     Avisa(this, c_.textos, Q(TextoDeError(c_, error)));
   } catch (const std::exception& error) {
-    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::CierraEjecucion, {error.what()})));
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, &error));
+  } catch (...) {
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, nullptr));
   }
   ocupada_ = false;
   if (captura_ != nullptr) captura_->Refresca();
@@ -431,6 +454,7 @@ bool FormaPrincipal::Abre(const QString& ruta) {
 
 bool FormaPrincipal::AbreFichero(const QString& ruta) {
   bool abierta = false;
+  aviso_->Vacia();
   captura().Hace(
       [&] { abierta = AbreObra(c_, std::filesystem::path(QFile::encodeName(ruta).toStdString())); },
       true);
@@ -445,8 +469,28 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   return abierta;
 }
 
+bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
+  if (c_.ObraCargada) return false;
+  if (deFichero) {
+    if (!AbreFichero(QFile::decodeName(b.fichero.c_str()))) return false;
+    if (c_.SoloLectura()) {
+      Cierra();
+      return false;
+    }
+  } else {
+    Nueva();
+  }
+  captura().Hace([&] { PonBorrador(c_, b); }, true);
+  captura().RenuevaTramos();
+  recuperado_ = Q(c_.textos.Texto(txt::Recuperado));
+  Anuncia(recuperado_);
+  Actualiza();
+  return true;
+}
+
 void FormaPrincipal::Nueva() {
   if (c_.ObraCargada) return;
+  aviso_->Vacia();
   captura().Hace(
       [this] {
         NuevaObra(c_);
@@ -461,6 +505,7 @@ void FormaPrincipal::Nueva() {
 bool FormaPrincipal::Cierra() {
   bool cerrada = false;
   captura().Hace([&] { cerrada = CierraObra(c_); }, true);
+  if (cerrada) aviso_->Vacia();
   return cerrada;
 }
 
@@ -471,6 +516,10 @@ void FormaPrincipal::closeEvent(QCloseEvent* suceso) {
   }
   entorno_.preferencias.GuardaVentana(kNombreVentana, *this);
   entorno_.preferencias.GuardaEstado(kNombreVentana, saveState());
+  if (!entorno_.preferencias.Guarda()) {
+    Avisa(this, c_.textos,
+          Q(c_.textos.Compone(txt::AjustesSinGuardar, {S(entorno_.preferencias.Fichero())})));
+  }
   suceso->accept();
   QApplication::closeAllWindows();
 }

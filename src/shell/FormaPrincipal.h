@@ -9,6 +9,7 @@
 #include <map>
 #include <vector>
 
+#include "captura/mdBorrador.h"
 #include "captura/mdCaptura.h"
 #include "shell/mdInterlocutorQt.h"
 #include "shell/piezas/mdEntorno.h"
@@ -21,6 +22,7 @@ class QToolBar;
 
 namespace zorbin {
 
+class AvisoEstado;
 class CapturaDatos;
 class PaginaInicio;
 
@@ -54,6 +56,13 @@ class FormaPrincipal : public QMainWindow {
   /// Opens an Obra by its file; one that is open is closed first, unless it has unsaved edits.
   bool Abre(const QString& ruta);
 
+  /// Opens the Obra of a draft, or begins a new one, and puts the draft on the screen. An Obra that
+  /// can't be opened for writing takes none.
+  bool Recupera(const Borrador& b, bool deFichero);
+
+  /// Tells in the status bar what needs no answer; it stays there until the Obra is closed.
+  void Anuncia(const QString& texto);
+
   CapturaDatos& captura();
   QAction* accion(Orden orden) const { return acciones_.at(orden); }
 
@@ -64,6 +73,10 @@ class FormaPrincipal : public QMainWindow {
   void AbreConDialogo();
   void Nueva();
   bool Cierra();
+
+ signals:
+  /// The capture may have changed.
+  void actualizada();
 
  protected:
   void closeEvent(QCloseEvent* suceso) override;
@@ -93,10 +106,12 @@ class FormaPrincipal : public QMainWindow {
   std::vector<Menu> menus_;
   std::vector<Entrada> entradas_;
   std::map<Orden, QAction*> acciones_;
+  AvisoEstado* aviso_ = nullptr;
   QLabel* estadoUnidades_ = nullptr;
   QLabel* estadoIdioma_ = nullptr;
   QLabel* estadoObra_ = nullptr;
   QLabel* estadoCaptura_ = nullptr;
+  QString recuperado_;  // announcement of recovered work that is not yet saved
   int idiomaPuesto_ = 0;
   bool ocupada_ = false;  // an action is running: none other begins
 
@@ -116,6 +131,7 @@ class FormaPrincipal : public QMainWindow {
   bool AbreFichero(const QString& ruta);
   void Actualiza();
   void ActualizaEstado();
+  QString NombreDeObra() const;
   void ActualizaRecientes();
   void DibujaIconos();
   void GuardaSesion(QSessionManager& sesion);

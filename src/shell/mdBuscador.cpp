@@ -32,6 +32,7 @@ Buscador::Buscador(const Catalogo& textos, QPlainTextEdit& texto, QWidget* padre
   dice_->setObjectName(QStringLiteral("lbBuscar"));
   que_->setClearButtonEnabled(true);
   que_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
+  dice_->setTextFormat(Qt::PlainText);
   auto* rotulo = new QLabel(Tx(txt::RotuloBuscar), this);
   rotulo->setBuddy(que_);
   auto* anterior = new QPushButton(Tx(txt::BuscarAnterior), this);

@@ -53,6 +53,7 @@ CampoPantalla::CampoPantalla(Ed id, char separador, const Catalogo& textos, QWid
   widget_->setObjectName(Q(fila.nombre));
   etiqueta_ = new QLabel(padre);
   etiqueta_->setObjectName(QStringLiteral("lb") + Q(fila.nombre.substr(2)));
+  etiqueta_->setTextFormat(Qt::PlainText);
   etiqueta_->setBuddy(widget_);
 }
 
@@ -263,7 +264,7 @@ void CampoPantalla::PonColores(const Control& control) {
 
 void CampoPantalla::PonMarca(MarcaCampo marca, const QString& porque) {
   if (linea_ == nullptr) return;
-  if (senal_ != nullptr) senal_->setToolTip(porque);
+  if (senal_ != nullptr) senal_->setToolTip(Consejo(porque));
   if (marca == marca_) return;
   marca_ = marca;
   delete senal_;
@@ -273,7 +274,7 @@ void CampoPantalla::PonMarca(MarcaCampo marca, const QString& porque) {
                      : marca == MarcaCampo::Bloqueado ? Icono::Bloqueado
                                                       : Icono::Rechazado;
   senal_ = linea_->addAction(DibujaIcono(icono, linea_->palette()), QLineEdit::LeadingPosition);
-  senal_->setToolTip(porque);
+  senal_->setToolTip(Consejo(porque));
 }
 
 void CampoPantalla::RenuevaTema() {

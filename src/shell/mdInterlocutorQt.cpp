@@ -29,6 +29,11 @@ void InterlocutorQt::Muestra(const std::string& texto, const std::string& titulo
   Avisa(Delante(padre_), textos_, Q(texto), Q(titulo));
 }
 
+void InterlocutorQt::Anuncia(const std::string& texto) {
+  if (!anuncia_) return Muestra(texto, {});
+  anuncia_(Q(texto));
+}
+
 bool InterlocutorQt::Pregunta(const std::string& texto, const std::string& titulo) {
   return zorbin::Pregunta(Delante(padre_), textos_, Q(texto), Q(titulo));
 }

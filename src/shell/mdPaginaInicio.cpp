@@ -68,7 +68,7 @@ void PaginaInicio::Renueva() {
     boton->setText(boton->fontMetrics()
                        .elidedText(larga, Qt::ElideMiddle, kAnchoColumna - 24)
                        .replace(QLatin1Char('&'), QStringLiteral("&&")));
-    boton->setToolTip(larga);
+    boton->setToolTip(Consejo(larga));
     boton->setStyleSheet(QStringLiteral("text-align: left"));
     recientes_->addWidget(boton, 0, Qt::AlignHCenter);
     connect(boton, &QPushButton::clicked, this, [this, ruta] { emit obraPedida(ruta); });

@@ -1,14 +1,15 @@
 #include "shell/mdPintor.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QIODevice>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QSaveFile>
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
+#include "persistencia/mdFicheroSalida.h"
 #include "recursos/mdCarpetas.h"
 
 namespace zorbin {
@@ -17,6 +18,7 @@ namespace {
 
 constexpr int kResolucion = 1200;  // [dots per inch]
 constexpr double kMmPulgada = 25.4;
+constexpr double kHolgura = 0.5;  // that the points of a paper round away [mm]
 
 // Courier New and fonts made to its measure.
 constexpr std::array<const char*, 5> kFamilias{"Courier New", "Liberation Mono", "Cousine",
@@ -41,58 +43,59 @@ QString EligeFamilia() {
   throw ErrorFuente("Courier New, Liberation Mono");
 }
 
+// A text for what shows it in one line, without control codes.
+QString EnUnaLinea(QString texto) {
+  for (QChar& letra : texto) {
+    if (letra.category() == QChar::Other_Control) letra = QLatin1Char(' ');
+  }
+  return texto.simplified();
+}
+
+// A file that fails, as the painter tells it.
+template <class Accion>
+auto EnFichero(const Accion& accion) {
+  try {
+    return accion();
+  } catch (const ErrorSalida& error) {
+    throw ErrorPintor(error.what());
+  }
+}
+
 }  // namespace
 
 // The PDF writer never looks back at what became of its bytes: this device writes them whole, or
 // remembers that it could not.
 class FicheroPdf : public QIODevice {
  public:
-  explicit FicheroPdf(const std::filesystem::path& ruta) {
-    const auto nombre = QString::fromStdString(ruta.string());
-    std::error_code error;
-    if (!std::filesystem::exists(ruta, error) || std::filesystem::is_regular_file(ruta, error)) {
-      provisional_ = new QSaveFile(nombre, this);
-      fichero_ = provisional_;
-    } else {
-      fichero_ = new QFile(nombre, this);
-    }
-    if (!fichero_->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) Falla();
-    open(QIODevice::WriteOnly);
+  explicit FicheroPdf(const std::filesystem::path& ruta) : salida_(ruta) { open(WriteOnly); }
+
+  /// @throws ErrorSalida of the first write that failed, or of the end
+  void Cierra() {
+    close();
+    Comprueba();
+    salida_.Termina();
   }
 
-  void Cierra() {
-    QIODevice::close();
-    if (falta_) throw ErrorPintor(causa_.toStdString());
-    if (provisional_ == nullptr) {
-      fichero_->close();
-    } else if (!provisional_->commit()) {
-      Falla();
-    }
+  /// @throws ErrorSalida where a write has failed
+  void Comprueba() const {
+    if (fallo_) throw ErrorSalida(*fallo_);
   }
 
  protected:
   qint64 readData(char*, qint64) override { return -1; }
 
   qint64 writeData(const char* datos, qint64 cuantos) override {
-    for (qint64 hechos = 0; hechos < cuantos && !falta_;) {
-      const qint64 n = fichero_->write(datos + hechos, cuantos - hechos);
-      if (n > 0) {
-        hechos += n;
-        continue;
-      }
-      falta_ = true;
-      causa_ = fichero_->errorString();
+    try {
+      if (!fallo_) salida_.Escribe({datos, static_cast<std::size_t>(cuantos)});
+    } catch (const ErrorSalida& error) {  // it may not pass through the toolkit
+      fallo_ = error;
     }
-    return falta_ ? -1 : cuantos;
+    return fallo_ ? -1 : cuantos;
   }
 
  private:
-  QFileDevice* fichero_ = nullptr;
-  QSaveFile* provisional_ = nullptr;  // none for a device
-  bool falta_ = false;
-  QString causa_;
-
-  [[noreturn]] void Falla() const { throw ErrorPintor(fichero_->errorString().toStdString()); }
+  FicheroSalida salida_;
+  std::optional<ErrorSalida> fallo_;
 };
 
 Pintor::Pintor() : familia_(EligeFamilia()) {}
@@ -172,11 +175,12 @@ void Pintor::Pinta(QPainter& pintor, const Hoja& hoja, double porMm) {
   }
 }
 
-HojasPdf::HojasPdf(const std::filesystem::path& fichero, const std::string& titulo)
-    : fichero_(std::make_unique<FicheroPdf>(fichero)) {
+HojasPdf::HojasPdf(const std::filesystem::path& fichero, const std::string& titulo,
+                   const QPageSize& papel)
+    : papel_(papel), fichero_(EnFichero([&] { return std::make_unique<FicheroPdf>(fichero); })) {
   pdf_ = std::make_unique<QPdfWriter>(fichero_.get());
   pdf_->setResolution(kResolucion);
-  pdf_->setTitle(QString::fromStdString(titulo).simplified());
+  pdf_->setTitle(EnUnaLinea(QString::fromStdString(titulo)));
   pdf_->setCreator(QStringLiteral("ZORBIN"));
 }
 
@@ -188,15 +192,18 @@ HojasPdf::~HojasPdf() {
 void HojasPdf::RecibeHoja(const Hoja& hoja) {
   const auto orientacion =
       hoja.orientacion == Orientacion::Vertical ? QPageLayout::Portrait : QPageLayout::Landscape;
-  pdf_->setPageLayout(
-      QPageLayout(QPageSize(QPageSize::A4), orientacion, QMarginsF(), QPageLayout::Millimeter));
+  const QPageLayout pagina(papel_, orientacion, QMarginsF(), QPageLayout::Millimeter);
+  pdf_->setPageLayout(pagina);
   if (!lienzo_) {
     lienzo_ = std::make_unique<QPainter>(pdf_.get());
-    if (!lienzo_->isActive()) throw ErrorPintor(fichero_->errorString().toStdString());
-  } else if (!pdf_->newPage()) {
-    throw ErrorPintor(fichero_->errorString().toStdString());
+  } else {
+    pdf_->newPage();
   }
-  pintor_.Pinta(*lienzo_, hoja, kResolucion / kMmPulgada);
+  EnFichero([this] { fichero_->Comprueba(); });  // what can't be written is not painted to its end
+  const QSizeF ancho = pagina.fullRect(QPageLayout::Millimeter).size();
+  const double escala = std::min(
+      {1.0, (ancho.width() + kHolgura) / hoja.Ancho(), (ancho.height() + kHolgura) / hoja.Alto()});
+  pintor_.Pinta(*lienzo_, hoja, escala * kResolucion / kMmPulgada);
   ++paginas_;
 }
 
@@ -205,7 +212,7 @@ void HojasPdf::Cierra() {
   lienzo_->end();
   lienzo_.reset();
   pdf_.reset();
-  fichero_->Cierra();
+  EnFichero([this] { fichero_->Cierra(); });
 }
 
 }  // namespace zorbin

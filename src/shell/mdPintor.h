@@ -4,6 +4,7 @@
 #include <QGlyphRun>
 #include <QHash>
 #include <QImage>
+#include <QPageSize>
 #include <QPainter>
 #include <QRawFont>
 #include <QString>
@@ -62,9 +63,12 @@ class Pintor {
 /// written as it stands.
 class HojasPdf : public DestinoHojas {
  public:
+  /// On a paper smaller than A4 the whole sheet is made smaller, so that no line is lost.
   /// @throws ErrorPintor when the file cannot be opened
-  explicit HojasPdf(const std::filesystem::path& fichero, const std::string& titulo);
+  HojasPdf(const std::filesystem::path& fichero, const std::string& titulo,
+           const QPageSize& papel = QPageSize(QPageSize::A4));
   ~HojasPdf() override;
+  /// @throws ErrorPintor when what came before could not be written
   void RecibeHoja(const Hoja& hoja) override;
 
   /// @throws ErrorPintor when not everything could be written; no file is left then
@@ -72,6 +76,7 @@ class HojasPdf : public DestinoHojas {
   int paginas() const { return paginas_; }
 
  private:
+  QPageSize papel_;
   std::unique_ptr<FicheroPdf> fichero_;
   std::unique_ptr<QPdfWriter> pdf_;
   std::unique_ptr<QPainter> lienzo_;

@@ -30,6 +30,7 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, QWidget* padre)
       siguiente_(kPaciencia) {
   setWindowTitle(Rotulo(textos.Texto(txt::CalculoEnCurso)));
   setWindowModality(Qt::WindowModal);
+  texto_->setTextFormat(Qt::PlainText);
   barra_->setRange(0, kMilesimas);
   barra_->setTextVisible(false);
   cancela_->setObjectName(QStringLiteral("btCancelar"));

@@ -12,6 +12,7 @@
 #include "captura/mdCiclo.h"
 #include "captura/mdEdicion.h"
 #include "captura/mdEtiquetas.h"
+#include "captura/mdListaTramos.h"
 #include "captura/mdTipologias.h"
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "pantallas/entornoPrueba.h"
@@ -20,6 +21,7 @@
 #include "recursos/mdRtf.h"
 #include "shell/CapturaDatos.h"
 #include "shell/FormaPrincipal.h"
+#include "shell/mdRecuperacion.h"
 
 namespace zorbin {
 namespace {
@@ -174,6 +176,25 @@ void Ajustes_(Fotografo& foto, prueba::Mesa& mesa, int idioma) {
   foto.Saca(*traccion.pantalla, "ajustes5");
 }
 
+// Unsaved work that is offered: a stored Tramo that was changed, and a new one.
+void Recupera_(Fotografo& foto, Captura& c, const Entorno& entorno) {
+  const auto toma = [&](const QString& nombre) {
+    const auto b = TomaBorrador(c);
+    frRecuperar dialogo(entorno, b, ComparaVersiones(b, c.textos, c.tablas, ','), nullptr);
+    dialogo.show();
+    QTest::qWait(50);
+    foto.Saca(dialogo, nombre);
+  };
+  CancelaCaptura(c);
+  TomaTramo(c, "1");
+  Cambia(c, Ed::edFck, "42");
+  EligeOpcion(c, Ed::rdTipoColocacion, 2);
+  toma("recupera");
+  CancelaCaptura(c);
+  NuevoTramo(c);
+  toma("recupera-nuevo");
+}
+
 }  // namespace
 }  // namespace zorbin
 
@@ -209,6 +230,7 @@ int main(int argumentos, char** palabras) {
   Captura_(foto, c, ventana, idioma);
   Calculadoras_(foto, mesa.entorno);
   Ajustes_(foto, mesa, idioma);
+  Recupera_(foto, c, mesa.entorno);
   for (const auto& caja : persona.cajas) std::cerr << S(caja.texto) << '\n';
   return 0;
 }

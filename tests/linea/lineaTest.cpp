@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "comun/comparaFichero.h"
+#include "comun/discoLleno.h"
 #include "comun/estadoDeJson.h"
 #include "comun/grabadoRoto.h"
 #include "persistencia/mdDpe.h"
@@ -320,12 +321,71 @@ TEST_F(Linea, UnaSalidaImposibleSeDiceYNoDejaRestos) {
   const auto r = Llama("calcula " + acequia + " --salida /no/hay/r.txt");
   EXPECT_EQ(r.codigo, 4);
   EXPECT_NE(r.quejas.find("/no/hay/r.txt"), std::string::npos);
-  EXPECT_EQ(Llama("calcula " + acequia + " --salida /dev/full").codigo, 4);
   const int estado = std::system(ZORBIN_CALC " medios >/dev/full 2>/dev/null");
   EXPECT_EQ(WEXITSTATUS(estado), 4);
+  EXPECT_EQ(Llama("calcula " + acequia + " --salida /dev/full").codigo, 4);
+  EXPECT_EQ(WEXITSTATUS(std::system(ZORBIN_CALC " --help >/dev/full 2>/dev/null")), 4);
   const auto sinLog = Llama("calcula " + acequia + " --tramo 1 --registros /proc/no");
   EXPECT_EQ(sinLog.codigo, 3);
   EXPECT_NE(sinLog.quejas.find("Debugpim_cal.txt"), std::string::npos);
+}
+
+// The disk fills in the middle: what was there stays, nothing else is left, and it is told why.
+TEST_F(Linea, UnDiscoQueSeLlenaDejaLoQueHabia) {
+  fs::create_symlink("/dev/null", carpeta / "Debugpim_cal.txt");
+  const auto fichero = carpeta / "r";
+  for (const std::string salida : {" --salida ", " --formato json --salida ",
+                                   " --listado normal --texto ", " --listado normal --pdf "}) {
+    std::ofstream(fichero) << "antes";
+    const std::string palabras =
+        "calcula " + acequia + " --registros " + carpeta.string() + salida + fichero.string();
+    Resultado r;
+    {
+      const pruebas::DiscoLleno lleno(8192);
+      r = Llama(palabras);
+    }
+    EXPECT_EQ(r.codigo, 4) << salida;
+    EXPECT_NE(r.quejas.find(fichero.string() + ": File too large"), std::string::npos) << r.quejas;
+    EXPECT_EQ(Lee(fichero), "antes") << salida;
+    EXPECT_EQ(std::distance(fs::directory_iterator(carpeta), fs::directory_iterator()), 4);
+    EXPECT_EQ(Llama(palabras).codigo, 0);
+    EXPECT_GT(fs::file_size(fichero), 8192U);
+  }
+}
+
+// Names and texts of an Obra command neither the shell, nor a terminal, nor who reads the PDF.
+TEST_F(Linea, LosTextosDeUnaObraSalenComoEstanYNoMandan) {
+  const std::string nombre = "<img src=\"file:///etc/passwd\"> %1 {1} `touch cae`";
+  const std::string obra = "'" + carpeta.string() + "/-rf $(touch cae); <b>%s {1}\x1b[31m.zrb'";
+  const std::string copia = Copia(5, nombre + "\x1b]0;m\x07");
+  fs::rename(copia, obra.substr(1, obra.size() - 2));
+  const std::string calcula = "calcula " + obra + " --tramo 1";
+  const auto j = nlohmann::json::parse(Llama(calcula + " --formato json").salida);
+  EXPECT_EQ(j["obra"]["NombreObra"], nombre + "\x1b]0;m\x07");
+  const auto lista = Llama(calcula + " --listado normal");
+  EXPECT_NE(lista.salida.find(nombre), std::string::npos);
+  EXPECT_NE(lista.salida.find('\x1b'), std::string::npos);  // a file gets its bytes
+
+  const auto pdf = "'" + carpeta.string() + "/x;touch cae.pdf'";
+  ASSERT_EQ(Llama(calcula + " --listado normal --pdf " + pdf).codigo, 0);
+  const auto de = [&](const std::string& orden) {
+    const auto salida = carpeta / "de";
+    EXPECT_EQ(std::system((orden + " >" + salida.string()).c_str()), 0) << orden;
+    return Lee(salida);
+  };
+  EXPECT_NE(de("pdftotext -layout " + pdf + " -").find(nombre), std::string::npos);
+  const auto datos = de("pdfinfo " + pdf);
+  EXPECT_NE(datos.find(nombre + " ]0;m\n"), std::string::npos) << datos;
+
+  // On a terminal, and in what is told, the codes are shown.
+  std::ofstream(carpeta / "orden") << ZORBIN_CALC " " + calcula + " --listado normal";
+  const auto terminal = de("script -qec 'sh " + (carpeta / "orden").string() + "' /dev/null");
+  EXPECT_NE(terminal.find(nombre + "\\x1B]0;m\\x07"), std::string::npos) << terminal;
+  EXPECT_EQ(terminal.find('\x1b'), std::string::npos);
+  const auto r = Llama("calcula " + obra + " --tramo 99");
+  EXPECT_NE(r.quejas.find("<b>%s {1}\\x1B[31m.zrb"), std::string::npos) << r.quejas;
+  EXPECT_EQ(r.quejas.find('\x1b'), std::string::npos);
+  EXPECT_FALSE(fs::exists(carpeta / "cae") || fs::exists("cae"));
 }
 
 }  // namespace

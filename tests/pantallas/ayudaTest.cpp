@@ -13,8 +13,8 @@
 
 #include "pantallas/entornoPrueba.h"
 #include "shell/ayuda/frAyuda.h"
-#include "shell/ayuda/mdVisorHtml.h"
 #include "shell/ayuda/textosAyuda.h"
+#include "shell/piezas/mdVisorHtml.h"
 
 namespace zorbin {
 namespace {

@@ -79,6 +79,7 @@ class Persona : public QObject {
   struct Caja {
     QString titulo;
     QString texto;
+    bool literal;  // its text is no rich text
   };
   std::vector<Caja> cajas;
   std::vector<bool> respuestas;  // Yes or No of the questions to come, in order
@@ -109,7 +110,7 @@ class Persona : public QObject {
     }
     auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (caja == nullptr || !caja->isVisible()) return;
-    cajas.push_back({caja->windowTitle(), caja->text()});
+    cajas.push_back({caja->windowTitle(), caja->text(), caja->textFormat() == Qt::PlainText});
     const auto botones = caja->buttons();
     QAbstractButton* elegido = botones.first();
     if (botones.size() == 2) {

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrinter>
 #include <QScrollBar>
 #include <array>
 #include <cstdio>
@@ -17,7 +16,6 @@
 #include "shell/impresion/frImpresoras.h"
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"
-#include "shell/impresion/mdHojasImpresora.h"
 #include "shell/impresion/mdImpresora.h"
 
 namespace zorbin::prueba {
@@ -39,26 +37,11 @@ QByteArray Contenido(const QString& ruta) {
   return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
-// What was done with a printer, which writes a PDF here.
+// What a printer was given.
 struct Hecho {
-  QString fichero;
+  QString fichero;  // a copy of the document
   int copias = 0;
   QString trabajo;
-};
-
-class ImpresoraDePrueba : public QPrinter {
- public:
-  explicit ImpresoraDePrueba(Hecho& hecho) : QPrinter(QPrinter::HighResolution), hecho_(hecho) {
-    setOutputFormat(QPrinter::PdfFormat);
-    setOutputFileName(hecho.fichero);
-  }
-  ~ImpresoraDePrueba() override {
-    hecho_.copias = copyCount();
-    hecho_.trabajo = docName();
-  }
-
- private:
-  Hecho& hecho_;
 };
 
 struct Imprenta {
@@ -66,12 +49,19 @@ struct Imprenta {
   QStringList nombres{"Laser", "Plotter"};
   QString predeterminada = "Plotter";
   Hecho hecho{mesa.carpeta.filePath("papel.pdf"), 0, {}};
-  Impresora impresora{mesa.textos,
-                      mesa.preferencias,
-                      {[this] { return nombres; }, [this] { return predeterminada; },
-                       [this](const QString&) -> std::unique_ptr<QPrinter> {
-                         return std::make_unique<ImpresoraDePrueba>(hecho);
-                       }}};
+  QPageSize papel{QPageSize::A4};
+  Impresora impresora{
+      mesa.textos,
+      mesa.preferencias,
+      {[this] { return nombres; }, [this] { return predeterminada; },
+       [this](const QString&) { return papel; }, [this](const TrabajoImpresion& t) { Recibe(t); }}};
+
+  void Recibe(const TrabajoImpresion& t) {
+    QFile::remove(hecho.fichero);
+    QFile::copy(Q(t.fichero), hecho.fichero);
+    hecho.copias = t.copias;
+    hecho.trabajo = Q(t.titulo);
+  }
 
   QString Fichero(const char* nombre) const { return mesa.carpeta.filePath(nombre); }
 };
@@ -153,22 +143,11 @@ TEST(Papel, EnUnaSolaTiradaCadaHojaLlevaSuOrientacion) {
 
 // On a smaller paper the sheet shrinks whole: its last line is still there.
 TEST(Papel, EnUnPapelMenorNoSePierdeNingunaLinea) {
-  const Mesa mesa;
-  struct Carta : QPrinter {
-    Carta() : QPrinter(QPrinter::HighResolution) {}
-    bool setPageLayout(const QPageLayout& pagina) override {
-      QPageLayout otra = pagina;
-      otra.setPageSize(QPageSize(QPageSize::A5), QMarginsF());
-      return QPrinter::setPageLayout(otra);
-    }
-  } carta;
-  carta.setOutputFormat(QPrinter::PdfFormat);
-  carta.setOutputFileName(mesa.carpeta.filePath("a5.pdf"));
+  Imprenta imprenta;
+  imprenta.papel = QPageSize(QPageSize::A5);
   const auto hojas = Listado("normal");
-  HojasImpresora papel(carta);
-  papel.RecibeHoja(hojas.front());
-  papel.Cierra();
-  const auto cajas = Salida("pdftotext -bbox '" + S(carta.outputFileName()) + "' -");
+  ASSERT_TRUE(imprenta.impresora.Imprime(nullptr, "a5", De({hojas.front()})));
+  const auto cajas = Salida("pdftotext -bbox '" + S(imprenta.hecho.fichero) + "' -");
   double derecha = 0, abajo = 0;
   for (auto i = cajas.find("<word"); i != std::string::npos; i = cajas.find("<word", i + 1)) {
     derecha = std::max(derecha, std::stod(cajas.substr(cajas.find("xMax=\"", i) + 6)));

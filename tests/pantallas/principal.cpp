@@ -1,9 +1,10 @@
 // The tests of the screens run without a display, with settings of their own.
 #include <gtest/gtest.h>
-#include <QApplication>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <cstdlib>
+
+#include "shell/programa/mdAplicacion.h"
 
 int main(int argumentos, char** palabras) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -12,7 +13,7 @@ int main(int argumentos, char** palabras) {
   qputenv("XDG_CONFIG_HOME", carpeta.path().toUtf8());
   qputenv("XDG_STATE_HOME", carpeta.path().toUtf8());
   qputenv("XDG_DATA_HOME", carpeta.path().toUtf8());
-  QApplication aplicacion(argumentos, palabras);
+  zorbin::Aplicacion aplicacion(argumentos, palabras);
   QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
   ::testing::InitGoogleTest(&argumentos, palabras);
   return RUN_ALL_TESTS();

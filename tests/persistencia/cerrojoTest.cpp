@@ -147,6 +147,25 @@ TEST_F(ConCerrojos, LaMarcaSeLeeConDesconfianza) {
   EXPECT_FALSE(Negativa());  // no mark can be made: the file opens all the same
   EXPECT_TRUE(fs::is_symlink(RutaMarca(ruta)));
   EXPECT_TRUE(SigueVivo(EsteTitular()));
+
+  // One that is gone, and of which its parent has not yet taken notice.
+  std::array<int, 2> tubo{};
+  ASSERT_EQ(::pipe(tubo.data()), 0);
+  const pid_t hijo = ::fork();
+  if (hijo == 0) {
+    const std::string texto = TextoMarca(EsteTitular());
+    ::_exit(::write(tubo[1], texto.data(), texto.size()) > 0 ? 0 : 1);
+  }
+  ::close(tubo[1]);
+  std::array<char, 512> bytes{};
+  const auto n = ::read(tubo[0], bytes.data(), bytes.size());
+  siginfo_t fin{};
+  ASSERT_EQ(::waitid(P_PID, static_cast<id_t>(hijo), &fin, WEXITED | WNOWAIT), 0);
+  const auto muerto = LeeTextoMarca({bytes.data(), static_cast<std::size_t>(n)});
+  ASSERT_TRUE(muerto.has_value());
+  EXPECT_FALSE(SigueVivo(*muerto));
+  ::waitpid(hijo, nullptr, 0);
+  ::close(tubo[0]);
 }
 
 }  // namespace

@@ -10,7 +10,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -27,6 +26,7 @@
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTeclasRapidas.h"
+#include "shell/piezas/mdVisorHtml.h"
 #include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {
@@ -222,9 +222,8 @@ QWidget* frAjustes::ColumnaDeLaComprobacion() {
   filas->addWidget(MarcoComprobacion());
   hueco_ = new QStackedWidget(this);
   hueco_->addWidget(MarcoPared());
-  tbAviso_ = new QTextBrowser(this);
+  tbAviso_ = new VisorHtml(this);
   tbAviso_->setObjectName("tbAviso");
-  tbAviso_->setOpenLinks(false);
   tbAviso_->setTabChangesFocus(true);
   vigilante_.Exime(*tbAviso_);
   hueco_->addWidget(tbAviso_);

@@ -5,7 +5,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QTextBrowser>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -14,6 +13,7 @@
 #include "protecciones/mdMediosPapel.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTeclasRapidas.h"
+#include "shell/piezas/mdVisorHtml.h"
 
 namespace zorbin {
 
@@ -96,10 +96,9 @@ void Protecciones::CreaPiezas() {
   btVisualizar_->setDefault(true);
   btImprimir_ = CreaBoton("btImprimir", [this] { Imprimir(); });
   edResultadoAgres_ = CreaArea("edResultadoAgres", kColumnasAnalisis, kLineasAnalisis);
-  edEjemplo_ = new QTextBrowser(this);
+  edEjemplo_ = new VisorHtml(this);
   edEjemplo_->setMinimumWidth(fontMetrics().averageCharWidth() * kColumnasEjemplo);
   edEjemplo_->setObjectName("edEjemplo");
-  edEjemplo_->setOpenLinks(false);
   edEjemplo_->setTabChangesFocus(true);
 }
 

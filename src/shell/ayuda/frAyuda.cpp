@@ -13,9 +13,9 @@
 #include <QWindow>
 
 #include "shell/ayuda/mdGuia.h"
-#include "shell/ayuda/mdVisorHtml.h"
 #include "shell/ayuda/textosAyuda.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdVisorHtml.h"
 
 namespace zorbin {
 

@@ -8,9 +8,9 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
-#include "shell/ayuda/mdVisorHtml.h"
 #include "shell/ayuda/textosAyuda.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdVisorHtml.h"
 #include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {

@@ -171,7 +171,8 @@ frVistaPrevia::frVistaPrevia(const Catalogo& textos, Preferencias& preferencias,
       impresion_(impresion),
       nombre_(nombre),
       vista_(new VistaHojas(std::move(hojas), this)) {
-  setWindowTitle(Rotulo(textos.Texto(txt::VistaPrevia)).remove(QChar(0x2026)) + " - " + nombre);
+  setWindowTitle(Rotulo(textos.Texto(txt::VistaPrevia)).remove(QChar(0x2026)) + " - " +
+                 EnTitulo(nombre));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   CreaBarra();
   connect(vista_, &VistaHojas::cambia, this, [this] { Renueva(); });
@@ -214,6 +215,7 @@ void frVistaPrevia::CreaBarra() {
   anterior_ = Boton(QString(QChar(0x25B2)), texto(txt::PaginaAnterior));
   siguiente_ = Boton(QString(QChar(0x25BC)), texto(txt::PaginaSiguiente));
   pagina_ = new QLabel(this);
+  pagina_->setTextFormat(Qt::PlainText);
   pagina_->setObjectName(QStringLiteral("pagina"));
 
   auto* barra = new QHBoxLayout;

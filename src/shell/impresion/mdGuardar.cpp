@@ -1,10 +1,12 @@
 #include "shell/impresion/mdGuardar.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include "persistencia/mdFicheroSalida.h"
+#include "shell/impresion/mdColaImpresion.h"
 #include "shell/impresion/textosImpresion.h"
 #include "shell/mdPintor.h"
 #include "shell/piezas/mdDialogos.h"
@@ -14,6 +16,7 @@ namespace zorbin {
 
 namespace {
 
+constexpr int kMaxNombre = 200;  // bytes of a name that is proposed; the extension comes after it
 const QString kCarpeta = QStringLiteral("Listado/Carpeta");
 
 QString UltimaCarpeta(const Preferencias& preferencias) {
@@ -22,13 +25,18 @@ QString UltimaCarpeta(const Preferencias& preferencias) {
   return vale ? carpeta : preferencias.UltimaCarpeta();
 }
 
-// A name of a document as a name of a file.
+// A name of a document as a name of a file, which the disk takes and no program mistakes for an
+// option.
 QString SinBarras(QString nombre) {
-  for (const char letra : {'/', '\\', ':', '*', '?', '"', '<', '>', '|', '\n', '\r', '\t'}) {
-    nombre.replace(QLatin1Char(letra), QLatin1Char(' '));
+  for (QChar& letra : nombre) {
+    const bool rara = letra.category() == QChar::Other_Control ||
+                      letra.category() == QChar::Other_Format ||
+                      QStringLiteral("/\\:*?\"<>|").contains(letra);
+    if (rara) letra = QLatin1Char(' ');
   }
   nombre = nombre.simplified();
-  while (nombre.startsWith('.')) nombre.remove(0, 1);
+  while (nombre.startsWith('.') || nombre.startsWith('-')) nombre = nombre.mid(1).trimmed();
+  while (nombre.toUtf8().size() > kMaxNombre) nombre.chop(1);
   return nombre.isEmpty() ? QStringLiteral("ZORBIN") : nombre;
 }
 
@@ -69,11 +77,11 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
   } catch (const ErrorFuente& error) {
     Avisa(padre, textos, Frase(textos, txt::SinLetra, Q(error.what())));
   } catch (const ErrorPintor& error) {
-    const bool conCausa = *error.what() != '\0';
+    Avisa(padre, textos, Frase(textos, txt::NoSePuedeEscribir, donde, Q(error.what())));
+  } catch (const ErrorImpresora& error) {
     Avisa(padre, textos,
-          conCausa ? Frase(textos, txt::NoSePuedeEscribir, donde, Q(error.what()))
-                   : Frase(textos, txt::ImpresoraNoAcepta, donde));
-  } catch (const std::exception& error) {
+          Frase(textos, txt::ImpresoraNoAcepta, Q(error.impresora()), Q(error.what())));
+  } catch (const std::exception& error) {  // that of a file, or one that nobody foresaw
     Avisa(padre, textos, Frase(textos, txt::NoSePuedeEscribir, donde, Q(error.what())));
   }
   return false;
@@ -87,7 +95,7 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
   if (ruta.isEmpty()) return false;
   bool vacio = false;
   const bool hecho = HazDocumento(padre, textos, ruta, [&] {
-    HojasPdf hojas(S(ruta), S(nombre));
+    HojasPdf hojas(QFile::encodeName(ruta).toStdString(), S(nombre));
     documento(hojas);
     vacio = hojas.paginas() == 0;
     if (!vacio) hojas.Cierra();
@@ -103,12 +111,9 @@ bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferenc
                         {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
   if (ruta.isEmpty()) return false;
   return HazDocumento(padre, textos, ruta, [&] {
-    QSaveFile fichero(ruta);
-    const auto bytes = static_cast<qint64>(texto.size());
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(texto.data(), bytes) != bytes ||
-        !fichero.commit()) {
-      throw ErrorPintor(S(fichero.errorString()));
-    }
+    FicheroSalida fichero(QFile::encodeName(ruta).toStdString());
+    fichero.Escribe(texto);
+    fichero.Termina();
   });
 }
 

@@ -1,12 +1,17 @@
 #include "shell/impresion/mdImpresora.h"
 
-#include <QPrinter>
+#include <QEventLoop>
+#include <QGuiApplication>
 #include <QPrinterInfo>
+#include <QTemporaryDir>
+#include <exception>
+#include <functional>
+#include <thread>
 
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"
-#include "shell/impresion/mdHojasImpresora.h"
 #include "shell/impresion/textosImpresion.h"
+#include "shell/mdPintor.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -14,17 +19,47 @@ namespace zorbin {
 
 namespace {
 
-std::unique_ptr<QPrinter> AbreImpresora(const QString& nombre) {
-  const auto informe = QPrinterInfo::printerInfo(nombre);
-  if (informe.isNull()) return nullptr;
-  return std::make_unique<QPrinter>(informe, QPrinter::HighResolution);
+// Keeps the sheets of a document.
+class HojasEnMemoria : public DestinoHojas {
+ public:
+  void RecibeHoja(const Hoja& hoja) override { hojas.push_back(hoja); }
+
+  std::vector<Hoja> hojas;
+};
+
+// The sheets are of A4, which a printer that does not say its papers is taken to have.
+QPageSize PapelDe(const QString& impresora) {
+  const QPageSize a4(QPageSize::A4);
+  const auto informe = QPrinterInfo::printerInfo(impresora);
+  const auto papeles = informe.supportedPageSizes();
+  const QPageSize suyo = informe.defaultPageSize();
+  return papeles.isEmpty() || papeles.contains(a4) || !suyo.isValid() ? a4 : suyo;
+}
+
+// While the server keeps silent the windows go on being painted. What is typed waits.
+void EnOtroHilo(const std::function<void()>& trabajo) {
+  std::exception_ptr fallo;
+  QEventLoop espera;
+  std::thread hilo([&] {
+    try {
+      trabajo();
+    } catch (...) {
+      fallo = std::current_exception();
+    }
+    QMetaObject::invokeMethod(&espera, &QEventLoop::quit, Qt::QueuedConnection);
+  });
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  espera.exec(QEventLoop::ExcludeUserInputEvents);
+  QGuiApplication::restoreOverrideCursor();
+  hilo.join();
+  if (fallo) std::rethrow_exception(fallo);
 }
 
 }  // namespace
 
 Impresoras Impresoras::DeLaMaquina() {
   return {[] { return QPrinterInfo::availablePrinterNames(); },
-          [] { return QPrinterInfo::defaultPrinterName(); }, AbreImpresora};
+          [] { return QPrinterInfo::defaultPrinterName(); }, PapelDe, EntregaACola};
 }
 
 Impresora::Impresora(const Catalogo& textos, Preferencias& preferencias, Impresoras impresoras)
@@ -46,27 +81,26 @@ bool Impresora::Imprime(QWidget* padre, const QString& nombre, const Documento& 
 
 bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QString& nombre,
                           const Documento& documento) {
-  const auto papel =
-      impresoras_.nombres().contains(impresora) ? impresoras_.abre(impresora) : nullptr;
-  if (!papel) {
+  if (!impresoras_.nombres().contains(impresora)) {
     Avisa(padre, textos_, Q(textos_.Compone(txt::ImpresoraQueNoEsta, {S(impresora)})));
     return false;
   }
-  papel->setDocName(nombre);
-  papel->setCreator(QString::fromLatin1(kTituloAplicacion));
-  papel->setCopyCount(preferencias_.Copias());
-  return HazDocumento(padre, textos_, impresora, [&] {
-    // A printer may begin with the first page it gets: it gets them once all are there.
-    HojasEnMemoria todas;
-    documento(todas);
-    if (todas.hojas.empty()) {
+  // The printer gets a document that is whole, or nothing.
+  const QTemporaryDir carpeta;
+  const QString fichero = carpeta.filePath(QStringLiteral("listado.pdf"));
+  return HazDocumento(padre, textos_, fichero, [&] {
+    if (!carpeta.isValid()) throw ErrorPintor(S(carpeta.errorString()));
+    const QPageSize papel = impresoras_.papel(impresora);
+    HojasPdf hojas(S(fichero), S(nombre), papel);
+    documento(hojas);
+    if (hojas.paginas() == 0) {
       Avisa(padre, textos_, Q(textos_.Texto(txt::DocumentoVacio)));
       throw DocumentoCancelado{};
     }
-    HojasImpresora hojas(*papel);
-    for (const auto& hoja : todas.hojas) hojas.RecibeHoja(hoja);
     hojas.Cierra();
-    if (papel->printerState() == QPrinter::Error) throw ErrorPintor("");
+    const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
+                                   papel.id() == QPageSize::A4};
+    EnOtroHilo([&] { impresoras_.entrega(trabajo); });
   });
 }
 

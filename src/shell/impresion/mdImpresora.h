@@ -2,16 +2,15 @@
 // copies, is remembered in the settings; the screen Impresoras chooses it.
 #pragma once
 
+#include <QPageSize>
 #include <QString>
 #include <QStringList>
 #include <functional>
-#include <memory>
 
 #include "recursos/mdCatalogo.h"
+#include "shell/impresion/mdColaImpresion.h"
 #include "shell/piezas/mdImpresion.h"
 #include "shell/piezas/mdPreferencias.h"
-
-class QPrinter;
 
 namespace zorbin {
 
@@ -22,7 +21,8 @@ inline const QString kImpresoraPdf = QStringLiteral("/pdf");
 struct Impresoras {
   std::function<QStringList()> nombres;
   std::function<QString()> predeterminada;  // empty: none
-  std::function<std::unique_ptr<QPrinter>(const QString& nombre)> abre;
+  std::function<QPageSize(const QString& nombre)> papel;
+  std::function<void(const TrabajoImpresion&)> entrega;  // throws ErrorImpresora
 
   static Impresoras DeLaMaquina();
 };

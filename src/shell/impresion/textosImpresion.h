@@ -24,7 +24,7 @@ inline constexpr int BotonCancelarImpresion = 214;
 inline constexpr int FicheroPdf = 1240;
 inline constexpr int Predeterminada = 1241;     // {1} printer
 inline constexpr int ImpresoraQueNoEsta = 1242; // {1} printer
-inline constexpr int ImpresoraNoAcepta = 1243;  // {1} printer
+inline constexpr int ImpresoraNoAcepta = 1243;  // {1} printer, {2} why
 
 // Files
 inline constexpr int NoSePuedeEscribir = 1244;  // {1} file, {2} why

@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <new>
 
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/textosPiezas.h"
@@ -29,6 +30,13 @@ void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto, const Q
   caja.setIcon(QMessageBox::Warning);
   caja.addButton(Rotulo(textos.Texto(txt::BotonAceptar)), QMessageBox::AcceptRole);
   caja.exec();
+}
+
+QString TextoInesperado(const Catalogo& textos, const std::exception* error) {
+  std::string causa = "?";
+  if (error != nullptr) causa = error->what();
+  if (dynamic_cast<const std::bad_alloc*>(error) != nullptr) causa = textos.Texto(txt::SinMemoria);
+  return Q(textos.Compone(txt::CierraEjecucion, {causa}));
 }
 
 bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, const QString& titulo) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <exception>
 
 #include "recursos/mdCatalogo.h"
 
@@ -19,5 +20,9 @@ void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto,
 /// A question with Yes and No; Escape answers No. @return whether the answer was Yes
 bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto,
               const QString& titulo = {});
+
+/// What is said of a failure that nobody foresaw.
+/// @param error  null for one without words
+QString TextoInesperado(const Catalogo& textos, const std::exception* error);
 
 }  // namespace zorbin

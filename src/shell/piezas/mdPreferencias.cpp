@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 #include <QWidget>
 #include <algorithm>
 
@@ -14,83 +15,84 @@ const QString kSeccionAvisos = QStringLiteral("Opciones Rev 2002");
 const QString kIdioma = QStringLiteral("Idioma");
 const QString kRecientesClave = QStringLiteral("Obras/Recientes");
 
-int IdiomaDe(const QSettings& ajustes) {
+int IdiomaDe(const QVariant& escrito) {
   bool numero = false;
-  const int idioma = ajustes.value(kIdioma).toString().toInt(&numero);
+  const int idioma = escrito.toString().toInt(&numero);
   return numero && idioma >= 1 && idioma <= 6 ? idioma : -1;
+}
+
+QString FicheroDe(QSettings::Scope deQuien) {
+  return QSettings(QSettings::IniFormat, deQuien, QStringLiteral("ZORBIN"),
+                   QStringLiteral("ZORBIN"))
+      .fileName();
 }
 
 }  // namespace
 
 Preferencias::Preferencias()
-    : usuario_(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                           QStringLiteral("ZORBIN"), QStringLiteral("ZORBIN"))),
-      maquina_(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::SystemScope,
-                                           QStringLiteral("ZORBIN"), QStringLiteral("ZORBIN"))) {
-  usuario_->setFallbacksEnabled(false);
-}
+    : Preferencias(FicheroDe(QSettings::UserScope), FicheroDe(QSettings::SystemScope)) {}
 
 Preferencias::Preferencias(const QString& ficheroUsuario, const QString& ficheroMaquina)
-    : usuario_(std::make_unique<QSettings>(ficheroUsuario, QSettings::IniFormat)),
-      maquina_(std::make_unique<QSettings>(ficheroMaquina, QSettings::IniFormat)) {}
+    : usuario_(ficheroUsuario), maquina_(ficheroMaquina) {}
+
+Preferencias::~Preferencias() {
+  Guarda();  // what could not be written was told when the window closed
+}
 
 int Preferencias::IdiomaPropio() const {
   // The choice of a user who may not write for the machine stands before the machine's.
-  const int propio = IdiomaDe(*usuario_);
-  return propio != -1 ? propio : IdiomaDe(*maquina_);
+  const int propio = IdiomaDe(usuario_.Valor(kIdioma));
+  return propio != -1 ? propio : IdiomaDe(maquina_.Valor(kIdioma));
 }
 
 void Preferencias::GrabaIdioma(int idioma) {
   const QString texto = QString::number(idioma);
-  if (maquina_->isWritable()) {
-    maquina_->setValue(kIdioma, texto);
-    maquina_->sync();
-    if (maquina_->status() == QSettings::NoError) {
-      usuario_->remove(kIdioma);
-      return;
-    }
+  maquina_.Pon(kIdioma, texto);
+  if (maquina_.Guarda()) {
+    usuario_.Quita(kIdioma);
+  } else {
+    maquina_.Deshaz();
+    usuario_.Pon(kIdioma, texto);
   }
-  usuario_->setValue(kIdioma, texto);
-  usuario_->sync();
+  Guarda();
 }
 
 QString Preferencias::OpcionAviso(const QString& nombre) const {
-  return usuario_->value(kSeccionAvisos + '/' + nombre, QStringLiteral("1")).toString();
+  return usuario_.Valor(kSeccionAvisos + '/' + nombre, QStringLiteral("1")).toString();
 }
 
 void Preferencias::PonOpcionAviso(const QString& nombre, bool mostrar) {
-  usuario_->setValue(kSeccionAvisos + '/' + nombre,
-                     mostrar ? QStringLiteral("1") : QStringLiteral("0"));
+  usuario_.Pon(kSeccionAvisos + '/' + nombre, mostrar ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 void Preferencias::GuardaVentana(const QString& nombre, const QWidget& ventana) {
-  usuario_->setValue(QStringLiteral("Ventanas/") + nombre, ventana.saveGeometry());
+  usuario_.Pon(QStringLiteral("Ventanas/") + nombre, ventana.saveGeometry());
 }
 
 bool Preferencias::RecuperaVentana(const QString& nombre, QWidget& ventana) const {
-  const auto geometria = usuario_->value(QStringLiteral("Ventanas/") + nombre).toByteArray();
+  const auto geometria = usuario_.Valor(QStringLiteral("Ventanas/") + nombre).toByteArray();
   return !geometria.isEmpty() && ventana.restoreGeometry(geometria);
 }
 
 void Preferencias::GuardaEstado(const QString& nombre, const QByteArray& estado) {
-  usuario_->setValue(QStringLiteral("Estados/") + nombre, estado);
+  usuario_.Pon(QStringLiteral("Estados/") + nombre, estado);
 }
 
 QByteArray Preferencias::Estado(const QString& nombre) const {
-  return usuario_->value(QStringLiteral("Estados/") + nombre).toByteArray();
+  return usuario_.Valor(QStringLiteral("Estados/") + nombre).toByteArray();
 }
 
 QString Preferencias::UltimaCarpeta() const {
-  const QString carpeta = usuario_->value(QStringLiteral("Obras/Carpeta")).toString();
+  const QString carpeta = usuario_.Valor(QStringLiteral("Obras/Carpeta")).toString();
   return !carpeta.isEmpty() && QFileInfo(carpeta).isDir() ? carpeta : QDir::homePath();
 }
 
 void Preferencias::PonUltimaCarpeta(const QString& carpeta) {
-  usuario_->setValue(QStringLiteral("Obras/Carpeta"), carpeta);
+  usuario_.Pon(QStringLiteral("Obras/Carpeta"), carpeta);
 }
 
 QStringList Preferencias::ObrasRecientes() const {
-  QStringList rutas = usuario_->value(kRecientesClave).toStringList();
+  QStringList rutas = usuario_.Valor(kRecientesClave).toStringList();
   rutas.removeIf([](const QString& ruta) { return !QFileInfo::exists(ruta); });
   return rutas;
 }
@@ -101,54 +103,64 @@ void Preferencias::AnotaObra(const QString& ruta) {
   rutas.removeAll(fichero.absoluteFilePath());
   rutas.prepend(fichero.absoluteFilePath());
   while (rutas.size() > kRecientes) rutas.removeLast();
-  usuario_->setValue(kRecientesClave, rutas);
+  usuario_.Pon(kRecientesClave, rutas);
   PonUltimaCarpeta(fichero.absolutePath());
+  Guarda();
 }
 
 void Preferencias::OlvidaObra(const QString& ruta) {
   QStringList rutas = ObrasRecientes();
   rutas.removeAll(ruta);
-  usuario_->setValue(kRecientesClave, rutas);
+  usuario_.Pon(kRecientesClave, rutas);
 }
 
 int Preferencias::TipoListado() const {
-  return std::clamp(usuario_->value(QStringLiteral("Listado/Tipo"), 0).toInt(), 0, 3);
+  return std::clamp(usuario_.Valor(QStringLiteral("Listado/Tipo"), 0).toInt(), 0, 3);
 }
 
 void Preferencias::PonTipoListado(int tipo) {
-  usuario_->setValue(QStringLiteral("Listado/Tipo"), tipo);
+  usuario_.Pon(QStringLiteral("Listado/Tipo"), tipo);
 }
 
 QString Preferencias::Impresora() const {
-  return usuario_->value(QStringLiteral("Impresora/Nombre")).toString();
+  return usuario_.Valor(QStringLiteral("Impresora/Nombre")).toString();
 }
 
 void Preferencias::PonImpresora(const QString& nombre) {
-  usuario_->setValue(QStringLiteral("Impresora/Nombre"), nombre);
+  usuario_.Pon(QStringLiteral("Impresora/Nombre"), nombre);
 }
 
 int Preferencias::Copias() const {
-  return std::max(1, usuario_->value(QStringLiteral("Impresora/Copias"), 1).toInt());
+  return std::max(1, usuario_.Valor(QStringLiteral("Impresora/Copias"), 1).toInt());
 }
 
 void Preferencias::PonCopias(int copias) {
-  usuario_->setValue(QStringLiteral("Impresora/Copias"), copias);
+  usuario_.Pon(QStringLiteral("Impresora/Copias"), copias);
+  Guarda();
 }
 
 bool Preferencias::NuevaEnSI() const {
-  return usuario_->value(QStringLiteral("Obras/NuevaEnSI"), true).toBool();
+  return usuario_.Valor(QStringLiteral("Obras/NuevaEnSI"), true).toBool();
 }
 
 void Preferencias::PonNuevaEnSI(bool si) {
-  usuario_->setValue(QStringLiteral("Obras/NuevaEnSI"), si);
+  usuario_.Pon(QStringLiteral("Obras/NuevaEnSI"), si);
+}
+
+bool Preferencias::Guarda() {
+  return usuario_.Guarda();
+}
+
+QString Preferencias::Fichero() const {
+  return usuario_.ruta();
 }
 
 QVariant Preferencias::Valor(const QString& clave, const QVariant& defecto) const {
-  return usuario_->value(clave, defecto);
+  return usuario_.Valor(clave, defecto);
 }
 
 void Preferencias::PonValor(const QString& clave, const QVariant& valor) {
-  usuario_->setValue(clave, valor);
+  usuario_.Pon(clave, valor);
 }
 
 }  // namespace zorbin

@@ -4,11 +4,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
-#include <memory>
+
+#include "shell/piezas/mdFicheroIni.h"
 
 class QWidget;
 
@@ -20,6 +20,9 @@ class Preferencias {
   Preferencias();
   /// Settings in files of their own (a test).
   Preferencias(const QString& ficheroUsuario, const QString& ficheroMaquina);
+  ~Preferencias();
+  Preferencias(const Preferencias&) = delete;
+  Preferencias& operator=(const Preferencias&) = delete;
 
   /// Language of the machine, 1 to 6 as it was written; no value: never chosen.
   int IdiomaPropio() const;  // -1 when there is none
@@ -56,12 +59,18 @@ class Preferencias {
   bool NuevaEnSI() const;
   void PonNuevaEnSI(bool si);
 
+  /// Brings to the disk what was put. @return whether it is there; where it is not, what was there
+  /// before stays, and what was put is kept for another time
+  bool Guarda();
+  /// The file of the user.
+  QString Fichero() const;
+
   QVariant Valor(const QString& clave, const QVariant& defecto = {}) const;
   void PonValor(const QString& clave, const QVariant& valor);
 
  private:
-  std::unique_ptr<QSettings> usuario_;
-  std::unique_ptr<QSettings> maquina_;
+  FicheroIni usuario_;
+  FicheroIni maquina_;
 };
 
 }  // namespace zorbin

@@ -20,4 +20,13 @@ inline QString Rotulo(std::string_view texto) {
   return Q(texto).trimmed();
 }
 
+/// A text, that of a name perhaps, for a tooltip: it shows as it stands, though it looks like HTML.
+QString Consejo(const QString& texto);
+
+/// A name within the title of a window, in which the mark of unsaved changes is not taken for one.
+inline QString EnTitulo(QString nombre) {
+  const QString marca = QStringLiteral("[*]");
+  return nombre.replace(marca, marca + marca);
+}
+
 }  // namespace zorbin

@@ -1,19 +1,23 @@
 // The desktop program: zorbin [OBRA.zrb]
-#include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 
 #include "shell/piezas/mdQt.h"
+#include "shell/programa/mdAplicacion.h"
 #include "shell/programa/mdPrograma.h"
 
 namespace {
 
 // Before there is a catalogue, or without one, there is only this box.
 int NoPuedeEmpezar(const QString& causa) {
-  QMessageBox::critical(nullptr, QStringLiteral("ZORBIN"), causa);
+  QMessageBox caja(QMessageBox::Critical, QStringLiteral("ZORBIN"), QString());
+  caja.setTextFormat(Qt::PlainText);
+  caja.setText(causa);
+  caja.exec();
   return 1;
 }
 
@@ -33,15 +37,20 @@ int main(int argumentos, char** palabras) {
     std::puts("zorbin [OBRA.zrb]");
     return 0;
   }
-  QApplication aplicacion(argumentos, palabras);
+  std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told as a disk that is full
+  std::signal(SIGPIPE, SIG_IGN);  // so is a print server that goes away
+  zorbin::Aplicacion aplicacion(argumentos, palabras);
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zorbin")));
   try {
     zorbin::Programa programa(std::make_unique<zorbin::Preferencias>());
-    programa.Empieza();
+    aplicacion.PonVoz([&programa](const std::exception* error) { programa.DiFallo(error); });
     const auto lista = QApplication::arguments();
-    if (lista.size() > 1) programa.ventana().Abre(QFileInfo(lista[1]).absoluteFilePath());
-    return QApplication::exec();
+    programa.Empieza(lista.size() > 1 ? QFileInfo(lista[1]).absoluteFilePath() : QString());
+    const int codigo = QApplication::exec();
+    aplicacion.PonVoz({});
+    return codigo;
   } catch (const std::exception& error) {
+    aplicacion.PonVoz({});
     return NoPuedeEmpezar(zorbin::Q(error.what()));
   }
 }

@@ -1,6 +1,7 @@
 #include "shell/programa/mdPrograma.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QTimer>
@@ -15,7 +16,6 @@
 #include "hidraulica/pantalla/CalculoHidraulico.h"
 #include "protecciones/pantalla/Protecciones.h"
 #include "recursos/mdCarpetas.h"
-#include "recursos/mdRtf.h"
 #include "shell/ayuda/frAcercaDe.h"
 #include "shell/ayuda/frAyuda.h"
 #include "shell/ayuda/frmTip.h"
@@ -52,10 +52,11 @@ void Delante(Ventana& ventana) {
 
 }  // namespace
 
-Programa::Programa(std::unique_ptr<Preferencias> preferencias)
+Programa::Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon)
     : preferencias_(std::move(preferencias)),
       textos_(Catalogo::Lee(CarpetaRecursos() / "textos")),
       impresora_(textos_, *preferencias_),
+      documentos_(DocumentosDelPrograma(textos_, RutaDocumento)),
       entorno_{textos_, tablas_, *preferencias_, impresora_, SeparadorDeLaMaquina()},
       voz_(textos_, *preferencias_) {
   EligeIdioma();
@@ -66,6 +67,10 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias)
   entorno_.ayuda = [this](const QString& ancla) { Ayuda().Muestra(ancla); };
   ventana_ = std::make_unique<FormaPrincipal>(*captura_, entorno_);
   voz_.PonPadre(ventana_.get());
+  voz_.PonAnuncios([this](const QString& texto) { ventana_->Anuncia(texto); });
+  guarda_ = std::make_unique<GuardaBorradores>(*captura_, std::move(cajon));
+  connect(ventana_.get(), &FormaPrincipal::actualizada, guarda_.get(), &GuardaBorradores::Mira);
+  connect(guarda_.get(), &GuardaBorradores::falla, ventana_.get(), &FormaPrincipal::Anuncia);
   Enlaza();
   RenuevaTextos();
 }
@@ -88,11 +93,27 @@ void Programa::LeeLasTablas() {
   }
 }
 
-void Programa::Empieza() {
+void Programa::Empieza(const QString& ruta) {
   ventana_->show();
-  QTimer::singleShot(kEsperaAdvertencia, this, [this] {
-    if (QuiereAviso(*preferencias_, ModoAviso::DerechoDeUso)) MuestraAdvertencia(1);
+  QTimer::singleShot(0, this, [this, ruta] {
+    AbreLoPedido(ruta);
+    QTimer::singleShot(kEsperaAdvertencia, this, [this] {
+      if (QuiereAviso(*preferencias_, ModoAviso::DerechoDeUso)) MuestraAdvertencia(1);
+    });
   });
+}
+
+void Programa::DiFallo(const std::exception* error) {
+  auto* delante = QApplication::activeModalWidget();
+  Avisa(delante != nullptr ? delante : ventana_.get(), textos_, TextoInesperado(textos_, error));
+}
+
+// Recovered work comes before what was asked for, which may be the same Obra.
+void Programa::AbreLoPedido(const QString& ruta) {
+  const auto recuperada = OfreceRecuperar(entorno_, *guarda_, *ventana_);
+  if (ruta.isEmpty()) return;
+  if (recuperada && QFileInfo(Q(*recuperada)) == QFileInfo(ruta)) return;
+  ventana_->Abre(ruta);
 }
 
 void Programa::Enlaza() {
@@ -100,10 +121,7 @@ void Programa::Enlaza() {
   auto* padre = ventana_.get();
   p.calculaTramo = [this, padre] { CalculaElTramo(*captura_, entorno_, padre); };
   p.imprimeObra = [this, padre] { ImprimeLaObra(*captura_, entorno_, padre); };
-  p.ajusta = [this, padre] {
-    AjustaArmaduras(
-        *captura_, entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre);
-  };
+  p.ajusta = [this, padre] { AjustaArmaduras(*captura_, entorno_, documentos_, padre); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };
@@ -113,8 +131,7 @@ void Programa::Enlaza() {
   };
   p.medidas = [this, padre] {
     if (protecciones_ == nullptr) {
-      protecciones_ = EnVentana(new Protecciones(
-          entorno_, [this](int entrada) { return DocumentoHtml(entrada); }, padre));
+      protecciones_ = EnVentana(new Protecciones(entorno_, documentos_, padre));
     }
     Delante(*protecciones_);
   };
@@ -139,27 +156,15 @@ frAyuda& Programa::Ayuda() {
 }
 
 void Programa::MuestraAdvertencia(int modo) {
-  frmTip(
-      entorno_, modo, [this](int entrada) { return DocumentoHtml(entrada); }, ventana_.get())
-      .exec();
+  frmTip(entorno_, modo, documentos_, ventana_.get()).exec();
 }
 
 void Programa::Memoria() {
   MemoriaTecnica memoria;
   memoria.ruta = RutaDocumento(textos_.Texto(txt::NombreMemoria));
   memoria.carpetas = CarpetasDeLaSesion([](const char* v) { return std::getenv(v); });
-  memoria.documento = [this](int entrada) { return DocumentoHtml(entrada); };
+  memoria.documento = documentos_;
   MuestraMemoria(entorno_, memoria, ventana_.get());
-}
-
-// A document that cannot be read counts as missing: whoever shows it says so.
-QString Programa::DocumentoHtml(int entrada) const {
-  try {
-    const auto ruta = RutaDocumento(textos_.Texto(entrada));
-    return ruta.empty() ? QString() : Q(HtmlDeRtf(LeeRtf(ruta)));
-  } catch (const std::exception&) {
-    return {};
-  }
 }
 
 void Programa::RenuevaTextos() {

@@ -8,8 +8,10 @@
 
 #include "captura/mdCaptura.h"
 #include "shell/FormaPrincipal.h"
+#include "shell/ayuda/mdDocumento.h"
 #include "shell/impresion/mdImpresora.h"
 #include "shell/mdInterlocutorQt.h"
+#include "shell/mdRecuperacion.h"
 #include "shell/piezas/mdEntorno.h"
 
 class QTranslator;
@@ -26,11 +28,16 @@ class Programa : public QObject {
  public:
   /// Reads catalogue and tables and builds the main window, closed.
   /// @throws std::runtime_error  without texts or tables there is no program; says what is missing
-  explicit Programa(std::unique_ptr<Preferencias> preferencias);
+  /// @param cajon  where typed work is kept against a crash
+  explicit Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon = Cajon());
   ~Programa() override;
 
-  /// Shows the window; a second later, the warning of the start where the person wants it.
-  void Empieza();
+  /// Shows the window; then offers what a crash left behind, and opens the Obra that was asked for;
+  /// a second later, the warning of the start where the person wants it.
+  void Empieza(const QString& ruta = {});
+
+  /// Tells a failure that nobody foresaw. @param error  null for one without words
+  void DiFallo(const std::exception* error);
 
   FormaPrincipal& ventana() { return *ventana_; }
   Captura& captura() { return *captura_; }
@@ -41,10 +48,12 @@ class Programa : public QObject {
   Catalogo textos_;
   TablasCatalogo tablas_;
   Impresora impresora_;
+  DocumentoHtml documentos_;
   Entorno entorno_;
   InterlocutorQt voz_;
   EstadoCalculo estado_;
   std::unique_ptr<Captura> captura_;
+  std::unique_ptr<GuardaBorradores> guarda_;
   std::unique_ptr<FormaPrincipal> ventana_;
   QPointer<CalculoHidraulico> hidraulico_;
   QPointer<Protecciones> protecciones_;
@@ -52,6 +61,7 @@ class Programa : public QObject {
   std::unique_ptr<QTranslator> traductor_;
   int idiomaTraducido_ = 0;
 
+  void AbreLoPedido(const QString& ruta);
   void EligeIdioma();
   void LeeLasTablas();
   void Enlaza();
@@ -60,7 +70,6 @@ class Programa : public QObject {
   void MuestraAdvertencia(int modo);
   void Memoria();
   frAyuda& Ayuda();
-  QString DocumentoHtml(int entrada) const;
 };
 
 }  // namespace zorbin

@@ -1,4 +1,4 @@
-#include "shell/ayuda/mdVisorHtml.h"
+#include "shell/piezas/mdVisorHtml.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QResizeEvent>
