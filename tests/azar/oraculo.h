@@ -28,7 +28,7 @@ struct Final {
   std::int64_t vueltas = 0;
   int largo = 0;        // of its longest line of text, listings upright [columns]
   std::string pegados;  // two numbers without a blank between them; empty for none
-  std::string quejas;  // of the oracle; empty where the run kept its promises
+  std::string quejas;   // of the oracle; empty where the run kept its promises
 
   bool Exito() const { return !fallo && casos > 0; }
 };
