@@ -176,7 +176,10 @@ void DisenoArmado(EstadoCalculo& e) {
   r.ajuste = AjusteDelCaso(e);
   if (r.ajuste) r.AreaExterior = r.ajuste->Exterior;
   // A sheet has no cracking check: nothing of a pipe without one may stand beside it.
-  if (t.TipoCamisa > 0) r.TensionMax = r.TensionAdm = r.TensionAdmMin = 0;
+  if (t.TipoCamisa > 0) {
+    r.TensionMax = r.TensionAdm = r.TensionAdmMin = 0;
+    r.sinFisuracion = {};
+  }
 
   const double R = t.Di / 2.0;
   AnotaInicio(e.corrida.registro, t, R);

@@ -15,10 +15,7 @@ namespace {
 
 constexpr double kPasoAcero = 0.5;      // [cm2/m]
 constexpr int kMaxRondasTope = 10'000;  // rounds of the loops that the outer maximum limits
-// Rounds of all iterations of a search together. Each has a limit of its own, but thousands of slow
-// ones would take minutes; a pipe needs some thousands of rounds.
-constexpr int kMaxVueltasBusqueda = 10'000'000;
-constexpr double kTolCaras = 0.01;  // [cm2/m]
+constexpr double kTolCaras = 0.01;      // [cm2/m]
 constexpr double kRedondeoChapa = 4.9999999;
 constexpr double kAreaMinChapa = 15.0;  // a sheet of 1.5 mm [cm2/m]
 
@@ -76,8 +73,7 @@ class Busqueda {
   double A_ = 0;          // area of FlexoCompuesta; beyond the limit moment it keeps its value
   double Ri_ = 0;         // provided inner area [cm2/m]
   double Re_ = 0;         // provided outer area [cm2/m]
-  int vueltasQuedan_ = kMaxVueltasBusqueda;
-  unsigned dados_ = 0;  // warnings of this call, a bit a class
+  unsigned dados_ = 0;    // warnings of this call, a bit a class
 
   double M(int h, int s) const { return r_.esfuerzos.M(h, s); }
   double N(int h, int s) const { return r_.esfuerzos.N(h, s); }
@@ -125,13 +121,13 @@ class Busqueda {
     return A_;
   }
 
-  double TraccionPos(double Aotra) {
+  double TraccionPos(double Aotra) const {
     return TraccionCompuesta(seccion_, M(pos_.hipotesis, pos_.seccion),
-                             N(pos_.hipotesis, pos_.seccion), Aotra, vueltasQuedan_);
+                             N(pos_.hipotesis, pos_.seccion), Aotra, e_.corrida.vueltas);
   }
-  double TraccionNeg(double Aotra) {
+  double TraccionNeg(double Aotra) const {
     return TraccionCompuesta(seccion_, M(neg_.hipotesis, neg_.seccion),
-                             N(neg_.hipotesis, neg_.seccion), Aotra, vueltasQuedan_);
+                             N(neg_.hipotesis, neg_.seccion), Aotra, e_.corrida.vueltas);
   }
 
   // Real steel for the inner face. @return whether the wall takes it.
@@ -230,7 +226,7 @@ class Busqueda {
   }
 
   void CompruebaFisuracion() {
-    Fisuracion f(t_, r_.esfuerzos, H1_, H2_);
+    Fisuracion f(t_, r_.esfuerzos, H1_, H2_, e_.corrida.vueltas);
     f.Comprueba(Ri_, Re_);
     if (ReparteInterior(Ri_) && ReparteExterior(Re_)) f.Comprueba(Ri_, Re_);
     r_.TensionMax = f.TensionMax();

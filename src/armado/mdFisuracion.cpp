@@ -9,6 +9,7 @@ constexpr double kPasoAcero = 0.5;                        // [cm2/m]
 constexpr Lista<double, 3> kControlFis{{1.5, 1.6, 1.7}};  // by SubTipo [-]
 constexpr double kRebajaIntenso = 0.1;                    // of the factor under intense control [-]
 constexpr std::int16_t kControlIntenso = 1;
+constexpr int kVueltasDePasa = 8;  // work of a section
 
 // Gradient coefficient by the ratio of bending to mean stress.
 double CoefGradiente(double Sm, double Sn) {
@@ -21,8 +22,10 @@ double CoefGradiente(double Sm, double Sn) {
 
 }  // namespace
 
-Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2)
+Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2,
+                       CuentaVueltas& vueltas)
     : esfuerzos_(esfuerzos),
+      vueltas_(vueltas),
       H1_(H1),
       H2_(H2),
       Fct_(t.Fct),
@@ -54,6 +57,7 @@ Fisuracion::Homogenea Fisuracion::SeccionHomogenea(double Ri, double Re) const {
 }
 
 bool Fisuracion::Pasa(const Homogenea& h, double M, double N) {
+  vueltas_.Suma(kVueltasDePasa);
   const double brazo = M > 0 ? h.x : e_ - h.x;
   const double Sm = Div((M > 0 ? M : -M) * brazo, h.I) * 100000.0;
   const double Sn = Div(N, h.A) * 1000.0;

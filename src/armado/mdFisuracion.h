@@ -8,9 +8,10 @@ namespace zorbin {
 
 class Fisuracion {
  public:
-  /// @param t  Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
+  /// @param t        Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
+  /// @param vueltas  of the run; the check adds its own
   /// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
-  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2);
+  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2, CuentaVueltas& vueltas);
 
   /// Adds steel in steps of 0.5 cm2/m until every section of the hypotheses passes. A second call
   /// keeps the largest tension found by the first until steel has to grow again.
@@ -31,6 +32,7 @@ class Fisuracion {
   };
 
   const Esfuerzos& esfuerzos_;
+  CuentaVueltas& vueltas_;
   const int H1_;
   const int H2_;
   const double Fct_;          // [kp/cm2]

@@ -1,6 +1,8 @@
 // Composite tension: the steel of one face when the whole section is in tension.
 #pragma once
 
+#include "core/aritmetica.h"
+
 namespace zorbin {
 
 /// Strengths and sizes that the two section formulas share.
@@ -17,13 +19,12 @@ struct DatosSeccion {
 
 /// Area of one face [cm2/m], found by the share of N that its layer takes; never below
 /// 0.04 Fck GamaY Esp / (GamaB Fyk), on the whole thickness.
-/// @param M      moment [m·t/m]
-/// @param N      axial force, tension [t/m]
-/// @param Aotra  area of the other face [cm2/m]
-/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia
-double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra);
-/// The same as one of many iterations of a search.
-/// @param quedan  rounds left to the whole search; SinConvergencia when there are no more
-double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra, int& quedan);
+/// @param M        moment [m·t/m]
+/// @param N        axial force, tension [t/m]
+/// @param Aotra    area of the other face [cm2/m]
+/// @param vueltas  of the run; the iteration adds its own
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia, DemasiadasVueltas
+double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra,
+                         CuentaVueltas& vueltas);
 
 }  // namespace zorbin

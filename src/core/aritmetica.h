@@ -20,6 +20,8 @@ enum class CausaError {
   Desbordamiento,
   Subindice,
   SinConvergencia,
+  DemasiadasVueltas,
+  DemasiadosCasos,
   IncrementoPresion,
   IncrementoAltura,
   Registro,
@@ -42,6 +44,26 @@ class ErrorEjecucion : public std::exception {
 
 /// Rounds allowed to an iteration that the method leaves unbounded [-].
 inline constexpr int kMaxVueltas = 100'000;
+
+/// Work allowed to all the iterations of a run together, in rounds of the shortest of them [-]:
+/// some seconds, and some hundred times what the hardest pipe asks for.
+inline constexpr std::int64_t kMaxVueltasCorrida = 1'000'000'000;
+
+/// Counts the rounds of a run. Each iteration ends by itself or by kMaxVueltas; one inside another,
+/// in every Caso of a long range, would still go on for days.
+class CuentaVueltas {
+ public:
+  /// @param n  work of one round, in rounds of the shortest iteration
+  /// @throws ErrorEjecucion DemasiadasVueltas
+  void Suma(int n) {
+    total_ += n;
+    if (total_ > kMaxVueltasCorrida) throw ErrorEjecucion(CausaError::DemasiadasVueltas);
+  }
+  std::int64_t total() const { return total_; }
+
+ private:
+  std::int64_t total_ = 0;
+};
 
 /// π as the loads and the reinforced design write it.
 inline constexpr double kPi = 3.1415926535898;

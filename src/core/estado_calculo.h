@@ -126,6 +126,7 @@ struct Corrida : Cargas {
   bool PrimerCaso = false;                   // first Caso of the run
   bool MiraCargas = false;                   // first pressure of a height
   bool ParaCalculoActivo = false;            // the state holds calculation units
+  CuentaVueltas vueltas;                     // of all the iterations of this run
   std::vector<FilaCargas> TablaCargas;       // vertical load table of the Tramo
   std::vector<EntradaAjuste> ajustes;        // adjusted Casos of the project
   bool SinAjustes = false;                   // their file was refused: the run goes without them

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "armado/mdArmado.h"
 #include "cargas/mdMarston.h"
@@ -17,8 +18,10 @@ namespace {
 constexpr double kDado = -0.5;         // a forced value above it counts as given
 constexpr double kPasePresion = 0.2;   // a step may pass the last pressure by this much [at]
 constexpr double kMargenUltima = 0.1;  // rest for which no shorter last step is made [at]
+constexpr double kEnganche = 0.01;     // a step this near to the last height lands on it [m]
 constexpr double kDiamCorte = 1200.0;  // of the two factory test rules [mm]
 constexpr double kGolpe = 1.0;         // STP over MDP, surge calculated [at]
+constexpr std::int16_t kMaxCasos = std::numeric_limits<std::int16_t>::max();
 constexpr std::int16_t kCuna120Captura = 2;
 constexpr std::int16_t kCuna120Corrida = 3;
 
@@ -103,6 +106,11 @@ void VuelcaLoQueQuede(Registro* registro) {
   }
 }
 
+// Values of a loop from `desde` to `hasta`, but for the rounding of its steps; 0 without a step.
+double CuentaPasos(double desde, double hasta, double paso) {
+  return paso > 0.0 && hasta >= desde ? Int((hasta - desde) / paso) + 1.0 : 0.0;
+}
+
 class CorridaTramo {
  public:
   CorridaTramo(EstadoCalculo& e, double hr, double prs, Oyentes oyentes)
@@ -116,6 +124,7 @@ class CorridaTramo {
   void Corre() {
     c_.CuentaCasos = 0;
     c_.NumCaso = 0;
+    c_.vueltas = {};
     EligeAlturas(e_);
     EligePresiones(e_);
     PreparaCargas(e_);
@@ -123,6 +132,7 @@ class CorridaTramo {
       c_.Hr0Actual = c_.Hr0FinalActual = hr_;
     } else {
       ExigeIncrementos();
+      ExigeCasosContables();
     }
     RecorreAlturas();
     Avisa(&OyenteCorrida::FinCorrida);
@@ -140,16 +150,46 @@ class CorridaTramo {
     for (auto* o : oyentes_) (o->*paso)(e_);
   }
 
+  const char* NombreIncPresion() const { return e_.tramo.TieneDPPropia() ? "Prs3Tram" : "Prs3"; }
+  const char* NombreIncAltura() const {
+    return e_.tramo.Hr0Tramo > 0 || e_.tramo.Hr0Final > 0 ? "Hr0Delta" : "Alt3";
+  }
+
   // A step that leads away from the end of its range would never end.
   void ExigeIncrementos() const {
     const auto& t = e_.tramo;
     if (c_.IncDPIndefinido || c_.IncDP < 0) {
-      throw ErrorEjecucion(CausaError::IncrementoPresion, t.TieneDPPropia() ? "Prs3Tram" : "Prs3");
+      throw ErrorEjecucion(CausaError::IncrementoPresion, NombreIncPresion());
     }
     if (t.Hr0Delta < 0 && c_.Hr0Actual < c_.Hr0FinalActual) {
-      const bool propia = t.Hr0Tramo > 0 || t.Hr0Final > 0;
-      throw ErrorEjecucion(CausaError::IncrementoAltura, propia ? "Hr0Delta" : "Alt3");
+      throw ErrorEjecucion(CausaError::IncrementoAltura, NombreIncAltura());
     }
+  }
+
+  // More Casos than can be numbered are told before the first one, not after the last that can.
+  // Twice as many are beyond what the rounding of the steps could make of fewer.
+  void ExigeCasosContables() const {
+    if (c_.Hr0Actual > c_.Hr0FinalActual) return;
+    const double alturas = CuentaAlturas();
+    const double presiones = CuentaPresiones();
+    if (alturas * presiones > 2.0 * kMaxCasos) throw DemasiadosCasos(alturas, presiones);
+  }
+  // The last one may be landed on.
+  double CuentaAlturas() const {
+    return 1.0 + CuentaPasos(c_.Hr0Actual, c_.Hr0FinalActual - kEnganche, e_.tramo.Hr0Delta);
+  }
+  double CuentaPresiones() const {
+    return std::max(1.0, CuentaPasos(PrimeraPresion(), UltimaPresion() + kPasePresion, c_.IncDP));
+  }
+  ErrorEjecucion DemasiadosCasos(double alturas, double presiones) const {
+    return ErrorEjecucion(CausaError::DemasiadosCasos,
+                          alturas > presiones ? NombreIncAltura() : NombreIncPresion());
+  }
+  void NumeraCaso() {
+    if (c_.CuentaCasos == kMaxCasos) {
+      throw DemasiadosCasos(static_cast<double>(c_.CuentaCasos) / c_.NumCaso, c_.NumCaso);
+    }
+    c_.CuentaCasos = Suma16(c_.CuentaCasos, 1);
   }
 
   void RecorreAlturas() {
@@ -192,6 +232,7 @@ class CorridaTramo {
   void RecorrePresiones() {
     do {
       UnCaso();
+      if (c_.NumCaso == kMaxCasos) throw DemasiadosCasos(1.0, c_.NumCaso);
       c_.NumCaso = Suma16(c_.NumCaso, 1);
     } while (SiguientePresion());
   }
@@ -219,7 +260,7 @@ class CorridaTramo {
 
   void UnCaso() {
     Presiones();
-    c_.CuentaCasos = Suma16(c_.CuentaCasos, 1);
+    NumeraCaso();
     c_.PrimerCaso = c_.CuentaCasos == 1;
     e_.caso.avisos.clear();
     Avisa(&OyenteCorrida::Progreso);

@@ -57,6 +57,10 @@ std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {
       return textos.Texto(txt::Subindice);
     case CausaError::SinConvergencia:
       return textos.Compone(txt::SinConvergencia, {dato});
+    case CausaError::DemasiadasVueltas:
+      return textos.Texto(txt::DemasiadasVueltas);
+    case CausaError::DemasiadosCasos:
+      return textos.Compone(txt::DemasiadosCasos, {dato});
     case CausaError::IncrementoPresion:
       return textos.Texto(dato == "Prs3Tram" ? txt::IncPresionTramo : txt::IncPresionObra);
     case CausaError::IncrementoAltura:

@@ -1,6 +1,5 @@
 #include "persistencia/mdZrb.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -149,17 +148,6 @@ constexpr auto kCampos = std::to_array<Campo>({
 
 // ---------------------------------------------------------------------------------------------
 // Reading
-
-// A text to show. Bytes that a screen would obey instead are blanks in it; the ends of lines and
-// the tabulators of the person stay.
-std::string LeeTexto(const FicheroRegistros& f, int registro) {
-  std::string texto = f.LeeRegistro(registro);
-  std::replace_if(
-      texto.begin(), texto.end(),
-      [](unsigned char c) { return c == 0x7f || (c < ' ' && c != '\r' && c != '\n' && c != '\t'); },
-      ' ');
-  return texto;
-}
 
 double LeeNumero(const FicheroRegistros& f, int registro, std::string_view nombre,
                  std::string_view texto) {
@@ -343,8 +331,8 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
       Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
   // The caption is compared as it stands: a file saved in another language reads as estimated.
   obra.GolpeCalculado = Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)) == "Si";
-  obra.NombreObra = LeeTexto(f, 5);
-  obra.Cliente = LeeTexto(f, 6);
+  obra.NombreObra = f.LeeRegistro(5);
+  obra.Cliente = f.LeeRegistro(6);
   for (const auto& p : kParesObra) {
     const auto par = LeePar(f, p.registro, p.nombre, kFactorTension);
     obra.*p.campo = obra.EsSI() ? par.si : par.mks;
@@ -369,7 +357,7 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
     throw ErrorFichero({txt::FaltaTipologia, {f.Nombre(), TextoEntero(base + kOffsetTipologia)}});
   }
   Tramo t = e.tramo;
-  t.DescriTramo = LeeTexto(f, base + kOffsetDescripcion);
+  t.DescriTramo = f.LeeRegistro(base + kOffsetDescripcion);
   for (const auto& c : kCampos) {
     if (c.seLee) LeeCampo(t, c, f, base + c.offset, e.obra.EsSI());
   }

@@ -17,6 +17,7 @@ constexpr int kHipotesisMDP = 4;        // the one whose pass gives the factory 
 constexpr double kMomento = 1000.0;     // m·t/m to kp·cm/cm
 constexpr double kAxil = 10.0;          // t/m to kp/cm
 constexpr double kFraccionChapa = 0.8;  // of the strength of the cylinder [-]
+constexpr int kVueltasDePasada = 50;    // work of a winding
 constexpr std::int16_t kErrorEspesor = 5;
 constexpr std::int16_t kErrorZunchado = 6;
 constexpr std::int16_t kErrorCambio = 91;
@@ -150,6 +151,7 @@ class Analisis {
   void Pasada(HipotesisPostesada& p) {
     for (int vuelta = 0; vuelta < kMaxVueltas; ++vuelta) {
       ++r_.Vueltas;
+      e_.corrida.vueltas.Suma(kVueltasDePasada);
       if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
       alambre_.NESP = EspirasEnteras(alambre_.NESP);
       const Intento x = Intenta(p);

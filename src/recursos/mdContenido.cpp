@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kTrozo = 64 * 1024;  // bytes
-constexpr char32_t kNoEsCaracter = 0xFFFD;
+constexpr std::string_view kHexadecimal = "0123456789ABCDEF";
 
 bool EsControl(char32_t c) {
   const bool blanco = c == U'\n' || c == U'\r' || c == U'\t';
@@ -45,7 +45,11 @@ std::string TextoLimpio(std::string_view utf8) {
   std::string limpio;
   while (!utf8.empty()) {
     const CaracterUtf8 c = PrimerCaracter(utf8);
-    AnadeUtf8(limpio, EsControl(c.codigo) ? kNoEsCaracter : c.codigo);
+    if (EsControl(c.codigo)) {
+      limpio += {'\\', 'x', kHexadecimal[c.codigo / 16], kHexadecimal[c.codigo % 16]};
+    } else {
+      AnadeUtf8(limpio, c.codigo);
+    }
     utf8.remove_prefix(c.bytes);
   }
   return limpio;

@@ -14,8 +14,8 @@ namespace zorbin {
 [[nodiscard]] int LeeContenido(const std::filesystem::path& ruta, std::size_t maximo,
                                std::string& bytes);
 
-/// A UTF-8 text with U+FFFD for what a screen or a terminal would not show but obey: control
-/// characters other than line ends and tabulators, and sequences that are no character.
+/// A UTF-8 text in which what a terminal would not show but obey is seen: control characters other
+/// than line ends and tabulators as "\x1B", sequences that are no character as U+FFFD.
 std::string TextoLimpio(std::string_view utf8);
 
 }  // namespace zorbin

@@ -331,6 +331,8 @@ inline constexpr int IncAlturaTramo = 1138;
 inline constexpr int RegistroNoSeEscribe = 1139;
 inline constexpr int IncAlturaObra = 1141;
 inline constexpr int TramoSinCasos = 1142;
+inline constexpr int DemasiadosCasos = 1460;
+inline constexpr int DemasiadasVueltas = 1461;
 inline constexpr int Calculando = 1143;
 inline constexpr int ListadoEscrito = 1144;
 

@@ -170,6 +170,13 @@ TEST(Armado, AvisosYCodigos) {
   EXPECT_GT(u.casos[0].TensionMax, 0);
   EXPECT_EQ(u.casos[0].CAMISA, 0);
   EXPECT_FALSE(Hay(u.avisos[0], ClaseAviso::RetraccionLisas));
+
+  // Nothing of its cracking check stands beside the pipe with a sheet that comes after it.
+  ASSERT_GT(u.casos[0].sinFisuracion.FIIN, 0);
+  e.tramo.TipoCamisa = 1;
+  u = Corre(e);
+  EXPECT_EQ(u.casos[0].sinFisuracion.FIIN, 0);
+  EXPECT_EQ(u.casos[0].TensionMax, 0);
 }
 
 // Of two equal totals the later hypothesis governs: with no load at all, and the same pressure in

@@ -23,6 +23,7 @@ DatosSeccion Seccion() {
 // The layer yields under its share of N plus the couple of the moment, which leaves a quadratic
 // for its area: A^2 + A (Aotra - k (e + 1)) - k e Aotra = 0, k = N / Fyd, e = |M| / (BRAZO N).
 TEST(TraccionCompuesta, CumpleElEquilibrioDeLaCapa) {
+  CuentaVueltas vueltas;
   const auto d = Seccion();
   struct Caso {
     double M, N, Aotra;
@@ -33,17 +34,35 @@ TEST(TraccionCompuesta, CumpleElEquilibrioDeLaCapa) {
     const double e = std::fabs(c.M) / (d.BRAZO * c.N);
     const double b = c.Aotra - k * (e + 1);
     const double A = (-b + std::sqrt(b * b + 4 * k * e * c.Aotra)) / 2;
-    EXPECT_NEAR(TraccionCompuesta(d, c.M, c.N, c.Aotra), A, 0.06) << c.M;
+    EXPECT_NEAR(TraccionCompuesta(d, c.M, c.N, c.Aotra, vueltas), A, 0.06) << c.M;
+  }
+}
+
+// One iteration inside another ends although neither of them has met its own bound.
+TEST(TraccionCompuesta, LasVueltasDeUnaCorridaTienenUnTope) {
+  CuentaVueltas vueltas;
+  TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+  EXPECT_GT(vueltas.total(), 2);
+  while (vueltas.total() < kMaxVueltasCorrida - 1) {
+    vueltas.Suma(static_cast<int>(
+        std::min<std::int64_t>(1'000'000, kMaxVueltasCorrida - 1 - vueltas.total())));
+  }
+  try {
+    TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+    ADD_FAILURE();
+  } catch (const ErrorEjecucion& error) {
+    EXPECT_EQ(error.causa(), CausaError::DemasiadasVueltas);
   }
 }
 
 TEST(TraccionCompuesta, MinimoSobreTodoElEspesorYFallos) {
+  CuentaVueltas vueltas;
   auto d = Seccion();
   // 350·0.04·0.12/(1.5·2100)·10000 = 5.3333
-  EXPECT_NEAR(TraccionCompuesta(d, 0.0, 1.0, 10.0), 5.3333, 1e-4);
-  EXPECT_THROW(TraccionCompuesta(d, 0.1, 0.0, 10.0), ErrorEjecucion);
+  EXPECT_NEAR(TraccionCompuesta(d, 0.0, 1.0, 10.0, vueltas), 5.3333, 1e-4);
+  EXPECT_THROW(TraccionCompuesta(d, 0.1, 0.0, 10.0, vueltas), ErrorEjecucion);
   d.BRAZO = 0;
-  EXPECT_THROW(TraccionCompuesta(d, 0.1, 5.0, 10.0), ErrorEjecucion);
+  EXPECT_THROW(TraccionCompuesta(d, 0.1, 5.0, 10.0, vueltas), ErrorEjecucion);
 }
 
 TEST(FlexoCompuesta, APasoDeMano) {
@@ -168,14 +187,15 @@ TEST(Fisuracion, TensionesDeLaSeccionHomogenea) {
   x.M(2, 1) = 0.2;  // Sm = 0.2·5/9708.33·1e5 = 10.30043
   x.N(2, 1) = 5.0;  // Sn = 5/1220·1000 = 4.09836; ratio 2.5133: Kf = 1.125665
   const Tramo t = Pared(1);
-  Fisuracion f(t, x, 2, 2);
+  CuentaVueltas vueltas;
+  Fisuracion f(t, x, 2, 2, vueltas);
   double Ri = 10, Re = 10;
   f.Comprueba(Ri, Re);
   // Allowed 20/(1.6/1.125665) = 14.0708 is below 14.3988: inner steel grows until it passes.
   EXPECT_GT(Ri, 10);
   EXPECT_EQ(Re, 10);
   EXPECT_LE(f.TensionMax(), f.TensionAdm());
-  Fisuracion normal(Pared(2), x, 2, 2);
+  Fisuracion normal(Pared(2), x, 2, 2, vueltas);
   double Ni = 10, Ne = 10;
   normal.Comprueba(Ni, Ne);
   EXPECT_GT(Ni, Ri);  // normal control allows less
@@ -185,7 +205,8 @@ TEST(Fisuracion, UnaTensionQueNingunAceroBajaEsUnFalloConNombre) {
   Esfuerzos x;
   x.M(2, 1) = 3.0;
   const Tramo t = Pared(2);
-  Fisuracion f(t, x, 2, 2);
+  CuentaVueltas vueltas;
+  Fisuracion f(t, x, 2, 2, vueltas);
   double Ri = 10, Re = 10;
   try {
     f.Comprueba(Ri, Re);

@@ -52,8 +52,8 @@ TEST(Corrida, AlturasQueRecorre) {
   };
   for (const auto& f :
        {Fila{2, 5.5, 1, {2, 3, 4, 5}}, Fila{2, 5.005, 1, {2, 3, 4, 5.005}}, Fila{2, 5, 0, {2}},
-        Fila{3, 3, 0.5, {3}}, Fila{2, 2.018, 0.005, {2, 2.005, 2.018}}, Fila{2, 2, -1, {2}},
-        Fila{3, 2, 1, {}}}) {
+        Fila{3, 3, 0.5, {3}}, Fila{2, 2.018, 0.005, {2, 2.005, 2.018}},
+        Fila{2, 2.005, 1e-9, {2, 2.005}}, Fila{2, 2, -1, {2}}, Fila{3, 2, 1, {}}}) {
     auto e = Rango(f.desde, f.hasta, f.paso, 6, 6, 7, 7, 0);
     Oido oido;
     Corre(e, oido);
@@ -253,12 +253,22 @@ TEST(Corrida, UnFalloSeNombraYDejaLosDatosComoEstaban) {
       {"acero nulo", [](auto& e) { e.tramo.Fyd = 0; }, CausaError::DivisionPorCero, 1, ""},
       {"terreno sin peso", [](auto& e) { e.tramo.Gr = 0; }, CausaError::DivisionPorCero, 1, ""},
       {"cuna desconocida", [](auto& e) { e.tramo.TipoCuna = 7; }, CausaError::Subindice, 1, ""},
-      {"demasiados Casos", [](auto& e) { e.obra.Alt3 = 1e-10; }, CausaError::Desbordamiento, -1,
-       ""}};
+      {"demasiadas alturas", [](auto& e) { e.obra.Alt3 = 1e-10; }, CausaError::DemasiadosCasos, 0,
+       "Alt3"},
+      {"demasiadas presiones", [](auto& e) { e.obra.PrsM2 = 7000; }, CausaError::DemasiadosCasos, 0,
+       "Prs3"},
+      {"demasiadas alturas propias",
+       [](auto& e) { e.tramo.Hr0Tramo = 2, e.tramo.Hr0Final = 9e11, e.tramo.Hr0Delta = 0.01; },
+       CausaError::DemasiadosCasos, 0, "Hr0Delta"},
+      {"algunos Casos de mas",
+       [](auto& e) {
+         e.obra.Prs2 = e.obra.Prs1, e.obra.PrsM2 = e.obra.PrsM1, e.obra.Prs3 = 0, e.obra.Alt2 = 4,
+         e.obra.Alt3 = 0.00005;
+       },
+       CausaError::DemasiadosCasos, 1, "Alt3"}};
   for (const auto& f : fallos) {
     auto e = EstadoDeMuestra(1);
     f.estropea(e);
-    if (std::string(f.nombre) == "demasiados Casos") e.obra.Prs3 = 0.0005;  // many pressures too
     const auto antes = e;
     Oido oido;
     try {

@@ -58,7 +58,7 @@ TEST(Catalogo, UnaEntradaQueFaltaSeVeYNoPara) {
   EXPECT_EQ(textos.IdiomaOffset(), 0);
   EXPECT_EQ(textos.Compone(1122, {"--formato", "{1}"}), "el valor «{1}» no sirve para --formato");
   EXPECT_EQ(textos.Compone(1122, {"\x1b[1m\xc2\x9b\xff", "a\nb\té"}),
-            "el valor «a\nb\té» no sirve para \ufffd[1m\ufffd\ufffd");
+            "el valor «a\nb\té» no sirve para \\x1B[1m\\x9B\ufffd");
 }
 
 TEST(Catalogo, UnFicheroRotoSeRechazaPorSuNombre) {

@@ -1,0 +1,151 @@
+// The hydraulic calculator and the analysis of aggressive media on random data: numbers given to
+// the formulas, and texts typed into the fields.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <sstream>
+
+#include "azar/generador.h"
+#include "azar/oraculo.h"
+#include "hidraulica/mdEntradaHidraulica.h"
+#include "hidraulica/mdHidraulicaListado.h"
+#include "hidraulica/mdHidraulicaPapel.h"
+#include "listados/mdHojasTexto.h"
+#include "protecciones/mdEntradaMedios.h"
+#include "protecciones/mdMediosListado.h"
+#include "protecciones/mdMediosPapel.h"
+
+namespace zorbin::pruebas {
+namespace {
+
+constexpr std::array kMetodos{MetodoHidraulico::PrandtlColebrook, MetodoHidraulico::DarcyWeissbach,
+                              MetodoHidraulico::HazenWilliams};
+constexpr std::array kTipos{DatoHidraulico::Pendiente, DatoHidraulico::Caudal};
+
+const Catalogo& Textos() {
+  static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
+  return textos;
+}
+
+// Any positive double now and then, from the smallest to the largest.
+double NumeroDe(Azar& azar, Clase clase, double desde, double hasta) {
+  const bool malo = clase == Clase::Disparatado || (clase == Clase::Estropeado && azar.Toca(0.5));
+  if (!malo) return azar.Real(desde, hasta);
+  return azar.Toca(0.5) ? NumeroImposible(azar) : azar.Magnitud(-300, 308);
+}
+
+void Mira(const FilaHidraulica& f) {
+  EXPECT_TRUE(std::isfinite(f.VLlena));
+  for (const auto* x :
+       {&f.QLlena, &f.VParcial, &f.QParcial, &f.JLlena, &f.JParcial, &f.ReLlena, &f.Cwh}) {
+    EXPECT_TRUE(!*x || std::isfinite(**x));
+  }
+}
+
+void Mira(const ResultadoHidraulico& r) {
+  for (const auto& fila : r.filas) Mira(fila);
+  const EstiloNumeros estilo{true, ','};
+  EXPECT_EQ(Basura(TextoHidraulico(r, Textos(), estilo), false), "");
+  std::ostringstream salida;
+  HojasTexto hojas(salida);
+  Papel papel(hojas, Orientacion::Vertical);
+  PapelHidraulico(r, Textos(), estilo, papel);
+  papel.FinDocumento();
+  EXPECT_EQ(Basura(salida.str(), false), "");
+}
+
+void Mira(const ResultadoMedios& r) {
+  const EstiloNumeros estilo{true, ','};
+  EXPECT_TRUE(std::isfinite(r.Dosificacion) && std::isfinite(r.RelacionAC));
+  EXPECT_EQ(Basura(TextoMedios(r, Textos(), estilo), false), "");
+  std::ostringstream salida;
+  HojasTexto hojas(salida);
+  Papel papel(hojas, Orientacion::Vertical);
+  PapelMedios(r, Textos(), estilo, papel);
+  papel.FinDocumento();
+  EXPECT_EQ(Basura(salida.str(), false), "");
+}
+
+template <class F>
+void PorClase(F f) {
+  for (const Clase clase : kClases) {
+    for (int i = Desde(); i < Desde() + Cuantos() && !testing::Test::HasFailure(); ++i) {
+      SCOPED_TRACE(std::string(NombreDe(clase)) + " " + std::to_string(i));
+      const Vigilante vigilante("calculadoras, " + std::string(NombreDe(clase)) + " " +
+                                std::to_string(i));
+      Azar azar(static_cast<std::uint64_t>(i) * 3 + static_cast<std::uint64_t>(clase));
+      f(azar, clase);
+    }
+  }
+}
+
+TEST(AzarCalculadoras, Hidraulica) {
+  Cuenta cuenta;
+  PorClase([&](Azar& azar, Clase clase) {
+    const auto metodo = azar.Uno(kMetodos);
+    const auto tipo = azar.Uno(kTipos);
+    const bool caudal = tipo == DatoHidraulico::Caudal;
+    const bool hazen = metodo == MetodoHidraulico::HazenWilliams;
+    const double dato = NumeroDe(azar, clase, caudal ? 0.05 : 0.0005, caudal ? 10.0 : 0.05);
+    const double rugosidad = NumeroDe(azar, clase, hazen ? 100 : 0.01, hazen ? 150 : 2);
+    try {
+      Mira(CalculaHidraulica(metodo, tipo, dato, rugosidad));
+      cuenta.Suma("calculados");
+    } catch (const ErrorHidraulico&) {
+      cuenta.Suma("dato fuera de la formula");
+    } catch (const ErrorEjecucion& error) {
+      cuenta.Suma(error.causa() == CausaError::DivisionPorCero ? "division por cero"
+                                                               : "desbordamiento");
+    }
+  });
+  cuenta.Imprime("hidraulica");
+}
+
+TEST(AzarCalculadoras, HidraulicaTecleada) {
+  Cuenta cuenta;
+  PorClase([&](Azar& azar, Clase clase) {
+    auto e = CargaCalculoHidraulico(azar.Toca(0.5) ? ',' : '.');
+    CambiaMetodo(e, azar.Uno(kMetodos));
+    CambiaTipoDato(e, azar.Uno(kTipos));
+    for (const auto campo : {CampoHidraulico::DatoOrigen, CampoHidraulico::Rugosidad}) {
+      if (clase == Clase::Plausible && campo == CampoHidraulico::Rugosidad) continue;
+      Entra(e, campo);
+      Cambia(e, campo, clase == Clase::Plausible ? std::string("0,01") : TextoImposible(azar));
+      if (azar.Toca(0.5)) Sale(e, campo);
+    }
+    const auto aviso = Calcula(e);
+    cuenta.Suma(aviso ? "rechazados" : "calculados");
+    if (aviso) {
+      EXPECT_FALSE(TextoAviso(*aviso, Textos()).empty());
+    } else {
+      ASSERT_TRUE(e.resultado);
+      Mira(*e.resultado);
+    }
+  });
+  cuenta.Imprime("hidraulica tecleada");
+}
+
+TEST(AzarCalculadoras, Medios) {
+  Cuenta cuenta;
+  PorClase([&](Azar& azar, Clase clase) {
+    MuestraMedios muestra;
+    muestra.ciclos = azar.Toca(0.5);
+    for (double& valor : muestra.valor) valor = NumeroDe(azar, clase, 0, 14);
+    Mira(AnalizaMedios(muestra));
+    cuenta.Suma("analizados");
+    auto e = CargaProtecciones(',');
+    for (int m = 0; m < kMedios; ++m) {
+      const auto medio = static_cast<Medio>(m);
+      Entra(e, medio);
+      if (azar.Toca(0.5)) Cambia(e, medio, TextoImposible(azar));
+      if (azar.Toca(0.5)) Sale(e, medio);
+    }
+    const auto aviso = Analiza(e);
+    cuenta.Suma(aviso ? "tecleados y rechazados" : "tecleados y analizados");
+    if (!aviso) Mira(*e.resultado);
+  });
+  cuenta.Imprime("medios agresivos");
+}
+
+}  // namespace
+}  // namespace zorbin::pruebas

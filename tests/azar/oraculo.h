@@ -1,0 +1,96 @@
+// What every run is held to, whatever its data: it ends in finite results or in a named failure,
+// the captured data come out as they went in, and what reads results writes numbers and no more.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "captura/mdCaptura.h"
+#include "core/mdCorrida.h"
+
+namespace zorbin::pruebas {
+
+/// A real of the results, by name.
+struct Real {
+  const char* nombre;
+  double valor;
+};
+/// Every real that a Caso leaves in the state, but for the table of loads.
+std::vector<Real> RealesDe(const EstadoCalculo& e);
+
+/// How a run ended.
+struct Final {
+  std::optional<ErrorCorrida> fallo;
+  int casos = 0;
+  std::int64_t vueltas = 0;
+  int largo = 0;        // of its longest line of text, listings upright [columns]
+  std::string pegados;  // two numbers without a blank between them; empty for none
+  std::string quejas;   // of the oracle; empty where the run kept its promises
+
+  bool Exito() const { return !fallo && casos > 0; }
+};
+
+enum class Lectura {
+  Resultados,  // the numbers of every Caso only
+  Todo,        // summary, listings, JSON, debug log and trial rows of the first Casos too
+};
+
+/// Runs the Tramo of a state in capture units. The state is left as the run leaves it.
+Final Corre(EstadoCalculo& e, const Catalogo& textos, Lectura lectura);
+
+/// What in a text is no text of a listing: an infinity, a NaN, an exponent, an entry that the
+/// catalogue lacks. Empty where there is nothing.
+std::string Basura(const std::string& texto, bool conExponentes);
+
+/// What the JSON of the run says, from a clean state.
+std::string JsonDe(const std::vector<EstadoCalculo>& tramos, const Catalogo& textos);
+
+/// Leads data through the rules of the capture, as `calcula` does. @return whether they pass
+class Capturador {
+ public:
+  explicit Capturador(Catalogo& textos);
+  /// The state takes what the rules complete. @return the refusal, if any
+  std::optional<Falta> Valida(EstadoCalculo& e);
+
+ private:
+  struct Mudo : Interlocutor {
+    void Muestra(const std::string&, const std::string&) override {}
+    bool Pregunta(const std::string&, const std::string&) override { return true; }
+    std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+    void VaA(Ed) override {}
+  };
+  EstadoCalculo e_;
+  TablasCatalogo tablas_;
+  Mudo voz_;
+  Captura c_;
+};
+
+/// Ends the process, naming what was at work, where it takes too long.
+class Vigilante {
+ public:
+  explicit Vigilante(const std::string& trabajo);
+  ~Vigilante();
+  Vigilante(const Vigilante&) = delete;
+  Vigilante& operator=(const Vigilante&) = delete;
+};
+
+/// How many of each class, and from which index: ZORBIN_AZAR_N and ZORBIN_AZAR_DESDE.
+int Cuantos();
+int Desde();
+
+/// Counts of what happened, in the order of their names.
+class Cuenta {
+ public:
+  void Suma(const std::string& nombre) { ++cuentas_[nombre]; }
+  void Suma(const Final& f);
+  int De(const std::string& nombre) const;
+  void Imprime(const std::string& titulo) const;
+
+ private:
+  std::map<std::string, int> cuentas_;
+};
+
+}  // namespace zorbin::pruebas
