@@ -45,24 +45,31 @@ class ErrorEjecucion : public std::exception {
 /// Rounds allowed to an iteration that the method leaves unbounded [-].
 inline constexpr int kMaxVueltas = 100'000;
 
-/// Work allowed to all the iterations of a run together, in rounds of the shortest of them [-]:
-/// some seconds, and some hundred times what the hardest pipe asks for.
+/// Work allowed to all the iterations of a Caso, and of a run, in rounds of the shortest of them
+/// [-]: a tenth of a second, and some seconds. The hardest plausible pipes ask for some thousands a
+/// Caso.
+inline constexpr std::int64_t kMaxVueltasCaso = 20'000'000;
 inline constexpr std::int64_t kMaxVueltasCorrida = 1'000'000'000;
 
 /// Counts the rounds of a run. Each iteration ends by itself or by kMaxVueltas; one inside another,
 /// in every Caso of a long range, would still go on for days.
 class CuentaVueltas {
  public:
+  void EmpiezaCaso() { antes_ = total_; }
+
   /// @param n  work of one round, in rounds of the shortest iteration
   /// @throws ErrorEjecucion DemasiadasVueltas
   void Suma(int n) {
     total_ += n;
-    if (total_ > kMaxVueltasCorrida) throw ErrorEjecucion(CausaError::DemasiadasVueltas);
+    if (total_ - antes_ > kMaxVueltasCaso || total_ > kMaxVueltasCorrida) {
+      throw ErrorEjecucion(CausaError::DemasiadasVueltas);
+    }
   }
   std::int64_t total() const { return total_; }
 
  private:
   std::int64_t total_ = 0;
+  std::int64_t antes_ = 0;  // of this Caso
 };
 
 /// π as the loads and the reinforced design write it.

@@ -262,6 +262,7 @@ class CorridaTramo {
     Presiones();
     NumeraCaso();
     c_.PrimerCaso = c_.CuentaCasos == 1;
+    c_.vueltas.EmpiezaCaso();
     e_.caso.avisos.clear();
     Avisa(&OyenteCorrida::Progreso);
     if (c_.PrimerCaso) Cabecera();

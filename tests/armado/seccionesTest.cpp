@@ -39,20 +39,30 @@ TEST(TraccionCompuesta, CumpleElEquilibrioDeLaCapa) {
 }
 
 // One iteration inside another ends although neither of them has met its own bound.
-TEST(TraccionCompuesta, LasVueltasDeUnaCorridaTienenUnTope) {
+TEST(TraccionCompuesta, LasVueltasDeUnCasoYDeUnaCorridaTienenUnTope) {
+  const auto agotadas = [](CuentaVueltas& vueltas) {
+    try {
+      TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+    } catch (const ErrorEjecucion& error) {
+      return error.causa() == CausaError::DemasiadasVueltas;
+    }
+    return false;
+  };
   CuentaVueltas vueltas;
-  TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
+  EXPECT_FALSE(agotadas(vueltas));
   EXPECT_GT(vueltas.total(), 2);
-  while (vueltas.total() < kMaxVueltasCorrida - 1) {
-    vueltas.Suma(static_cast<int>(
-        std::min<std::int64_t>(1'000'000, kMaxVueltasCorrida - 1 - vueltas.total())));
-  }
-  try {
-    TraccionCompuesta(Seccion(), 0.6, 40, 12, vueltas);
-    ADD_FAILURE();
-  } catch (const ErrorEjecucion& error) {
-    EXPECT_EQ(error.causa(), CausaError::DemasiadasVueltas);
-  }
+  constexpr int kCasi = static_cast<int>(kMaxVueltasCaso) - 100;
+  const auto antes = vueltas.total();
+  vueltas.EmpiezaCaso();
+  vueltas.Suma(kCasi);
+  EXPECT_FALSE(agotadas(vueltas));
+  vueltas.Suma(static_cast<int>(kMaxVueltasCaso + antes - vueltas.total()));
+  EXPECT_TRUE(agotadas(vueltas));
+  for (; vueltas.total() + kCasi < kMaxVueltasCorrida; vueltas.Suma(kCasi)) vueltas.EmpiezaCaso();
+  vueltas.EmpiezaCaso();
+  EXPECT_FALSE(agotadas(vueltas));
+  vueltas.Suma(static_cast<int>(kMaxVueltasCorrida - vueltas.total()));
+  EXPECT_TRUE(agotadas(vueltas));
 }
 
 TEST(TraccionCompuesta, MinimoSobreTodoElEspesorYFallos) {

@@ -23,9 +23,9 @@ namespace fs = std::filesystem;
 constexpr int kMaxDanos = 4;           // of a copy
 constexpr std::size_t kMaxTrozo = 64;  // bytes
 #ifdef __SANITIZE_ADDRESS__
-constexpr double kMaxSegundos = 60.0;  // of the processor, for one input
+constexpr double kMaxSegundos = 20.0;  // of the processor, for one input
 #else
-constexpr double kMaxSegundos = 10.0;
+constexpr double kMaxSegundos = 3.0;
 #endif
 constexpr std::uint32_t kSemilla = 20090302;
 
