@@ -18,6 +18,7 @@
 #include "ajustes/mdPared.h"
 #include "ajustes/mdPresentaAjustes.h"
 #include "ajustes/pantalla/mdDibujoAjustes.h"
+#include "ajustes/pantalla/mdPiezasAjustes.h"
 #include "ajustes/pantalla/mdTablaFilas.h"
 #include "ajustes/pantalla/textosPantallaAjustes.h"
 #include "ajustes/textosAjustes.h"
@@ -35,7 +36,6 @@ namespace {
 
 using enum BotonAjuste;
 
-constexpr int kCifrasCaso = 8;             // of a height or a pressure
 constexpr double kParteDePantalla = 0.95;  // the most that the window takes of the screen at first
 constexpr int kAire = 6;                   // [px]
 const QString kVentana = QStringLiteral("frAjustes");
@@ -45,45 +45,6 @@ std::size_t I(BotonAjuste boton) {
 }
 std::size_t I(CampoAjuste campo) {
   return static_cast<std::size_t>(campo);
-}
-
-QLabel* Etiqueta(const QString& nombre, QWidget* padre, bool numero = false) {
-  auto* etiqueta = new QLabel(padre);
-  etiqueta->setObjectName(nombre);
-  etiqueta->setTextFormat(Qt::PlainText);
-  if (numero) etiqueta->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return etiqueta;
-}
-
-QLabel* EnVariasLineas(QLabel* etiqueta) {
-  etiqueta->setWordWrap(true);
-  return etiqueta;
-}
-
-void EnNegrita(QLabel& etiqueta, bool negrita) {
-  auto letra = etiqueta.font();
-  letra.setBold(negrita);
-  etiqueta.setFont(letra);
-}
-
-// A field that cannot be typed in stays legible, and looks like the window.
-void Abre(QLineEdit& campo, bool abierto) {
-  campo.setReadOnly(!abierto);
-  campo.setFocusPolicy(abierto ? Qt::StrongFocus : Qt::ClickFocus);
-  auto paleta = QPalette();
-  if (!abierto) paleta.setColor(QPalette::Base, campo.window()->palette().color(QPalette::Window));
-  campo.setPalette(paleta);
-}
-
-QLineEdit* Valor(const QString& nombre, QWidget* padre) {
-  auto* valor = new QLineEdit(padre);
-  valor->setObjectName(nombre);
-  valor->setAlignment(Qt::AlignRight);
-  valor->setFixedWidth(valor->fontMetrics().horizontalAdvance('0') * kCifrasCaso +
-                       valor->sizeHint().height() / 2);
-  Abre(*valor, false);
-  valor->setFocusPolicy(Qt::StrongFocus);
-  return valor;
 }
 
 // Words of two entries are one sentence here.
