@@ -18,7 +18,6 @@ namespace {
 constexpr double kDado = -0.5;         // a forced value above it counts as given
 constexpr double kPasePresion = 0.2;   // a step may pass the last pressure by this much [at]
 constexpr double kMargenUltima = 0.1;  // rest for which no shorter last step is made [at]
-constexpr double kEnganche = 0.01;     // a step this near to the last height lands on it [m]
 constexpr double kDiamCorte = 1200.0;  // of the two factory test rules [mm]
 constexpr double kGolpe = 1.0;         // STP over MDP, surge calculated [at]
 constexpr std::int16_t kMaxCasos = std::numeric_limits<std::int16_t>::max();
@@ -176,7 +175,7 @@ class CorridaTramo {
   }
   // The last one may be landed on.
   double CuentaAlturas() const {
-    return 1.0 + CuentaPasos(c_.Hr0Actual, c_.Hr0FinalActual - kEnganche, e_.tramo.Hr0Delta);
+    return 1.0 + CuentaPasos(c_.Hr0Actual, c_.Hr0FinalActual - kEngancheAltura, e_.tramo.Hr0Delta);
   }
   double CuentaPresiones() const {
     return std::max(1.0, CuentaPasos(PrimeraPresion(), UltimaPresion() + kPasePresion, c_.IncDP));

@@ -9,8 +9,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kEngancheAltura = 0.01;  // [m]
-
 template <class T>
 struct Gemelo {
   double T::*campo;

@@ -24,8 +24,11 @@ double FctDeFck(double Fck);
 /// Writes Hr, Hr0Actual, Hr0FinalActual [m] and, with the Obra's heights, Hr0Delta.
 void EligeAlturas(EstadoCalculo& e);
 
-/// The height after h in a range [m]: a step that comes within 0.01 of the last height lands on it.
-/// None after the last height, or with a step of 0.
+/// A step this near to the last height of a range lands on it [m].
+inline constexpr double kEngancheAltura = 0.01;
+
+/// The height after h in a range [m]: a step that comes within kEngancheAltura of the last one
+/// lands on it. None after the last height, or with a step of 0.
 std::optional<double> AlturaSiguiente(double h, double paso, double ultima);
 
 /// The height before h in a range that the steps begin at its first height [m], also from a last
