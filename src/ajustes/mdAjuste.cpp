@@ -67,7 +67,6 @@ bool LeeElTramo(Ajustes& a) {
 // The Caso as the design finds it: a stored adjustment stands beside the result, not in it.
 void Corre(Ajustes& a, double Hr, double DP) {
   auto& e = a.t.e;
-  e.caso = {};
   e.corrida.ajustes.clear();
   const LogDeCaso log(a);
   CalculaCasos(e, Hr, DP, {});

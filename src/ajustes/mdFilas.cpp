@@ -16,8 +16,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kHipPPNeta = 1;
-
 void MuestraFallo(Ajustes& a, const std::string& texto) {
   a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::AjErrorEnEjecucion))));
 }

@@ -8,8 +8,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kHipPPNeta = 1;
-
 LineaNecesaria Linea(double necesaria, double dispuesta) {
   return {necesaria, dispuesta, AreaMostrada(necesaria) > AreaMostrada(dispuesta)};
 }

@@ -8,7 +8,6 @@ namespace {
 
 constexpr double kCmPorM = 100.0;
 constexpr double kAreaPorMm = 10.0;  // of a sheet [cm2/m]
-constexpr int kHipPPNeta = 1;
 
 CapaDeBarras Capa(double diametro, int cuenta) {
   if (cuenta <= 0 || diametro <= 0) return {};
@@ -35,10 +34,8 @@ ParedDeTubo ParedElegida(const Ajustes& a) {
   p.Esp = d.Esp;
   p.Reci = d.Reci;
   p.Rece = d.Rece;
-  p.CAMISA = a.t.Disp.Camisa / kAreaPorMm;
-  // The areas of the factory test have no bars of their own.
-  p.delDiseno =
-      a.t.FilaElegida == kFilaResultado && !a.t.SeleccionDirecta && r.HipotesisRige != kHipPPNeta;
+  p.delDiseno = a.t.FilaElegida == kFilaResultado && !a.t.SeleccionDirecta;
+  p.CAMISA = p.delDiseno ? r.CAMISA : a.t.Disp.Camisa / kAreaPorMm;
   p.espiras = p.delDiseno ? Capa(r.FIIN, r.NESPIN) : CapaPara(a.t.Disp.Espiras);
   p.exteriores = p.delDiseno ? Capa(r.FIEX, r.NEXPEX) : CapaPara(a.t.Disp.Exterior);
   return p;

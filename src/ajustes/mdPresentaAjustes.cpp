@@ -16,7 +16,6 @@ namespace zorbin {
 namespace {
 
 constexpr int kSangriaTitulo = 9;  // blanks before the title of the window
-constexpr int kHipPPNeta = 1;
 
 struct TextoDeBoton {
   BotonAjuste boton;

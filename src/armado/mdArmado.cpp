@@ -9,8 +9,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kHipPPNeta = 1;
-
 // Pressure of each hypothesis [at].
 Lista<double, kHipotesisArmado> Presiones(const Corrida& c) {
   return {{c.PPNeta, 0.0, c.STP, c.DP, c.MDP}};
@@ -48,18 +46,13 @@ void AnotaInicio(Registro* log, const Tramo& t, double R) {
 }
 
 FilaHip DisenaHipotesis(EstadoCalculo& e, int h) {
-  auto& r = e.caso.armado;
-  AreasCaras as{};
   if (h == kHipPPNeta) {
-    as = ArmPPNeta(e);
-  } else {
-    ArmTubo(e, h, h, FaseAviso::Busqueda);
-    as = AreasDelAcero(r);
-    r.AreaCamisa = r.CAMISA * 10.0;
-    r.AreaEspiras = AreaBarras(r.FIIN, r.NESPIN);
-    // An adjusted Caso keeps the adjusted outer area, by which its layers are judged.
-    if (!r.HayAjuste()) r.AreaExterior = as.AsExt;
+    const auto as = ArmPPNeta(e);
+    return {as.AsInt, as.AsExt, as.AsInt + as.AsExt};
   }
+  const auto& r = e.caso.armado;
+  ArmTubo(e, h, h, FaseAviso::Busqueda);
+  const auto as = AreasDelAcero(r);
   return {as.AsInt, as.AsExt, as.AsInt + as.AsExt, r.IESP, r.NESPIN, r.NEXPEX, r.CAMISA};
 }
 
@@ -77,22 +70,22 @@ void RecorreHipotesis(EstadoCalculo& e) {
   }
 }
 
-// The factory test governs: its areas, with the bars that the Caso before left.
+// Areas of the Caso: those of its steel, or those of its hand adjustment.
+void PonAreas(ResultadoArmado& r) {
+  const auto as = r.ajuste ? AreasDelAjuste(*r.ajuste) : AreasDelAcero(r);
+  r.AsInt = as.AsInt;
+  r.AsExt = as.AsExt;
+  r.Total = as.AsInt + as.AsExt;
+}
+
+// The factory test governs: steel for its areas, and the steel ratio of what is provided.
 void RigePPNeta(EstadoCalculo& e) {
   auto& r = e.caso.armado;
   const FilaHip& fila = r.TablaHip(kHipPPNeta);
-  r.AsInt = fila.AsInt;
-  r.AsExt = fila.AsExt;
-  r.IESP = fila.IESP;
-  r.NESPIN = fila.NESPIN;
-  r.NEXPEX = fila.NEXPEX;
-  r.CAMISA = fila.CAMISA;
-  if (r.ajuste) {
-    r.AsInt = AreasDelAjuste(*r.ajuste).AsInt;
-    r.AsExt = r.ajuste->Exterior;
-  }
+  DisponePPNeta(e, {fila.AsInt, fila.AsExt});
+  PonAreas(r);
   if (r.CAMISA <= 0) return;
-  const double ASCR = Div(r.AsInt + r.AsExt, e.tramo.Esp * 100.0 * 100.0);
+  const double ASCR = Div(r.Total, e.tramo.Esp * 100.0 * 100.0);
   const auto limite = LimiteLisas(e.tramo.Fck);
   if (ASCR > limite.ASC) {
     e.caso.avisos.push_back(
@@ -113,24 +106,11 @@ void EsfuerzosQueRigen(EstadoCalculo& e, double R) {
   }
 }
 
-void AreasFinales(EstadoCalculo& e) {
-  auto& r = e.caso.armado;
-  if (r.HipotesisRige > kHipPPNeta) {
-    r.AsInt = AreasDelAcero(r).AsInt;
-    r.AsExt = AreasDelAcero(r).AsExt;
-  }
+void AreasFinales(ResultadoArmado& r) {
   r.AreaCamisa = r.CAMISA * 10.0;
   r.AreaEspiras = AreaBarras(r.FIIN, r.NESPIN);
   r.AreaExterior = AreaBarras(r.FIEX, r.NEXPEX);
-  if (r.ajuste) {
-    r.AsInt = AreasDelAjuste(*r.ajuste).AsInt;
-    r.AsExt = r.ajuste->Exterior;
-  }
-  r.Total = r.AsInt + r.AsExt;
-  if (r.HipotesisRige == kHipPPNeta && r.AsExt > kAreaUnaCapa) {
-    e.caso.avisos.push_back(
-        {ClaseAviso::CapasExterior, kHipPPNeta, FaseAviso::Final, std::nullopt, false});
-  }
+  PonAreas(r);
 }
 
 void ExigeFinitas(const ResultadoArmado& r) {
@@ -171,15 +151,9 @@ Esfuerzos EsfuerzosArmado(const EstadoCalculo& e, double R) {
 void DisenoArmado(EstadoCalculo& e) {
   auto& r = e.caso.armado;
   const auto& t = e.tramo;
-  r.MomentoTope = false;
-  r.ErrorPostesado = 0;
+  r = {};
   r.ajuste = AjusteDelCaso(e);
   if (r.ajuste) r.AreaExterior = r.ajuste->Exterior;
-  // A sheet has no cracking check: nothing of a pipe without one may stand beside it.
-  if (t.TipoCamisa > 0) {
-    r.TensionMax = r.TensionAdm = r.TensionAdmMin = 0;
-    r.sinFisuracion = {};
-  }
 
   const double R = t.Di / 2.0;
   AnotaInicio(e.corrida.registro, t, R);
@@ -197,7 +171,7 @@ void DisenoArmado(EstadoCalculo& e) {
     r.ErrorPostesado = 1;
     return;
   }
-  AreasFinales(e);
+  AreasFinales(r);
   ExigeFinitas(r);
 }
 

@@ -13,7 +13,7 @@ Esfuerzos EsfuerzosArmado(const EstadoCalculo& e, double R);
 /// Designs the Caso in hand.
 /// Reads  the Caso of the run and the Tramo in calculation units; corrida.ajustes.
 /// Writes caso.armado, and caso.avisos in the order in which they arise; the debug log.
-///        The bars, the sheet and the cracking stresses of the Caso before are its starting point.
+///        Nothing of the Caso before enters: caso.armado is written anew.
 /// @throws ErrorEjecucion as `ArmTubo`
 void DisenoArmado(EstadoCalculo& e);
 

@@ -31,6 +31,23 @@ struct PeorTraccion {
   }
 };
 
+Reparto DisponeInterior(const Tramo& t, double Ai, ResultadoArmado& r) {
+  const auto p = ReparteArmadura(Ai, t.TipoCamisa, t.CamMax, r.HayAjuste(), r.AreaExterior);
+  r.CAMISA = p.CAMISA;
+  r.FIIN = p.DIA;
+  r.NESPIN = p.NESP;
+  r.IESP = p.IESP;
+  return p;
+}
+
+Reparto DisponeExterior(const Tramo& t, double Ae, ResultadoArmado& r) {
+  const auto p = ReparteArmadura(Ae, 0, t.CamMax, r.HayAjuste(), r.AreaExterior);
+  r.FIEX = p.DIA;
+  r.NEXPEX = p.NESP;
+  r.IESP = p.IESP;
+  return p;
+}
+
 // One call of ArmTubo.
 class Busqueda {
  public:
@@ -132,11 +149,7 @@ class Busqueda {
 
   // Real steel for the inner face. @return whether the wall takes it.
   bool ReparteInterior(double Ai) {
-    const auto p = ReparteArmadura(Ai, t_.TipoCamisa, t_.CamMax, r_.HayAjuste(), r_.AreaExterior);
-    r_.CAMISA = p.CAMISA;
-    r_.FIIN = p.DIA;
-    r_.NESPIN = p.NESP;
-    r_.IESP = p.IESP;
+    const auto p = DisponeInterior(t_, Ai, r_);
     Ri_ = p.AREA;
     if (p.VariasCapas) Avisa(ClaseAviso::CapasInterior);
     return r_.IESP <= 0;
@@ -144,10 +157,7 @@ class Busqueda {
 
   // Real steel for the outer face, which never has a sheet.
   bool ReparteExterior(double Ae) {
-    const auto p = ReparteArmadura(Ae, 0, t_.CamMax, r_.HayAjuste(), r_.AreaExterior);
-    r_.FIEX = p.DIA;
-    r_.NEXPEX = p.NESP;
-    r_.IESP = p.IESP;
+    const auto p = DisponeExterior(t_, Ae, r_);
     Re_ = p.AREA;
     if (p.VariasCapas) Avisa(ClaseAviso::CapasExterior);
     return r_.IESP <= 0;
@@ -258,6 +268,22 @@ AreasCaras ArmPPNeta(const EstadoCalculo& e) {
     }
   }
   return {Finito(AsInt), Finito(At - AsInt)};
+}
+
+void DisponePPNeta(EstadoCalculo& e, const AreasCaras& as) {
+  auto& r = e.caso.armado;
+  const auto avisa = [&](ClaseAviso clase, bool variasCapas) {
+    if (variasCapas) {
+      e.caso.avisos.push_back({clase, kHipPPNeta, FaseAviso::Final, std::nullopt, true});
+    }
+  };
+  const auto interior = DisponeInterior(e.tramo, as.AsInt, r);
+  avisa(ClaseAviso::CapasInterior, interior.VariasCapas);
+  if (r.IESP > 0) return;
+  const auto exterior = DisponeExterior(e.tramo, as.AsExt, r);
+  // An adjusted Caso is built with its adjusted area, whatever the bars of the calculated one.
+  avisa(ClaseAviso::CapasExterior,
+        r.ajuste ? r.ajuste->Exterior > kAreaUnaCapa : exterior.VariasCapas);
 }
 
 void ArmTubo(EstadoCalculo& e, int H1, int H2, FaseAviso fase) {

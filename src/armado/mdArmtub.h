@@ -17,6 +17,15 @@ struct AreasCaras {
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 AreasCaras ArmPPNeta(const EstadoCalculo& e);
 
+/// Lays out the areas of the factory test: bars, or sheet and bars, at the inner face, and bars at
+/// the outer one. Nothing is added for cracking, which is checked where there is a moment.
+/// Reads  tramo: TipoCamisa, CamMax [mm]; caso.armado: ajuste, AreaExterior.
+/// Writes caso.armado: CAMISA, FIIN, NESPIN, FIEX, NEXPEX, IESP; caso.avisos, bars that do not fit
+///        in one layer.
+/// @param as  required areas [cm2/m]
+/// @throws ErrorEjecucion as `ReparteArmadura`
+void DisponePPNeta(EstadoCalculo& e, const AreasCaras& as);
+
 /// Searches the steel for the hypotheses H1 to H2: classifies every section as composite tension
 /// or flexo-compression, couples the two faces where both are in composite tension, and checks
 /// the steel ratio (with a sheet) or cracking (without one).

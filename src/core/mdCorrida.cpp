@@ -124,6 +124,7 @@ class CorridaTramo {
     c_.CuentaCasos = 0;
     c_.NumCaso = 0;
     c_.vueltas = {};
+    e_.caso = {};
     EligeAlturas(e_);
     EligePresiones(e_);
     PreparaCargas(e_);

@@ -61,6 +61,7 @@ struct Aviso {
 };
 
 inline constexpr int kHipotesisArmado = 5;
+inline constexpr int kHipPPNeta = 1;  // the one of the factory test
 inline constexpr int kTerminosOval = 12;
 
 /// One row of `TablaHip`.
@@ -98,8 +99,9 @@ struct SinFisuracion {
   std::size_t avisos = 0;   // warnings of the Caso up to here
 };
 
-/// Reinforced design of one Caso. The bars, the sheet and the cracking stresses stand here from
-/// Caso to Caso: where hypothesis 1 governs, the method shows those left by the Caso before.
+/// Reinforced design of one Caso. Nothing in it comes from the Caso before. Where hypothesis 1
+/// governs, bars and sheet are laid out for its areas; its row of `TablaHip` holds these areas as
+/// calculated, and never steel.
 struct ResultadoArmado {
   Esfuerzos esfuerzos;
   Lista<FilaHip, kHipotesisArmado> TablaHip;

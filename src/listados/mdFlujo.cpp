@@ -52,13 +52,14 @@ void UnTramo(EstadoCalculo& e, const ObraEnFichero& obra, const PeticionCalculo&
   if (comprobado != peticion.comprobados.end()) e.tramo = comprobado->second;
   e.tramo.NumeroTramo = peticion.posiciones.empty() ? I16(posicion) : NumeroDe(numero);
   oyente.EmpiezaTramo(e, posicion, numero);
+  const Tramo leido = e.tramo;
   try {
     CorreTramo(e, peticion.carpetaRegistros, oyente);
+    oyente.AcabaTramo(e, nullptr);
   } catch (const ErrorCorrida& fallo) {
     oyente.AcabaTramo(e, &fallo);
-    return;
   }
-  oyente.AcabaTramo(e, nullptr);
+  e.tramo = leido;  // a blank record of the next Tramo finds no trace of this run
 }
 
 std::vector<int> TodasLasPosiciones(const ListaTramos& lista) {

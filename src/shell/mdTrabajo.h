@@ -3,7 +3,7 @@
 //
 // A run works on a copy of the data, so that nothing of the capture changes however it ends: the
 // units and values on the screen are those a person typed. Nothing carries over from one call to
-// the next; within a whole Obra results carry over from Tramo to Tramo.
+// the next, nor from Tramo to Tramo of a whole Obra.
 #pragma once
 
 #include <filesystem>

@@ -465,7 +465,10 @@ TEST(Ajuste, EnTraccionPuraSeAvisaYSeComparanLasCaras) {
   EXPECT_EQ(b.Linea(0), "EXTERIOR 15,00 7,86 !");
   EXPECT_EQ(b.Linea(1), "INTERIOR 7,86 15,00");
   EXPECT_EQ(b.Linea(2), "TOTAL 22,86 22,86");
-  EXPECT_FALSE(ParedElegida(*b.a).delDiseno);
+  // What is drawn is what is laid out for them.
+  EXPECT_TRUE(ParedElegida(*b.a).delDiseno);
+  EXPECT_EQ(ParedElegida(*b.a).CAMISA, 1.5);
+  EXPECT_EQ(ParedElegida(*b.a).exteriores.cuenta, 10);  // of 10 mm: 7.854
   b.Pulsa(btAnteriorPresion);
   EXPECT_FALSE(b.p().edAvisoCalderaVisible);
   EXPECT_EQ(b.p().lineas[0].lbPosicion, "Clave");

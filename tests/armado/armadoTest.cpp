@@ -35,6 +35,12 @@ bool Hay(const std::vector<Aviso>& avisos, ClaseAviso clase) {
                      [=](const Aviso& a) { return a.clase == clase; });
 }
 
+bool HayFinal(const std::vector<Aviso>& avisos, ClaseAviso clase) {
+  return std::any_of(avisos.begin(), avisos.end(), [=](const Aviso& a) {
+    return a.clase == clase && a.fase == FaseAviso::Final;
+  });
+}
+
 // One Tramo worked by hand from its data to its bars. Pipe 1.0 / 1.2 m, wall 10 cm, covers 2 cm,
 // 2.5 t/m3, granular bedding of 90 degrees, given load 6 t/m2 in a compacted trench of 2 m (fill
 // 1.8 t/m3, 30 degrees, K·mu' 0.165), DP 4 and MDP 5 at with the surge calculated; concrete 350,
@@ -130,23 +136,91 @@ TEST(Armado, BuscaCasoComparaConGuarda) {
   EXPECT_EQ(BuscaCaso({}, 6.0, 2, 2.0), 0);
 }
 
-// The factory test needs most: its areas have no bars of their own, and those shown are the ones
-// that the Caso before left in the row.
-TEST(Armado, CuandoRigePPSeMuestranLasBarrasDelCasoAnterior) {
+// Where the factory test governs: At is 96.43 cm2/m, half of it at each face.
+struct PruebaQueRige {
+  std::int16_t tipoCamisa;
+  double CamMax, CAMISA, FIIN;
+  int NESPIN;
+  double FIEX;
+  int NEXPEX;
+};
+
+EstadoCalculo ConPruebaQueRige(std::int16_t tipoCamisa, double CamMax) {
   auto e = pruebas::EstadoDe(pruebas::LeeJson(pruebas::Datos("casos/10.json")).at("entrada"));
-  const auto u = Corre(e);
-  const auto& r = u.casos.back();
-  ASSERT_EQ(r.HipotesisRige, 1);
-  const double At = e.corrida.PP * e.tramo.Di / 2 / 1400 * 10000;
-  EXPECT_NEAR(r.AsInt, At / 2, 1e-9);
-  EXPECT_NEAR(r.Total, At, 1e-9);
-  const auto& anterior = u.casos[u.casos.size() - 2];
-  EXPECT_EQ(r.NESPIN, anterior.NESPIN);
-  EXPECT_EQ(r.NEXPEX, anterior.NEXPEX);
-  EXPECT_NE(r.NEXPEX, r.TablaHip(5).NEXPEX);
-  for (int s = 1; s <= 3; ++s) {
-    EXPECT_NEAR(r.NRige(s), 0, 1e-12);
-    EXPECT_EQ(r.MRige(s), 0);
+  e.tramo.TipoCamisa = tipoCamisa;
+  e.tramo.CamMax = CamMax;
+  e.tramo.Fct = 1000;  // no steel for cracking
+  return e;
+}
+
+TEST(Armado, CuandoRigePPSeDisponenSusAreas) {
+  // 48.21 in bars: 43 of 12 mm. With a sheet of 45: 7 of 8 mm, 3.52, for the rest of 3.21. A sheet
+  // alone takes 50, and leaves 46.43 outside: 42 of 12 mm.
+  for (const auto& c :
+       {PruebaQueRige{0, 6, 0, 12, 43, 12, 43}, PruebaQueRige{1, 0, 0, 12, 43, 12, 43},
+        PruebaQueRige{1, 6, 4.5, 8, 7, 12, 43}, PruebaQueRige{2, 6, 5, 0, 0, 12, 42}}) {
+    SCOPED_TRACE(testing::Message() << c.tipoCamisa << ' ' << c.CamMax);
+    auto e = ConPruebaQueRige(c.tipoCamisa, c.CamMax);
+    const auto u = Corre(e);
+    const auto& r = u.casos.front();
+    ASSERT_EQ(r.HipotesisRige, 1);
+    EXPECT_NEAR(r.TablaHip(1).Total, 10.8 * 1.25 / 1400 * 10000, 1e-9);
+    EXPECT_EQ(r.TablaHip(1).NEXPEX, 0);  // calculated only
+    EXPECT_EQ(r.CAMISA, c.CAMISA);
+    EXPECT_EQ(r.FIIN, c.FIIN);
+    EXPECT_EQ(r.NESPIN, c.NESPIN);
+    EXPECT_EQ(r.FIEX, c.FIEX);
+    EXPECT_EQ(r.NEXPEX, c.NEXPEX);
+    EXPECT_NEAR(r.AsInt, 10 * c.CAMISA + kPi * c.FIIN * c.FIIN / 400 * c.NESPIN, 1e-9);
+    EXPECT_NEAR(r.AsExt, kPi * c.FIEX * c.FIEX / 400 * c.NEXPEX, 1e-9);
+    EXPECT_EQ(r.Total, r.AsInt + r.AsExt);
+    // More than 31 bars of 12 mm do not fit in one layer.
+    EXPECT_EQ(HayFinal(u.avisos.front(), ClaseAviso::CapasInterior), c.NESPIN > 31);
+    EXPECT_TRUE(HayFinal(u.avisos.front(), ClaseAviso::CapasExterior));
+    for (int s = 1; s <= 3; ++s) {
+      EXPECT_NEAR(r.NRige(s), 0, 1e-12);
+      EXPECT_EQ(r.MRige(s), 0);
+    }
+  }
+}
+
+TEST(Armado, CuandoRigePPElAjusteQueda) {
+  for (const double exterior : {35.0, 36.0}) {
+    auto e = ConPruebaQueRige(0, 0);
+    e.corrida.ajustes = {{9.0, 20, 7.2, {30, 20, exterior}}};
+    const auto u = Corre(e);
+    const auto& r = u.casos.front();
+    ASSERT_EQ(r.HipotesisRige, 1);
+    ASSERT_TRUE(r.HayAjuste());
+    EXPECT_EQ(r.AsInt, 50);
+    EXPECT_EQ(r.AsExt, exterior);
+    EXPECT_EQ(r.Total, 50 + exterior);
+    EXPECT_EQ(r.NEXPEX, 96);  // of 8 mm: an adjusted Caso looks for no larger ones
+    EXPECT_EQ(HayFinal(u.avisos.front(), ClaseAviso::CapasExterior), exterior > 35.06);
+  }
+}
+
+// The steel ratio of the factory test is that of what is laid out, where there is a sheet.
+TEST(Armado, CuandoRigePPLaRetraccionMiraLaChapaPuesta) {
+  for (const std::int16_t tipo : std::initializer_list<std::int16_t>{0, 1}) {
+    EstadoCalculo e = EstadoDeMuestra(1);
+    e.tramo.TipoCamisa = tipo, e.tramo.CamMax = 6;
+    e.tramo.Esp = 0.12, e.tramo.Reci = 0.025, e.tramo.Rece = 0.025;
+    e.tramo.Fck = 350, e.tramo.Fct = 22, e.tramo.Fyk = 2100, e.tramo.Fyd = 1400;
+    e.corrida.PP = 40;
+    e.corrida.STP = e.corrida.DP = e.corrida.MDP = 0.5;
+    e.caso.MHip(1, 1) = e.caso.MHip(1, 2) = e.caso.MHip(1, 3) = 0.01;
+    e.caso.NHip(1, 1) = e.caso.NHip(1, 2) = e.caso.NHip(1, 3) = -0.1;
+    e.caso.armado.CAMISA = 3;  // of another Caso
+    DisenoArmado(e);
+    const auto& r = e.caso.armado;
+    ASSERT_EQ(r.HipotesisRige, 1);
+    ASSERT_GT(r.Total / 1200, 0.096);
+    EXPECT_EQ(r.CAMISA, tipo == 0 ? 0 : 6);
+    ASSERT_EQ(HayFinal(e.caso.avisos, ClaseAviso::RetraccionLisas), tipo == 1);
+    if (tipo == 1) {
+      EXPECT_DOUBLE_EQ(e.caso.avisos.back().valor.value(), r.Total / 1200);
+    }
   }
 }
 

@@ -186,6 +186,45 @@ std::string Pegados(const std::string& linea) {
   return {};
 }
 
+// What bars of one face leave wrong for an area: of the diameters there are, five at least, not a
+// bar too few nor too many.
+std::string QuejasDeBarras(double D, double n, double area) {
+  if (D != 8 && D != 10 && D != 12) return "no hay barras de ese diametro; ";
+  constexpr double kRedondeo = 1e-6;
+  const double una = kPi * D * D / 400.0;
+  const double hacen = area / una;
+  if (n < 5 || n < hacen - 0.02 - kRedondeo) return "faltan barras; ";
+  if (n > 5 && n - 1 >= hacen - 0.02 + kRedondeo) return "sobra una barra; ";
+  return {};
+}
+
+// Where the factory test governs, what is provided covers its areas: the sheet that the kind of
+// pipe allows, the bars that are left to put, and the areas told are those of both.
+std::string QuejasDeLaPrueba(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  const auto& t = e.tramo;
+  if (r.HipotesisRige != 1) return {};
+  const auto& pide = r.TablaHip(1);
+  const double chapa = r.CAMISA * 10.0;
+  std::string quejas = QuejasDeBarras(r.FIEX, r.NEXPEX, pide.AsExt);
+  const bool soloChapa = t.TipoCamisa != 0 && r.NESPIN == 0;
+  if (!soloChapa) quejas += QuejasDeBarras(r.FIIN, r.NESPIN, pide.AsInt - chapa);
+  if (soloChapa && chapa < pide.AsInt) quejas += "falta chapa; ";
+  if (soloChapa && chapa > 15.0 && chapa >= pide.AsInt + 5.0) quejas += "sobra chapa; ";
+  if (t.TipoCamisa == 0 && chapa != 0) quejas += "chapa en un tubo que no la tiene; ";
+  if (t.TipoCamisa == 1 && r.CAMISA > std::max(t.CamMax, 1.5)) quejas += "chapa de mas; ";
+  if (pide.NESPIN != 0 || pide.NEXPEX != 0 || pide.CAMISA != 0) quejas += "acero en la fila; ";
+  if (r.HayAjuste()) return quejas;
+  const auto igual = [](double a, double b) { return std::fabs(a - b) <= 1e-9 * (1.0 + b); };
+  const double interior = chapa + kPi * r.FIIN * r.FIIN / 400.0 * r.NESPIN;
+  const double exterior = kPi * r.FIEX * r.FIEX / 400.0 * r.NEXPEX;
+  if (!igual(r.AsInt, interior) || !igual(r.AsExt, exterior) ||
+      !igual(r.Total, interior + exterior)) {
+    quejas += "las areas no son las de la chapa y las barras; ";
+  }
+  return quejas;
+}
+
 // Everything that reads a run, on one run, and the oracle over all of it.
 class Lector : public OyenteCorrida {
  public:
@@ -226,7 +265,11 @@ class Lector : public OyenteCorrida {
   }
   void Caso(const EstadoCalculo& e) override {
     Reales(e, [this](const char* nombre, double x) { Mira(nombre, x); });
-    if (e.tramo.EsArmado && f_.casos <= kCasosQueSeTantean) Tanteos(e);
+    if (e.tramo.EsArmado) {
+      const auto quejas = QuejasDeLaPrueba(e);
+      if (!quejas.empty()) Queja("rige la prueba en fabrica: " + quejas);
+      if (f_.casos <= kCasosQueSeTantean) Tanteos(e);
+    }
     if (!SeLee()) return;
     resumen_.Caso(e);
     Lee([&](OyenteObra& o) { o.Caso(e); });
@@ -428,9 +471,7 @@ std::string JsonDe(const std::vector<EstadoCalculo>& tramos, const Catalogo& tex
   for (const auto& t : tramos) {
     ListadoJson json(salida, "azar.zrb", textos, {t.obra.EsSI(), ','});
     const std::array<OyenteCorrida*, 1> oyentes{&json};
-    const ResultadoCaso anterior = e.caso;
     e = t;
-    e.caso = anterior;
     const EnUnidadesDeCalculo unidades(e);
     try {
       CalculaCasos(e, kSinForzar, kSinForzar, oyentes);

@@ -36,9 +36,7 @@ void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const 
   const std::array<OyenteCorrida*, 1> oyentes{listado.get()};
   EstadoCalculo e;
   for (const auto& t : tramos) {
-    const ResultadoCaso anterior = e.caso;
     e = t;
-    e.caso = anterior;
     const EnUnidadesDeCalculo unidades(e);
     listado->EmpiezaTramo(e, e.tramo.NumeroTramo, std::to_string(e.tramo.NumeroTramo));
     try {
