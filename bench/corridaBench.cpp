@@ -5,14 +5,14 @@
 #include <array>
 #include <filesystem>
 
-#include "armado/mdArmado.h"
-#include "cargas/mdMarston.h"
-#include "cargas/mdOvaliz.h"
-#include "cargas/mdTablaCargas.h"
+#include "calculo/armado/mdArmado.h"
+#include "calculo/cargas/mdMarston.h"
+#include "calculo/cargas/mdOvaliz.h"
+#include "calculo/cargas/mdTablaCargas.h"
+#include "calculo/corrida/mdCorrida.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdCorrida.h"
 #include "core/mdUnidades.h"
-#include "persistencia/mdLog.h"
+#include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
 namespace {

@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "persistencia/mdRegistros.h"
+#include "persistencia/registros/mdRegistros.h"
 
 namespace zorbin {
 namespace {

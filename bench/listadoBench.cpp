@@ -5,13 +5,13 @@
 #include <array>
 #include <filesystem>
 
+#include "base/mdCarpetas.h"
+#include "calculo/corrida/mdCorrida.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdCorrida.h"
 #include "core/mdUnidades.h"
-#include "listados/mdListadoNormal.h"
-#include "recursos/mdCarpetas.h"
-#include "shell/mdPintor.h"
-#include "shell/mdSinPantalla.h"
+#include "listados/obra/mdListadoNormal.h"
+#include "listados/pintor/mdPintor.h"
+#include "listados/pintor/mdSinPantalla.h"
 
 namespace zorbin {
 namespace {

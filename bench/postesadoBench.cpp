@@ -3,8 +3,8 @@
 
 #include <array>
 
+#include "calculo/corrida/mdCorrida.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdCorrida.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin {

@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 
 #include "arranque/mdPrimeraVista.h"
-#include "shell/programa/mdPrograma.h"
+#include "programas/zorbin/mdPrograma.h"
 
 int main(int argumentos, char** palabras) {
   QApplication aplicacion(argumentos, palabras);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "core/mdRegistro.h"
+#include "base/mdRegistro.h"
 #include "core/resultados.h"
 
 namespace zorbin {

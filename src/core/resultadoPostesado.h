@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "core/tablas.h"
+#include "base/tablas.h"
 
 namespace zorbin {
 

@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
+#include "base/tablas.h"
 #include "core/resultadoPostesado.h"
-#include "core/tablas.h"
 
 namespace zorbin {
 

@@ -4,14 +4,14 @@
 
 #include <algorithm>
 
-#include "ajustes/mdAjuste.h"
-#include "ajustes/mdPared.h"
 #include "azar/generador.h"
 #include "azar/oraculo.h"
-#include "captura/guion.h"
-#include "captura/textosCaptura.h"
-#include "core/mdTextos.h"
-#include "persistencia/mdZrb.h"
+#include "base/mdTextos.h"
+#include "base/textosCaptura.h"
+#include "persistencia/zrb/mdZrb.h"
+#include "sesion/ajustes/mdAjuste.h"
+#include "sesion/ajustes/mdPared.h"
+#include "sesion/captura/guion.h"
 
 namespace zorbin::pruebas {
 namespace {

@@ -7,13 +7,13 @@
 
 #include "azar/generador.h"
 #include "azar/oraculo.h"
-#include "hidraulica/mdEntradaHidraulica.h"
-#include "hidraulica/mdHidraulicaListado.h"
-#include "hidraulica/mdHidraulicaPapel.h"
-#include "listados/mdHojasTexto.h"
-#include "protecciones/mdEntradaMedios.h"
-#include "protecciones/mdMediosListado.h"
-#include "protecciones/mdMediosPapel.h"
+#include "listados/calculadoras/mdHidraulicaListado.h"
+#include "listados/calculadoras/mdHidraulicaPapel.h"
+#include "listados/calculadoras/mdMediosListado.h"
+#include "listados/calculadoras/mdMediosPapel.h"
+#include "listados/papel/mdHojasTexto.h"
+#include "sesion/calculadoras/mdEntradaHidraulica.h"
+#include "sesion/calculadoras/mdEntradaMedios.h"
 
 namespace zorbin::pruebas {
 namespace {

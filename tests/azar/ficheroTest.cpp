@@ -9,10 +9,10 @@
 
 #include "azar/generador.h"
 #include "azar/oraculo.h"
-#include "captura/guion.h"
-#include "captura/mdFaltas.h"
-#include "core/mdTextos.h"
-#include "listados/mdJson.h"
+#include "base/mdTextos.h"
+#include "listados/datos/mdJson.h"
+#include "sesion/captura/guion.h"
+#include "sesion/captura/mdFaltas.h"
 
 namespace zorbin::pruebas {
 namespace {

@@ -13,23 +13,23 @@
 #include <memory>
 #include <sstream>
 
-#include "ajustes/mdHoja.h"
-#include "ajustes/mdNecesaria.h"
-#include "ajustes/mdTanteo.h"
 #include "azar/generador.h"
-#include "captura/mdCiclo.h"
-#include "captura/mdPresenta.h"
-#include "captura/mdTipologias.h"
-#include "captura/mdValidaObra.h"
-#include "captura/mdValidaTramo.h"
-#include "core/mdTextos.h"
+#include "base/mdTextos.h"
+#include "calculo/ajustes/mdNecesaria.h"
+#include "calculo/ajustes/mdTanteo.h"
 #include "core/mdUnidades.h"
-#include "listados/mdAvisos.h"
-#include "listados/mdHojasTexto.h"
-#include "listados/mdJson.h"
-#include "listados/mdPantalla.h"
-#include "listados/mdResumen.h"
-#include "listados/mdTipoListado.h"
+#include "listados/datos/mdJson.h"
+#include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdPantalla.h"
+#include "listados/obra/mdResumen.h"
+#include "listados/obra/mdTipoListado.h"
+#include "listados/papel/mdHojasTexto.h"
+#include "sesion/ajustes/mdHoja.h"
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdPresenta.h"
+#include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdValidaObra.h"
+#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin::pruebas {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "captura/mdCaptura.h"
-#include "core/mdCorrida.h"
+#include "calculo/corrida/mdCorrida.h"
+#include "sesion/captura/mdCaptura.h"
 
 namespace zorbin::pruebas {
 

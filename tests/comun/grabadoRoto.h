@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "persistencia/mdDiario.h"
+#include "persistencia/disco/mdDiario.h"
 
 namespace zorbin::pruebas {
 

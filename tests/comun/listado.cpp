@@ -4,12 +4,12 @@
 #include <memory>
 #include <sstream>
 
+#include "base/mdCarpetas.h"
 #include "core/mdUnidades.h"
-#include "listados/mdHojasTexto.h"
-#include "listados/mdListadoNormal.h"
-#include "listados/mdListadoPantalla.h"
-#include "listados/mdListadoTabular.h"
-#include "recursos/mdCarpetas.h"
+#include "listados/obra/mdListadoNormal.h"
+#include "listados/obra/mdListadoPantalla.h"
+#include "listados/obra/mdListadoTabular.h"
+#include "listados/papel/mdHojasTexto.h"
 
 namespace zorbin::pruebas {
 

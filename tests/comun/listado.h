@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/estado_calculo.h"
-#include "listados/mdPapel.h"
+#include "listados/papel/mdPapel.h"
 
 namespace zorbin::pruebas {
 

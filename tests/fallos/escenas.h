@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "captura/guion.h"
-#include "persistencia/mdDpe.h"
+#include "persistencia/dpe/mdDpe.h"
+#include "sesion/captura/guion.h"
 
 namespace zorbin::fallos {
 

@@ -1,5 +1,5 @@
 #define _GNU_SOURCE
-#include "fallos.h"
+#include "fallos/fallos.h"
 
 #include <dlfcn.h>
 #include <errno.h>

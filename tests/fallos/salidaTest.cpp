@@ -9,7 +9,7 @@
 
 #include "comun/sinDerechos.h"
 #include "fallos/fallos.h"
-#include "persistencia/mdFicheroSalida.h"
+#include "persistencia/disco/mdFicheroSalida.h"
 
 namespace zorbin::fallos {
 namespace {

@@ -1,12 +1,12 @@
 // A draft of unsaved work: put into the capture, validated, taken again and written.
 #include <cmath>
 
-#include "captura/mdBorrador.h"
-#include "captura/mdCiclo.h"
-#include "captura/mdPresenta.h"
-#include "captura/mdValidaObra.h"
-#include "captura/mdValidaTramo.h"
 #include "fuzz/comun.h"
+#include "sesion/captura/mdBorrador.h"
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdPresenta.h"
+#include "sesion/captura/mdValidaObra.h"
+#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin::hostil {
 

@@ -10,7 +10,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
-#include "persistencia/mdDiario.h"
+#include "persistencia/disco/mdDiario.h"
 
 namespace zorbin::hostil {
 

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "persistencia/mdErrorFichero.h"
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
+#include "persistencia/disco/mdErrorFichero.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo);
 

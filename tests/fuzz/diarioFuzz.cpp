@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "fuzz/comun.h"
-#include "persistencia/mdFicheroSeguro.h"
-#include "persistencia/mdRecupera.h"
+#include "persistencia/disco/mdFicheroSeguro.h"
+#include "persistencia/disco/mdRecupera.h"
 
 namespace zorbin::hostil {
 

@@ -3,7 +3,7 @@
 
 #include "core/mdAjustes.h"
 #include "fuzz/comun.h"
-#include "persistencia/mdDpe.h"
+#include "persistencia/dpe/mdDpe.h"
 
 namespace zorbin::hostil {
 

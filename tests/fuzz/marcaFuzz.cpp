@@ -1,6 +1,6 @@
 // The mark of who has a file open: it is shown to the next person.
 #include "fuzz/comun.h"
-#include "persistencia/mdTitular.h"
+#include "persistencia/disco/mdTitular.h"
 
 namespace zorbin::hostil {
 

@@ -2,9 +2,9 @@
 #include <array>
 #include <cmath>
 
-#include "core/mdNumeros.h"
+#include "base/mdAnsi.h"
+#include "base/mdNumeros.h"
 #include "fuzz/comun.h"
-#include "recursos/mdAnsi.h"
 
 namespace zorbin::hostil {
 

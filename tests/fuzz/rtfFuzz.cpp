@@ -2,7 +2,7 @@
 #include <set>
 
 #include "fuzz/comun.h"
-#include "recursos/mdRtf.h"
+#include "persistencia/documentos/mdRtf.h"
 
 namespace zorbin::hostil {
 

@@ -3,8 +3,8 @@
 #include <array>
 #include <cmath>
 
-#include "captura/mdFaltas.h"
 #include "fuzz/comun.h"
+#include "sesion/captura/mdFaltas.h"
 
 namespace zorbin::hostil {
 

@@ -3,13 +3,13 @@
 #include <cmath>
 #include <sstream>
 
-#include "captura/mdCiclo.h"
-#include "captura/mdEdicion.h"
-#include "captura/mdFaltas.h"
-#include "captura/mdPresenta.h"
 #include "core/mdUnidades.h"
 #include "fuzz/comun.h"
-#include "listados/mdJson.h"
+#include "listados/datos/mdJson.h"
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdFaltas.h"
+#include "sesion/captura/mdPresenta.h"
 
 namespace zorbin::hostil {
 

@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <iostream>
 
+#include "base/mdCarpetas.h"
+#include "base/mdTextos.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdTextos.h"
-#include "persistencia/mdZrb.h"
-#include "recursos/mdCarpetas.h"
+#include "persistencia/zrb/mdZrb.h"
 
 int main(int argc, char** argv) try {
   using namespace zorbin;

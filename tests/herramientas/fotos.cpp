@@ -7,21 +7,21 @@
 #include <QTest>
 #include <iostream>
 
-#include "ajustes/banco.h"
-#include "ajustes/pantalla/frAjustes.h"
-#include "captura/mdCiclo.h"
-#include "captura/mdEdicion.h"
-#include "captura/mdEtiquetas.h"
-#include "captura/mdListaTramos.h"
-#include "captura/mdTipologias.h"
-#include "hidraulica/pantalla/CalculoHidraulico.h"
-#include "pantallas/entornoPrueba.h"
-#include "protecciones/pantalla/Protecciones.h"
-#include "recursos/mdCarpetas.h"
-#include "recursos/mdRtf.h"
-#include "shell/CapturaDatos.h"
-#include "shell/FormaPrincipal.h"
-#include "shell/mdRecuperacion.h"
+#include "base/mdCarpetas.h"
+#include "persistencia/documentos/mdRtf.h"
+#include "sesion/ajustes/banco.h"
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdListaTramos.h"
+#include "sesion/captura/mdTipologias.h"
+#include "shell/ajustes/frAjustes.h"
+#include "shell/calculadoras/CalculoHidraulico.h"
+#include "shell/calculadoras/Protecciones.h"
+#include "shell/captura/CapturaDatos.h"
+#include "shell/entornoPrueba.h"
+#include "shell/principal/FormaPrincipal.h"
+#include "shell/principal/mdRecuperacion.h"
 
 namespace zorbin {
 namespace {

@@ -1,5 +1,5 @@
 // Two programs and one file.
-#include "persistencia/mdCerrojo.h"
+#include "persistencia/disco/mdCerrojo.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
@@ -9,9 +9,9 @@
 #include <cerrno>
 #include <csignal>
 
+#include "base/textosGrabado.h"
 #include "comun/grabadoRoto.h"
-#include "persistencia/mdRegistros.h"
-#include "persistencia/textosGrabado.h"
+#include "persistencia/registros/mdRegistros.h"
 
 namespace zorbin {
 namespace {

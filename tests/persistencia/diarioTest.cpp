@@ -1,6 +1,6 @@
 // What an opening makes of a journal found beside a file, and what a save does where it can't go
 // on.
-#include "persistencia/mdDiario.h"
+#include "persistencia/disco/mdDiario.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -10,11 +10,11 @@
 
 #include <fstream>
 
+#include "base/textos.h"
+#include "base/textosGrabado.h"
 #include "comun/grabadoRoto.h"
 #include "comun/sinDerechos.h"
-#include "persistencia/mdRegistros.h"
-#include "persistencia/textosGrabado.h"
-#include "recursos/textos.h"
+#include "persistencia/registros/mdRegistros.h"
 
 namespace zorbin {
 namespace {

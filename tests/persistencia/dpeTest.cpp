@@ -1,10 +1,10 @@
-#include "persistencia/mdDpe.h"
+#include "persistencia/dpe/mdDpe.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
 
-#include "persistencia/mdLog.h"
+#include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
 namespace {

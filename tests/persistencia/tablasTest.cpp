@@ -1,5 +1,5 @@
 // The manufacturers' tables: what is read, and what is refused with file and line.
-#include "persistencia/mdTablas.h"
+#include "persistencia/tablas/mdTablas.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-#include "persistencia/textosTablas.h"
+#include "base/textosTablas.h"
 
 namespace zorbin {
 namespace {

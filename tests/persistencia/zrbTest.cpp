@@ -1,17 +1,17 @@
-#include "persistencia/mdZrb.h"
+#include "persistencia/zrb/mdZrb.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <functional>
 
+#include "base/mdAnsi.h"
+#include "base/mdCarpetas.h"
+#include "base/mdTextos.h"
+#include "base/textos.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdTextos.h"
 #include "core/mdUnidades.h"
-#include "listados/mdFlujo.h"
-#include "recursos/mdAnsi.h"
-#include "recursos/mdCarpetas.h"
-#include "recursos/textos.h"
+#include "listados/obra/mdFlujo.h"
 
 namespace zorbin {
 namespace {

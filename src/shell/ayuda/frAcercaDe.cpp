@@ -8,8 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "persistencia/mdZrb.h"
-#include "shell/ayuda/textosAyuda.h"
+#include "base/textosAyuda.h"
+#include "persistencia/zrb/mdZrb.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 

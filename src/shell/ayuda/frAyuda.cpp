@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "base/textosAyuda.h"
 #include "shell/ayuda/mdGuia.h"
-#include "shell/ayuda/textosAyuda.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdVisorHtml.h"
 

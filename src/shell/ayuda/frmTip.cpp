@@ -8,10 +8,10 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
-#include "shell/ayuda/textosAyuda.h"
+#include "base/textosAyuda.h"
+#include "base/textosPiezas.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdVisorHtml.h"
-#include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {
 

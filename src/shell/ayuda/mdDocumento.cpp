@@ -1,6 +1,6 @@
 #include "shell/ayuda/mdDocumento.h"
 
-#include "recursos/mdRtf.h"
+#include "persistencia/documentos/mdRtf.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
 
 namespace zorbin {
 

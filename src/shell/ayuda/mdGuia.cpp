@@ -11,7 +11,7 @@
 #include <array>
 #include <map>
 
-#include "shell/ayuda/textosAyuda.h"
+#include "base/textosAyuda.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {

@@ -3,7 +3,7 @@
 
 #include <QTabWidget>
 
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
 #include "shell/ayuda/mdTextoManual.h"
 
 class QLabel;

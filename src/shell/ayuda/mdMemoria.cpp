@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "shell/ayuda/textosAyuda.h"
+#include "base/textosAyuda.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 

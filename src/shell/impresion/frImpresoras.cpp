@@ -9,12 +9,12 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "core/mdNumeros.h"
-#include "core/mdTextos.h"
-#include "shell/impresion/textosImpresion.h"
+#include "base/mdNumeros.h"
+#include "base/mdTextos.h"
+#include "base/textosImpresion.h"
+#include "base/textosPiezas.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
-#include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {
 

@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "shell/impresion/textosImpresion.h"
+#include "base/textosImpresion.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {

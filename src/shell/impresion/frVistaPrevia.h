@@ -6,7 +6,7 @@
 #include <QString>
 #include <vector>
 
-#include "shell/mdPintor.h"
+#include "listados/pintor/mdPintor.h"
 #include "shell/piezas/mdEntorno.h"
 
 class QLabel;

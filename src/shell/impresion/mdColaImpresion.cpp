@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <memory>
 
-#include "persistencia/mdDescriptor.h"
+#include "persistencia/disco/mdDescriptor.h"
 
 namespace zorbin {
 

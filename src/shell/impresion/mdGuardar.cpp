@@ -5,10 +5,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include "persistencia/mdFicheroSalida.h"
+#include "base/textosImpresion.h"
+#include "listados/pintor/mdPintor.h"
+#include "persistencia/disco/mdFicheroSalida.h"
 #include "shell/impresion/mdColaImpresion.h"
-#include "shell/impresion/textosImpresion.h"
-#include "shell/mdPintor.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
 #include "shell/piezas/mdImpresion.h"
 #include "shell/piezas/mdPreferencias.h"
 

@@ -8,10 +8,10 @@
 #include <functional>
 #include <thread>
 
+#include "base/textosImpresion.h"
+#include "listados/pintor/mdPintor.h"
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"
-#include "shell/impresion/textosImpresion.h"
-#include "shell/mdPintor.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 

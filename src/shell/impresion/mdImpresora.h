@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <functional>
 
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
 #include "shell/impresion/mdColaImpresion.h"
 #include "shell/piezas/mdImpresion.h"
 #include "shell/piezas/mdPreferencias.h"

@@ -4,8 +4,8 @@
 #include <QPushButton>
 #include <new>
 
+#include "base/textosPiezas.h"
 #include "shell/piezas/mdQt.h"
-#include "shell/piezas/textosPiezas.h"
 
 namespace zorbin {
 

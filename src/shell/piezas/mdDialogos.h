@@ -4,7 +4,7 @@
 #include <QString>
 #include <exception>
 
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
 
 class QWidget;
 

@@ -5,8 +5,8 @@
 #include <QString>
 #include <functional>
 
-#include "persistencia/mdTablas.h"
-#include "recursos/mdCatalogo.h"
+#include "base/mdCatalogo.h"
+#include "persistencia/tablas/mdTablas.h"
 #include "shell/piezas/mdImpresion.h"
 #include "shell/piezas/mdPreferencias.h"
 

@@ -6,7 +6,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include "persistencia/mdFicheroSalida.h"
+#include "persistencia/disco/mdFicheroSalida.h"
 
 namespace zorbin {
 

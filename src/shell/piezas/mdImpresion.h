@@ -4,7 +4,7 @@
 #include <QString>
 #include <functional>
 
-#include "listados/mdPapel.h"
+#include "listados/papel/mdPapel.h"
 
 class QWidget;
 

@@ -1,0 +1,25 @@
+#include "calculo/armado/mdFlecom.h"
+
+#include <cmath>
+
+#include "base/aritmetica.h"
+
+namespace zorbin {
+
+std::optional<double> FlexoCompuesta(const DatosSeccion& s, double M, double N, double ESP,
+                                     double r) {
+  const double d = ESP - r;
+  const double Mtope = Div(s.Fck * 0.35 * d * d, s.GamaB) * 10.0;
+  double Mr = std::fabs(M);
+  if (N < 0) Mr = Mr + (ESP / 2.0 - r) * (-N);
+  Mr = Mr * s.GamaF;
+  if (Finito(Mr) > Finito(Mtope)) return std::nullopt;
+  const double K1 = Div(Div(std::fabs(M), N) - s.BRAZO / 2.0, d);
+  const double Fcad = Div(s.Fck, s.GamaF * s.GamaB) * d * d * 10.0;
+  const double K2 = Div(std::fabs(M) - s.BRAZO * N / 2.0, Fcad);
+  const double A = Finito((K1 * 0.97 * (K2 + 1.0) + 1.0) * Div(N, s.Fyd) * 1000.0);
+  const double Amin = Div(s.Fck * 0.04 * s.GamaY * d, s.Fyk * s.GamaB) * 10000.0;
+  return A < Amin ? Amin : A;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,54 @@
+// Bending moment and axial force of the ring at crown, haunches and invert, for each load.
+//
+// A table method: each load term is a tabulated coefficient, chosen by bedding and section, times
+// a load resultant. Source: Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo
+// Torroja. Sign: axial force negative in compression; a positive moment puts the inner face in
+// tension.
+#pragma once
+
+#include <cstdint>
+
+#include "base/tablas.h"
+
+namespace zorbin {
+
+/// Data of one ring under one set of loads.
+struct DatosOval {
+  double Di = 0;           // internal diameter [m]
+  double De = 0;           // external diameter [m]
+  double GAMAB = 0;        // unit weight of the pipe [t/m3]
+  double GAMAT = 0;        // unit weight of the fill [t/m3]
+  double LANDA = 0;        // active earth pressure coefficient [-]
+  double Q = 0;            // total vertical load [t/m2]
+  double QH = 0;           // second load, origin of the lateral thrust [t/m2]
+  double QMovil = 0;       // moving part of Q [t/m2]
+  std::int16_t ICUNA = 0;  // bedding of the run, 1..4
+};
+
+/// Moment [m·t/m] and axial force [t/m] at the three sections.
+struct EsfuerzoSecciones {
+  Lista<double, kSecciones> M;
+  Lista<double, kSecciones> N;
+};
+
+/// The load terms from which the hypotheses are put together.
+struct TerminosOval {
+  EsfuerzoSecciones propio;       // weight of the pipe
+  EsfuerzoSecciones fluido;       // weight of the water
+  EsfuerzoSecciones timpanos;     // earth of the spandrels
+  EsfuerzoSecciones vertical;     // vertical load without the moving part
+  EsfuerzoSecciones movil;        // moving load
+  EsfuerzoSecciones lateral;      // lateral thrust with the moving load
+  EsfuerzoSecciones lateralFijo;  // lateral thrust without it
+  double factor = 1;              // of every result, by bedding [-]
+};
+
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; Subindice for a bedding outside 1..4
+TerminosOval CalculaTerminos(const DatosOval& d);
+
+/// Moments and axial forces of the hypothesis TIGEN, 1..12. Any other code leaves M and N as they
+/// came, but for the factor of the bedding.
+void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
+          Lista<double, kSecciones>& N);
+
+}  // namespace zorbin

@@ -1,0 +1,236 @@
+#include "calculo/postesado/mdPostesado.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "calculo/postesado/mdAlambre.h"
+#include "calculo/postesado/mdComprueba.h"
+#include "calculo/postesado/mdHipotesis.h"
+#include "calculo/postesado/mdLame.h"
+#include "calculo/postesado/mdPerdidas.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kHipotesisMDP = 4;        // the one whose pass gives the factory test pressure
+constexpr double kMomento = 1000.0;     // m·t/m to kp·cm/cm
+constexpr double kAxil = 10.0;          // t/m to kp/cm
+constexpr double kFraccionChapa = 0.8;  // of the strength of the cylinder [-]
+constexpr int kVueltasDePasada = 50;    // work of a winding
+constexpr std::int16_t kErrorEspesor = 5;
+constexpr std::int16_t kErrorZunchado = 6;
+constexpr std::int16_t kErrorCambio = 91;
+
+// One Caso.
+class Analisis {
+ public:
+  explicit Analisis(EstadoCalculo& e) : e_(e), t_(e.tramo), r_(e.caso.postesado) {
+    r_ = {};
+    PreparaPostesado(e);
+    r_.PP = e.corrida.PP;
+    r_.LimiteChapa = kFraccionChapa * t_.FYKPost;
+    for (int h = 1; h <= kHipotesisPostesado; ++h) Carga(r_.hipotesis(h), h);
+  }
+
+  void Corre() {
+    if (EligePrimero()) {
+      Busca();
+      PruebaBajoMDP();
+      r_.fila = {{alambre_}, r_.PP, r_.MensajePostesado};
+      r_.fin = Verifica();
+    }
+    r_.FIPR = alambre_.FIPR;
+    r_.NESP = alambre_.NESP;
+  }
+
+ private:
+  EstadoCalculo& e_;
+  const Tramo& t_;
+  ResultadoPostesado& r_;
+  const EsfuerzosPostesado esfuerzos_ = EsfuerzosHipotesis(e_.caso);
+  const Lista<double, kHipotesisPostesado> presiones_ = PresionesHipotesis(e_.corrida);
+  FaseAviso fase_ = FaseAviso::Final;
+  Alambre alambre_;             // of the pass in hand
+  int IdxAlambre_ = 0;          // its position; the search, MDP and verification share it
+  TensionesHipotesis ultimas_;  // of the last pass that got to its stresses
+  int ultimaHipotesis_ = 0;     // its hypothesis
+
+  void Avisa(int h, ClaseAviso clase, std::optional<double> valor = {}) {
+    r_.MensajePostesado = clase;
+    e_.caso.avisos.push_back({clase, h, fase_, valor, fase_ == FaseAviso::Final, alambre_});
+  }
+
+  void Falla(HipotesisPostesada& p, std::int16_t error, ClaseAviso clase,
+             std::optional<double> valor = {}) {
+    r_.ErrorPostesado = p.error = error;
+    p.texto = clase;
+    static_cast<Alambre&>(p) = alambre_;
+    Avisa(p.h, clase, valor);
+  }
+
+  void Carga(HipotesisPostesada& p, int h) const {
+    p = {};
+    p.h = h;
+    p.PresHip = presiones_(h);
+    p.LimPrimario = LimitesPrimario(r_.materiales.Fctn)(h);
+    for (int s = 1; s <= kSecciones; ++s) {
+      p.MomHip(s) = esfuerzos_.TablaMom(h, s) * kMomento;
+      p.AxilHip(s) = esfuerzos_.TablaAxil(h, s) * kAxil;
+    }
+  }
+
+  bool EligePrimero() {
+    const double FuerzaAnillo = Finito(e_.corrida.DP * 10.0 * r_.radios.RadioNuc / 100.0);
+    const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia);
+    if (!primero) {
+      r_.ErrorPostesado = kErrorEspesor;
+      Avisa(0, ClaseAviso::EspesorInsuficiente);
+      r_.fila.MensajePostesado = r_.MensajePostesado;
+      return false;
+    }
+    alambre_ = primero->alambre;
+    IdxAlambre_ = primero->IdxAlambre;
+    return true;
+  }
+
+  // Wire and spirals go from one hypothesis to the next; a failed one does not stop the search.
+  void Busca() {
+    fase_ = FaseAviso::Busqueda;
+    HipotesisPostesada p;
+    for (int h = 1; h <= kHipotesisPostesado; ++h) {
+      Carga(p, h);
+      Pasada(p);
+    }
+    r_.FIPRDEFI = alambre_.FIPR;
+    r_.NESPDEFI = alambre_.NESP;
+  }
+
+  Alambre Final() const { return {r_.FIPRDEFI, r_.NESPDEFI}; }
+
+  // The wire goes back to the final one; its position in the tables does not, as told.
+  void PasadaConFinal(HipotesisPostesada& p) {
+    alambre_ = Final();
+    r_.ErrorPostesado = 0;
+    Pasada(p);
+  }
+
+  void PruebaBajoMDP() {
+    HipotesisPostesada p;
+    Carga(p, kHipotesisMDP);
+    PasadaConFinal(p);
+    if (alambre_ != Final()) {
+      r_.PP = kPPAlambreCambia;
+    } else {
+      r_.PP = PruebaFabrica(ultimas_, r_.materiales.Fctr, e_.corrida.MDP);
+      r_.PPHipotesis = ultimaHipotesis_;
+      r_.PPConAlambreFinal = p.error == 0;
+    }
+    e_.corrida.PP = r_.PP;
+  }
+
+  FinPostesado Verifica() {
+    fase_ = FaseAviso::Final;
+    bool hay = false;
+    for (int h = 1; h <= kHipotesisPostesado; ++h) {
+      auto& p = r_.hipotesis(h);
+      p.hecha = true;
+      PasadaConFinal(p);
+      if (alambre_ != Final()) {
+        Falla(p, kErrorCambio, ClaseAviso::CambiaAlambre);
+        return FinPostesado::CambiaAlambre;
+      }
+      if (!p.Impresa()) continue;
+      r_.TensionChapa = hay ? std::max(r_.TensionChapa, p.TensionChapa) : p.TensionChapa;
+      hay = true;
+    }
+    return FinPostesado::Completo;
+  }
+
+  // One pass: adds spirals to the winding in hand until the hypothesis of `p` holds.
+  void Pasada(HipotesisPostesada& p) {
+    for (int vuelta = 0; vuelta < kMaxVueltas; ++vuelta) {
+      ++r_.Vueltas;
+      e_.corrida.vueltas.Suma(kVueltasDePasada);
+      if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
+      alambre_.NESP = EspirasEnteras(alambre_.NESP);
+      const Intento x = Intenta(p);
+      if (!x.perdidas.NucleoAguanta) return NoAguanta(p, x);
+      if (Aceptado(p, x)) return Resultados(p, x);
+      alambre_.NESP = alambre_.NESP + 1.0;
+    }
+    throw ErrorEjecucion(CausaError::SinConvergencia, "CalculaPostesado");
+  }
+
+  // Spirals too close call the next wire, which starts at its widest spacing and is not looked at
+  // again before the next spiral. @return whether there is a wire left.
+  bool CabenEspiras() {
+    if (LuzEspiras(alambre_.FIPR, alambre_.NESP) * 10.0 >= EspMinimo(IdxAlambre_)) return true;
+    if (IdxAlambre_ == kAlambres) return false;
+    ++IdxAlambre_;
+    alambre_ = AlambreMasAbierto(IdxAlambre_, t_.Tipologia);
+    return true;
+  }
+
+  // What one winding gives for the hypothesis of `p`.
+  struct Intento {
+    SeccionPostesada seccion;
+    PerdidasPostesado perdidas;
+    OvalizacionPostesada oval;
+    PorPresion K;
+    LimitesPresion limites;
+  };
+
+  Intento Intenta(const HipotesisPostesada& p) const {
+    const auto& m = r_.materiales;
+    Intento x;
+    x.seccion = PropiedadesSeccion(m, r_.radios, alambre_);
+    x.perdidas = PerdidasYTensiones(t_, m, r_.radios, x.seccion);
+    if (!x.perdidas.NucleoAguanta) return x;
+    x.oval = TensionesOvalizacion(m, x.seccion, alambre_.FIPR, p.MomHip, p.AxilHip);
+    x.K = CoeficientesPresion(m, x.seccion);
+    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, x.perdidas, x.oval, x.K);
+    return x;
+  }
+
+  void NoAguanta(HipotesisPostesada& p, const Intento& x) {
+    static_cast<SeccionPostesada&>(p) = x.seccion;
+    static_cast<PerdidasPostesado&>(p) = x.perdidas;
+    Falla(p, kErrorZunchado, ClaseAviso::ResistenciaInicial,
+          std::max(std::fabs(p.SigIniInt), std::fabs(p.SigIniExt)));
+  }
+
+  bool Aceptado(const HipotesisPostesada& p, const Intento& x) const {
+    const bool nucleo = !t_.Icontes1 || e_.corrida.DP * t_.Coepre1 <= x.perdidas.PresPrimario;
+    return nucleo && p.PresHip <= x.limites.PresLimite;
+  }
+
+  void Resultados(HipotesisPostesada& p, const Intento& x) {
+    static_cast<Alambre&>(p) = alambre_;
+    static_cast<SeccionPostesada&>(p) = x.seccion;
+    static_cast<PerdidasPostesado&>(p) = x.perdidas;
+    static_cast<OvalizacionPostesada&>(p) = x.oval;
+    static_cast<PorPresion&>(p) = x.K;
+    static_cast<LimitesPresion&>(p) = x.limites;
+    ultimas_ = Tensiones(p.PresHip, x.perdidas, x.oval, x.K);
+    ultimaHipotesis_ = p.h;
+    static_cast<TensionesHipotesis&>(p) = ultimas_;
+    p.TensionChapa = CompruebaChapa(t_, r_.materiales.RatioChapa, p);
+    const auto error = CompruebaHormigon(p, p.h, t_.Fckn, t_.Fckr);
+    if (error != 0) Falla(p, error, ClaseAviso::ResistenciaHormigon);
+  }
+};
+
+}  // namespace
+
+void PreparaPostesado(EstadoCalculo& e) {
+  auto& r = e.caso.postesado;
+  r.radios = Radios(e.tramo);
+  r.materiales = Materiales(e.tramo);
+}
+
+void CalculaPostesado(EstadoCalculo& e) {
+  Analisis(e).Corre();
+}
+
+}  // namespace zorbin

@@ -1,0 +1,395 @@
+#include "listados/obra/mdListadoNormal.h"
+
+#include <array>
+#include <span>
+
+#include "base/mdTextos.h"
+#include "base/textos.h"
+#include "calculo/armado/mdCamisa.h"
+#include "core/mdUnidades.h"
+#include "listados/obra/mdAvisos.h"
+#include "listados/papel/mdFiguras.h"
+
+namespace zorbin {
+
+namespace {
+
+// Hypotheses of the ovalisation that are printed, a page each four.
+constexpr std::array<std::array<int, 4>, 2> kOvalizacionImpresa{{{1, 2, 8, 11}, {4, 5, 10, 9}}};
+
+// Tails of the fill and settlement texts, as the Anejo prints the values.
+struct Cola {
+  std::int16_t codigo;
+  int texto;
+  std::string_view valor;
+};
+
+constexpr std::array<Cola, 5> kRellenos{{{11, txt::RocasMachacadas, " (0,192)"},
+                                         {12, txt::RocasConGravas, " (0,165)"},
+                                         {21, txt::ArenaArcillosa, " (0,150)    "},
+                                         {22, txt::ArcillasOrdinarias, " (0,130)"},
+                                         {23, txt::ArcillasPlasticas, " (0,110) "}}};
+
+constexpr std::array<Cola, 3> kAsientos{{{1, txt::RocaNoAsentable, "1,0 - "},
+                                         {2, txt::SueloOrdinario, "0,5 - "},
+                                         {3, txt::SueloAsentable, "0,3 - "}}};
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------------
+// Page heads
+
+void ListadoNormal::CabeceraPagina(const EstadoCalculo& e, bool miraCargas, bool conObra) {
+  EnBlanco(2);
+  papel_.Cuerpo(kCuerpoTitulo);
+  EnNegrita(6, Blancos(32 + 11) + Texto(txt::Pag) + FormatoEntero(Pagina, 5));
+  papel_.Cuerpo(kCuerpoNormal);
+  if (conObra) BloqueObra(e.obra);
+  EnBlanco(2);
+  if (Pagina <= 2 || (Pagina == 3 && e.tramo.EsArmado)) return;
+  papel_.Negrita(true);
+  if (e.tramo.IndCar == 1) {
+    Linea(8, FormatoTexto(e.tramo.DescriTramo, 40) + Blancos(24) + Texto(txt::HR) +
+                 Numero(e.corrida.Hr, 6, 3) + " m");
+  } else if (miraCargas) {
+    Linea(8, FormatoTexto(e.tramo.DescriTramo, 40));
+  }
+  if (!miraCargas) {
+    Linea(8, RotuloCaso(e) + " " + Texto(txt::DP) +
+                 NumeroSolo(e.corrida.DP, 6, 1, "at->MPa", true) + " " + Texto(txt::MDP) +
+                 NumeroSolo(e.corrida.MDP, 6, 1, "at->MPa", true));
+  }
+  papel_.Negrita(false);
+}
+
+void ListadoNormal::PaginaNueva(const EstadoCalculo& e, bool miraCargas) {
+  ++Pagina;
+  papel_.NuevaPagina();
+  CabeceraPagina(e, miraCargas, false);
+}
+
+void ListadoNormal::Titulo(int texto) {
+  EnNegrita(14, Texto(texto));
+  EnBlanco(1);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Heading of the Tramo
+
+void ListadoNormal::Cabecera(const EstadoCalculo& e) {
+  if (Pagina > 0) papel_.NuevaPagina();
+  ++Pagina;
+  CabeceraPagina(e, true, true);
+  if (e.tramo.EsArmado) Materiales(e);
+  Tubo(e);
+  Colocacion(e);
+  PaginaNueva(e, true);
+  Relleno(e);
+  Hipotesis(e);
+  if (!e.tramo.EsArmado) DatosPostesado(e);
+}
+
+void ListadoNormal::Materiales(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto resistencia = [this](int rotulo, double valor) {
+    Linea(8, Texto(rotulo) + Numero(valor, 9, 0, "Kp/cm2->MPa", true));
+  };
+  Titulo(txt::CaracteristicasMateriales);
+  resistencia(txt::HormigonCompresion, t.Fck);
+  resistencia(txt::HormigonTraccion, t.Fct);
+  resistencia(txt::AceroCaracteristica, t.Fyk);
+  resistencia(txt::AceroCalculo, t.Fyd);
+  EnBlanco(1);
+  Linea(8, Texto(txt::CoeficienteMinoracion) + Numero(t.GamaB, 9, 2));
+  EnBlanco(1);
+  const int control = t.TipoControl == 1 ? txt::ControlIntenso : txt::ControlNormal;
+  Linea(8, Texto(txt::NivelDeControl) + FormatoTexto(Texto(control), 14) +
+               Texto(txt::GolpeDeAriete) +
+               FormatoTexto(Texto(e.obra.GolpeCalculado ? txt::Calculado : txt::Estimado), 15));
+}
+
+void ListadoNormal::Tubo(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const double y = papel_.Y();
+  Linea(8, Texto(txt::TipoDeTubo) + FormatoTexto(TextoTipologia(t.Tipologia), 53));
+  papel_.Figura(Texto(FiguraTubo(t.Tipologia)), 138, y, 55, 55);
+  EnBlanco(2);
+  if (t.EsArmado && t.TipoCamisa != 0) {
+    Linea(8, Texto(txt::EspesorMaximoCamisa) + Numero(t.CamMax, 4, 1) + " mm");
+    EnBlanco(1);
+  }
+  const auto milimetros = [this](int rotulo, double metros) {
+    Linea(8, Texto(rotulo) + Numero(metros * 1000.0, 7, 0) + " mm");
+  };
+  Titulo(txt::CaracteristicasTubo);
+  milimetros(txt::CabDiametroInterior, t.Di);
+  milimetros(txt::CabEspesor, t.Esp);
+  milimetros(txt::CabRecubInterior, t.Reci);
+  milimetros(txt::CabRecubExterior, t.Rece);
+  EnBlanco(1);
+  Linea(8, Texto(txt::DensidadTubo) + Numero(t.Gc, 7, 3) + " t/m3");
+  EnBlanco(2);
+}
+
+void ListadoNormal::Colocacion(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  Titulo(txt::DatosRelleno);
+  Linea(8, Texto(txt::CabTipoDeCuna) + TextoCuna(t.TipoCuna));
+  Linea(8,
+        Texto(txt::CabTipoDeColocacion) + FormatoTexto(TextoColocacionCabecera(t.TipoApoyo), 41));
+  EnBlanco(1);
+  const double y = papel_.Y();
+  papel_.Figura(Texto(FiguraCuna(t.TipoCuna)), 17, y, 55, 55);
+  papel_.Figura(Texto(FiguraColocacion(t.TipoCuna, t.TipoColocacion)), 81, y, 100, 55);
+}
+
+void ListadoNormal::Relleno(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  Titulo(txt::DatosRellenoContinuacion);
+  Linea(8, Texto(txt::DensidadRelleno) + Numero(t.Gr, 7, 3) + " t/m3");
+  Linea(8, Texto(txt::AnguloRozamiento) + Numero(t.Fi, 3, 0) + "º");
+  // The limits are literal: an embankment takes both of the later forms.
+  if (t.TipoApoyo < 20) {
+    Linea(8, Texto(txt::AnchoZanjaCorto) + Numero(t.B0, 7, 3) + " m");
+    std::string relleno;
+    for (const auto& r : kRellenos) {
+      if (r.codigo == t.TipoRelleno) relleno = Texto(r.texto) + std::string(r.valor);
+    }
+    Linea(8, Texto(txt::CabTipoDeRelleno) + FormatoTexto(relleno, 37));
+  }
+  if (t.TipoApoyo > 20) {
+    Linea(8, Texto(txt::AnchoZanjaLargo) + Numero(t.B0, 7, 3) + " m");
+    Linea(8, Texto(txt::DistanciaGeneratriz1));
+    Linea(8, Texto(txt::DistanciaGeneratriz2) + Numero(t.Hr1, 7, 3) + " m");
+  }
+  if (t.TipoApoyo > 30) {
+    std::string asiento;
+    for (const auto& a : kAsientos) {
+      if (a.codigo == t.IAs) asiento = std::string(a.valor) + Texto(a.texto);
+    }
+    Linea(8, Texto(txt::RazonDeAsentamiento) + FormatoTexto(asiento, 31));
+  }
+}
+
+void ListadoNormal::Hipotesis(const EstadoCalculo& e) {
+  EnBlanco(2);
+  Titulo(txt::DatosHipotesis);
+  if (e.tramo.IndCar == 1) TablaDeCargas(e);
+  const double Q = e.corrida.Q;
+  Linea(8, Texto(txt::CargaVerticalAdoptada) + Numero(Q, 7, 3) + " t/m2 -" +
+               Numero(Q * e.tramo.De, 7, 3) + " t/m");
+}
+
+void ListadoNormal::TablaDeCargas(const EstadoCalculo& e) {
+  const int carga = txt::TiposDeCarga[static_cast<std::size_t>(
+      e.tramo.ICar >= 0 && e.tramo.ICar <= 4 ? e.tramo.ICar : 0)];
+  Linea(8, Texto(txt::TablaCarga) + "  " + FormatoTexto(Texto(carga), 21));
+  Linea(8, Texto(txt::TablaImpacto) + Numero(e.corrida.Impacto, 6, 2));
+  EnBlanco(1);
+  for (const int n :
+       {txt::TablaCabeza1, txt::TablaCabeza2, txt::TablaRayas,
+        e.obra.EsSI() ? txt::TablaUnidadesSI : txt::TablaUnidadesMKS, txt::TablaRayas}) {
+    Linea(8, Texto(n));
+  }
+  for (const auto& fila : e.corrida.TablaCargas) {
+    Linea(8, FilaDeCargas(e, fila));
+    EnBlanco(1);
+  }
+}
+
+std::string ListadoNormal::FilaDeCargas(const EstadoCalculo& e, const FilaCargas& fila) const {
+  const double factor = e.obra.EsSI() ? kFactorFuerza : 1.0;
+  const auto pareja = [&](std::optional<double> carga, bool porMetro = true) {
+    if (!carga) return Blancos(15);
+    const double q = *carga * factor;
+    return Numero(q, 7, 1) + " " + (porMetro ? Numero(q * e.tramo.De, 7, 1) : Blancos(7));
+  };
+  // Where the embankment governs, the moving load per metre is left out under SI.
+  const bool movilPorMetro = !(e.obra.EsSI() && fila.TerraplenRige);
+  return Numero(fila.H, 5, 2) + " " + pareja(fila.Zanja) + " " + pareja(fila.Terraplen) + " " +
+         pareja(fila.Adoptada) + " " + pareja(fila.Moviles, movilPorMetro) + " " +
+         pareja(fila.Total);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Ovalisation
+
+void ListadoNormal::Caso(const EstadoCalculo& e) {
+  if (e.corrida.NumCaso == 1) Ovalizacion(e);
+  if (e.tramo.EsArmado) {
+    DisenoArmado(e);
+  } else {
+    Postesado(e);
+  }
+}
+
+void ListadoNormal::Ovalizacion(const EstadoCalculo& e) {
+  PaginaNueva(e, true);
+  DatosOvalizacion(e);
+  for (const int h : kOvalizacionImpresa[0]) BloqueOvalizacion(e, h);
+  PaginaNueva(e, true);
+  for (const int h : kOvalizacionImpresa[1]) BloqueOvalizacion(e, h);
+}
+
+void ListadoNormal::DatosOvalizacion(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  Linea(9, Texto(txt::OvalCabeza));
+  Linea(9, Texto(e.obra.EsSI() ? txt::OvalUnidadesSI : txt::OvalUnidadesMKS));
+  papel_.Regla(18, 165, 2);
+  EnBlanco(1);
+  const int palabra = t.TipoCuna == 1                      ? txt::OvalGranular
+                      : t.TipoCuna == 2 || t.TipoCuna == 3 ? txt::OvalHormigon
+                                                           : txt::OvalMenorDe;
+  Linea(5, Numero(t.Di * 1000.0, 10, 0) + Numero(t.De * 1000.0, 10, 0) + Numero(t.Gc, 10, 3) +
+               Numero(t.Gr, 10, 3) + Numero(e.corrida.Landa, 7, 3) +
+               Numero(e.corrida.Q, 10, 3, "T/M2->kN/M2") + " " + FormatoTexto(Texto(palabra), 8) +
+               FormatoEntero(t.TipoCuna == 3 ? 120 : 90, 4) + "º");
+}
+
+void ListadoNormal::BloqueOvalizacion(const EstadoCalculo& e, int hipotesis) {
+  EnBlanco(2);
+  const int nombre = txt::HipotesisOval[static_cast<std::size_t>(hipotesis - 1)];
+  EnNegrita(15, Texto(txt::HipotesisRotulo) + FormatoTexto(Texto(nombre), 60));
+  EnBlanco(1);
+  papel_.Subrayado(true);
+  Linea(20, Texto(e.obra.EsSI() ? txt::SeccionSI : txt::SeccionMKS));
+  papel_.Subrayado(false);
+  for (int s = 1; s <= kSecciones; ++s) {
+    Linea(20, FormatoTexto(Texto(txt::Secciones[static_cast<std::size_t>(s - 1)]), 8) + Blancos(4) +
+                  Numero(e.caso.MHip(hipotesis, s), 10, 3, "mT->mkN") + Blancos(7) +
+                  Numero(e.caso.NHip(hipotesis, s), 10, 3, "T->kN"));
+  }
+}
+
+// ---------------------------------------------------------------------------------------------
+// Reinforced design
+
+void ListadoNormal::DisenoArmado(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  PaginaNueva(e, false);
+  Linea(17, Texto(txt::DisenoCabeza));
+  papel_.Regla(32, 155, 2);
+  EnBlanco(1);
+  Linea(10, Numero(t.Fck, 10, 0, "Kp/cm2->MPa") + Numero(t.Fct, 10, 1, "Kp/cm2->MPa") +
+                Numero(t.Fyd, 10, 0, "Kp/cm2->MPa") + Numero(t.Esp, 10, 3) + Numero(t.Reci, 10, 3) +
+                Numero(t.Rece, 10, 3));
+  EsfuerzosDeDiseno(e);
+  ArmaduraPorHipotesis(e);
+  EnBlanco(1);
+  CalculoQueRige(e);
+  Resultado(e);
+}
+
+void ListadoNormal::EsfuerzosDeDiseno(const EstadoCalculo& e) {
+  const auto& c = e.corrida;
+  EnBlanco(2);
+  const std::array<std::pair<int, double>, 4> presiones{{{txt::DisenoDP, c.DP},
+                                                         {txt::DisenoMDP, c.MDP},
+                                                         {txt::DisenoSTP, c.STP},
+                                                         {txt::DisenoPP, c.PP}}};
+  for (const auto& [rotulo, p] : presiones) {
+    Linea(9, Texto(rotulo) + Numero(p, 6, 1, "at->MPa", true));
+  }
+  EnBlanco(1);
+  Linea(7, Texto(txt::DisenoSecciones));
+  Linea(7, Texto(txt::DisenoMN));
+  for (int h = 1; h <= kHipotesisArmado; ++h) {
+    std::string linea = Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]);
+    for (int s = 1; s <= kSecciones; ++s) {
+      linea += Numero(e.caso.armado.esfuerzos.M(h, s), 10, 3, "mT->mkN") +
+               Numero(e.caso.armado.esfuerzos.N(h, s), 10, 3, "T->kN");
+    }
+    Linea(7, linea);
+  }
+}
+
+void ListadoNormal::ArmaduraPorHipotesis(const EstadoCalculo& e) {
+  EnBlanco(2);
+  for (const int n : txt::ArmaduraCabeza) Linea(19, Texto(n));
+  for (int h = 1; h <= kHipotesisArmado; ++h) {
+    // The only warning that the first pass brings to paper.
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase == FaseAviso::Busqueda && aviso.hipotesis == h &&
+          aviso.clase == ClaseAviso::MomentoTope) {
+        UnAviso(aviso);
+      }
+    }
+    Linea(19, Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]) + Blancos(3) +
+                  Numero(e.caso.armado.TablaHip(h).Total, 6, 1));
+  }
+}
+
+void ListadoNormal::CalculoQueRige(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  const bool bloque = e.tramo.TipoCamisa == 0 && r.HipotesisRige > 1;
+  const std::span<const Aviso> avisos(e.caso.avisos);
+  for (std::size_t i = 0; i < avisos.size(); ++i) {
+    if (bloque && i == r.sinFisuracion.avisos) SinFisuracionBloque(r.sinFisuracion);
+    if (avisos[i].fase == FaseAviso::Final) UnAviso(avisos[i]);
+  }
+  if (bloque && r.sinFisuracion.avisos >= avisos.size()) SinFisuracionBloque(r.sinFisuracion);
+}
+
+void ListadoNormal::SinFisuracionBloque(const SinFisuracion& s) {
+  EnNegrita(8, Texto(txt::SinFisuracion));
+  EnBlanco(1);
+  const auto cara = [this](int rotulo, double diametro, int espiras, double area) {
+    Linea(8, Texto(rotulo) + Numero(diametro, 5, 0) + " " + Texto(txt::Milimetros));
+    Linea(8, Texto(txt::FisEspiras) + FormatoEntero(espiras, 5) + " " + Texto(txt::PorMetro));
+    Linea(8, Texto(txt::FisTotal) + Numero(area, 9, 1) + " " + Texto(txt::Cm2));
+  };
+  cara(txt::FisInterior, s.FIIN, s.NESPIN, s.AsInt);
+  EnBlanco(1);
+  cara(txt::FisExterior, s.FIEX, s.NEXPEX, s.AsExt);
+}
+
+void ListadoNormal::UnAviso(const Aviso& aviso) {
+  EnBlanco(1);
+  switch (aviso.clase) {
+    case ClaseAviso::RetraccionLisas:
+      EnNegrita(10, Texto(txt::MayorQueLaMaxima));
+      EnNegrita(10, Texto(txt::PorRetraccionLisas));
+      EnBlanco(1);
+      Linea(10, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
+      EnBlanco(2);
+      break;
+    case ClaseAviso::CapasInterior:
+    case ClaseAviso::CapasExterior:
+    case ClaseAviso::MomentoTope:
+      EnNegrita(10, TextoAviso(aviso, textos_));
+      EnBlanco(1);
+      break;
+    default:
+      EnNegrita(10, TextoAviso(aviso, textos_));
+      EnBlanco(2);
+  }
+}
+
+void ListadoNormal::Resultado(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  if (r.IESP > 0) {
+    papel_.Cuerpo(kCuerpoTitulo);
+    EnNegrita(9, Texto(txt::EspesorInsuficientePapel));
+    papel_.Cuerpo(kCuerpoNormal);
+    return;
+  }
+  if (!r.MomentoTope) {
+    const auto area = [this](int rotulo, double valor) {
+      EnNegrita(8, Texto(rotulo) + "  " + Numero(valor, 10, 1) + Texto(txt::Cm2PorM));
+    };
+    EnBlanco(3);
+    area(txt::ArmaduraInterior, r.AsInt);
+    area(txt::ArmaduraExterior, r.AsExt);
+    EnBlanco(1);
+    area(txt::TotalArmadura, r.Total);
+  }
+  if (e.tramo.TipoCamisa == 0) {
+    EnBlanco(2);
+    EnNegrita(8, Texto(txt::Fisuracion));
+    EnBlanco(1);
+    Linea(8, Texto(txt::TensionMaxima) + Numero(r.TensionMax, 10, 2) + Texto(txt::KpPorCm2));
+    Linea(8, Texto(txt::TensionAdmisible) + Numero(r.TensionAdm, 10, 2) + Texto(txt::KpPorCm2));
+  }
+}
+
+}  // namespace zorbin

@@ -1,0 +1,181 @@
+#include "listados/obra/mdListadoPantalla.h"
+
+#include <cmath>
+
+#include "base/mdTextos.h"
+#include "base/textos.h"
+#include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdRotulos.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kLineasCaso = 33;   // a Caso takes as many at most
+constexpr int kLineasCabeza = 6;  // its head
+constexpr int kTrasUnCaso = 60;   // sends the next Caso to a new page
+
+}  // namespace
+
+void ListadoPantalla::SaltoSiHaceFalta(const EstadoCalculo& e, int lineas) {
+  if (LineasPagina + lineas <= kLineasPagina) {
+    LineasPagina += lineas;
+    return;
+  }
+  papel_.NuevaPagina();
+  EnBlanco(2);
+  // The label is the entry numbered by the pressure: a placeholder for most of them.
+  const int rotulo = textos_.IdiomaOffset() + static_cast<int>(std::nearbyint(e.corrida.DP));
+  Linea(9, RotuloCaso(e) + Blancos(7) + textos_.LoadRes(rotulo) +
+               Numero(e.corrida.DP, 6, 2, "at->MPa", true));
+  LineasPagina = lineas;
+}
+
+void ListadoPantalla::Progreso(const EstadoCalculo& e) {
+  if (LineasPagina + kLineasCaso > kLineasPagina) {
+    papel_.NuevaPagina();
+    LineasPagina = kLineasCabeza;
+  } else {
+    LineasPagina += kLineasCabeza;
+  }
+  EnBlanco(3);
+  EnNegrita(9, RotuloCaso(e));
+  const auto presion = [this](double p) { return NumeroSolo(p, 6, 1, "at->MPa", true); };
+  EnNegrita(31, Texto(txt::DP) + " " + presion(e.corrida.DP) + Blancos(6) + Texto(txt::MDP) + " " +
+                    presion(e.corrida.MDP));
+}
+
+void ListadoPantalla::Caso(const EstadoCalculo& e) {
+  if (e.tramo.EsArmado) {
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(e, aviso);
+    }
+    DatosCaso(e);
+    TablaHipotesis(e);
+    Armadura(e);
+  } else {
+    DatosCaso(e);
+    Postesado(e);
+  }
+  LineasPagina = kTrasUnCaso;
+  papel_.Regla(18, 190, 3);
+  EnBlanco(1);
+}
+
+void ListadoPantalla::Aviso(const EstadoCalculo& e, const zorbin::Aviso& aviso) {
+  const bool retraccion = aviso.clase == ClaseAviso::RetraccionLisas;
+  const bool capas =
+      aviso.clase == ClaseAviso::CapasInterior || aviso.clase == ClaseAviso::CapasExterior;
+  SaltoSiHaceFalta(e, retraccion ? 4 : capas ? 3 : 2);
+  EnBlanco(1);
+  if (retraccion) {
+    EnNegrita(9, Texto(txt::RetraccionPantalla));
+    Linea(9, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
+  } else if (e.tramo.EsArmado) {
+    EnNegrita(9, TextoAviso(aviso, textos_));
+  } else {
+    EnNegrita(9, "** " + TextoAviso(aviso, textos_) + " **");
+  }
+}
+
+void ListadoPantalla::DatosCaso(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto texto = [this](int n, int ancho) { return FormatoTexto(Texto(n), ancho); };
+  const auto milimetros = [this](int rotulo, double metros) {
+    return Texto(rotulo) + Numero(metros * 1000.0, 5, 0) + " " + Texto(txt::Milimetros);
+  };
+  SaltoSiHaceFalta(e, 5);
+  Linea(9, Texto(txt::Tipo) + texto(t.EsArmado ? txt::HormigonArmado : txt::HormigonPostesado, 19) +
+               Blancos(3) + milimetros(txt::DiametroInterior, t.Di));
+  Linea(17, FormatoTexto(TextoDeCamisa(t.Tipologia, textos_), 16) + Blancos(6) +
+                milimetros(txt::Espesor, t.Esp));
+  Linea(39, milimetros(txt::RecubInterior, t.Reci));
+  Linea(39, milimetros(txt::RecubExterior, t.Rece));
+  Linea(4, Texto(txt::Cuna) + FormatoTexto(TextoDeCuna(t.TipoCuna, textos_), 13) +
+               Texto(txt::Colocacion) + FormatoTexto(TextoDeColocacion(t.TipoApoyo, textos_), 41));
+  Linea(4, Texto(txt::AlturaDelRelleno) + Numero(e.corrida.Hr, 7, 2) + " m");
+  Linea(4, Texto(txt::PresionInterior) + Numero(e.corrida.DP, 7, 2, "at->MPa", true));
+  Linea(4, Texto(txt::CargaConcentrada) + FormatoTexto(TextoDeCarga(t.ICar, textos_), 21));
+  SaltoSiHaceFalta(e, 10);
+}
+
+void ListadoPantalla::TablaHipotesis(const EstadoCalculo& e) {
+  Linea(42, Texto(txt::PantallaSecciones));
+  Linea(18 + 4 + 17, Texto(txt::PantallaMN));
+  Linea(11, Texto(e.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  const std::string seccion = "  " + std::string(18, '-');
+  Linea(6, std::string(26, '-') + seccion + seccion + seccion);
+  for (int h = 1; h <= kHipotesisArmado; ++h) {
+    std::string linea = FormatoTexto(TextoDeHipotesis(h, textos_), 26);
+    for (int s = 1; s <= kSecciones; ++s) {
+      linea += Numero(e.caso.armado.esfuerzos.M(h, s), 10, 3, "mT->mkN") +
+               Numero(e.caso.armado.esfuerzos.N(h, s), 10, 3, "T->kN");
+    }
+    Linea(4, linea);
+  }
+}
+
+void ListadoPantalla::Armadura(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  if (r.IESP > 0) {
+    SaltoSiHaceFalta(e, 2);
+    EnNegrita(9, Texto(txt::EspesorInsuficientePantalla));
+    return;
+  }
+  const auto resistencia = [this](double v) { return Numero(v, 7, 2, "Kp/cm2->MPa", true); };
+  Linea(19, Texto(txt::FckResumen) + resistencia(e.tramo.Fck) + Texto(txt::FydResumen) +
+                resistencia(e.tramo.Fyd));
+  const auto area = [this](int rotulo, double v) {
+    Linea(14, Texto(rotulo) + "  " + Numero(v, 10, 2) + Texto(txt::Cm2PorM));
+  };
+  area(txt::ArmaduraInterior, r.AsInt);
+  area(txt::ArmaduraExterior, r.AsExt);
+  area(txt::TotalArmadura, r.Total);
+}
+
+void ListadoPantalla::Postesado(const EstadoCalculo& e) {
+  const auto avisosDe = [&](int h) {
+    for (const auto& aviso : e.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) Aviso(e, aviso);
+    }
+  };
+  avisosDe(0);
+  for (const auto& h : e.caso.postesado.hipotesis.v) {
+    if (!h.hecha) break;
+    avisosDe(h.h);
+    if (!h.Impresa()) continue;
+    if (h.h == 1) CabezaPostesado(e);
+    FilaHipotesis(h);
+  }
+  if (e.caso.postesado.fin == FinPostesado::Completo) ListadoAlambre(e);
+}
+
+void ListadoPantalla::CabezaPostesado(const EstadoCalculo& e) {
+  Linea(47, Texto(txt::PantallaSecciones));
+  Linea(23 + 4 + 17, Texto(txt::PantallaMN));
+  Linea(16, Texto(e.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  const std::string seccion = "  " + std::string(18, '-');
+  Linea(11, std::string(26, '-') + seccion + seccion + seccion);
+}
+
+void ListadoPantalla::FilaHipotesis(const HipotesisPostesada& h) {
+  const int nombre = txt::HipotesisPostesado[static_cast<std::size_t>(h.h - 1)];
+  std::string linea = FormatoTexto(Texto(nombre), 26);
+  for (int s = 1; s <= kSecciones; ++s) {
+    linea += " " + Numero(h.MomHip(s), 9, 2, "kp.cm/cm->N.m/cm") + " " +
+             Numero(h.AxilHip(s), 9, 2, "kp/cm->N/cm");
+  }
+  Linea(11, linea);
+}
+
+void ListadoPantalla::ListadoAlambre(const EstadoCalculo& e) {
+  const auto& r = e.caso.postesado;
+  SaltoSiHaceFalta(e, 6);
+  EnBlanco(1);
+  Linea(14, Texto(txt::ResumenDiametro) + Blancos(5) + Numero(r.FIPRDEFI * 10.0, 5, 1) + "  mm");
+  Linea(14, Texto(txt::ResumenEspiras) + Blancos(5) + Numero(r.NESPDEFI, 5, 0));
+  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) +
+                Numero(e.corrida.PP, 7, 2, "Kp/cm2->MPa", true));
+}
+
+}  // namespace zorbin

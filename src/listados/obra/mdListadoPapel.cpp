@@ -1,0 +1,141 @@
+#include "listados/obra/mdListadoPapel.h"
+
+#include <array>
+#include <chrono>
+#include <ctime>
+
+#include "base/mdTextos.h"
+#include "base/textos.h"
+#include "base/textosDpe.h"
+#include "listados/obra/mdAvisos.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kAnchoObra = 72;  // columns of a line of the project's description
+
+// The words of a typology in the heading; a 0 ends them.
+struct PalabrasTipologia {
+  std::int16_t codigo;
+  std::array<int, 3> palabras;
+};
+
+constexpr std::array<PalabrasTipologia, 8> kTipologias{{
+    {1100, {txt::EsHormigonArmado, txt::SinCamisa, 0}},
+    {1210, {txt::EsHormigonArmado, txt::EsConCamisa, 0}},
+    {1220, {txt::EsHormigonArmado, txt::EsConCamisa, 0}},
+    {2100, {txt::EsHormigonPostesado, txt::SinCamisa, 0}},
+    {2211, {txt::EsHormigonPostesado, txt::EsConCamisa, txt::EsEmbebida}},
+    {2212, {txt::EsHormigonPostesado, txt::EsConCamisa, txt::EsEmbebida}},
+    {2221, {txt::EsHormigonPostesado, txt::EsConCamisa, txt::EsRevestida}},
+    {2222, {txt::EsHormigonPostesado, txt::EsConCamisa, txt::EsRevestida}},
+}};
+
+}  // namespace
+
+Fecha Ahora() {
+  const std::time_t ahora = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  std::tm local{};
+  localtime_r(&ahora, &local);
+  std::array<char, 32> dia{};
+  std::array<char, 32> hora{};
+  std::strftime(dia.data(), dia.size(), "%d/%m/%Y", &local);
+  std::strftime(hora.data(), hora.size(), "%H:%M:%S", &local);
+  return {dia.data(), hora.data()};
+}
+
+std::string ListadoPapel::NumeroSolo(double valor, int ancho, int decimales,
+                                     std::string_view conversion, bool conUnidad) const {
+  return std::string(Recorta(Numero(valor, ancho, decimales, conversion, conUnidad)));
+}
+
+void ListadoPapel::EnNegrita(int margen, std::string_view texto) {
+  papel_.Negrita(true);
+  Linea(margen, texto);
+  papel_.Negrita(false);
+}
+
+int ListadoPapel::BloqueObra(const Obra& obra) {
+  EnBlanco(2);
+  papel_.Negrita(true);
+  int lineas = 0;
+  std::string resto = obra.NombreObra;
+  do {
+    ++lineas;
+    auto [linea, queda] = PartirTexto(resto, kAnchoObra);
+    Linea(10, linea);
+    resto = std::move(queda);
+  } while (!resto.empty());
+  EnBlanco(1);
+  Linea(10, Texto(txt::Cliente) + " " + FormatoTexto(obra.Cliente, 40) + Blancos(3) +
+                Texto(txt::FechaRotulo) + ": " + fecha_.dia + " " + fecha_.hora);
+  papel_.Negrita(false);
+  papel_.Regla(18, 185, 3);
+  return lineas;
+}
+
+int ListadoPapel::Cierre(const EstadoCalculo& e, const ErrorCorrida* fallo) {
+  int lineas = 0;
+  if (fallo != nullptr) {
+    lineas += Advierte(TextoFallo(*fallo, std::string(Recorta(e.tramo.DescriTramo)), numeroEnLista_,
+                                  textos_, estilo_));
+  }
+  if (e.corrida.SinAjustes && e.tramo.EsArmado) lineas += Advierte(Texto(txt::AjustesSinLeer));
+  return lineas;
+}
+
+// In bold, on as many lines as it takes. @return lines printed
+int ListadoPapel::Advierte(const std::string& texto) {
+  int lineas = 1;
+  EnBlanco(1);
+  std::string resto = "** " + texto;
+  while (!resto.empty()) {
+    auto [linea, queda] = PartirTexto(resto, kAnchoObra);
+    EnNegrita(10, linea);
+    resto = std::move(queda);
+    ++lineas;
+  }
+  return lineas;
+}
+
+std::string ListadoPapel::RotuloCaso(const EstadoCalculo& e) const {
+  return Texto(txt::CasoNumero) + ": " + TextoEntero(e.corrida.NumCaso) + "/" +
+         FormatoEntero(e.tramo.NumeroTramo, 4) + " : " + FormatoTexto(e.tramo.DescriTramo, 40);
+}
+
+std::string ListadoPapel::TextoTipologia(std::int16_t Tipologia) const {
+  std::string texto;
+  for (const auto& t : kTipologias) {
+    if (t.codigo != Tipologia) continue;
+    for (const int palabra : t.palabras) {
+      if (palabra != 0) texto += (texto.empty() ? "" : " ") + Texto(palabra);
+    }
+  }
+  return texto;
+}
+
+std::string ListadoPapel::TextoCuna(std::int16_t TipoCuna) const {
+  if (TipoCuna == 4) return Texto(txt::MenorDe90);
+  const bool granular = TipoCuna == 1;
+  const int angulo = TipoCuna == 3 ? 120 : 90;
+  return FormatoTexto(Texto(granular ? txt::CunaGranular : txt::CunaHormigon), 8) +
+         FormatoEntero(angulo, 4) + "º";
+}
+
+std::string ListadoPapel::TextoColocacionCabecera(std::int16_t TipoApoyo) const {
+  switch (TipoApoyo) {
+    case 11:
+      return Texto(txt::ColocacionZanjaSin);
+    case 12:
+      return Texto(txt::ColocacionZanjaCon);
+    case 21:
+      return Texto(txt::ColocacionTerraplenadaSin);
+    case 22:
+      return Texto(txt::ColocacionTerraplenadaCon);
+    default:
+      return TipoApoyo >= 30 ? Texto(txt::ColocacionTerraplen) : std::string{};
+  }
+}
+
+}  // namespace zorbin

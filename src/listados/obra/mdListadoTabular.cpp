@@ -1,0 +1,185 @@
+#include "listados/obra/mdListadoTabular.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/textos.h"
+#include "listados/obra/mdAvisos.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kBloqueArmado = 14;     // lines that a reinforced Tramo takes before its rows
+constexpr int kBloquePostesado = 19;  // the same of a post-tensioned one
+constexpr int kCabezaPagina = 6;
+constexpr int kLineasFilas = 20;  // that a long description leaves to the rows
+constexpr int kFilaTramo = 9;
+constexpr int kCabezaTabla = 5;
+constexpr int kDatosPostesado = 6;
+constexpr int kCabezaPostesado = 4;
+
+// Value of the fill as the row shows it.
+std::string ValorRelleno(std::int16_t TipoRelleno) {
+  switch (TipoRelleno) {
+    case 11:
+      return "(0,192)";
+    case 12:
+      return "(0,165)";
+    case 21:
+      return "(0,150)";
+    case 22:
+      return "(0,130)";
+    case 23:
+      return "(0,110)";
+    default:
+      return Blancos(7);
+  }
+}
+
+}  // namespace
+
+void ListadoTabular::CabeceraPagina(const EstadoCalculo& e) {
+  papel_.Cuerpo(kCuerpoTitulo);
+  EnNegrita(4, Blancos(12 + 64) + Texto(txt::PagTabular) + ":" + FormatoEntero(Pagina, 5));
+  papel_.Cuerpo(kCuerpoNormal);
+  const int masLineas = BloqueObra(e.obra) - 1;  // the head counts one of the description
+  LineasResto = std::max(kLineasFilas, kLineasTabular - kCabezaPagina - masLineas);
+}
+
+void ListadoTabular::PaginaNueva(const EstadoCalculo& e) {
+  ++Pagina;
+  papel_.NuevaPagina();
+  CabeceraPagina(e);
+}
+
+void ListadoTabular::Cabecera(const EstadoCalculo& e) {
+  HrAnterior = -1;
+  const int bloque = e.tramo.EsArmado ? kBloqueArmado : kBloquePostesado;
+  if (Pagina == 0) {
+    Pagina = 1;
+    CabeceraPagina(e);
+  } else if (LineasResto < bloque + 1) {
+    PaginaNueva(e);
+  }
+  FilaTramo(e);
+  if (e.tramo.EsArmado) ResumenTabular(e);
+}
+
+void ListadoTabular::FilaTramo(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto milimetros = [this](double metros) { return Numero(metros * 1000.0, 7, 0); };
+  EnNegrita(5, Texto(txt::TipoDeTubo) + FormatoTexto(TextoTipologia(t.Tipologia), 53));
+  EnBlanco(1);
+  for (const int n : txt::TitulosTabular) Linea(5, Texto(n));
+  Linea(5, std::string(127, '-'));
+  const int carga =
+      txt::TiposDeCarga[static_cast<std::size_t>(t.ICar >= 0 && t.ICar <= 4 ? t.ICar : 0)];
+  Linea(4, FormatoEntero(t.NumeroTramo, 4) + Blancos(3) + milimetros(t.Di) + milimetros(t.Esp) +
+               milimetros(t.Reci) + Blancos(2) + milimetros(t.Rece) + Blancos(4) +
+               FormatoTexto(TextoCuna(t.TipoCuna), 14) + " " +
+               FormatoTexto(TextoColocacionCabecera(t.TipoApoyo), 38) + Blancos(3) +
+               Numero(t.B0, 7, 3) + " " +
+               (t.TipoApoyo >= 20 ? Blancos(7) : ValorRelleno(t.TipoRelleno)) + " " +
+               FormatoTexto(Texto(carga), 15));
+  EnBlanco(2);
+  LineasResto -= kFilaTramo;
+}
+
+void ListadoTabular::ResumenTabular(const EstadoCalculo& e) {
+  for (const int n : txt::ResumenTabular) Linea(5, Texto(n));
+  Linea(5, Texto(e.obra.EsSI() ? txt::ResumenTabularSI : txt::ResumenTabularMKS));
+  Linea(5, Texto(txt::ResumenTabularRaya));
+  LineasResto -= kCabezaTabla;
+}
+
+void ListadoTabular::Caso(const EstadoCalculo& e) {
+  if (!e.tramo.EsArmado && e.corrida.PrimerCaso) {
+    DatosPostesado(e);
+    CabeceraTabularPostesado(e);
+  }
+  --LineasResto;
+  if (LineasResto <= 0) {
+    PaginaNueva(e);
+    if (e.tramo.EsArmado) {
+      ResumenTabular(e);
+    } else {
+      CabeceraTabularPostesado(e);
+    }
+  }
+  if (e.tramo.EsArmado) {
+    FilaArmado(e);
+  } else {
+    FilaTabular(e);
+  }
+}
+
+void ListadoTabular::DatosPostesado(const EstadoCalculo& e) {
+  const auto& t = e.tramo;
+  const auto tension = [this](double v, int decimales = 0) {
+    return Numero(v, 10, decimales, "Kp/cm2->MPa");
+  };
+  papel_.Negrita(true);
+  for (const int n : txt::DatosTabular) Linea(5 + 7, Texto(n));
+  Linea(5 + 7, Texto(e.obra.EsSI() ? txt::DatosTabularSI : txt::DatosTabularMKS));
+  Linea(5 + 7, std::string(96, '-'));
+  papel_.Negrita(false);
+  const bool revestida = t.Tipologia == 2221 || t.Tipologia == 2222;
+  Linea(9, tension(t.Fckno) + " " + tension(t.Fckn) + tension(t.Fckr) + " " +
+               tension(e.caso.postesado.materiales.Fctr, 2) + Blancos(3) + tension(t.Ep) + " " +
+               tension(t.SFck) + Blancos(2) + tension(t.Sf) + Numero(t.Delca * 10.0, 9, 2) +
+               Blancos(2) + FormatoTexto(Texto(revestida ? txt::Revestida : txt::Embebida), 10));
+  EnBlanco(1);
+  LineasResto -= kDatosPostesado;
+}
+
+void ListadoTabular::CabeceraTabularPostesado(const EstadoCalculo& e) {
+  papel_.Negrita(true);
+  for (const int n : txt::CabeceraPostesado) Linea(32, Texto(n));
+  Linea(32, Texto(e.obra.EsSI() ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
+  Linea(32, Texto(txt::CabeceraPostesadoRaya));
+  papel_.Negrita(false);
+  LineasResto -= kCabezaPostesado;
+}
+
+// The Caso as it stood before the verification.
+void ListadoTabular::FilaTabular(const EstadoCalculo& e) {
+  const auto& f = e.caso.postesado.fila;
+  const std::string altura = CampoAltura(e);
+  const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  Linea(32, altura + Blancos(3) + Numero(e.corrida.DP, 6, 2, "at->MPa") + Blancos(5) +
+                Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) + Blancos(8) +
+                Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
+}
+
+std::string ListadoTabular::CampoAltura(const EstadoCalculo& e) {
+  if (e.corrida.Hr == HrAnterior) return Blancos(6);
+  HrAnterior = e.corrida.Hr;
+  return Numero(e.corrida.Hr, 6, 2);
+}
+
+void ListadoTabular::FilaArmado(const EstadoCalculo& e) {
+  const auto& r = e.caso.armado;
+  const std::string altura = CampoAltura(e) + Blancos(2);
+  const double DP = e.corrida.DP;
+  if (r.ajuste) {
+    const auto& a = *r.ajuste;
+    Linea(5, altura + Numero(DP, 6, 2, "at->MPa") + Blancos(5) + Numero(a.Camisa, 6, 1) +
+                 Blancos(4) + (a.Espiras == 0 ? Blancos(5) : Numero(a.Espiras, 5, 1)) + " " +
+                 Numero(r.AsInt, 7, 1) + Blancos(7) + Numero(r.AsExt, 10, 1) + Blancos(7) +
+                 Numero(r.Total, 6, 1));
+    return;
+  }
+  Linea(5, altura + Numero(DP, 7, 1, "at->MPa") + Blancos(4) + Numero(r.AreaCamisa, 6, 1) +
+               Blancos(4) + (r.NESPIN == 0 ? Blancos(5) : Numero(r.AreaEspiras, 5, 0)) + " " +
+               Numero(r.AsInt, 7, 1) + Blancos(2) + Numero(r.AsExt, 10, 1) + Blancos(7) +
+               Numero(r.Total, 6, 1));
+}
+
+void ListadoTabular::FinAltura(const EstadoCalculo&) {
+  if (LineasResto < 2) return;
+  EnBlanco(2);
+  LineasResto -= 2;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,65 @@
+#include "listados/obra/mdRotulos.h"
+
+#include <span>
+
+#include "base/textos.h"
+
+namespace zorbin {
+
+namespace {
+
+struct CodigoTexto {
+  std::int16_t codigo;
+  int texto;
+};
+
+constexpr std::array<CodigoTexto, 6> kCamisas{{{1210, txt::ConCamisa},
+                                               {1220, txt::ConCamisa},
+                                               {2211, txt::CamisaEmbebida},
+                                               {2212, txt::CamisaEmbebida},
+                                               {2221, txt::CamisaRevestida},
+                                               {2222, txt::CamisaRevestida}}};
+
+constexpr std::array<CodigoTexto, 6> kColocaciones{{{11, txt::ZanjaSinCompactar},
+                                                    {12, txt::ZanjaCompactada},
+                                                    {21, txt::ZanjaTerraplenadaSinCompactar},
+                                                    {22, txt::ZanjaTerraplenadaCompactada},
+                                                    {30, txt::Terraplen},
+                                                    {31, txt::Terraplen}}};
+
+std::string PorCodigo(std::span<const CodigoTexto> tabla, std::int16_t codigo,
+                      const Catalogo& textos) {
+  for (const auto& fila : tabla) {
+    if (fila.codigo == codigo) return textos.Texto(fila.texto);
+  }
+  return {};
+}
+
+std::string PorLugar(std::span<const int> tabla, int lugar, const Catalogo& textos) {
+  if (lugar < 0 || lugar >= static_cast<int>(tabla.size())) return {};
+  return textos.Texto(tabla[static_cast<std::size_t>(lugar)]);
+}
+
+}  // namespace
+
+std::string TextoDeCamisa(std::int16_t Tipologia, const Catalogo& textos) {
+  return PorCodigo(kCamisas, Tipologia, textos);
+}
+
+std::string TextoDeCuna(std::int16_t TipoCuna, const Catalogo& textos) {
+  return PorLugar(txt::Cunas, TipoCuna - 1, textos);
+}
+
+std::string TextoDeColocacion(std::int16_t TipoApoyo, const Catalogo& textos) {
+  return PorCodigo(kColocaciones, TipoApoyo, textos);
+}
+
+std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos) {
+  return PorLugar(txt::Cargas, ICar, textos);
+}
+
+std::string TextoDeHipotesis(int h, const Catalogo& textos) {
+  return PorLugar(txt::HipotesisResumen, h - 1, textos);
+}
+
+}  // namespace zorbin

@@ -1,0 +1,52 @@
+// The project file: header of the Obra in records 1 to 20, then a block of 60 records a Tramo.
+// Every field is text, numbers included; a field with two unit systems holds "MKS // SI".
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/mdCatalogo.h"
+#include "core/estado_calculo.h"
+#include "persistencia/registros/mdRegistros.h"
+
+namespace zorbin {
+
+inline constexpr std::string_view kVersionFichero = "Version: 2009-Mar.02";
+inline constexpr int kMaxTramos = 545;
+
+/// Numbers of the Tramos in file order; the place of a number, from 1, is that of its block. An
+/// empty text keeps the place of a block without number.
+using ListaTramos = std::vector<std::string>;
+
+struct ObraLeida {
+  ListaTramos lista;
+  std::vector<Mensaje> avisos;  // what a person should know, although the Obra opens
+};
+
+/// Reads the header and the list of Tramos. Writes e.obra in the units of its system; NombreFichero
+/// and ObraAbierta are set. Numbers may have either decimal separator.
+/// @throws ErrorFichero naming the record and what was expected; the state is then untouched
+ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f);
+
+/// Reads the block at a position, from 1, into e.tramo, in the units of the Obra's system, and sets
+/// the load fields and the heights in force. A blank record leaves the field as it was; a paired
+/// one is 0, and a blank description is a blank description. NumeroTramo is not written.
+/// @throws ErrorFichero as CargaObra, also where the end of the file cuts the block
+void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion);
+
+/// Writes the header, all of it or nothing.
+/// @param separador  decimal separator of the machine
+/// @throws ErrorFichero naming the field that cannot be stored, or the disk's refusal
+void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
+                 const Catalogo& textos, char separador);
+
+/// Tells whether the header and the block at a position, from 1, are still the same; 0 for the
+/// header alone. @throws ErrorFichero as CargaTramo
+std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion);
+
+/// Writes the block of e.tramo at a position, from 1. As EscribeObra.
+void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
+                  int posicion, char separador);
+
+}  // namespace zorbin

@@ -1,0 +1,83 @@
+#include "programas/zorbin-calc/mdValida.h"
+
+#include <algorithm>
+
+#include "base/mdCarpetas.h"
+#include "base/mdNumeros.h"
+#include "base/mdTextos.h"
+#include "base/textos.h"
+#include "listados/obra/mdFlujo.h"
+#include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdSalida.h"
+#include "programas/zorbin-calc/mdVigia.h"
+
+namespace zorbin {
+
+namespace {
+
+// In one line, with a blank for each break.
+std::string Seguido(const std::string& texto) {
+  std::string linea;
+  for (const char c : texto) {
+    const bool blanco = c == ' ' || c == '\r' || c == '\n';
+    if (!blanco) linea += c;
+    if (blanco && !linea.empty() && linea.back() != ' ') linea += ' ';
+  }
+  return std::string(Recorta(linea));
+}
+
+std::string ConTitulo(const std::string& titulo, const std::string& texto) {
+  std::string t = Seguido(titulo);
+  if (!t.empty() && t.back() != ':') t += ':';
+  return Seguido(t + " " + texto);
+}
+
+}  // namespace
+
+std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos) {
+  const std::string mensaje = ConTitulo(falta.titulo, falta.mensaje);
+  if (falta.posicion == 0) {
+    return textos.Compone(txt::FaltaDeLaObra, {falta.campo, falta.valor, mensaje});
+  }
+  return textos.Compone(txt::FaltaDelTramo, {falta.numero, falta.campo, falta.valor, mensaje});
+}
+
+std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos) {
+  return textos.Compone(txt::PreguntaDelTramo,
+                        {pregunta.numero, ConTitulo(pregunta.titulo, pregunta.texto)});
+}
+
+ListaFaltas BuscaFaltas(const std::filesystem::path& obra, const std::filesystem::path& tablas,
+                        const PeticionValida& peticion, Catalogo& textos) {
+  const TablasCatalogo dimensiones =
+      LeeTablas(tablas.empty() ? CarpetaRecursos() / "tablas" : tablas);
+  Catalogo deLaObra = textos;
+  return ValidaObraEnFichero(obra, deLaObra, dimensiones, peticion);
+}
+
+int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
+  EstadoCalculo e;
+  const ObraEnFichero obra = AbreObra(e, opciones.obra);
+  textos.PonIdioma(e.obra.Idioma);
+  for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
+  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
+  if (!posiciones) return kPalabrasMalas;
+  const auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
+                                 {*posiciones, SeparadorDeLinea(opciones.separador)}, textos);
+  for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
+  Salida salida({});
+  for (const auto& f : lista.faltas) salida.flujo() << TextoFalta(f, textos) << '\n';
+  if (lista.Vale()) {
+    salida.flujo() << textos.Compone(txt::ObraSinFaltas, {opciones.obra.string()}) << '\n';
+  }
+  salida.Cierra();
+  return lista.Vale() && !e.corrida.SinAjustes ? kHecho : kFicheroRechazado;
+} catch (const ErrorFichero& error) {
+  Queja(textos.Compone(error.mensaje()));
+  return kFicheroRechazado;
+} catch (const ErrorSalida& error) {
+  Queja(textos.Compone(txt::SalidaNoSeEscribe, {error.nombre(), error.what()}));
+  return kSalidaImposible;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,185 @@
+#include "sesion/captura/mdCaptura.h"
+
+#include <cmath>
+#include <utility>
+
+#include "base/mdNumeros.h"
+#include "base/mdTextos.h"
+#include "base/textosCaptura.h"
+#include "sesion/captura/mdEtiquetas.h"
+
+namespace zorbin {
+
+namespace {
+
+// Lower case of the letters that the code page has, accents included.
+std::string Minusculas(std::string_view texto) {
+  std::string salida;
+  bool trasC3 = false;
+  for (const char letra : texto) {
+    auto b = static_cast<unsigned char>(letra);
+    const bool acentuada = trasC3 && b >= 0x80 && b <= 0x9E && b != 0x97;
+    if ((b >= 'A' && b <= 'Z') || acentuada) b = static_cast<unsigned char>(b + 0x20);
+    trasC3 = b == 0xC3;
+    salida.push_back(static_cast<char>(b));
+  }
+  return salida;
+}
+
+void AdelantaSi(int& pagina, int pedida) {
+  if (pedida >= 0) pagina = pedida;
+}
+
+}  // namespace
+
+void OlvidaCambios(Captura& c) {
+  c.ObraEditada = c.TramoEditado = false;
+}
+
+const std::string& Texto(const Captura& c, int entrada) {
+  return c.textos.Texto(entrada);
+}
+
+std::string SinDosPuntos(const std::string& texto) {
+  return texto.ends_with(':') ? texto.substr(0, texto.size() - 1) : texto;
+}
+
+std::string TextoDe(const Captura& c, Ed campo) {
+  return std::string(Recorta(c[campo].texto));
+}
+
+bool EnBlanco(const Captura& c, Ed campo) {
+  return TextoDe(c, campo).empty();
+}
+
+std::string Formato(const Captura& c, double valor, std::string_view mascara) {
+  return FormatoMascara(valor, mascara, c.SeparadorDecimal);
+}
+
+std::string UnidadTension(const Captura& c, int codigo) {
+  if (codigo != 1) return {};
+  std::string unidad = " ";
+  for (const char letra : Texto(c, c.EsSI() ? txt::UnidadMPa : txt::UnidadKpCm2)) {
+    if (letra != '(' && letra != ')') unidad.push_back(letra);
+  }
+  return unidad;
+}
+
+void Escribe(Captura& c, Ed campo, std::string texto) {
+  auto& control = c[campo];
+  control.texto = std::move(texto);
+  control.tocado = false;
+  control.seleccionado = false;
+}
+
+void Escribe(Captura& c, Ed campo, double valor, std::string_view mascara) {
+  Escribe(c, campo, Formato(c, valor, mascara));
+}
+
+double& Variable(Captura& c, Ed campo) {
+  const auto& fila = Fila(campo);
+  return fila.obra != nullptr ? c.e.obra.*fila.obra : c.e.tramo.*fila.tramo;
+}
+
+void MuestraVariable(Captura& c, Ed campo) {
+  Escribe(c, campo, Variable(c, campo), Fila(campo).Mascara(c.EsSI()));
+}
+
+void MuestraSinCero(Captura& c, Ed campo) {
+  MuestraVariable(c, campo);
+  // What the mask shows is what is saved: less than its last digit is a zero too.
+  if (NumeroTexto(c[campo].texto) == 0.0) Escribe(c, campo, "");
+}
+
+void Apaga(Captura& c, Ed campo) {
+  auto& control = c[campo];
+  control.habilitado = control.etiquetaHabilitada = false;
+  control.gris = true;
+}
+
+void Enciende(Captura& c, Ed campo) {
+  auto& control = c[campo];
+  control.habilitado = control.etiquetaHabilitada = true;
+  control.gris = false;
+}
+
+void Bloquea(Captura& c, Ed campo) {
+  auto& control = c[campo];
+  control.bloqueado = control.gris = true;
+  control.tabulador = false;
+}
+
+void Desbloquea(Captura& c, Ed campo) {
+  auto& control = c[campo];
+  control.bloqueado = control.gris = false;
+  control.tabulador = true;
+}
+
+void Libera(Captura& c, Ed campo, bool libre) {
+  libre ? Desbloquea(c, campo) : Bloquea(c, campo);
+}
+
+int PosicionEnLista(const Captura& c, Ed campo) {
+  const std::string texto = Minusculas(TextoDe(c, campo));
+  const auto& entradas = c[campo].entradas;
+  for (auto i = entradas.size(); i > 0; --i) {
+    if (Minusculas(entradas[i - 1]) == texto) return static_cast<int>(i);
+  }
+  return 0;
+}
+
+void EligeEntrada(Captura& c, Ed campo, int posicion) {
+  const auto& entradas = c[campo].entradas;
+  const bool hay = posicion >= 1 && posicion <= static_cast<int>(entradas.size());
+  Escribe(c, campo, hay ? entradas[static_cast<std::size_t>(posicion - 1)] : std::string{});
+}
+
+void Rechaza(Captura& c, Ed campo, const std::string& texto, const std::string& titulo) {
+  c.falta = Falta{campo, c[campo].texto, titulo, texto};
+  c.voz.Muestra(texto, titulo);
+}
+
+void MuestraPagina(Captura& c, const Paginas& pagina) {
+  auto& delante = c.pantalla.pagina;
+  AdelantaSi(delante.TabPrincipal, pagina.TabPrincipal);
+  AdelantaSi(delante.TabTipologia, pagina.TabTipologia);
+  AdelantaSi(delante.TabPostesados, pagina.TabPostesados);
+  AdelantaSi(delante.TabDatosColocacion, pagina.TabDatosColocacion);
+  RenuevaTitulo(c);
+}
+
+void VaA(Captura& c, Ed campo) {
+  MuestraPagina(c, Fila(campo).pagina);
+  c.pantalla.foco = campo;
+  c.voz.VaA(campo);
+}
+
+bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino,
+                  const std::string& etiqueta) {
+  const auto valor = NumeroTexto(c[campo].texto);
+  if (!valor || std::fabs(*valor) > kMayorTecleado) {
+    Rechaza(c, campo, Texto(c, txt::NoEsValorNumerico), etiqueta);
+    return false;
+  }
+  destino = *valor;
+  if (*valor >= minimo) return true;
+  Rechaza(c, campo, Texto(c, txt::ValorIncorrecto), etiqueta);
+  return false;
+}
+
+bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino, int etiqueta) {
+  return ValidaNumero(c, campo, minimo, destino, SinDosPuntos(Texto(c, etiqueta)));
+}
+
+bool LeeAlSalir(Captura& c, Ed campo, double minimo, double& destino, int etiqueta) {
+  const auto& control = c[campo];
+  const bool intacto = !control.tocado && destino >= minimo &&
+                       control.texto == Formato(c, destino, Fila(campo).Mascara(c.EsSI()));
+  return intacto || ValidaNumero(c, campo, minimo, destino, etiqueta);
+}
+
+double Redondea(double x) {
+  return std::nearbyint(x);
+}
+
+}  // namespace zorbin

@@ -1,0 +1,177 @@
+#include "sesion/captura/mdEtiquetas.h"
+
+#include <vector>
+
+#include "base/textosCaptura.h"
+#include "core/mdUnidades.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr std::string_view kBandaRecubrimiento = " (2 - 4)";  // [cm]
+
+std::string EtiquetaEspesor(const Captura& c) {
+  std::string texto = Texto(c, txt::EtEsp);
+  if (c.EspRecomMin == 0 && c.EspRecomMax == 0) return texto;
+  return texto + " (" + Formato(c, c.EspRecomMin, "0") + " - " + Formato(c, c.EspRecomMax, "0") +
+         ")";
+}
+
+std::string EtiquetaHr1(const Captura& c) {
+  const auto colocacion = c.e.tramo.TipoColocacion;
+  return Texto(c, txt::RotHr1) + (colocacion == 1 ? "'' (m):" : "' (m):");
+}
+
+std::string EtiquetaDe(const Captura& c, const FilaCampo& fila) {
+  const auto conBanda = [&](bool banda, int corta) {
+    return banda ? Texto(c, corta) + std::string(kBandaRecubrimiento) : Texto(c, fila.rotulo);
+  };
+  switch (fila.id) {
+    case Ed::edEsp0:
+      return EtiquetaEspesor(c);
+    case Ed::edReci0:
+      return conBanda(c.BandaReci, txt::RecubInteriorBanda);
+    case Ed::edRece0:
+      return conBanda(c.BandaRece, txt::RecubExteriorBanda);
+    case Ed::edHr1:
+      return EtiquetaHr1(c);
+    case Ed::edSf:
+      return Texto(c, txt::RotSf) + " (" + c[Ed::edSf].texto + ")";
+    default:
+      break;
+  }
+  if (fila.rotulo == 0) return {};
+  return Texto(c, c.EsSI() && fila.rotuloSI != 0 ? fila.rotuloSI : fila.rotulo);
+}
+
+std::string GrupoDe(const Captura& c, const FilaCampo& fila) {
+  if (fila.grupo == 0) return {};
+  const std::string texto = Texto(c, fila.grupo);
+  if (!fila.escala) return texto;
+  return texto + " " + Texto(c, c.EsSI() ? txt::UnidadMPa : txt::UnidadAt);
+}
+
+std::vector<std::string> Entradas(const Captura& c, std::initializer_list<int> textos) {
+  std::vector<std::string> entradas;
+  for (const int n : textos) entradas.push_back(Texto(c, n));
+  return entradas;
+}
+
+// The entries of a list, in the language in force; the entry chosen stays chosen.
+void RenuevaLista(Captura& c, const FilaCampo& fila) {
+  const int posicion = PosicionEnLista(c, fila.id);
+  auto& control = c[fila.id];
+  control.entradas.clear();
+  for (int i = 0; i < fila.entradas; ++i) {
+    control.entradas.push_back(Texto(c, fila.entrada + i));
+  }
+  if (posicion > 0) EligeEntrada(c, fila.id, posicion);
+}
+
+void RenuevaOpciones(Captura& c) {
+  c[Ed::rdSistemaUnidades].entradas = Entradas(c, {txt::RotSI, txt::RotMKS});
+  c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::OpcionSi, txt::OpcionNo});
+  c[Ed::rdTipoCamisa].entradas = Entradas(c, {txt::OpcionEmbebida, txt::OpcionRevestida});
+  c[Ed::rdTipoColocacion].entradas =
+      Entradas(c, {txt::OpcionZanja, txt::OpcionZanjaTerraplenada, txt::OpcionTerraplen});
+}
+
+// ---- Change of system
+
+// Masks of the change of system; the pressures and the load keep theirs.
+std::string_view MascaraUnidades(const FilaCampo& fila, bool si) {
+  switch (fila.id) {
+    case Ed::edEs:
+    case Ed::edEp:
+    case Ed::edSFck:
+    case Ed::edSf:
+      return "#####0";
+    case Ed::edQDato0:
+      return "#####0.00";
+    default:
+      return fila.grupo != 0 ? fila.mascara : si ? "#####0.0" : "#####0";
+  }
+}
+
+struct Convertido {
+  const FilaCampo* fila;
+  double valor;
+  bool blanco;
+};
+
+// Every field with units, converted; none when a text is no number.
+bool ConvierteTextos(Captura& c, bool aSI, std::vector<Convertido>& convertidos) {
+  for (const auto& fila : TablaCampos()) {
+    if (!fila.escala) continue;
+    double valor = 0;
+    if (!ValidaNumero(c, fila.id, -kMayorTecleado, valor, EtiquetaDe(c, fila))) return false;
+    const double factor = fila.id == Ed::edQDato0 ? kFactorCarga : kFactorTension;
+    convertidos.push_back({&fila, aSI ? valor / factor : valor * factor, EnBlanco(c, fila.id)});
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string TextoUnidades(const Captura& c) {
+  return Texto(c, c.EsSI() ? txt::SistemaSI : txt::SistemaMKS) + ". ";
+}
+
+void RenuevaEtiquetas(Captura& c) {
+  for (const auto& fila : TablaCampos()) {
+    c[fila.id].etiqueta = EtiquetaDe(c, fila);
+    c[fila.id].grupo = GrupoDe(c, fila);
+  }
+  // This tip ends with an example in the units in force.
+  c[Ed::edFck].consejo = Texto(c, Fila(Ed::edFck).consejo) + (c.EsSI() ? " (35)" : " (350)");
+}
+
+void RenuevaTitulo(Captura& c) {
+  auto& p = c.pantalla;
+  const int marca = c.EnAltas()            ? txt::AltaDeTramo
+                    : c.EnModificaciones() ? txt::ModificacionDeTramo
+                                           : 0;
+  p.titulo = TextoUnidades(c);
+  if (p.pagina.TabPrincipal > 0 && marca != 0) p.titulo += Texto(c, marca) + " ";
+  p.titulo += Texto(c, txt::CapturaDatos);
+  p.textoCancelar = Texto(c, c.EnModificaciones() ? txt::BotonReleer : txt::BotonCancelar);
+  c[Ed::rdSistemaUnidades].habilitado = c.SinTramoEnMano();
+}
+
+void PoneTextosCaptura(Captura& c) {
+  for (const auto& fila : TablaCampos()) {
+    if (fila.clase == Clase::Lista) RenuevaLista(c, fila);
+    if (fila.consejo != 0) c[fila.id].consejo = Texto(c, fila.consejo);
+  }
+  RenuevaOpciones(c);
+  RenuevaEtiquetas(c);
+  RenuevaTitulo(c);
+}
+
+void CambiaIdioma(Captura& c, std::int16_t idioma) {
+  c.e.obra.Idioma = c.textos.PonIdioma(idioma);
+  c.e.obra.IdiomaOffset = I16(c.textos.IdiomaOffset());
+  PoneTextosCaptura(c);
+  auto& arco = c.pantalla.avCargas1;
+  if (!arco.empty()) arco = Texto(c, txt::AvisoArco1) + " " + Texto(c, txt::AvisoArco2);
+  EligeEntrada(c, Ed::edIdioma, c.e.obra.Idioma);
+}
+
+bool RevisaUnidades(Captura& c, const std::string& nuevo) {
+  const bool aSI = nuevo == "SI";
+  if (c.LeyendoDatos || !c.SinTramoEnMano() || aSI == c.EsSI()) return aSI == c.EsSI();
+  std::vector<Convertido> convertidos;
+  if (!ConvierteTextos(c, aSI, convertidos)) return false;
+  c.e.obra.SisUnid = aSI ? "SI" : "MKS";
+  for (const auto& x : convertidos) {
+    Variable(c, x.fila->id) = x.valor;
+    if (!x.blanco) Escribe(c, x.fila->id, x.valor, MascaraUnidades(*x.fila, aSI));
+  }
+  c[Ed::rdSistemaUnidades].opcion = aSI ? 0 : 1;
+  RenuevaEtiquetas(c);
+  RenuevaTitulo(c);
+  return true;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,91 @@
+#include "sesion/captura/mdFaltas.h"
+
+#include <algorithm>
+
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdPresenta.h"
+#include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdValidaObra.h"
+#include "sesion/captura/mdValidaTramo.h"
+
+namespace zorbin {
+
+namespace {
+
+// Nobody is there: questions are answered "go on" and kept, messages come back as faults.
+class SinPersona : public Interlocutor {
+ public:
+  void Muestra(const std::string&, const std::string&) override {}
+  bool Pregunta(const std::string& texto, const std::string& titulo) override {
+    preguntas.push_back({0, {}, titulo, texto});
+    return true;
+  }
+  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+  void VaA(Ed) override {}
+
+  std::vector<PreguntaDeObra> preguntas;
+};
+
+void Anota(ListaFaltas& lista, const Captura& c, SinPersona& voz, int posicion,
+           const std::string& numero) {
+  for (auto& p : voz.preguntas) {
+    p.posicion = posicion;
+    p.numero = numero;
+    lista.preguntas.push_back(std::move(p));
+  }
+  voz.preguntas.clear();
+  if (!c.falta) return;
+  lista.faltas.push_back({posicion, numero, std::string(Fila(c.falta->campo).nombre),
+                          c.falta->valor, c.falta->titulo, c.falta->mensaje});
+}
+
+std::vector<int> Posiciones(const Captura& c, const PeticionValida& peticion) {
+  if (!peticion.posiciones.empty()) return peticion.posiciones;
+  std::vector<int> todas;
+  for (int i = 1; i <= static_cast<int>(c.lista.size()); ++i) {
+    if (!c.lista[static_cast<std::size_t>(i - 1)].empty()) todas.push_back(i);
+  }
+  return todas;
+}
+
+}  // namespace
+
+bool ListaFaltas::Vale(int posicion) const {
+  return std::none_of(faltas.begin(), faltas.end(), [&](const FaltaDeObra& f) {
+    return f.posicion == 0 || f.posicion == posicion;
+  });
+}
+
+void PonComprobada(Obra& obra, const Obra& comprobada) {
+  for (const auto campo :
+       {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
+        &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI}) {
+    obra.*campo = comprobada.*campo;
+  }
+}
+
+ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& textos,
+                                const TablasCatalogo& tablas, const PeticionValida& peticion) {
+  ListaFaltas lista;
+  EstadoCalculo e;
+  SinPersona voz;
+  Captura c(e, textos, tablas, voz, peticion.separador);
+  c.fichero.emplace(ruta, FicheroRegistros::Modo::Lectura);
+  c.lista = CargaObra(e, *c.fichero).lista;
+  PreparaPantalla(c);
+  LimpiaCaptura(c, 0);
+  MuestraObra(c);
+  if (!ValidaObra(c)) Anota(lista, c, voz, 0, {});
+  lista.obra = e.obra;
+  for (const int posicion : Posiciones(c, peticion)) {
+    LeeTramo(c, posicion);
+    c.falta.reset();
+    const bool vale = ValidaTramo(c, false);
+    if (vale) lista.tramos[posicion] = e.tramo;
+    if (!vale && !c.falta) c.falta.emplace();
+    Anota(lista, c, voz, posicion, c.lista[static_cast<std::size_t>(posicion - 1)]);
+  }
+  return lista;
+}
+
+}  // namespace zorbin

@@ -1,0 +1,227 @@
+#include "sesion/captura/mdGeometria.h"
+
+#include <array>
+#include <optional>
+
+#include "base/textosCaptura.h"
+#include "sesion/captura/mdEtiquetas.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr double kMmPorCm = 10.0;
+constexpr double kTolerancia = 0.02;  // of the diameter, on the thickness
+constexpr double kRecubMin = 20.0;    // band of a cover [mm]
+constexpr double kRecubMax = 40.0;
+constexpr std::int16_t kRevestida = 2221;
+
+struct GrupoTipologia {
+  int tipologia;
+  int grupo;
+};
+constexpr std::array<GrupoTipologia, 8> kGrupos{
+    {{1100, 2}, {1210, 5}, {1220, 5}, {2100, 8}, {2211, 11}, {2212, 11}, {2221, 14}, {2222, 14}}};
+
+const DimensionesGrupo* Busca(const TablasCatalogo& tablas, double Di, int grupo) {
+  const double D = Redondea(Di * 1000.0 + 0.0001);
+  for (const auto& fila : tablas.TablaDimensiones) {
+    if (fila.Diametro == D) return &fila.grupos[static_cast<std::size_t>((grupo - 2) / 3)];
+  }
+  return nullptr;
+}
+
+struct Medidas {
+  double Esp, Reci, Rece;  // [mm]
+};
+
+std::string Linea(const Captura& c, int nombre, double usada, double recomendada) {
+  constexpr std::string_view mascara = "#####0.00";
+  return Texto(c, nombre) + Formato(c, usada, mascara) + Texto(c, txt::RecRecomendado) +
+         Formato(c, recomendada, mascara) + "\n";
+}
+
+// Whether the person wants to change what differs from the table.
+bool QuiereCambiar(Captura& c, const Medidas& u, const DimensionesGrupo& t) {
+  return c.voz.Pregunta(
+      Linea(c, txt::RecEspesor, u.Esp, t.Esp) + Linea(c, txt::RecInterior, u.Reci, t.Reci) +
+          Linea(c, txt::RecExterior, u.Rece, t.Rece) + "\n" + Texto(c, txt::RecDeseaCambiarlos),
+      Texto(c, txt::RecTitulo));
+}
+
+// Of a lined cylinder only the inner cover is tested, which there is the computed one.
+bool Aceptables(const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
+  const auto enBanda = [](double x) { return x >= kRecubMin && x <= kRecubMax; };
+  const bool espesor = u.Esp >= t.Esp - kTolerancia * D && u.Esp <= t.Esp + kTolerancia * D;
+  return espesor && enBanda(u.Reci) && (tipologia == kRevestida || enBanda(u.Rece));
+}
+
+int Compara(Captura& c, const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
+  const bool iguales = u.Esp == t.Esp && u.Reci == t.Reci && u.Rece == t.Rece;
+  if (iguales || c.SinAvisoGeom || Aceptables(u, t, D, tipologia)) return kGeomHallado;
+  return QuiereCambiar(c, u, t) ? kGeomPorCambiar : kGeomHallado;
+}
+
+int BuscaEnTramo(Captura& c, ModoGeom modo) {
+  auto& t = c.e.tramo;
+  return RecomendadosGeom(c, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di, modo);
+}
+
+// A dimension takes the place of the text when the diameter is another or the field is blank.
+void Reemplaza(Captura& c, Ed campo, bool otroDi) {
+  if (otroDi || EnBlanco(c, campo)) MuestraVariable(c, campo);
+}
+
+// What the three checks of a dimension share.
+int CompruebaDimension(Captura& c, Ed campo, double& destino, int etiqueta, ModoGeom modo) {
+  if (!c.EsComercial && !LeeAlSalir(c, campo, 0.001, destino, etiqueta)) return kDimSeQueda;
+  if (!LeeAlSalir(c, campo, 0.0, destino, etiqueta)) return kDimVuelveADi;
+  if (destino < 0.001 && BuscaEnTramo(c, modo) != kGeomHallado) {
+    Rechaza(c, campo, Texto(c, txt::NoEsComercial), Texto(c, txt::EtEsp));
+    return kDimVuelveADi;
+  }
+  return kDimAceptada;
+}
+
+// The inner cover of a lined cylinder is what the coating leaves.
+void RecubrimientoRevestida(Captura& c) {
+  auto& t = c.e.tramo;
+  t.Reci = t.Esp - t.Rece;
+  MuestraVariable(c, Ed::edReci0);
+}
+
+}  // namespace
+
+int GrupoDeTipologia(int tipologia) {
+  for (const auto& g : kGrupos) {
+    if (g.tipologia == tipologia) return g.grupo;
+  }
+  return 0;
+}
+
+int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
+                     ModoGeom modo) {
+  const int grupo = GrupoDeTipologia(Tipologia);
+  if (grupo == 0) return kGeomNoListado;
+  const auto* t = Busca(c.tablas, Di, grupo);
+  if (t == nullptr) return kGeomNoListado;
+  if (t->Reci == 0) return kGeomNoSeFabrica;
+  if (modo == ModoGeom::Espesor || modo == ModoGeom::Todo) Esp = t->Esp / kMmPorCm;
+  if (modo == ModoGeom::Interior || modo == ModoGeom::Todo) Reci = t->Reci / kMmPorCm;
+  if (modo == ModoGeom::Exterior || modo == ModoGeom::Todo) Rece = t->Rece / kMmPorCm;
+  if (modo != ModoGeom::Compara) return kGeomHallado;
+  const auto mm = [](double cm) { return Redondea(cm * kMmPorCm + 0.01); };
+  return Compara(c, {mm(Esp), mm(Reci), mm(Rece)}, *t, Redondea(Di * 1000.0 + 0.0001), Tipologia);
+}
+
+int CompruebaRecomendados(Captura& c) {
+  const auto& t = c.e.tramo;
+  if (!c.EsComercial || t.Esp <= 0 || t.Reci <= 0 || t.Rece <= 0 || t.Di <= 0) return kGeomHallado;
+  return BuscaEnTramo(c, ModoGeom::Compara);
+}
+
+void CargaListasGeom(Captura& c, int grupo) {
+  for (const Ed campo : {Ed::edEsp0, Ed::edReci0, Ed::edRece0}) c[campo].entradas.clear();
+  if (grupo == 0) return;
+  int reciAnterior = -1;
+  int receAnterior = -1;
+  const auto anade = [&](Ed campo, int mm) {
+    c[campo].entradas.push_back(Formato(c, mm / kMmPorCm, "#####0.0"));
+  };
+  for (const auto& fila : c.tablas.TablaDimensiones) {
+    const auto& g = fila.grupos[static_cast<std::size_t>((grupo - 2) / 3)];
+    anade(Ed::edEsp0, g.Esp);
+    if (g.Reci != reciAnterior) anade(Ed::edReci0, g.Reci);
+    if (g.Rece != receAnterior) anade(Ed::edRece0, g.Rece);
+    reciAnterior = g.Reci;
+    receAnterior = g.Rece;
+  }
+}
+
+void CargaListaDiametros(Captura& c) {
+  auto& entradas = c[Ed::edDi0].entradas;
+  entradas.clear();
+  for (const auto& fila : c.tablas.TablaDimensiones) {
+    entradas.push_back(Formato(c, fila.Diametro / 1000.0, "#####0.000"));
+  }
+}
+
+void CalculaDe(Captura& c) {
+  auto& t = c.e.tramo;
+  t.De = 2.0 * t.Esp / 100.0 + t.Di;
+  Escribe(c, Ed::edDe0, t.De, "#####0.000");
+}
+
+double AnchoAutomatico(const Captura& c) {
+  return c.e.tramo.De * 1.4 + 0.68;
+}
+
+void RecalculaB0(Captura& c) {
+  if (c.e.tramo.TipoColocacion == 2) return;
+  c.e.tramo.B0 = AnchoAutomatico(c);
+  MuestraVariable(c, Ed::edB0);
+}
+
+bool CompruebaDi(Captura& c) {
+  auto& t = c.e.tramo;
+  const double anterior = t.Di;
+  if (!LeeAlSalir(c, Ed::edDi0, 0.001, t.Di, txt::EtDiEdicion)) return false;
+  const bool otro = t.Di != anterior;
+  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
+  if (!c.EsComercial &&
+      c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) {
+    t.Di = anterior;  // the diameter that comes instead is a change against this one
+    return false;
+  }
+  c.EspRecomMin = c.EspRecomMax = 0;
+  c.BandaReci = c.BandaRece = false;
+  if (c.EsComercial) {
+    BuscaEnTramo(c, ModoGeom::Espesor);
+    const double margen = t.Di * kTolerancia * 100.0;
+    c.EspRecomMin = Redondea(t.Esp - margen);
+    c.EspRecomMax = Redondea(margen + t.Esp);
+    Reemplaza(c, Ed::edEsp0, otro);
+    if (t.Tipologia != kRevestida) {
+      BuscaEnTramo(c, ModoGeom::Interior);
+      Reemplaza(c, Ed::edReci0, otro);
+      c.BandaReci = true;
+    }
+    BuscaEnTramo(c, ModoGeom::Exterior);
+    Reemplaza(c, Ed::edRece0, otro);
+    c.BandaRece = true;
+  }
+  RenuevaEtiquetas(c);
+  CalculaDe(c);
+  return true;
+}
+
+int CompruebaEsp(Captura& c) {
+  auto& t = c.e.tramo;
+  const int codigo = CompruebaDimension(c, Ed::edEsp0, t.Esp, txt::EtEsp, ModoGeom::Espesor);
+  if (codigo != kDimAceptada) return codigo;
+  if (t.Tipologia == kRevestida && !EnBlanco(c, Ed::edRece0)) RecubrimientoRevestida(c);
+  CalculaDe(c);
+  return kDimAceptada;
+}
+
+int CompruebaReci(Captura& c) {
+  return CompruebaDimension(c, Ed::edReci0, c.e.tramo.Reci, txt::EtReci, ModoGeom::Interior);
+}
+
+int CompruebaRece(Captura& c) {
+  auto& t = c.e.tramo;
+  const int codigo = CompruebaDimension(c, Ed::edRece0, t.Rece, txt::EtRece, ModoGeom::Exterior);
+  if (codigo == kDimAceptada && t.Tipologia == kRevestida) RecubrimientoRevestida(c);
+  return codigo;
+}
+
+bool CompruebaB0(Captura& c) {
+  auto& t = c.e.tramo;
+  if (!LeeAlSalir(c, Ed::edB0, 0.0, t.B0, txt::EtAnchuraZanja)) return false;
+  if (t.B0 < 0.001) {
+    RecalculaB0(c);
+  }
+  return true;
+}
+
+}  // namespace zorbin

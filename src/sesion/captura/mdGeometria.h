@@ -1,0 +1,55 @@
+// Recommended dimensions: the lookup of a diameter in the manufacturers' table and the judgement of
+// what was typed against it.
+#pragma once
+
+#include "sesion/captura/mdCaptura.h"
+
+namespace zorbin {
+
+/// What a lookup is made for.
+enum class ModoGeom { Busca = 0, Espesor = 1, Interior = 2, Exterior = 3, Todo = 4, Compara = 5 };
+
+inline constexpr int kGeomHallado = 0;
+inline constexpr int kGeomNoListado = 1;  // also a typology without group
+inline constexpr int kGeomNoSeFabrica = 2;
+inline constexpr int kGeomPorCambiar = 3;  // the person wants other values
+
+/// Group of a typology by the first column it has in the table: 2, 5, 8, 11, 14; 0 for none.
+int GrupoDeTipologia(int tipologia);
+
+/// Looks a diameter [m] up and writes what the mode asks for, or compares and asks. Thickness and
+/// covers in cm. A diameter is compared in whole mm, rounded half to even.
+/// @return one of the codes above
+int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
+                     ModoGeom modo);
+
+/// Compares the dimensions of the Tramo with the recommended ones. @return 0, or the code of
+/// RecomendadosGeom
+int CompruebaRecomendados(Captura& c);
+
+/// Values offered by edEsp0, edReci0 and edRece0 for a group.
+void CargaListasGeom(Captura& c, int grupo);
+/// Diameters offered by edDi0.
+void CargaListaDiametros(Captura& c);
+
+/// Where the focus goes after a check of a dimension.
+inline constexpr int kDimAceptada = 0;
+inline constexpr int kDimSeQueda = 1;
+inline constexpr int kDimVuelveADi = 2;
+
+/// The check of edDi0. @return whether the field may be left
+bool CompruebaDi(Captura& c);
+int CompruebaEsp(Captura& c);
+int CompruebaReci(Captura& c);
+int CompruebaRece(Captura& c);
+/// The check of edB0: a 0 takes the automatic width. @return whether the field may be left
+bool CompruebaB0(Captura& c);
+
+/// De from Di and Esp, shown.
+void CalculaDe(Captura& c);
+/// Automatic width of the trench: 1.4 De + 0.68 [m].
+double AnchoAutomatico(const Captura& c);
+/// B0 takes the automatic width, shown. An embankment has no trench, and nothing happens.
+void RecalculaB0(Captura& c);
+
+}  // namespace zorbin

@@ -1,0 +1,343 @@
+#include "sesion/captura/mdTipologias.h"
+
+#include <array>
+
+#include "base/textosCaptura.h"
+#include "core/mdUnidades.h"
+#include "sesion/captura/mdAjustesTramo.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdGeometria.h"
+#include "sesion/captura/mdOrdenes.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr std::int16_t kArmada = 1210;
+constexpr std::int16_t kEmbebida = 2211;
+constexpr std::int16_t kRevestida = 2221;
+
+// A default with its value and mask in each system.
+struct Defecto {
+  Ed campo;
+  double mks;
+  double si;
+  std::string_view mascara;
+  std::string_view mascaraSI;
+};
+
+// clang-format off
+constexpr auto kDefectosArmado = std::to_array<Defecto>({
+    {Ed::edCamMax, 6.0, 6.0, "#####0.0", "#####0.0"},
+    {Ed::edGamaB, 1.5, 1.5, "#####0.00", "#####0.00"},
+    {Ed::edFck, 350.0, 35.0, "####0", "####0.0"},
+    {Ed::edFyk, 2100.0, 210.0, "#####0", "#####0.0"},
+    {Ed::edFyd, 1400.0, 140.0, "#####0", "#####0.0"},
+});
+
+constexpr auto kDefectosPostesado = std::to_array<Defecto>({
+    {Ed::edDelca, 1.5, 1.5, "#####0.00", "#####0.00"},
+    {Ed::edRel, 2.0, 2.0, "#####0.00", "#####0.00"},
+    {Ed::edFic, 1.5, 1.5, "#####0.000", "#####0.000"},
+    {Ed::edFir, 0.75, 0.75, "#####0.000", "#####0.000"},
+    {Ed::edEpsc, 0.0002, 0.0002, "######0.0000", "######0.0000"},
+    {Ed::edEpsr, 0.0003, 0.0003, "######0.0000", "######0.0000"},
+    {Ed::edFyk, 2100.0, 210.0, "#####0", "#####0.0"},
+    {Ed::edEs, 2100000.0, 210000.0, "######0", "######0"},
+    {Ed::edEp, 2000000.0, 200000.0, "######0", "######0"},
+    {Ed::edFckno, 300.0, 30.0, "#####0.00", "#####0.0"},
+    {Ed::edFckn, 400.0, 40.0, "#####0.00", "#####0.0"},
+    {Ed::edFckr, 350.0, 35.0, "#####0.00", "#####0.0"},
+    {Ed::edSFck, 17000.0, 1700.0, "#####0", "#####0"},
+    {Ed::edSf, 12750.0, 1275.0, "######0", "######0"},
+});
+
+constexpr auto kDefectosSeccion = std::to_array<Defecto>({
+    {Ed::edGc0, 2.5, 2.5, "#####0.00", "#####0.00"},
+    {Ed::edGr0, 1.8, 1.8, "#####0.00", "#####0.00"},
+    {Ed::edFi0, 30.0, 30.0, "#####0.00", "#####0.00"},
+});
+
+// Numbers cleared at every depth. Fckr is apart: its text stays.
+constexpr auto kMateriales = std::to_array<Ed>({
+    Ed::edAdato, Ed::edCamMax, Ed::edFck, Ed::edFct, Ed::edFyk, Ed::edFyd, Ed::edGamaB,
+    Ed::edCoepre1, Ed::edDelca, Ed::edEs, Ed::edEp, Ed::edFckno, Ed::edFckn, Ed::edSFck, Ed::edSf,
+    Ed::edRel, Ed::edFic, Ed::edFir, Ed::edEpsc, Ed::edEpsr});
+constexpr auto kPresionesTramo = std::to_array<Ed>({
+    Ed::edPrs1Tram, Ed::edPrs2Tram, Ed::edPrs3Tram, Ed::edPrsM1Tram, Ed::edPrsM2Tram});
+constexpr auto kSeccion = std::to_array<Ed>({
+    Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0, Ed::edRece0, Ed::edHr0, Ed::edHr0Final,
+    Ed::edHr0Delta, Ed::edB0, Ed::edQDato0, Ed::edHr1});
+// clang-format on
+
+void Aplica(Captura& c, std::span<const Defecto> defectos) {
+  for (const auto& d : defectos) {
+    Variable(c, d.campo) = c.EsSI() ? d.si : d.mks;
+    Escribe(c, d.campo, Variable(c, d.campo), c.EsSI() ? d.mascaraSI : d.mascara);
+  }
+}
+
+void Borra(Captura& c, std::span<const Ed> campos) {
+  for (const Ed campo : campos) {
+    Variable(c, campo) = 0.0;
+    Escribe(c, campo, "");
+  }
+}
+
+void PonTipologia(Captura& c, std::int16_t tipologia) {
+  auto& t = c.e.tramo;
+  t.Tipologia = tipologia;
+  t.EsArmado = tipologia < kPrimeraPostesada;
+  t.SubTipo = t.EsArmado ? 3 : 0;
+  t.PostFlag = t.EsArmado ? 0 : 1;
+}
+
+void LimpiaMarcas(Captura& c) {
+  c.e.tramo.Icontes0 = c.e.tramo.Icontes1 = false;
+  c[Ed::edIcontes0].opcion = c[Ed::edIcontes1].opcion = 0;
+  Apaga(c, Ed::edAdato);
+  Apaga(c, Ed::edCoepre1);
+}
+
+void LimpiaCabecera(Captura& c) {
+  c.EstadoCaptura = std::string(kSinTramo);
+  for (const Ed campo : {Ed::edTramo, Ed::edDescriTramo, Ed::edTramo2, Ed::edDescriTramo2}) {
+    Escribe(c, campo, "");
+  }
+  Desbloquea(c, Ed::edTramo);
+  c.e.tramo.DescriTramo.clear();
+  c.e.tramo.Tipologia = 0;
+  c.pantalla.pagina.TabTipologia = 0;
+  CambiaTipologia(c, false);
+  Borra(c, kPresionesTramo);
+  Desbloquea(c, Ed::edPrsM2Tram);
+  Bloquea(c, Ed::edPrs3Tram);
+  c[Ed::edPrs2Tram].bloqueado = false;
+  c[Ed::edPrs2Tram].tabulador = true;
+  c[Ed::edPrs2Tram].gris = true;  // grey, and yet it takes what is typed
+}
+
+void LimpiaSeccion(Captura& c) {
+  auto& t = c.e.tramo;
+  c[Ed::rdTipoColocacion].opcion = 0;
+  t.TipoColocacion = 0;
+  c.pantalla.pagina.TabDatosColocacion = 0;
+  Borra(c, kSeccion);
+  Enciende(c, Ed::edReci0);
+  Aplica(c, kDefectosSeccion);
+  EligeEntrada(c, Ed::edTipoCuna0, 1);
+  EligeEntrada(c, Ed::edTipoApoyo0, 2);
+  EligeEntrada(c, Ed::edTipoRelleno0, 3);
+  EligeEntrada(c, Ed::edICar0, 3);
+  EligeEntrada(c, Ed::edIAs, 0);
+  t.TipoCuna = 1;
+  t.TipoApoyo = 12;
+  t.TipoRelleno = 21;
+  t.ICar = 1;  // and 2 once the validation reads the field
+  t.IAs = 0;
+  c.e.corrida.Hr = c.e.corrida.Q = 0.0;
+  c.AnchoZanjaAuto = false;
+  c.EsComercial = false;
+  c.EspRecomMin = c.EspRecomMax = 0;
+  c.BandaReci = c.BandaRece = false;
+  c.pantalla.avCargas1.clear();
+  Bloquea(c, Ed::edHr0Delta);
+  Enciende(c, Ed::edICar0);
+  AplicaColocacion(c);
+}
+
+// Whether a change of typology may clear the screen.
+bool AceptaLimpieza(Captura& c) {
+  if (!c.EnModificaciones() && !c.EnCambio()) return true;
+  return c.voz.Pregunta(Texto(c, txt::CambioTipologia1) + "\n" + Texto(c, txt::CambioTipologia2) +
+                            "\n" + Texto(c, txt::CambioTipologia3) + "\n" +
+                            Texto(c, txt::DeseaContinuar),
+                        Texto(c, txt::TituloAviso));
+}
+
+std::int16_t CandidataPostesada(Captura& c) {
+  auto& opcion = c[Ed::rdTipoCamisa].opcion;
+  if (opcion < 0) opcion = 0;
+  return opcion == 1 ? kRevestida : kEmbebida;
+}
+
+void PasaAArmado(Captura& c, bool Limpiar) {
+  if (Limpiar) LimpiaCaptura(c, 1);
+  PonTipologia(c, kArmada);
+  Enciende(c, Ed::edReci0);
+  DefectosArmado(c);
+}
+
+void PasaAPostesado(Captura& c, std::int16_t candidata) {
+  if (c.e.tramo.Tipologia < kPrimeraPostesada) LimpiaCaptura(c, 2);
+  PonTipologia(c, candidata);
+  Enciende(c, Ed::edReci0);
+  // The reverse of what the option does, as it always was.
+  c[Ed::edReci0].etiquetaHabilitada = candidata == kRevestida;
+  DefectosPostesado(c);
+}
+
+// A field that only some layings ask for.
+void Pide(Captura& c, Ed campo, bool pedido) {
+  pedido ? Enciende(c, campo) : Apaga(c, campo);
+}
+
+void RellenaB0(Captura& c) {
+  if (!EnBlanco(c, Ed::edB0) || EnBlanco(c, Ed::edDi0)) return;
+  c.e.tramo.B0 = AnchoAutomatico(c);
+  MuestraVariable(c, Ed::edB0);
+}
+
+}  // namespace
+
+void DefectosArmado(Captura& c) {
+  auto& t = c.e.tramo;
+  EligeEntrada(c, Ed::edTipoControl, 1);
+  EligeEntrada(c, Ed::edTipoCamisa, 2);
+  t.TipoControl = 1;
+  t.TipoCamisa = 2;
+  t.GamaY = 1.1;
+  t.GamaF = 1.5;
+  Aplica(c, kDefectosArmado);
+  t.Fct = FctDeFck(t.Fck) / (c.EsSI() ? kFactorTension : 1.0);
+  MuestraVariable(c, Ed::edFct);
+  OlvidaCambios(c);
+}
+
+void DefectosPostesado(Captura& c) {
+  Aplica(c, kDefectosPostesado);
+  RenuevaEtiquetas(c);
+  OlvidaCambios(c);
+}
+
+void LimpiaCaptura(Captura& c, int Profundidad) {
+  auto& t = c.e.tramo;
+  if (Profundidad == 0) LimpiaCabecera(c);
+  LimpiaMarcas(c);
+  Borra(c, kMateriales);
+  t.Fckr = 0.0;
+  t.GamaY = t.GamaF = 0.0;
+  t.TipoControl = t.TipoCamisa = 0;
+  EligeEntrada(c, Ed::edTipoControl, 0);
+  EligeEntrada(c, Ed::edTipoCamisa, 0);
+  if (Profundidad < 2) c[Ed::rdTipoCamisa].opcion = -1;
+  c.pantalla.pagina.TabPostesados = 0;
+  if (Profundidad == 0) LimpiaSeccion(c);
+  if (Profundidad < 2) c.pantalla.figuraTubo.clear();
+  RenuevaEtiquetas(c);
+  RenuevaTitulo(c);
+  if (Profundidad == 0) c.pantalla.titulo = TextoUnidades(c) + Texto(c, txt::CapturaDeDatos);
+  ActualizaMenus(c);
+  OlvidaCambios(c);
+}
+
+void CambiaTipologia(Captura& c, bool Limpiar) {
+  auto& t = c.e.tramo;
+  auto& pagina = c.pantalla.pagina.TabTipologia;
+  const bool aArmado = pagina == 0;
+  const bool deOtra = aArmado ? t.Tipologia != kArmada && t.Tipologia != 0 : t.Tipologia == kArmada;
+  if (deOtra && !AceptaLimpieza(c)) {
+    pagina = aArmado ? 1 : 0;
+    return;
+  }
+  const std::int16_t candidata = aArmado ? kArmada : CandidataPostesada(c);
+  if (candidata != t.Tipologia) {
+    aArmado ? PasaAArmado(c, Limpiar) : PasaAPostesado(c, candidata);
+    CargaListasGeom(c, GrupoDeTipologia(candidata));
+  }
+  RenuevaFiguras(c);
+}
+
+void EligePaginaTipologia(Captura& c, int pagina) {
+  if (c.LeyendoDatos || pagina == c.pantalla.pagina.TabTipologia) return;
+  const auto anterior = c.e.tramo.Tipologia;
+  c.pantalla.pagina.TabTipologia = pagina;
+  if (c.pantalla.pagina.TabPrincipal == 2) c.pantalla.pagina.TabPrincipal = 1;
+  CambiaTipologia(c, true);
+  ActualizaMenus(c);
+  RenuevaTitulo(c);
+  if (c.e.tramo.Tipologia != anterior) RegistraCambios(c);
+}
+
+void EligeOpcionCamisa(Captura& c, int opcion) {
+  if (c.LeyendoDatos || c.pantalla.pagina.TabTipologia != 1) return;
+  c[Ed::rdTipoCamisa].opcion = opcion;
+  PonTipologia(c, opcion == 1 ? kRevestida : kEmbebida);
+  AplicaTipologia(c);
+  if (opcion == 1) Escribe(c, Ed::edReci0, "");
+  c.TramoEditado = true;
+  CargaListasGeom(c, GrupoDeTipologia(c.e.tramo.Tipologia));
+  RenuevaFiguras(c);
+}
+
+void EligeColocacion(Captura& c, int opcion) {
+  if (c.LeyendoDatos || opcion == c.e.tramo.TipoColocacion) return;
+  auto& t = c.e.tramo;
+  c[Ed::rdTipoColocacion].opcion = opcion;
+  t.TipoColocacion = static_cast<std::int16_t>(opcion);
+  t.TipoApoyo = opcion == 2 ? 31 : 0;
+  t.IAs = opcion == 2 ? 2 : 0;
+  EligeEntrada(c, Ed::edIAs, t.IAs);
+  if (opcion != 1 && opcion != 2) {
+    t.Hr1 = 0.0;
+    Escribe(c, Ed::edHr1, "");
+  }
+  if (opcion != 0) {
+    t.TipoRelleno = 0;
+    EligeEntrada(c, Ed::edTipoRelleno0, 0);
+  }
+  if (opcion == 2) {
+    t.B0 = 0.0;
+    Escribe(c, Ed::edB0, "");
+    EligeEntrada(c, Ed::edTipoApoyo0, 0);
+  } else {
+    if (EnBlanco(c, Ed::edTipoApoyo0)) EligeEntrada(c, Ed::edTipoApoyo0, 2);
+    RellenaB0(c);
+  }
+  c.TramoEditado = true;
+  AplicaColocacion(c);
+  RegistraCambios(c);
+}
+
+void AplicaColocacion(Captura& c) {
+  const auto colocacion = c.e.tramo.TipoColocacion;
+  Pide(c, Ed::edB0, colocacion != 2);
+  Pide(c, Ed::edTipoRelleno0, colocacion == 0);
+  Pide(c, Ed::edHr1, colocacion != 0);
+  Pide(c, Ed::edTipoApoyo0, colocacion != 2);
+  Pide(c, Ed::edIAs, colocacion == 2);
+  RenuevaFiguras(c);
+  RenuevaEtiquetas(c);
+}
+
+void AplicaTipologia(Captura& c) {
+  Pide(c, Ed::edReci0, c.e.tramo.Tipologia != kRevestida);
+}
+
+void RenuevaFiguras(Captura& c) {
+  const auto& t = c.e.tramo;
+  const int primera = t.TipoCuna == 2 ? txt::FigColocacionHormigon : txt::FigColocacionGranular;
+  c.pantalla.figuraColocacion = Texto(c, primera + t.TipoColocacion);
+  const int opcion = c[Ed::rdTipoCamisa].opcion;
+  c.pantalla.figuraTubo = Texto(c, opcion == 0   ? txt::FigTubo2211
+                                   : opcion == 1 ? txt::FigTubo2221
+                                                 : txt::FigTubo2110);
+}
+
+void BloqueosObra(Captura& c) {
+  const auto& o = c.e.obra;
+  const bool rango = o.PrsM2 > 0 && o.PrsM2 > o.PrsM1;
+  Libera(c, Ed::edPrs2, rango);
+  Libera(c, Ed::edPrs3, rango);
+  Libera(c, Ed::edAlt3, o.Alt2 > o.Alt1);
+}
+
+void BloqueosTramo(Captura& c) {
+  const auto& t = c.e.tramo;
+  const bool rango = t.PrsM2Tram > 0 && t.PrsM2Tram > t.PrsM1Tram;
+  Libera(c, Ed::edPrs2Tram, rango);
+  Libera(c, Ed::edPrs3Tram, rango);
+  Libera(c, Ed::edHr0Delta, t.Hr0Final > t.Hr0Tramo);
+}
+
+}  // namespace zorbin

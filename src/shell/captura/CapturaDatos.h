@@ -1,0 +1,140 @@
+// The capture screen `CapturaDatos`: three pages drawn over the model of the capture. It decides
+// nothing: every moment of a field goes to the rules, and what they left in the model is shown.
+#pragma once
+
+#include <QMap>
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "sesion/captura/mdCaptura.h"
+#include "shell/captura/mdCampoPantalla.h"
+#include "shell/piezas/mdEntorno.h"
+#include "shell/piezas/mdVigilanteFoco.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QToolButton;
+class QTreeWidget;
+
+namespace zorbin {
+
+class Figura;
+class Pestanas;
+
+class CapturaDatos : public QWidget {
+  Q_OBJECT
+
+ public:
+  CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre = nullptr);
+  ~CapturaDatos() override;
+
+  /// Brings the screen to what the model says.
+  void Refresca();
+
+  /// Every text that is not the model's, in the language in force; and the screen.
+  void RenuevaTextos();
+
+  /// The list of the stored Tramos, read anew.
+  void RenuevaTramos();
+
+  /// Runs an action on the capture and shows what it left, the focus where the model has it. The
+  /// field in hand is left first, and where it refuses nothing is done, unless the action
+  /// abandons what was typed.
+  /// @return whether the action ran
+  bool Hace(const std::function<void()>& accion, bool abandona = false);
+
+  CampoPantalla& campo(Ed id) const { return *campos_[static_cast<std::size_t>(id)]; }
+
+ signals:
+  /// The model changed: menus, title and status follow it.
+  void cambiada();
+  /// A button was pressed.
+  void pedida(zorbin::Orden orden);
+  /// A picture is to be seen large.
+  void figuraPedida(const QString& fichero, const QString& titulo);
+
+ protected:
+  void changeEvent(QEvent* suceso) override;
+  void keyPressEvent(QKeyEvent* suceso) override;
+
+ private:
+  struct Boton {
+    QPushButton* widget;
+    Orden orden;
+    int texto;
+  };
+  struct Rotulado {
+    std::function<void(const QString&)> pon;
+    int texto;
+  };
+
+  Captura& c_;
+  const Entorno& entorno_;
+  std::array<CampoPantalla*, kCamposCaptura> campos_{};
+  QMap<QWidget*, Ed> porWidget_;
+  std::vector<Boton> botones_;
+  std::vector<Rotulado> rotulados_;  // texts of the catalogue that the model does not hold
+  VigilanteFoco* vigilante_ = nullptr;
+  bool refrescando_ = false;
+
+  QLabel* titulo_ = nullptr;
+  QToolButton* cierre_ = nullptr;
+  QLabel* falta_ = nullptr;  // why the last field was refused
+  QLabel* avCargas1_ = nullptr;
+  Pestanas* TabPrincipal_ = nullptr;
+  Pestanas* TabTipologia_ = nullptr;
+  Pestanas* TabPostesados_ = nullptr;
+  Pestanas* TabDatosColocacion_ = nullptr;
+  Figura* ptPostesado_ = nullptr;
+  Figura* ptPostesado2_ = nullptr;
+  Figura* ptColocacion_ = nullptr;
+  QTreeWidget* tramos_ = nullptr;
+  QGroupBox* alturas_ = nullptr;
+  QWidget* barraObra_ = nullptr;
+  QWidget* barraTramo_ = nullptr;
+  // Captions over columns of fields come from the fields.
+  struct Cabecera {
+    QLabel* rotulo;
+    Ed campo;
+  };
+  std::vector<Cabecera> cabeceras_;
+
+  void CreaCampos();
+  QWidget* CreaCabecera();
+  QWidget* CreaBotones();
+  QWidget* CreaPaginaObra();
+  QWidget* CreaTramos();
+  QWidget* CreaPaginaTramo();
+  QWidget* CreaPaginaColocacion();
+  QWidget* CreaPaginaArmado();
+  QWidget* CreaPaginaPostesado();
+  QWidget* CreaPaginaTubo();
+  QWidget* CreaPaginaRelleno();
+  QWidget* CreaPaginaCargas();
+  QGroupBox* CreaGrupo(int texto);
+  QWidget* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
+  QWidget* CreaFormulario(std::initializer_list<Ed> campos);
+  void PonFila(QGridLayout& rejilla, int fila, Ed campo);
+  void PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos);
+  Figura* CreaFigura(int minimo);
+  void CreaBoton(QWidget& barra, Orden orden, int texto);
+  void OrdenaTabulador();
+  void Enlaza(CampoPantalla& campo);
+  void EligeEntradaDe(CampoPantalla& campo, const QString& texto);
+  void EnlazaPestanas();
+  void PideAyuda();
+
+  QWidget* Entra(QWidget* widget);
+  QWidget* Sale(QWidget* widget);
+  QWidget* Destino(Ed campo) const;
+  void TrasAccion();
+  void RefrescaFigura(Figura& figura, const std::string& nombre);
+  MarcaCampo MarcaDe(Ed campo) const;
+  QString PorqueDe(MarcaCampo marca) const;
+};
+
+}  // namespace zorbin

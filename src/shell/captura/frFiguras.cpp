@@ -1,0 +1,70 @@
+#include "shell/captura/frFiguras.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kMargen = 4;  // [px]
+
+}  // namespace
+
+Figura::Figura(QWidget* padre) : QWidget(padre) {
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void Figura::Pon(const QString& ruta) {
+  if (ruta == ruta_) return;
+  ruta_ = ruta;
+  imagen_ = ruta.isEmpty() ? QPixmap() : QPixmap(ruta);
+  updateGeometry();
+  update();
+}
+
+QSize Figura::sizeHint() const {
+  return {360, 260};
+}
+
+void Figura::paintEvent(QPaintEvent*) {
+  if (imagen_.isNull()) return;
+  const auto hueco = rect().adjusted(kMargen, kMargen, -kMargen, -kMargen);
+  const double escala = devicePixelRatioF();
+  const auto cabe = imagen_.size().scaled(hueco.size(), Qt::KeepAspectRatio);
+  const QRect caja(hueco.left() + (hueco.width() - cabe.width()) / 2,
+                   hueco.top() + (hueco.height() - cabe.height()) / 2, cabe.width(), cabe.height());
+  QPainter pintor(this);
+  // The drawings are black on white, in a dark theme too.
+  pintor.fillRect(caja.adjusted(-kMargen, -kMargen, kMargen, kMargen), Qt::white);
+  auto dibujo = imagen_.scaled(cabe * escala, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  dibujo.setDevicePixelRatio(escala);
+  pintor.drawPixmap(caja, dibujo);
+}
+
+void Figura::mouseDoubleClickEvent(QMouseEvent*) {
+  if (Hay()) emit dobleClic();
+}
+
+void Figura::keyPressEvent(QKeyEvent* suceso) {
+  if (Hay() && (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Space)) {
+    emit dobleClic();
+  } else {
+    QWidget::keyPressEvent(suceso);
+  }
+}
+
+frFiguras::frFiguras(const QString& ruta, const QString& titulo, QWidget* padre) : QDialog(padre) {
+  setWindowTitle(titulo);
+  setAttribute(Qt::WA_DeleteOnClose);
+  auto* filas = new QVBoxLayout(this);
+  auto* figura = new Figura(this);
+  figura->setAccessibleName(titulo);
+  figura->Pon(ruta);
+  filas->addWidget(figura);
+  resize(900, 640);
+}
+
+}  // namespace zorbin

@@ -1,0 +1,556 @@
+#include "shell/principal/FormaPrincipal.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSessionManager>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include "base/textosBorrador.h"
+#include "base/textosCaptura.h"
+#include "base/textosShell.h"
+#include "sesion/captura/mdAjustesTramo.h"
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "shell/captura/CapturaDatos.h"
+#include "shell/captura/frFiguras.h"
+#include "shell/piezas/mdDialogos.h"
+#include "shell/piezas/mdIconos.h"
+#include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdRotuloCorto.h"
+#include "shell/principal/mdAvisoEstado.h"
+#include "shell/principal/mdPaginaInicio.h"
+
+namespace zorbin {
+
+namespace {
+
+const QString kNombreVentana = QStringLiteral("FormaPrincipal");
+constexpr int kSinRuta = 0;
+
+// Letters that the tabs of the capture answer to, in capitals: the menus take others.
+QString LetrasDePestanas(const Catalogo& textos) {
+  QString letras;
+  for (const int entrada :
+       {txt::PagObra, txt::PagObra + 1, txt::PagObra + 2, txt::PagArmado, txt::PagPostesado,
+        txt::PagModulos, txt::PagResistencias, txt::PagTensiones, txt::PagCoeficientes,
+        txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
+    const QString texto = Q(textos.Texto(entrada));
+    const auto marca = texto.indexOf(QLatin1Char('&'));
+    if (marca >= 0 && marca + 1 < texto.size()) letras += texto[marca + 1].toUpper();
+  }
+  return letras;
+}
+
+bool EsDeObra(const QString& ruta) {
+  return ruta.endsWith(QStringLiteral(".zrb"), Qt::CaseInsensitive);
+}
+
+}  // namespace
+
+FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padre)
+    : QMainWindow(padre), c_(c), entorno_(entorno) {
+  setObjectName(kNombreVentana);
+  setWindowTitle(QString::fromLatin1(kTituloAplicacion));
+  setAcceptDrops(true);
+  centro_ = new QStackedWidget(this);
+  inicio_ = new PaginaInicio(entorno, this);
+  centro_->addWidget(inicio_);
+  setCentralWidget(centro_);
+  connect(inicio_, &PaginaInicio::nuevaPedida, this, &FormaPrincipal::Nueva);
+  connect(inicio_, &PaginaInicio::abrirPedido, this, &FormaPrincipal::AbreConDialogo);
+  connect(inicio_, &PaginaInicio::obraPedida, this, &FormaPrincipal::Abre);
+  CreaMenus();
+  CreaBarra();
+  CreaEstado();
+  connect(
+      qApp, &QGuiApplication::commitDataRequest, this,
+      [this](QSessionManager& sesion) { GuardaSesion(sesion); }, Qt::DirectConnection);
+  AplicaIdioma();
+  resize(1180, 720);
+  entorno_.preferencias.RecuperaVentana(kNombreVentana, *this);
+  restoreState(entorno_.preferencias.Estado(kNombreVentana));
+}
+
+FormaPrincipal::~FormaPrincipal() = default;
+
+// Made when it is first needed: the window stands at once.
+CapturaDatos& FormaPrincipal::captura() {
+  if (captura_ != nullptr) return *captura_;
+  captura_ = new CapturaDatos(c_, entorno_, this);
+  centro_->addWidget(captura_);
+  connect(captura_, &CapturaDatos::cambiada, this, &FormaPrincipal::Actualiza);
+  connect(captura_, &CapturaDatos::pedida, this, [this](Orden o) { Ejecuta(o); });
+  connect(captura_, &CapturaDatos::figuraPedida, this,
+          [this](const QString& ruta, const QString& titulo) {
+            (new frFiguras(ruta, titulo, this))->show();
+          });
+  return *captura_;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Menus
+
+QMenu* FormaPrincipal::NuevoMenu(int texto) {
+  auto* menu = menuBar()->addMenu(QString());
+  menus_.push_back({menu, texto, {}});
+  return menu;
+}
+
+QAction* FormaPrincipal::NuevaAccion(QMenu& menu, int texto, const QKeySequence& tecla,
+                                     const std::function<void()>& hace) {
+  auto* accion = new QAction(this);
+  accion->setShortcut(tecla);
+  menu.addAction(accion);
+  menus_.back().acciones.push_back(accion);
+  entradas_.push_back({accion, texto});
+  connect(accion, &QAction::triggered, this, [this, hace] { Protege(hace); });
+  return accion;
+}
+
+QAction* FormaPrincipal::NuevaAccion(QMenu& menu, Orden orden, int texto,
+                                     const QKeySequence& tecla) {
+  auto* accion = NuevaAccion(menu, texto, tecla, [this, orden] { Ejecuta(orden); });
+  acciones_[orden] = accion;
+  return accion;
+}
+
+void FormaPrincipal::CreaMenus() {
+  auto* obras = NuevoMenu(txt::MenuObras);
+  NuevaAccion(*obras, Orden::MnAbriFichero, txt::MenuAbrir, QKeySequence::Open);
+  NuevaAccion(*obras, Orden::MnNuevaObra, txt::MenuNueva, QKeySequence::New);
+  NuevaAccion(*obras, Orden::MnSeleccionarImpresora, txt::MenuImpresora, {});
+  NuevaAccion(*obras, Orden::MnImprimir, txt::MenuImprimir, QKeySequence::Print);
+  NuevaAccion(*obras, Orden::mnGrabaObra, txt::MenuGrabaObra, QKeySequence::Save);
+  NuevaAccion(*obras, Orden::mnCerrarObra, txt::MenuCerrar, Qt::CTRL | Qt::Key_W);
+  obras->addSeparator();
+  recientes_ = obras->addMenu(QString());
+  menus_.back().acciones.push_back(recientes_->menuAction());
+  entradas_.push_back({recientes_->menuAction(), txt::MenuRecientes});
+  obras->addSeparator();
+  auto* salir = NuevaAccion(*obras, Orden::mnSalir, txt::MenuSalir, Qt::CTRL | Qt::Key_Q);
+  salir->setMenuRole(QAction::QuitRole);
+  auto* tramos = NuevoMenu(txt::MenuTramos);
+  acciones_[Orden::mnTramos] = tramos->menuAction();
+  NuevaAccion(*tramos, Orden::mnNuevoTramo, txt::MenuNuevoTramo, Qt::CTRL | Qt::Key_T);
+  NuevaAccion(*tramos, Orden::mnCancelar, txt::MenuCancelar, Qt::Key_Escape);
+  NuevaAccion(*tramos, Orden::mnGrabaTramo, txt::MenuGrabaTramo, Qt::CTRL | Qt::Key_G);
+  NuevaAccion(*tramos, Orden::mnCalculaTramo, txt::MenuCalcula, Qt::Key_F9);
+  NuevaAccion(*tramos, Orden::mnAjustarArmaduras, txt::MenuAjustar, {});
+  auto* otras = NuevoMenu(txt::MenuOtras);
+  NuevaAccion(*otras, txt::MenuHidraulico, {}, [this] {
+    pantallas_.hidraulico();
+  })->setObjectName(QStringLiteral("mnCalculoHidraulico"));
+  NuevaAccion(*otras, txt::MenuMedidas, {}, [this] {
+    pantallas_.medidas();
+  })->setObjectName(QStringLiteral("mnMedidas"));
+  auto* ayuda = NuevoMenu(txt::MenuAyuda);
+  NuevaAccion(*ayuda, txt::MenuContenido, {}, [this] { pantallas_.contenido(); });
+  NuevaAccion(*ayuda, txt::MenuIndice, {}, [this] { pantallas_.indice(); });
+  NuevaAccion(*ayuda, txt::MenuAcercaDe, {}, [this] {
+    pantallas_.acercaDe();
+  })->setObjectName(QStringLiteral("mnAcercaDe"));
+  NuevaAccion(*ayuda, txt::MenuAdvertencia, {}, [this] {
+    pantallas_.advertencia();
+  })->setObjectName(QStringLiteral("mnAdvertencia"));
+  NuevaAccion(*ayuda, txt::MenuMemoria, {}, [this] {
+    pantallas_.memoria();
+  })->setObjectName(QStringLiteral("mnMemoria"));
+}
+
+void FormaPrincipal::CreaBarra() {
+  barra_ = addToolBar(QString());
+  barra_->setObjectName(QStringLiteral("barra"));
+  barra_->setIconSize({22, 22});
+  for (const Orden o : {Orden::MnNuevaObra, Orden::MnAbriFichero, Orden::mnGrabaObra}) {
+    barra_->addAction(acciones_[o]);
+  }
+  barra_->addSeparator();
+  for (const Orden o : {Orden::mnNuevoTramo, Orden::mnGrabaTramo, Orden::mnCancelar,
+                        Orden::mnCalculaTramo, Orden::mnAjustarArmaduras}) {
+    barra_->addAction(acciones_[o]);
+  }
+  barra_->addSeparator();
+  barra_->addAction(acciones_[Orden::MnImprimir]);
+  barra_->addSeparator();
+  barra_->addAction(findChild<QAction*>(QStringLiteral("mnCalculoHidraulico")));
+  barra_->addAction(findChild<QAction*>(QStringLiteral("mnMedidas")));
+  DibujaIconos();
+}
+
+void FormaPrincipal::DibujaIconos() {
+  const auto pon = [this](QAction* accion, Icono icono) {
+    accion->setIcon(DibujaIcono(icono, palette()));
+  };
+  pon(acciones_[Orden::MnNuevaObra], Icono::Nueva);
+  pon(acciones_[Orden::MnAbriFichero], Icono::Abrir);
+  pon(acciones_[Orden::mnGrabaObra], Icono::Grabar);
+  pon(acciones_[Orden::MnImprimir], Icono::Imprimir);
+  pon(acciones_[Orden::mnNuevoTramo], Icono::NuevoTramo);
+  pon(acciones_[Orden::mnGrabaTramo], Icono::GrabarTramo);
+  pon(acciones_[Orden::mnCancelar], Icono::Cancelar);
+  pon(acciones_[Orden::mnCalculaTramo], Icono::Calcular);
+  pon(acciones_[Orden::mnAjustarArmaduras], Icono::Ajustar);
+  pon(findChild<QAction*>(QStringLiteral("mnCalculoHidraulico")), Icono::Hidraulico);
+  pon(findChild<QAction*>(QStringLiteral("mnMedidas")), Icono::Medios);
+}
+
+void FormaPrincipal::CreaEstado() {
+  aviso_ = new AvisoEstado(c_.textos, this);
+  statusBar()->addPermanentWidget(aviso_);
+  estadoObra_ = new RotuloCorto(this);
+  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
+  for (auto** rotulo : {&estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
+    *rotulo = new QLabel(this);
+    (*rotulo)->setTextFormat(Qt::PlainText);
+  }
+  for (auto* rotulo : {estadoObra_, estadoCaptura_, estadoUnidades_, estadoIdioma_}) {
+    rotulo->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(rotulo, rotulo == estadoObra_ ? 1 : 0);
+  }
+}
+
+// A letter of each entry answers to the keyboard; where the text marks one, it is that.
+void FormaPrincipal::PonMnemonicos() {
+  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas,
+                          QString usadas = {}) {
+    for (const auto& [accion, texto] : entradas) {
+      const auto marca = texto.indexOf(QLatin1Char('&'));
+      if (marca >= 0 && marca + 1 < texto.size()) usadas += texto[marca + 1].toUpper();
+    }
+    for (const auto& [accion, texto] : entradas) {
+      QString con = texto;
+      if (!texto.contains(QLatin1Char('&'))) {
+        for (qsizetype i = 0; i < texto.size(); ++i) {
+          if (!texto[i].isLetter() || usadas.contains(texto[i].toUpper())) continue;
+          usadas += texto[i].toUpper();
+          con.insert(i, QLatin1Char('&'));
+          break;
+        }
+      }
+      accion->setText(con);
+    }
+  };
+  std::vector<std::pair<QAction*, QString>> principales;
+  for (const auto& menu : menus_) {
+    principales.emplace_back(menu.menu->menuAction(), Q(c_.textos.Texto(menu.texto)));
+    std::vector<std::pair<QAction*, QString>> entradas;
+    for (auto* accion : menu.acciones) {
+      const auto e = std::find_if(entradas_.begin(), entradas_.end(),
+                                  [&](const Entrada& x) { return x.accion == accion; });
+      entradas.emplace_back(accion, Q(c_.textos.Texto(e->texto)));
+    }
+    reparte(entradas);
+  }
+  reparte(principales, LetrasDePestanas(c_.textos));
+}
+
+void FormaPrincipal::AplicaIdioma() {
+  idiomaPuesto_ = c_.textos.IdiomaOffset();
+  if (captura_ != nullptr) captura_->RenuevaTextos();
+  PonMnemonicos();
+  for (const auto& entrada : entradas_) {
+    const QString texto = Rotulo(c_.textos.Texto(entrada.texto)).remove(QLatin1Char('&'));
+    const auto tecla = entrada.accion->shortcut().toString(QKeySequence::NativeText);
+    entrada.accion->setToolTip(tecla.isEmpty() ? texto : texto + " (" + tecla + ")");
+  }
+  barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
+  inicio_->Renueva();
+  if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
+  Actualiza();
+}
+
+// ---------------------------------------------------------------------------------------------
+// State
+
+void FormaPrincipal::Actualiza() {
+  if (c_.textos.IdiomaOffset() != idiomaPuesto_) {
+    AplicaIdioma();
+    return;
+  }
+  for (const auto& [orden, accion] : acciones_) {
+    accion->setEnabled(c_.pantalla.Habilitada(orden));
+  }
+  QWidget* delante = c_.ObraCargada ? static_cast<QWidget*>(&captura()) : inicio_;
+  if (centro_->currentWidget() != delante) {
+    centro_->setCurrentWidget(delante);
+    if (delante == inicio_) inicio_->Renueva();
+    ActualizaRecientes();
+  }
+  ActualizaEstado();
+  emit actualizada();
+}
+
+QString FormaPrincipal::NombreDeIdioma() const {
+  return Q(c_.textos.Texto(txt::EntradaIdioma + c_.textos.IdiomaOffset() / kPasoIdioma));
+}
+
+QString FormaPrincipal::NombreDeObra() const {
+  if (!c_.e.obra.ObraAbierta) return Q(c_.textos.Texto(txt::ObraSinFichero));
+  const QString nombre = QFileInfo(Q(c_.e.obra.NombreFichero)).fileName();
+  if (!c_.SoloLectura()) return nombre;
+  return nombre + QStringLiteral(" (") + Q(c_.textos.Texto(txt::MarcaSoloLectura)) + ')';
+}
+
+void FormaPrincipal::Anuncia(const QString& texto) {
+  aviso_->Anade(texto);
+}
+
+void FormaPrincipal::ActualizaEstado() {
+  const auto texto = [this](int n) { return Q(c_.textos.Texto(n)); };
+  estadoIdioma_->setText(NombreDeIdioma());
+  setWindowModified(c_.EnCambio());
+  if (!c_.EnCambio()) aviso_->Quita(std::exchange(recuperado_, {}));
+  if (!c_.ObraCargada) {
+    setWindowTitle(QString::fromLatin1(kTituloAplicacion));
+    estadoObra_->setText(texto(txt::SinObra));
+    estadoCaptura_->clear();
+    estadoUnidades_->clear();
+    return;
+  }
+  const QString ruta =
+      c_.e.obra.ObraAbierta ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
+  setWindowTitle(EnTitulo(NombreDeObra()) + QStringLiteral("[*] - ") +
+                 QString::fromLatin1(kTituloAplicacion));
+  estadoObra_->setText(c_.EnCambio() ? ruta + "  -  " + texto(txt::SinGuardar) : ruta);
+  estadoObra_->setToolTip(Consejo(ruta));
+  estadoUnidades_->setText(texto(c_.EsSI() ? txt::SistemaSI : txt::SistemaMKS));
+  const QString tramo = texto(txt::RotTramo) + ' ' + Q(c_[Ed::edTramo].texto);
+  estadoCaptura_->setText(c_.EnAltas()            ? tramo + ' ' + texto(txt::AltaDeTramo)
+                          : c_.EnModificaciones() ? tramo + ' ' + texto(txt::ModificacionDeTramo)
+                                                  : texto(txt::SinTramo));
+}
+
+void FormaPrincipal::ActualizaRecientes() {
+  recientes_->clear();
+  const auto rutas = entorno_.preferencias.ObrasRecientes();
+  int n = kSinRuta;
+  for (const auto& ruta : rutas) {
+    QString texto = QFileInfo(ruta).fileName() + " - " + QFileInfo(ruta).absolutePath();
+    texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    texto.replace(QLatin1Char('\t'), QLatin1Char(' '));  // what follows one is taken for a key
+    auto* accion = recientes_->addAction(QStringLiteral("&%1 ").arg(++n) + texto);
+    connect(accion, &QAction::triggered, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
+  }
+  recientes_->setEnabled(!rutas.isEmpty());
+}
+
+// ---------------------------------------------------------------------------------------------
+// Actions
+
+// A failure that no action foresaw is told; what was typed stays.
+void FormaPrincipal::Protege(const std::function<void()>& hace) {
+  if (ocupada_ || !hace) return;
+  ocupada_ = true;
+  try {
+    hace();
+  } catch (const ErrorFichero& error) {
+    Avisa(this, c_.textos, Q(TextoDeError(c_, error)));
+  } catch (const std::exception& error) {
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, &error));
+  } catch (...) {
+    Avisa(this, c_.textos, TextoInesperado(c_.textos, nullptr));
+  }
+  ocupada_ = false;
+  if (captura_ != nullptr) captura_->Refresca();
+  Actualiza();
+}
+
+void FormaPrincipal::Ejecuta(Orden orden) {
+  if (ocupada_) return EjecutaDeVerdad(orden);
+  Protege([this, orden] { EjecutaDeVerdad(orden); });
+}
+
+void FormaPrincipal::LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo) {
+  if (!pantalla) return;
+  captura().Hace(pantalla, !dejaCampo);
+}
+
+void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
+  switch (orden) {
+    case Orden::MnAbriFichero:
+      return AbreConDialogo();
+    case Orden::MnNuevaObra:
+      return Nueva();
+    case Orden::MnSeleccionarImpresora:
+      if (pantallas_.seleccionaImpresora) pantallas_.seleccionaImpresora();
+      return;
+    case Orden::MnImprimir:
+    case Orden::btImprimir:
+      return LanzaPantalla(pantallas_.imprimeObra, true);
+    case Orden::mnGrabaObra:
+    case Orden::btGrabaObra:
+      captura().Hace([this] { Graba(AccionGrabaObra); });
+      return ActualizaRecientes();
+    case Orden::mnCerrarObra:
+    case Orden::btCerrarObra:
+      Cierra();
+      return;
+    case Orden::mnSalir:
+      close();
+      return;
+    case Orden::mnNuevoTramo:
+    case Orden::btNuevoTramo:
+      captura().Hace([this] { NuevoTramo(c_); });
+      return;
+    case Orden::mnCancelar:
+    case Orden::btCancelar:
+      captura().Hace([this] { CancelaCaptura(c_); }, true);
+      return;
+    case Orden::mnGrabaTramo:
+    case Orden::btGrabar:
+      captura().Hace([this] { Graba(AccionGrabaTramo); });
+      captura().RenuevaTramos();
+      return ActualizaRecientes();
+    case Orden::mnCalculaTramo:
+    case Orden::btCalcular:
+      return LanzaPantalla(pantallas_.calculaTramo, true);
+    case Orden::mnAjustarArmaduras:
+    case Orden::btAjustar:
+      return LanzaPantalla(pantallas_.ajusta, true);
+    case Orden::mnTramos:
+      return;
+  }
+}
+
+// The language of a new Obra is that of the program from its first save on.
+void FormaPrincipal::Graba(bool (*grabacion)(Captura&)) {
+  const bool nueva = !c_.e.obra.ObraAbierta;
+  if (!grabacion(c_)) return;
+  entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
+  if (nueva) entorno_.preferencias.GrabaIdioma(c_.e.obra.Idioma);
+}
+
+void FormaPrincipal::AbreConDialogo() {
+  if (c_.ObraCargada) return;
+  QFileDialog dialogo(this, Q(c_.textos.Texto(txt::TituloAbrir)),
+                      entorno_.preferencias.UltimaCarpeta(), FiltrosObra(c_.textos));
+  dialogo.setFileMode(QFileDialog::ExistingFile);
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
+    Avisa(this, c_.textos, Q(c_.textos.Texto(txt::NingunFichero)));
+    return;
+  }
+  AbreFichero(dialogo.selectedFiles().constFirst());
+}
+
+bool FormaPrincipal::Abre(const QString& ruta) {
+  if (c_.ObraCargada && !Cierra()) return false;
+  if (!EsDeObra(ruta)) {
+    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::NoEsObra, {S(ruta)})));
+    return false;
+  }
+  return AbreFichero(ruta);
+}
+
+bool FormaPrincipal::AbreFichero(const QString& ruta) {
+  bool abierta = false;
+  aviso_->Vacia();
+  captura().Hace(
+      [&] { abierta = AbreObra(c_, std::filesystem::path(QFile::encodeName(ruta).toStdString())); },
+      true);
+  if (abierta) {
+    entorno_.preferencias.AnotaObra(ruta);
+  } else {
+    entorno_.preferencias.OlvidaObra(ruta);
+  }
+  captura().RenuevaTramos();
+  ActualizaRecientes();
+  Actualiza();
+  return abierta;
+}
+
+bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
+  if (c_.ObraCargada) return false;
+  if (deFichero) {
+    if (!AbreFichero(QFile::decodeName(b.fichero.c_str()))) return false;
+    if (c_.SoloLectura()) {
+      Cierra();
+      return false;
+    }
+  } else {
+    Nueva();
+  }
+  captura().Hace([&] { PonBorrador(c_, b); }, true);
+  captura().RenuevaTramos();
+  recuperado_ = Q(c_.textos.Texto(txt::Recuperado));
+  Anuncia(recuperado_);
+  Actualiza();
+  return true;
+}
+
+void FormaPrincipal::Nueva() {
+  if (c_.ObraCargada) return;
+  aviso_->Vacia();
+  captura().Hace(
+      [this] {
+        NuevaObra(c_);
+        captura().RenuevaTramos();
+        if (!entorno_.preferencias.NuevaEnSI()) RevisaUnidades(c_, "MKS");
+      },
+      true);
+  // The page was not in sight when the action ended.
+  captura().Hace([] {}, true);
+}
+
+bool FormaPrincipal::Cierra() {
+  bool cerrada = false;
+  captura().Hace([&] { cerrada = CierraObra(c_); }, true);
+  if (cerrada) aviso_->Vacia();
+  return cerrada;
+}
+
+void FormaPrincipal::closeEvent(QCloseEvent* suceso) {
+  if (c_.ObraCargada && !Cierra()) {
+    suceso->ignore();
+    return;
+  }
+  entorno_.preferencias.GuardaVentana(kNombreVentana, *this);
+  entorno_.preferencias.GuardaEstado(kNombreVentana, saveState());
+  if (!entorno_.preferencias.Guarda()) {
+    Avisa(this, c_.textos,
+          Q(c_.textos.Compone(txt::AjustesSinGuardar, {S(entorno_.preferencias.Fichero())})));
+  }
+  suceso->accept();
+  QApplication::closeAllWindows();
+}
+
+// Logging out with unsaved edits is refused, as closing is.
+void FormaPrincipal::GuardaSesion(QSessionManager& sesion) {
+  if (!c_.EnCambio()) return;
+  if (sesion.allowsInteraction()) {
+    Cierra();
+    sesion.release();
+  }
+  sesion.cancel();
+}
+
+void FormaPrincipal::dragEnterEvent(QDragEnterEvent* suceso) {
+  const auto direcciones = suceso->mimeData()->urls();
+  if (direcciones.size() == 1 && direcciones.constFirst().isLocalFile()) {
+    suceso->acceptProposedAction();
+  }
+}
+
+void FormaPrincipal::dropEvent(QDropEvent* suceso) {
+  const QString ruta = suceso->mimeData()->urls().constFirst().toLocalFile();
+  suceso->acceptProposedAction();
+  // After the drop, so that the program it came from does not wait for a message box.
+  QTimer::singleShot(0, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
+}
+
+void FormaPrincipal::changeEvent(QEvent* suceso) {
+  QMainWindow::changeEvent(suceso);
+  if (suceso->type() == QEvent::PaletteChange && barra_ != nullptr) DibujaIconos();
+}
+
+}  // namespace zorbin

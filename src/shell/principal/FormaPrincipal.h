@@ -1,0 +1,141 @@
+// The main window `FormaPrincipal`: menus, toolbar, status, and every other screen as its child.
+//
+// What the menus of Obra and Tramo offer is the model's; a menu entry, its button and its key are
+// one action.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "sesion/captura/mdBorrador.h"
+#include "sesion/captura/mdCaptura.h"
+#include "shell/captura/mdInterlocutorQt.h"
+#include "shell/piezas/mdEntorno.h"
+
+class QLabel;
+class QMenu;
+class QSessionManager;
+class QStackedWidget;
+class QToolBar;
+
+namespace zorbin {
+
+class AvisoEstado;
+class CapturaDatos;
+class PaginaInicio;
+
+/// Screens that the window opens and does not make. Each runs to its end, or shows a window of its
+/// own and comes back.
+struct Pantallas {
+  std::function<void()> calculaTramo;
+  std::function<void()> imprimeObra;
+  std::function<void()> ajusta;
+  std::function<void()> seleccionaImpresora;
+  std::function<void()> hidraulico;
+  std::function<void()> medidas;
+  std::function<void()> contenido;
+  std::function<void()> indice;
+  std::function<void()> acercaDe;
+  std::function<void()> advertencia;
+  std::function<void()> memoria;
+  /// The language in force changed: windows that are open write their texts anew.
+  std::function<void()> renuevaTextos;
+};
+
+class FormaPrincipal : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padre = nullptr);
+  ~FormaPrincipal() override;
+
+  void PonPantallas(Pantallas pantallas) { pantallas_ = std::move(pantallas); }
+
+  /// Opens an Obra by its file; one that is open is closed first, unless it has unsaved edits.
+  bool Abre(const QString& ruta);
+
+  /// Opens the Obra of a draft, or begins a new one, and puts the draft on the screen. An Obra that
+  /// can't be opened for writing takes none.
+  bool Recupera(const Borrador& b, bool deFichero);
+
+  /// Tells in the status bar what needs no answer; it stays there until the Obra is closed.
+  void Anuncia(const QString& texto);
+
+  CapturaDatos& captura();
+  QAction* accion(Orden orden) const { return acciones_.at(orden); }
+
+  /// All texts in the language in force.
+  void AplicaIdioma();
+
+ public slots:
+  void AbreConDialogo();
+  void Nueva();
+  bool Cierra();
+
+ signals:
+  /// The capture may have changed.
+  void actualizada();
+
+ protected:
+  void closeEvent(QCloseEvent* suceso) override;
+  void dragEnterEvent(QDragEnterEvent* suceso) override;
+  void dropEvent(QDropEvent* suceso) override;
+  void changeEvent(QEvent* suceso) override;
+
+ private:
+  struct Entrada {
+    QAction* accion;
+    int texto;
+  };
+  struct Menu {
+    QMenu* menu;
+    int texto;
+    std::vector<QAction*> acciones;
+  };
+
+  Captura& c_;
+  const Entorno& entorno_;
+  Pantallas pantallas_;
+  CapturaDatos* captura_ = nullptr;
+  PaginaInicio* inicio_ = nullptr;
+  QStackedWidget* centro_ = nullptr;
+  QToolBar* barra_ = nullptr;
+  QMenu* recientes_ = nullptr;
+  std::vector<Menu> menus_;
+  std::vector<Entrada> entradas_;
+  std::map<Orden, QAction*> acciones_;
+  AvisoEstado* aviso_ = nullptr;
+  QLabel* estadoUnidades_ = nullptr;
+  QLabel* estadoIdioma_ = nullptr;
+  QLabel* estadoObra_ = nullptr;
+  QLabel* estadoCaptura_ = nullptr;
+  QString recuperado_;  // announcement of recovered work that is not yet saved
+  int idiomaPuesto_ = 0;
+  bool ocupada_ = false;  // an action is running: none other begins
+
+  void CreaMenus();
+  void CreaBarra();
+  void CreaEstado();
+  QMenu* NuevoMenu(int texto);
+  QAction* NuevaAccion(QMenu& menu, int texto, const QKeySequence& tecla,
+                       const std::function<void()>& hace);
+  QAction* NuevaAccion(QMenu& menu, Orden orden, int texto, const QKeySequence& tecla);
+  void PonMnemonicos();
+  void Ejecuta(Orden orden);
+  void EjecutaDeVerdad(Orden orden);
+  void Protege(const std::function<void()>& hace);
+  void LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo);
+  void Graba(bool (*grabacion)(Captura&));
+  bool AbreFichero(const QString& ruta);
+  void Actualiza();
+  void ActualizaEstado();
+  QString NombreDeObra() const;
+  void ActualizaRecientes();
+  void DibujaIconos();
+  void GuardaSesion(QSessionManager& sesion);
+  QString NombreDeIdioma() const;
+};
+
+}  // namespace zorbin

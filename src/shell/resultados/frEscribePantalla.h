@@ -1,0 +1,65 @@
+// The summary screen: what a calculation found, as text, and the road from it to paper.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <string>
+
+#include "listados/obra/mdTipoListado.h"
+#include "shell/piezas/mdEntorno.h"
+
+class QButtonGroup;
+class QPlainTextEdit;
+class QVBoxLayout;
+
+namespace zorbin {
+
+class Buscador;
+
+/// What the screen is given.
+struct Resumido {
+  std::string texto;       // the summary
+  bool conLame = false;    // "Coef. Lamé" is offered
+  QString nombre;          // of the documents made from here
+  std::string aviso = {};  // said under the text; none when empty
+  /// Makes the listing of a kind; may throw DocumentoCancelado.
+  std::function<void(TipoListado, DestinoHojas&)> lista = [](TipoListado, DestinoHojas&) {};
+};
+
+class frEscribePantalla : public QDialog {
+  Q_OBJECT
+
+ public:
+  frEscribePantalla(const Entorno& entorno, Resumido resumido, QWidget* padre = nullptr);
+  ~frEscribePantalla() override;
+
+  /// Kind of listing in force: the one used last, as far as it is offered.
+  TipoListado Tipo() const;
+
+ private:
+  const Entorno& entorno_;
+  Resumido resumido_;
+  QPlainTextEdit* edPantalla_;
+  Buscador* buscador_;
+  QButtonGroup* rdTipoListado_;
+  std::size_t mostrado_ = 0;  // bytes of the summary that are on the screen
+  int cuerpo_ = 0;            // size of the letters [pt]
+
+  QString Tx(int n) const;
+  void Distribuye();
+  void CreaOpciones(QVBoxLayout& columna);
+  void CreaBotones(QVBoxLayout& columna);
+  void CreaTeclas();
+
+  void MuestraTrozo();
+  void MuestraTodo();
+  void PonCuerpo(int cuerpo);
+  bool eventFilter(QObject* objeto, QEvent* suceso) override;
+
+  QString NombreDocumento() const;
+  Documento ElDocumento() const;
+  void Imprime();
+  void Copia();
+};
+
+}  // namespace zorbin

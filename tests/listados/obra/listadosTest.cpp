@@ -1,0 +1,261 @@
+// Pages of the listings. Each golden file was read by eye; a difference leaves the new text
+// beside it.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "base/mdTextos.h"
+#include "comun/comparaFichero.h"
+#include "comun/estadoDeJson.h"
+#include "comun/listado.h"
+#include "listados/papel/mdPapel.h"
+
+namespace zorbin {
+namespace {
+
+using pruebas::Compara;
+using pruebas::EnMks;
+using pruebas::HojasDe;
+using pruebas::ListadoDe;
+
+EstadoCalculo Tramo(int posicion, double altura) {
+  auto e = pruebas::EstadoDeMuestra(posicion);
+  e.tramo.NumeroTramo = static_cast<std::int16_t>(posicion);
+  e.tramo.Hr0Tramo = e.tramo.Hr0Final = altura;
+  return e;
+}
+
+EstadoCalculo UnaPresion(EstadoCalculo e) {
+  e.obra.Prs2 = e.obra.Prs1;
+  e.tramo.Prs2Tram = e.tramo.Prs1Tram;
+  e.tramo.PrsM2Tram = e.tramo.PrsM1Tram;
+  return e;
+}
+
+std::vector<std::string> Lineas(const std::string& texto) {
+  std::vector<std::string> lineas;
+  std::istringstream f(texto);
+  for (std::string l; std::getline(f, l);) lineas.push_back(l);
+  return lineas;
+}
+
+// Trench with traffic; the embankment governs at the lower heights, so that the moving load per
+// metre is left out there. Two heights, one pressure: the heading once, ovalisation per height.
+TEST(ListadoNormal, ZanjaEnSI) {
+  auto e = UnaPresion(Tramo(1, 2));
+  e.tramo.Hr0Final = 4, e.tramo.Hr0Delta = 2;
+  EXPECT_EQ(Compara("normal-zanja-si.txt", ListadoDe({e}, "normal")), "");
+}
+
+// Embankment without sheet, in MKS and in English: cracking, settlement, both later forms of the
+// width, then a given load with a limit that flexure exceeds.
+TEST(ListadoNormal, TerraplenYCargaDadaEnMksYEnIngles) {
+  auto a = UnaPresion(Tramo(4, 3));
+  a.tramo.TipoCamisa = 0;
+  a.tramo.TipoControl = 2;
+  a.obra.Prs1 = a.obra.Prs2 = 0.1, a.obra.PrsM1 = a.obra.PrsM2 = 0.15;
+  auto b = UnaPresion(Tramo(5, 3));
+  b.tramo.Icontes0 = true;
+  b.tramo.Adato = 5;
+  b.tramo.QDato = 0.2;
+  EXPECT_EQ(
+      Compara("normal-terraplen-mks-en.txt", ListadoDe({EnMks(a), EnMks(b)}, "normal", 2, '.')),
+      "");
+}
+
+// Every warning that paper shows: limit moment, steel ratio, layers.
+TEST(ListadoNormal, Avisos) {
+  auto tope = UnaPresion(Tramo(4, 40));
+  auto capas = UnaPresion(Tramo(2, 3));
+  capas.obra.Prs1 = capas.obra.Prs2 = 2, capas.obra.PrsM1 = capas.obra.PrsM2 = 2.8;
+  const std::string texto = ListadoDe({tope, capas}, "normal");
+  const auto cuenta = [&texto](const std::string& que) {
+    int n = 0;
+    for (auto i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++n;
+    return n;
+  };
+  EXPECT_GT(cuenta("*** MOMENTO MAYOR QUE MOMENTO TOPE ***"), 0);
+  EXPECT_EQ(cuenta("ARMADURA INTERIOR  "), 1);  // the limit moment suppresses the result block
+  EXPECT_EQ(cuenta("As/Acr tot.="), 2);
+  EXPECT_EQ(Compara("normal-avisos.txt", texto), "");
+}
+
+TEST(ListadoTabular, FilasAlturasYAjustes) {
+  auto e = pruebas::EstadoDeMuestra(1);
+  e.tramo.NumeroTramo = 1;
+  e.corrida.ajustes = {{5, 1, 3, {20, 0, 19.5}}};
+  auto f = Tramo(4, 3);
+  EXPECT_EQ(Compara("tabular-si.txt", ListadoDe({e, f}, "tabular")), "");
+}
+
+// A page takes 44 lines after its head (50 less 6): 9 of the Tramo and 5 of the table's head on
+// the first one, 5 on the others, and the row that would leave none goes over. 16 heights of 3
+// pressures, two blank lines after each height.
+TEST(ListadoTabular, SaltaDePaginaConSusCabezas) {
+  auto e = Tramo(1, 2);
+  e.tramo.Hr0Final = 3.5, e.tramo.Hr0Delta = 0.1;
+  e.obra.NombreObra = "Obra";
+  const auto mks = EnMks(e);
+  int filas = 0;
+  std::vector<int> porPagina{0};
+  for (const auto& l : Lineas(ListadoDe({mks}, "tabular", 1, '.'))) {
+    if (l.starts_with('\f') && l.size() > 1) porPagina.push_back(0);
+    if (l.find("******") != std::string::npos) filas = 0;
+    if (l.size() > 70 && l.find_first_not_of(" .0123456789") == std::string::npos) {
+      ++porPagina.back();
+      if (filas++ == 0 && porPagina.size() == 1) {
+        EXPECT_EQ(l.substr(5, 6), "  2.00");
+      }
+    }
+  }
+  // 30 lines of rows and gaps fit on the first page, 39 on the next: by groups of 5.
+  EXPECT_EQ(porPagina, (std::vector<int>{18, 24, 6}));
+}
+
+TEST(ListadoPantalla, CasosEnSusPaginas) {
+  auto capas = UnaPresion(Tramo(2, 3));
+  capas.obra.Prs1 = capas.obra.Prs2 = 2, capas.obra.PrsM1 = capas.obra.PrsM2 = 2.8;
+  const std::string texto = ListadoDe({UnaPresion(Tramo(3, 3)), capas}, "pantalla");
+  EXPECT_EQ(Compara("pantalla-si.txt", texto), "");
+  EXPECT_EQ(std::count(texto.begin(), texto.end(), '\f'), 2);
+}
+
+TEST(Listados, SIYMksTienenLasMismasPaginas) {
+  const auto esqueleto = [](const std::string& texto) {
+    std::string r;
+    for (const auto& l : Lineas(texto)) r += l.empty() ? '-' : l[0] == '\f' ? 'F' : 'x';
+    return r;
+  };
+  for (const char* clase : {"normal", "tabular", "pantalla"}) {
+    for (int posicion : {1, 3, 4, 5, 6, 7}) {
+      const auto e = pruebas::EstadoDeMuestra(posicion);
+      EXPECT_EQ(esqueleto(ListadoDe({e}, clase)), esqueleto(ListadoDe({EnMks(e)}, clase))) << clase;
+    }
+  }
+}
+
+// A post-tensioned Tramo of each typology. "Coef. Lamé" is "Normal" with a page more for each
+// hypothesis, which takes exactly the 72 lines of a sheet.
+TEST(ListadosPostesado, NormalYLame) {
+  EXPECT_EQ(Compara("postesado-normal-si.txt", ListadoDe({Tramo(7, 2.5)}, "normal")), "");
+  const std::string lame = ListadoDe({EnMks(Tramo(7, 2.5))}, "lame", 1, '.');
+  EXPECT_EQ(Compara("postesado-lame-mks.txt", lame), "");
+  EXPECT_EQ(std::count(lame.begin(), lame.end(), '\f'), 5 + 2 * 6);
+}
+
+TEST(ListadosPostesado, TabularYPantalla) {
+  auto mixto = pruebas::EstadoDeMuestra(6);
+  mixto.tramo.NumeroTramo = 6;
+  EXPECT_EQ(Compara("postesado-tabular-si.txt",
+                    ListadoDe({mixto, Tramo(4, 3), Tramo(7, 2.5)}, "tabular")),
+            "");
+  EXPECT_EQ(
+      Compara("postesado-tabular-mks.txt", ListadoDe({EnMks(Tramo(7, 2.5))}, "tabular", 1, '.')),
+      "");
+  EXPECT_EQ(
+      Compara("postesado-pantalla-mks.txt", ListadoDe({EnMks(Tramo(7, 2.5))}, "pantalla", 1, '.')),
+      "");
+}
+
+// A core too weak at winding: no hypothesis is printed, each has its page with the diagnostic, and
+// the wire follows where there is a place for it. No wire at all: one page, no hypothesis line.
+TEST(ListadosPostesado, LosDiagnosticos) {
+  auto debil = Tramo(7, 2.5);
+  debil.tramo.Fckno = 12;
+  auto imposible = Tramo(7, 2.5);
+  imposible.tramo.Prs1Tram = imposible.tramo.Prs2Tram = 9;
+  imposible.tramo.PrsM1Tram = imposible.tramo.PrsM2Tram = 9.5;
+  const auto cuenta = [](const std::string& texto, const std::string& que) {
+    int n = 0;
+    for (auto i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++n;
+    return n;
+  };
+  const std::string normal = ListadoDe({debil, imposible}, "normal");
+  EXPECT_EQ(cuenta(normal, "RESISTENCIA INICIAL INSUFICIENTE"), 6);
+  EXPECT_EQ(cuenta(normal, "HIPOTESIS DE CALCULO:  "), 6);
+  EXPECT_EQ(cuenta(normal, "PERDIDAS DE  POSTESADO"), 0);
+  EXPECT_EQ(cuenta(normal, "ESPESOR DE TUBO INSUFICIENTE"), 1);
+  EXPECT_EQ(Compara("postesado-avisos-pantalla.txt", ListadoDe({debil, imposible}, "pantalla")),
+            "");
+  EXPECT_EQ(Compara("postesado-avisos-tabular.txt", ListadoDe({debil, imposible}, "tabular")), "");
+}
+
+// Size, bold and underline of the first line that holds a text; size 0 when there is none.
+std::string Letra(const std::vector<Hoja>& hojas, const std::string& que) {
+  for (const auto& hoja : hojas) {
+    for (const auto& t : hoja.textos) {
+      if (t.texto.find(que) == std::string::npos) continue;
+      return TextoEntero(static_cast<int>(t.cuerpo)) + (t.negrita ? "b" : "") +
+             (t.subrayado ? "_" : "");
+    }
+  }
+  return "0";
+}
+
+TEST(Listados, LetraDeLosTitulosYDiagnosticos) {
+  const auto normal = HojasDe({UnaPresion(Tramo(1, 2))}, "normal");
+  EXPECT_EQ(Letra(normal, "Pag"), "14b");
+  EXPECT_EQ(Letra(normal, "HIPOTESIS   Peso propio"), "10b");
+  EXPECT_EQ(Letra(normal, "SECCION     MOMENTO"), "10_");
+  EXPECT_EQ(Letra(normal, "ARMADURA INTERIOR"), "10b");
+  auto debil = Tramo(7, 2.5);
+  debil.tramo.Fckno = 12;
+  EXPECT_EQ(Letra(HojasDe({debil}, "normal"), "RESISTENCIA INICIAL INSUF"), "12b");
+  EXPECT_EQ(Letra(HojasDe({Tramo(7, 2.5)}, "tabular"), "Fck Prim."), "10b");
+  EXPECT_EQ(Letra(HojasDe({Tramo(3, 3)}, "pantalla"), "CASO NUMERO"), "10b");
+}
+
+// A Tramo that breaks off says so on its page. A dozen of them leave little of the page, and the
+// next Caso breaks its own block: the label of that break is kept, odd as it is.
+TEST(ListadoPantalla, TramosFallidosYSaltoDentroDeUnCaso) {
+  auto fallido = UnaPresion(Tramo(2, 3));
+  fallido.tramo.Fi = 0;
+  std::vector<EstadoCalculo> tramos(12, fallido);
+  auto debil = UnaPresion(Tramo(7, 2.5));
+  debil.tramo.Fckno = 12;
+  tramos.push_back(debil);
+  EXPECT_EQ(Compara("pantalla-fallos.txt", ListadoDe(tramos, "pantalla")), "");
+  for (const char* clase : {"normal", "tabular"}) {
+    EXPECT_NE(ListadoDe({fallido}, clase).find("División por cero"), std::string::npos) << clase;
+  }
+}
+
+// Sheets as they come out of the paper.
+struct Guarda : DestinoHojas {
+  std::vector<Hoja> hojas;
+  void RecibeHoja(const Hoja& h) override { hojas.push_back(h); }
+};
+
+TEST(Papel, Caben72LineasYLaSiguienteVaAOtraHoja) {
+  Guarda g;
+  Papel p(g, Orientacion::Vertical);
+  p.Cuerpo(kCuerpoTitulo);
+  p.Linea(6, "cabeza");
+  p.Cuerpo(kCuerpoNormal);
+  for (int i = 1; i < 72; ++i) p.Linea(0, "x");
+  EXPECT_TRUE(g.hojas.empty());
+  p.LineasEnBlanco(5);  // a blank line begins no sheet
+  EXPECT_TRUE(g.hojas.empty());
+  p.Linea(0, "x");
+  EXPECT_EQ(g.hojas.size(), 1u);
+  p.FinDocumento();
+  EXPECT_EQ(g.hojas.size(), 2u);
+  const auto& ultima = g.hojas[0].textos.back();
+  EXPECT_LT(ultima.y + AltoLinea(10), 297.0);
+}
+
+TEST(Papel, UnTextoMasAnchoQueLaHojaSeEncoge) {
+  Guarda g;
+  Papel p(g, Orientacion::Vertical);
+  p.Linea(8, std::string(120, 'w'));
+  p.Linea(8, std::string(80, 'w'));
+  p.Linea(8, "ñ" + std::string(85, ' '));  // trailing blanks take no room
+  p.FinDocumento();
+  const auto& t = g.hojas.at(0).textos;
+  EXPECT_LE(128 * AnchoColumna(t[0].cuerpo), 205.0 + 1e-9);
+  EXPECT_EQ(t[1].cuerpo, 10.0);
+  EXPECT_EQ(t[2].cuerpo, 10.0);
+}
+
+}  // namespace
+}  // namespace zorbin

@@ -1,0 +1,124 @@
+// A person at the capture screen, by script: answers to questions, what was shown, typing.
+#pragma once
+
+#include <unistd.h>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdEdicion.h"
+
+namespace zorbin::prueba {
+
+class Guion : public Interlocutor {
+ public:
+  void Muestra(const std::string& texto, const std::string& titulo) override {
+    mensajes.push_back({texto, titulo});
+  }
+  void Anuncia(const std::string& texto) override { anuncios.push_back(texto); }
+  bool Pregunta(const std::string& texto, const std::string& titulo) override {
+    preguntas.push_back({texto, titulo});
+    return responde && titulo != niega;
+  }
+  std::optional<std::string> PideFichero(const std::string&) override { return fichero; }
+  void VaA(Ed campo) override { foco = campo; }
+
+  struct Caja {
+    std::string texto;
+    std::string titulo;
+  };
+  std::vector<Caja> mensajes;
+  std::vector<Caja> preguntas;
+  std::vector<std::string> anuncios;
+  bool responde = true;
+  std::string niega = "-";  // a box with this title is answered No
+  std::optional<std::string> fichero;
+  std::optional<Ed> foco;
+
+  std::string Ultimo() const { return mensajes.empty() ? std::string{} : mensajes.back().texto; }
+  std::string Titulo() const { return mensajes.empty() ? std::string{} : mensajes.back().titulo; }
+  void Olvida() {
+    mensajes.clear();
+    preguntas.clear();
+    anuncios.clear();
+    foco.reset();
+  }
+};
+
+/// A folder that goes away with the test.
+class Carpeta {
+ public:
+  Carpeta() {
+    static int cuenta = 0;
+    ruta_ = std::filesystem::temp_directory_path() /
+            ("zorbin-captura-" + std::to_string(::getpid()) + "-" + std::to_string(++cuenta));
+    std::filesystem::create_directories(ruta_);
+  }
+  ~Carpeta() {
+    std::error_code error;
+    std::filesystem::remove_all(ruta_, error);
+  }
+  Carpeta(const Carpeta&) = delete;
+  Carpeta& operator=(const Carpeta&) = delete;
+  std::filesystem::path operator/(const std::string& nombre) const { return ruta_ / nombre; }
+
+ private:
+  std::filesystem::path ruta_;
+};
+
+/// The whole screen over the tables of the program.
+struct Banco {
+  explicit Banco(char separador = ',')
+      : textos(Catalogo::Lee(ZORBIN_FUENTES "recursos/textos")),
+        tablas(LeeTablas(ZORBIN_FUENTES "recursos/tablas")),
+        c(e, textos, tablas, voz, separador) {
+    NuevaObra(c);
+  }
+
+  /// Enters a field, types key by key over what it held, and leaves it.
+  SalidaCampo Teclea(Ed campo, const std::string& teclas) {
+    Entra(c, campo);
+    std::string texto;
+    for (const char letra : teclas) {
+      const char tecla = Tecla(c, campo, letra);
+      if (tecla == '\0') continue;
+      texto.push_back(tecla);
+      Cambia(c, campo, texto);
+    }
+    if (teclas.empty()) Cambia(c, campo, "");
+    return Sale(c, campo);
+  }
+
+  /// A text that stands in a field without any of its rules having run.
+  void Pon(Ed campo, const std::string& texto) { c[campo].texto = texto; }
+
+  void Escoge(Ed campo, int entrada) {
+    Entra(c, campo);
+    Cambia(c, campo, c[campo].entradas.at(static_cast<std::size_t>(entrada - 1)));
+    Sale(c, campo);
+  }
+
+  /// An Obra with pressures, and a new Tramo that only lacks a diameter.
+  void ObraYTramo() {
+    Teclea(Ed::edPrsM1, "0,5");
+    NuevoTramo(c);
+    Olvida();
+  }
+  /// A reinforced Tramo that validates.
+  void TramoValido() {
+    ObraYTramo();
+    Teclea(Ed::edDi0, "1,2");
+    Olvida();
+  }
+  void Olvida() { voz.Olvida(); }
+
+  EstadoCalculo e;
+  Catalogo textos;
+  TablasCatalogo tablas;
+  Guion voz;
+  Captura c;
+};
+
+}  // namespace zorbin::prueba

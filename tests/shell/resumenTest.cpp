@@ -1,0 +1,319 @@
+// The summary screen, the box of a long run, and the road from the capture to paper.
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QWheelEvent>
+#include <sstream>
+
+#include "comun/comparaFichero.h"
+#include "listados/papel/mdHojasTexto.h"
+#include "sesion/captura/guion.h"
+#include "sesion/captura/mdEdicion.h"
+#include "shell/enPantalla.h"
+#include "shell/entornoPrueba.h"
+#include "shell/resultados/frEscribePantalla.h"
+#include "shell/resultados/mdCalculos.h"
+#include "shell/resultados/mdProgreso.h"
+
+namespace zorbin::prueba {
+namespace {
+
+struct Sala {
+  Mesa mesa;
+  std::vector<TipoListado> pedidos;
+
+  std::unique_ptr<frEscribePantalla> Abre(std::string texto, bool conLame = false) {
+    auto pantalla = std::make_unique<frEscribePantalla>(
+        mesa.entorno, Resumido{std::move(texto),
+                               conLame,
+                               "acequia - Tramo 1",
+                               {},
+                               [this](TipoListado tipo, DestinoHojas& hojas) {
+                                 pedidos.push_back(tipo);
+                                 hojas.RecibeHoja(Hoja{});
+                               }});
+    pantalla->show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(pantalla.get()));
+    return pantalla;
+  }
+};
+
+QPlainTextEdit& Texto(const QDialog& pantalla) {
+  return *pantalla.findChild<QPlainTextEdit*>("edPantalla");
+}
+
+void Pulsa(const QDialog& pantalla, const char* boton) {
+  pantalla.findChild<QPushButton*>(boton)->click();
+}
+
+QRadioButton& Opcion(const QDialog& pantalla, int tipo) {
+  return *pantalla.findChildren<QRadioButton*>().at(tipo);
+}
+
+TEST(PantallaResumen, LaEleccionSeRecuerdaYLameSoloDondeSeOfrece) {
+  Sala r;
+  auto pantalla = r.Abre("x", true);
+  EXPECT_EQ(pantalla->windowTitle(), "         RESUMEN DE CALCULO");
+  EXPECT_EQ(pantalla->Tipo(), TipoListado::Normal);
+  Opcion(*pantalla, 3).click();
+  pantalla = r.Abre("x", true);
+  EXPECT_EQ(pantalla->Tipo(), TipoListado::Lame);
+  pantalla = r.Abre("x", false);
+  EXPECT_EQ(pantalla->Tipo(), TipoListado::Normal);
+  EXPECT_FALSE(Opcion(*pantalla, 3).isEnabled());
+  pantalla = r.Abre("x", true);  // only not offered: still the last used
+  EXPECT_EQ(pantalla->Tipo(), TipoListado::Lame);
+  Opcion(*pantalla, 1).click();
+  EXPECT_EQ(r.mesa.preferencias.TipoListado(), 1);
+  pantalla = r.Abre("x", false);
+  EXPECT_EQ(pantalla->Tipo(), TipoListado::Tabular);
+}
+
+TEST(PantallaResumen, ImprimirCierraSiSeImprimio) {
+  Sala r;
+  auto pantalla = r.Abre("x");
+  Opcion(*pantalla, 2).click();
+  Pulsa(*pantalla, "btVistaPrevia");
+  EXPECT_EQ(r.mesa.papel.vistas, 1);
+  EXPECT_TRUE(pantalla->isVisible());
+  r.mesa.papel.sale = false;
+  Pulsa(*pantalla, "btImprimeTramo");
+  EXPECT_TRUE(pantalla->isVisible());
+  r.mesa.papel.sale = true;
+  Pulsa(*pantalla, "btImprimeTramo");
+  EXPECT_FALSE(pantalla->isVisible());
+  EXPECT_EQ(r.pedidos, std::vector<TipoListado>(3, TipoListado::Pantalla));
+  EXPECT_EQ(r.mesa.papel.nombres.back(), "acequia - Tramo 1 - Pantalla");
+}
+
+TEST(PantallaResumen, GuardaElTextoYElPdf) {
+  Sala r;
+  const std::string texto = "RIÑONES\n  señal\n";
+  auto pantalla = r.Abre(texto);
+  const QString nombre = r.mesa.carpeta.filePath("r.txt");
+  const QString pdf = r.mesa.carpeta.filePath("r.pdf");
+  Persona persona;
+  persona.ficheros = QStringList{nombre, pdf, r.mesa.carpeta.filePath("no/r.txt")};
+  EXPECT_FALSE(pantalla->findChild<QPlainTextEdit*>("edPantalla")->textCursor().hasSelection());
+  Pulsa(*pantalla, "btTexto");
+  QFile f(nombre);
+  ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+  EXPECT_EQ(f.readAll().toStdString(), texto);
+  Pulsa(*pantalla, "btPdf");
+  EXPECT_TRUE(QFile::exists(pdf));
+  EXPECT_TRUE(persona.cajas.empty());
+  Pulsa(*pantalla, "btTexto");
+  EXPECT_NE(persona.Ultima().indexOf("no/r.txt"), -1);
+  EXPECT_TRUE(pantalla->isVisible());
+  Pulsa(*pantalla, "btCopiar");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), texto);
+  QTest::keyClick(pantalla.get(), Qt::Key_Escape);
+  EXPECT_FALSE(pantalla->isVisible());
+}
+
+TEST(PantallaResumen, BuscaDaLaVueltaYDiceLoQueNoEsta) {
+  Sala r;
+  auto pantalla = r.Abre("CASO 1\nuno\nCaso 2\ndos\n");
+  auto& texto = Texto(*pantalla);
+  QTest::keyClick(pantalla.get(), Qt::Key_F, Qt::ControlModifier);
+  auto* que = pantalla->findChild<QLineEdit*>("edBuscar");
+  auto* dice = pantalla->findChild<QLabel*>("lbBuscar");
+  ASSERT_TRUE(que->isVisible());
+  EXPECT_TRUE(que->hasFocus());
+  QTest::keyClicks(que, "caso");
+  EXPECT_EQ(texto.textCursor().selectionStart(), 0);
+  EXPECT_EQ(texto.extraSelections().size(), 2);
+  QTest::keyClick(que, Qt::Key_Return);
+  EXPECT_EQ(texto.textCursor().selectedText(), "Caso");
+  EXPECT_EQ(dice->text(), "");
+  QTest::keyClick(pantalla.get(), Qt::Key_F3);
+  EXPECT_EQ(texto.textCursor().selectionStart(), 0);
+  EXPECT_EQ(dice->text(), r.mesa.Tx(1269));
+  QTest::keyClick(pantalla.get(), Qt::Key_F3, Qt::ShiftModifier);
+  EXPECT_EQ(texto.textCursor().selectedText(), "Caso");
+  EXPECT_EQ(dice->text(), r.mesa.Tx(1270));
+  que->setText("tres");
+  EXPECT_EQ(dice->text(), "No se encuentra «tres»");
+  EXPECT_TRUE(texto.extraSelections().isEmpty());
+  QTest::keyClick(que, Qt::Key_Escape);
+  EXPECT_FALSE(que->isVisible());
+  EXPECT_TRUE(pantalla->isVisible());
+}
+
+TEST(PantallaResumen, UnTextoLargoEntraPorTrozosSinMoverLaVista) {
+  Sala r;
+  std::string texto;
+  while (texto.size() < 3'000'000) texto += "  CALCULANDO EL CASO : 1/   1  RIÑONES Y CLAVE\n\n";
+  texto += "el final\n";
+  auto pantalla = r.Abre(texto);
+  auto& ed = Texto(*pantalla);
+  EXPECT_FALSE(ed.isUndoRedoEnabled());
+  for (int i = 0; i < 500 && ed.document()->lastBlock().position() < 2'900'000; ++i) {
+    QTest::qWait(10);
+  }
+  EXPECT_EQ(ed.toPlainText().toStdString(), texto);
+  EXPECT_EQ(ed.verticalScrollBar()->value(), 0);
+  EXPECT_EQ(ed.textCursor().position(), 0);
+  // What is not there yet is looked for all the same.
+  auto otra = r.Abre(texto);
+  QTest::keyClick(otra.get(), Qt::Key_F, Qt::ControlModifier);
+  otra->findChild<QLineEdit*>("edBuscar")->setText("el final");
+  EXPECT_EQ(Texto(*otra).textCursor().selectedText(), "el final");
+}
+
+TEST(PantallaResumen, LaLetraSeAgrandaYSeConserva) {
+  Sala r;
+  int cuerpo = 0;
+  {
+    auto pantalla = r.Abre("x");
+    auto& ed = Texto(*pantalla);
+    cuerpo = ed.font().pointSize();
+    QTest::keyClick(pantalla.get(), Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(pantalla.get(), Qt::Key_Plus, Qt::ControlModifier);
+    QTest::keyClick(pantalla.get(), Qt::Key_Minus, Qt::ControlModifier);
+    const QPointF aqui(5, 5);
+    QWheelEvent rueda(aqui, ed.viewport()->mapToGlobal(aqui), {}, {0, 120}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(ed.viewport(), &rueda);
+    EXPECT_EQ(ed.font().pointSize(), cuerpo + 2);
+  }
+  auto pantalla = r.Abre("x");
+  EXPECT_EQ(Texto(*pantalla).font().pointSize(), cuerpo + 2);
+  QTest::keyClick(pantalla.get(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(Texto(*pantalla).font().pointSize(), cuerpo);
+}
+
+TEST(CajaProgreso, SoloSeMuestraSiTardaYCancela) {
+  Mesa mesa;
+  CajaProgreso caja(mesa.textos, nullptr);
+  EXPECT_TRUE(caja.Sigue({2, 1, 9, 1, 1}));
+  EXPECT_FALSE(caja.isVisible());
+  QTest::qSleep(520);
+  EXPECT_TRUE(caja.Sigue({2, 4, 9, 3, 7}));
+  EXPECT_TRUE(caja.isVisible());
+  EXPECT_EQ(caja.findChild<QLabel*>()->text(), "Calculando el Tramo 2 (3 de 7): Caso 4 de 9");
+  EXPECT_EQ(caja.findChild<QProgressBar*>()->value(), 1000 * (2 * 9 + 3) / (9 * 7));
+  QTest::keyClick(&caja, Qt::Key_Escape);
+  EXPECT_TRUE(caja.isVisible());  // until the run hears of it
+  EXPECT_FALSE(caja.Sigue({2, 5, 9, 3, 7}));
+}
+
+// ---------------------------------------------------------------------------------------------
+
+// From the capture, over a copy of the sample Obra, to the summary screen.
+struct Despacho {
+  explicit Despacho(int registro = 0, const std::string& texto = {}) {
+    qputenv("XDG_STATE_HOME", QByteArray::fromStdString((carpeta / "estado").string()));
+    std::filesystem::copy_file(ZORBIN_FUENTES "muestras/acequia.zrb", carpeta / "acequia.zrb");
+    if (registro != 0) {
+      FicheroRegistros f(carpeta / "acequia.zrb", FicheroRegistros::Modo::LecturaEscritura);
+      f.EscribeRegistro(registro, texto);
+      f.Vacia();
+    }
+    EXPECT_TRUE(AbreObra(b.c, carpeta / "acequia.zrb"));
+  }
+  Carpeta carpeta;
+  Banco b;
+  Mesa mesa;
+  Persona persona;
+};
+
+TEST(Calculos, DelTramoAlResumenYAlPapel) {
+  Despacho d;
+  d.b.Teclea(Ed::edTramo, "7");
+  QString texto;
+  EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
+    texto = Texto(pantalla).toPlainText();
+    Opcion(pantalla, 3).click();
+    Pulsa(pantalla, "btImprimeTramo");
+  });
+  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr);
+  EXPECT_EQ(lector.veces, 1);
+  MediosTrabajo medios;
+  EXPECT_EQ(S(texto), ResumeTramo(d.b.c, medios).resumen);
+  std::ostringstream impreso, esperado;
+  HojasTexto papel(impreso);
+  for (const auto& hoja : d.mesa.papel.hojas) papel.RecibeHoja(hoja);
+  HojasTexto otroPapel(esperado);
+  ListaTramo(d.b.c, TipoListado::Lame, otroPapel, medios);
+  const auto sinFecha = [](std::string t) { return t.erase(t.find("FECHA: "), 26); };
+  EXPECT_EQ(sinFecha(impreso.str()), sinFecha(esperado.str()));
+  EXPECT_EQ(d.mesa.papel.nombres, std::vector<QString>{"acequia - Tramo 7 - Coef. Lamé"});
+  EXPECT_TRUE(d.persona.cajas.empty());
+}
+
+TEST(Calculos, LaObraEnteraConUnFalloSeDiceYSeMuestra) {
+  Despacho d(14 + 60 + 49, "0,00");
+  QString texto;
+  bool lame = false;
+  EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
+    texto = Texto(pantalla).toPlainText();
+    lame = Opcion(pantalla, 3).isEnabled();
+    Pulsa(pantalla, "btSalir");
+  });
+  ImprimeLaObra(d.b.c, d.mesa.entorno, nullptr);
+  EXPECT_EQ(lector.veces, 1);
+  EXPECT_TRUE(lame);
+  ASSERT_EQ(d.persona.cajas.size(), 1U);
+  EXPECT_EQ(d.persona.cajas[0].titulo, "Error en ejecución");
+  EXPECT_EQ(d.persona.cajas[0].texto,
+            "acequia.zrb: Tramo 2, Caso 1, altura 2,00 m, DP 0,400 MPa: División por cero");
+  EXPECT_TRUE(texto.contains("** " + d.persona.cajas[0].texto + " **"));
+  EXPECT_EQ(d.b.c[Ed::edTramo].texto, "7");
+}
+
+// Thousands of Casos: the box comes up while they run, and its button ends the run.
+TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
+  Despacho d;
+  d.b.Teclea(Ed::edAlt2, "14");
+  d.b.Teclea(Ed::edAlt3, "0,01");
+  d.b.Teclea(Ed::edPrs3, "0,01");
+  d.b.Teclea(Ed::edTramo, "1");
+  CajaProgreso caja(d.mesa.textos, nullptr);
+  EnPantalla<CajaProgreso> persona([](CajaProgreso& c) { Pulsa(c, "btCancelar"); });
+  int casos = 0;
+  MediosTrabajo medios;
+  medios.sigue = [&](const Avance& avance) {
+    casos = avance.casos;
+    return caja.Sigue(avance);
+  };
+  QTest::qSleep(510);
+  const auto r = ResumeTramo(d.b.c, medios);
+  EXPECT_EQ(persona.veces, 1);
+  EXPECT_EQ(r.fin, FinTrabajo::Cancelado);
+  EXPECT_GT(casos, 30'000);
+  EXPECT_NE(r.resumen.find("** Cálculo cancelado"), std::string::npos);
+  EXPECT_EQ(d.b.c.EstadoCaptura, kModificaciones);
+}
+
+TEST(Calculos, UnListadoDetenidoSeDiceYSaleLoHecho) {
+  Despacho d(30 + 60, "0 // 0,0");
+  EnPantalla<frEscribePantalla> lector(
+      [&](frEscribePantalla& pantalla) { Pulsa(pantalla, "btImprimeTramo"); });
+  ImprimeLaObra(d.b.c, d.mesa.entorno, nullptr);
+  ASSERT_EQ(d.persona.cajas.size(), 1U);
+  EXPECT_TRUE(d.persona.Ultima().startsWith("El cálculo de la Obra se detiene en el Tramo 2: "));
+  EXPECT_GT(d.mesa.papel.hojas.size(), 3U);
+}
+
+TEST(Calculos, LoQueNoEmpiezaNoAbreNada) {
+  Despacho d;
+  d.b.Teclea(Ed::edTramo, "1");
+  d.b.Teclea(Ed::edGr0, "1,9");
+  EnPantalla<frEscribePantalla> lector([](frEscribePantalla& pantalla) { pantalla.reject(); });
+  ImprimeLaObra(d.b.c, d.mesa.entorno, nullptr);
+  QTest::qWait(20);
+  EXPECT_EQ(lector.veces, 0);
+  EXPECT_EQ(d.b.voz.mensajes.size(), 1U);
+}
+
+}  // namespace
+}  // namespace zorbin::prueba
