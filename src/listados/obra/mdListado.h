@@ -1,0 +1,34 @@
+// A reader of results: whatever is made of the Tramos of an Obra, one after another.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "calculo/corrida/mdCalculaTramo.h"
+
+namespace zorbin {
+
+/// A Caso before its reader: the row, the loads of its height, and the whole of it.
+struct VistaCaso {
+  const ResultadoTramo& tramo;
+  const FilaCaso& fila;
+  const CargasAltura& altura;
+  const ResultadoCaso& caso;
+  bool primero;       // of the Tramo
+  bool abreAltura;    // first pressure of a height
+  bool cierraAltura;  // last pressure of a height
+};
+
+/// Asked now and then whether to go on; false ends the work.
+using SigueListado = std::function<bool()>;
+
+/// A listing, summary or data file. What a Tramo was named in the list goes with it.
+class Listado {
+ public:
+  virtual ~Listado() = default;
+  /// @return false where whoever was asked said no
+  virtual bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
+                     const SigueListado& sigue) = 0;
+};
+
+}  // namespace zorbin
