@@ -44,7 +44,7 @@ double VelocidadColebrook(double D, double J, double k) {
 }
 
 // Slope for a velocity, with the 3.71 that the method has in this place.
-double PendienteColebrook(double D, double V, double k) {
+double PendienteCon371(double D, double V, double k) {
   const double f = Raiz(1e-3, 1.0, [=](double x) { return Colebrook(x, V * D / kNu, k, D, 3.71); });
   return f * V * V / (2 * kG * D);
 }
@@ -160,7 +160,7 @@ TEST(PrandtlColebrook, CaudalConUnaSolaEvaluacion) {
   for (const auto& f : r.filas) {
     const double D = f.DiamMM / 1000;
     EXPECT_NEAR(f.VLlena * Circulo(D), 0.5, 1e-9);
-    EXPECT_NEAR(f.JLlena.value() / PendienteColebrook(D, f.VLlena, 6e-5), 1.0, 0.03);
+    EXPECT_NEAR(f.JLlena.value() / PendienteCon371(D, f.VLlena, 6e-5), 1.0, 0.03);
     EXPECT_FALSE(f.QLlena || f.VParcial || f.QParcial || f.JParcial || f.ReLlena || f.Cwh);
   }
 }
