@@ -59,13 +59,13 @@ TEST(GeneraTextos, LoQueNoCasaParaLaConstruccion) {
     std::ofstream(carpeta / "textos/en.json") << m.en;
     std::ofstream(carpeta / "src/a.cpp") << m.fuente << '\n';
     const auto orden =
-        "cd " + carpeta.string() + " && " ZORBIN_GENERA_TEXTOS " textos src textos.h 2>quejas";
+        "cd " + carpeta.string() + " && " ZORBIN_GENERA_TEXTOS " textos src base/textos.h 2>quejas";
     const bool vale = std::system(orden.c_str()) == 0;
     const auto quejas = lee(carpeta / "quejas");
-    EXPECT_EQ(vale, m.queja == nullptr) << m.es << '\n' << quejas;
-    EXPECT_EQ(fs::exists(carpeta / "textos.h"), vale) << m.es;
-    if (m.queja) EXPECT_NE(quejas.find(m.queja), std::string::npos) << m.es << '\n' << quejas;
-    const auto cabecera = lee(carpeta / "textos.h");
+    ASSERT_EQ(vale, m.queja == nullptr) << m.es << '\n' << quejas;
+    EXPECT_EQ(fs::exists(carpeta / "base/textos.h"), vale) << m.es;
+    EXPECT_NE(quejas.find(vale ? "" : m.queja), std::string::npos) << m.es << '\n' << quejas;
+    const auto cabecera = lee(carpeta / "base/textos.h");
     if (m.es == kUno && vale) {
       EXPECT_NE(cabecera.find("int Uno = 1;  // {1} file\n"), std::string::npos) << cabecera;
     } else if (m.es == kLista) {
