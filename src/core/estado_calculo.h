@@ -37,6 +37,8 @@ struct Obra {
 
 /// First `Tipologia` of the post-tensioned branch.
 inline constexpr std::int16_t kPrimeraPostesada = 2211;
+/// `Tipologia` with the cylinder round the core, under the wire.
+inline constexpr std::int16_t kPostesadaRevestida = 2221;
 
 /// Data of one pipe section.
 struct Tramo {
@@ -133,12 +135,19 @@ struct Corrida : Cargas {
   Registro* registro = nullptr;              // debug log, none when null
 };
 
+/// The Caso in hand of a run that is listened to.
+struct CasoEnCurso : TerminosAnillo {
+  std::vector<Aviso> avisos;
+  ResultadoArmado armado;
+  ResultadoPostesado postesado;
+};
+
 /// The whole state.
 struct EstadoCalculo {
   Obra obra;
   Tramo tramo;
   Corrida corrida;
-  ResultadoCaso caso;
+  CasoEnCurso caso;
 };
 
 }  // namespace zorbin

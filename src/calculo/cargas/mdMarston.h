@@ -23,6 +23,8 @@ namespace zorbin {
 /// Tangent of an angle [degrees], as sine over cosine.
 double TanGrados(double grados);
 
+double EmpujeActivo(double Fi);
+
 /// Root of e^x - x - c = 0 by Newton from x0; the sign of x0 decides which of the two roots.
 /// Stops when a step is below 0.00001.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia
@@ -69,17 +71,10 @@ double PresionMovil(std::int16_t ICarga, double H);
 /// Impact coefficient at height H [m]: 1 from 3 m on, 1 + 0.3/H below [-].
 double CoefImpacto(double H);
 
-/// Loads of the Tramo at height H, per metre of pipe: every caller divides them by `De`.
-/// Reads  tramo: B0, Hr1 [m], Gr [t/m3], Fi [degrees], TipoApoyo, TipoRelleno, IAs, De [m];
-///        corrida: Q, QTerraplen (for laying 30, which keeps them), QTierras (30 and 31).
-/// Writes corrida: Q, QTerraplen, QTierras, QMovil [t/m], Impacto, TerraplenRige;
-///        tramo.Hr1 := De for the trench layings, the start of their embankment comparison.
-/// @param ICarga  concentrated load, 0 for the load without traffic
-/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, Subindice, SinConvergencia; the state
-///         is then as before
-void CargasMarston(EstadoCalculo& e, double H, std::int16_t ICarga);
+/// Loads of a Tramo whose load is given, and what a laying without formula starts from.
+Cargas CargasDadas(const Tramo& t, double Hr0);
 
-/// The loads of `CargasMarston` over the external diameter: t/m to t/m2.
-void DivideCargas(EstadoCalculo& e);
+/// Loads.
+Cargas CargasMarston(const Tramo& t, double H, std::int16_t ICarga, const Cargas& dadas = {});
 
 }  // namespace zorbin
