@@ -15,15 +15,9 @@ namespace {
 
 using Valores = std::vector<double>;
 
-const Catalogo& Textos() {
-  static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
-  return textos;
-}
-
 // Of the loop, not of the Caso.
 bool DelBucle(const std::string& nombre) {
-  static const std::set<std::string> kBucle{"c.DPActual", "c.IncDP", "c.Hr0Actual",
-                                            "c.Hr0FinalActual"};
+  static const std::set<std::string> kBucle{"DPActual", "IncDP", "Hr0Actual", "Hr0FinalActual"};
   return kBucle.contains(nombre);
 }
 

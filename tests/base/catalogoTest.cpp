@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <regex>
 #include <set>
 
 #include "base/mdTextos.h"
+#include "comun/carpeta.h"
 
 namespace zorbin {
 namespace {
@@ -17,11 +17,6 @@ namespace fs = std::filesystem;
 
 Catalogo Lee() {
   return Catalogo::Lee(CarpetaRecursos() / "textos");
-}
-
-std::string Contenido(const fs::path& ruta) {
-  std::ifstream f(ruta);
-  return {std::istreambuf_iterator<char>(f), {}};
 }
 
 // The numbers stand in headers of named constants; everywhere else a text is called by its name.
@@ -33,10 +28,10 @@ TEST(Catalogo, TodoNumeroQueUsaElCodigoExiste) {
   for (const auto& f : fs::recursive_directory_iterator(ZORBIN_FUENTES "src")) {
     const std::string nombre = f.path().filename().string();
     if (nombre.ends_with(".cpp") || nombre.ends_with(".h")) {
-      EXPECT_FALSE(std::regex_search(Contenido(f.path()), suelto)) << nombre;
+      EXPECT_FALSE(std::regex_search(pruebas::Bytes(f.path()), suelto)) << nombre;
     }
     if (!nombre.starts_with("textos") || !nombre.ends_with(".h")) continue;
-    std::istringstream lineas(Contenido(f.path()));
+    std::istringstream lineas(pruebas::Bytes(f.path()));
     for (std::string linea; std::getline(lineas, linea);) {
       if (linea.find("inline constexpr") == std::string::npos) continue;
       const std::string valores = linea.substr(linea.find_first_of("={"));
@@ -62,35 +57,38 @@ TEST(Catalogo, UnaEntradaQueFaltaSeVeYNoPara) {
 }
 
 TEST(Catalogo, UnFicheroRotoSeRechazaPorSuNombre) {
-  const auto carpeta = fs::temp_directory_path() / ("zorbin-textos-" + std::to_string(getpid()));
-  fs::create_directories(carpeta);
-  for (const char* malo :
-       {"", "{", "[]", R"({"x":"a"})", R"({"101":1})", R"({"9999":"a"})", "\xff\xfe",
-        R"({"+12":"a"})", R"({" 12":"a"})", R"({"012":"a"})", "{\"1\":\"\x1b[2J\\uzzzz\"}"}) {
-    std::ofstream(carpeta / "es.json", std::ios::binary) << malo;
-    try {
-      Catalogo::Lee(carpeta);
-      ADD_FAILURE() << malo;
-    } catch (const ErrorCatalogo& error) {
-      EXPECT_NE(std::string(error.what()).find("es.json"), std::string::npos);
-      EXPECT_EQ(std::string(error.what()).find('\x1b'), std::string::npos);
-    }
-  }
+  const pruebas::Carpeta carpeta;
   // Neither the text that is quoted nor what is read grows with the file.
-  for (const auto& malo :
-       {"{\"1\":\"" + std::string(1 << 20, 'x'), std::string(9 << 20, ' '),
-        std::string(1 << 20, '['), "{\"" + std::string(1 << 20, 'y') + "\":\"\"}"}) {
-    std::ofstream(carpeta / "es.json", std::ios::binary) << malo;
-    try {
-      Catalogo::Lee(carpeta);
-      ADD_FAILURE() << malo.substr(0, 9);
-    } catch (const ErrorCatalogo& error) {
-      EXPECT_LT(std::string(error.what()).size(), 500u);
+  const std::vector<std::string> malos {
+    {"",
+     "{",
+     "[]",
+     R"({"x":"a"})",
+     R"({"101":1})",
+     R"({"9999":"a"})",
+     "\xff\xfe",
+     R"({"+12":"a"})",
+     R"({" 12":"a"})",
+     R"({"012":"a"})",
+     "{\"1\":\"\x1b[2J\\uzzzz\"}",
+     "{\"1\":\"" + std::string(1 << 20, 'x'),
+     std::string(9 << 20, ' '),
+     std::string(1 << 20, '['),
+     "{\"" + std::string(1 << 20, 'y') + "\":\"\"}"};
+    for (const auto& malo : malos) {
+      pruebas::PonBytes(carpeta / "es.json", malo);
+      try {
+        Catalogo::Lee(carpeta.ruta());
+        ADD_FAILURE() << malo.substr(0, 20);
+      } catch (const ErrorCatalogo& error) {
+        const std::string queja = error.what();
+        EXPECT_NE(queja.find("es.json"), std::string::npos);
+        EXPECT_EQ(queja.find('\x1b'), std::string::npos);
+        EXPECT_LT(queja.size(), 500u);
+      }
     }
+    EXPECT_THROW(Catalogo::Lee(carpeta / "nada"), ErrorCatalogo);
   }
-  fs::remove_all(carpeta);
-  EXPECT_THROW(Catalogo::Lee(carpeta), ErrorCatalogo);
-}
 
 }  // namespace
 }  // namespace zorbin

@@ -94,6 +94,11 @@ struct Programa {
   std::unique_ptr<FormaPrincipal> ventana;
 };
 
+// The sample Obra open in it.
+struct ConMuestra : Programa {
+  ConMuestra() { EXPECT_TRUE(ventana->Abre(Muestra())) << S(persona.Ultima()); }
+};
+
 TEST(Ventana, UnaObraDesdeCeroConElTeclado) {
   Programa p;
   p.Lanza(Orden::MnNuevaObra);
@@ -174,8 +179,7 @@ TEST(Ventana, MenusDeCadaEstado) {
 }
 
 TEST(Ventana, CerrarConCambiosSeNiega) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edCliente);
   p.Teclea("Otro");
   EXPECT_TRUE(p.ventana->isWindowModified());
@@ -221,8 +225,7 @@ TEST(Ventana, SueltaUnaObra) {
 }
 
 TEST(Captura, UnCampoRechazadoDicePorQue) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edAlt1);
   p.Teclea("0,5");
   EXPECT_TRUE(p.TieneFoco(Ed::edAlt1));
@@ -240,8 +243,7 @@ TEST(Captura, UnCampoRechazadoDicePorQue) {
 }
 
 TEST(Captura, CancelarNoEjecutaLaRegla) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Lanza(Orden::mnNuevoTramo);
   p.Pincha(Ed::edFck);
   QTest::keyClicks(QApplication::focusWidget(), "0");
@@ -253,8 +255,7 @@ TEST(Captura, CancelarNoEjecutaLaRegla) {
 }
 
 TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edAlt2);
   QApplication::clipboard()->setText("12.3");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
@@ -268,8 +269,7 @@ TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
 }
 
 TEST(Captura, ElTabuladorSigueElTrabajo) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edPrsM1);
   for (const Ed siguiente :
        {Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3, Ed::edAlt1, Ed::edAlt2, Ed::edAlt3}) {
@@ -284,8 +284,7 @@ TEST(Captura, ElTabuladorSigueElTrabajo) {
 }
 
 TEST(Captura, LaListaDeTramosLlevaAUno) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   auto* lista = p.ventana->findChild<QTreeWidget*>("Tramos");
   ASSERT_EQ(lista->topLevelItemCount(), static_cast<int>(p.c.lista.size()));
   auto* sexto = lista->topLevelItem(5);
@@ -306,8 +305,7 @@ TEST(Captura, LaListaDeTramosLlevaAUno) {
 }
 
 TEST(Captura, ElUltimoCampoPostesadoLlevaALaColocacion) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edTramo);
   p.ventana->captura().Hace([&] { CambiaPagina(p.c, 1); });
   p.Pincha(Ed::edTramo);
@@ -403,8 +401,7 @@ class EnIdioma : public testing::TestWithParam<int> {};
 
 TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
   const int idioma = GetParam();
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   auto* lista = qobject_cast<QComboBox*>(p.Campo(Ed::edIdioma));
   lista->setCurrentIndex(idioma - 1);
   emit lista->activated(idioma - 1);

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <fstream>
 #include <functional>
 #include <sstream>
 
@@ -20,17 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 using prueba::Banco;
 using prueba::Carpeta;
-
-std::string Bytes(const fs::path& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  std::ostringstream texto;
-  texto << f.rdbuf();
-  return texto.str();
-}
-
-void Escribe(const fs::path& ruta, const std::string& texto) {
-  std::ofstream(ruta, std::ios::binary) << texto;
-}
+using pruebas::Bytes;
+using pruebas::PonBytes;
 
 std::string Muestra(const Carpeta& carpeta, const std::string& nombre = "o.zrb") {
   const auto ruta = carpeta / nombre;
@@ -158,7 +148,7 @@ TEST(Borrador, DejaLaCapturaComoEstabaYGrabaLoMismo) {
         banco->c.SinTramoEnMano() ? AccionGrabaObra(banco->c) : AccionGrabaTramo(banco->c);
         banco->c.fichero.reset();
         grabado[i++] = Bytes(ruta) + banco->voz.Ultimo();
-        Escribe(ruta, antes);
+        PonBytes(ruta, antes);
       }
       EXPECT_TRUE(grabado[0] == grabado[1]) << otra.voz.Ultimo();
       if (grabado[0].substr(0, antes.size()) != antes) ++grabadas;
@@ -276,7 +266,7 @@ fs::path DejaBorrador(const fs::path& carpeta, const std::string& cuando, int n)
   borrador.cuando = cuando;
   fs::create_directories(carpeta);
   const auto ruta = carpeta / ("borrador-1-" + std::to_string(n) + ".json");
-  Escribe(ruta, TextoDeBorrador(borrador));
+  PonBytes(ruta, TextoDeBorrador(borrador));
   return ruta;
 }
 
@@ -289,7 +279,7 @@ TEST(Cajon, GuardaParaSuDuenoYOfreceLoDeLosMuertos) {
 
   const auto vieja = DejaBorrador(donde, "30/11/2026 08:00", 1);
   const auto nueva = DejaBorrador(donde, "01/12/2026 07:00", 2);
-  Escribe(donde / "borrador-9-9.json", "{\"version\": 1");
+  PonBytes(donde / "borrador-9-9.json", "{\"version\": 1");
   Banco b;
   b.TramoValido();
   cajon.Guarda(TextoDeBorrador(TomaBorrador(b.c)));
@@ -322,7 +312,7 @@ TEST(Cajon, GuardaParaSuDuenoYOfreceLoDeLosMuertos) {
 
 TEST(Cajon, LoQueElDiscoNiegaSeDiceYQuedaLoDeAntes) {
   Carpeta carpeta;
-  Escribe(carpeta / "fichero", "x");
+  PonBytes(carpeta / "fichero", "x");
   const auto causa = [](const Cajon& cajon) {
     try {
       cajon.Guarda("x");
