@@ -19,6 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using prueba::Banco;
 using prueba::Carpeta;
+using prueba::ConTramo;
 using pruebas::Bytes;
 using pruebas::PonBytes;
 
@@ -90,8 +91,7 @@ const Escena kEscenas[] = {
     {"a new Tramo", true,
      [](Banco& b) {
        NuevoTramo(b.c);
-       b.Teclea(Ed::edDescriTramo, "Cruce <b>bajo</b> \"vía\"");
-       b.Teclea(Ed::edDi0, "1,2");
+       b.Teclea({{Ed::edDescriTramo, "Cruce <b>bajo</b> \"vía\""}, {Ed::edDi0, "1,2"}});
      }},
     {"another typology", true,
      [](Banco& b) {
@@ -108,8 +108,7 @@ const Escena kEscenas[] = {
      }},
     {"an Obra without file", false,
      [](Banco& b) {
-       b.Teclea(Ed::edObra, "Nueva");
-       b.Teclea(Ed::edPrsM1, "0,5");
+       b.Teclea({{Ed::edObra, "Nueva"}, {Ed::edPrsM1, "0,5"}});
        NuevoTramo(b.c);
        b.Teclea(Ed::edDi0, "1,2");
      }},
@@ -230,8 +229,7 @@ TEST(Borrador, LasDosVersionesSeVenDatoADato) {
 }
 
 TEST(Borrador, UnTextoDanadoNoEsBorrador) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   auto borrador = TomaBorrador(b.c);
   borrador.fichero = "/tmp/con espacios, 100% \xff y \xc3\xb1.zrb";
   const std::string texto = TextoDeBorrador(borrador);
@@ -259,8 +257,7 @@ TEST(Borrador, UnTextoDanadoNoEsBorrador) {
 
 // A draft as a program leaves it that was killed.
 fs::path DejaBorrador(const fs::path& carpeta, const std::string& cuando, int n) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   auto borrador = TomaBorrador(b.c);
   borrador.autor.arranque += static_cast<unsigned>(n);
   borrador.cuando = cuando;
@@ -280,8 +277,7 @@ TEST(Cajon, GuardaParaSuDuenoYOfreceLoDeLosMuertos) {
   const auto vieja = DejaBorrador(donde, "30/11/2026 08:00", 1);
   const auto nueva = DejaBorrador(donde, "01/12/2026 07:00", 2);
   PonBytes(donde / "borrador-9-9.json", "{\"version\": 1");
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   cajon.Guarda(TextoDeBorrador(TomaBorrador(b.c)));
   struct stat datos {};
   ASSERT_EQ(::stat(cajon.ruta().c_str(), &datos), 0);

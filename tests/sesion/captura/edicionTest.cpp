@@ -98,8 +98,7 @@ TEST(Campos, UnValorQueNadieTocoNoSeRelee) {
 }
 
 TEST(Campos, LaZanjaAnchaSoloSeAvisaEnLaTerraplenada) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Teclea(edB0, "9");
   EXPECT_TRUE(b.voz.mensajes.empty());
   EligeOpcion(b.c, rdTipoColocacion, 1);
@@ -115,8 +114,7 @@ TEST(Campos, LaZanjaAnchaSoloSeAvisaEnLaTerraplenada) {
 }
 
 TEST(Campos, ElAnguloYLaGeneratriz) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Teclea({{edFi0, "90", Pasa}, {edFi0, "91", Queda}});
   EXPECT_EQ(b.voz.Titulo(), "ERROR");
   EligeOpcion(b.c, rdTipoColocacion, 1);
@@ -124,8 +122,7 @@ TEST(Campos, ElAnguloYLaGeneratriz) {
 }
 
 TEST(Campos, UnaListaSinEntradaSeRechazaYVuelveASuDefecto) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.c.TramoEditado = false;
   Cambia(b.c, edTipoCuna0, "");
   EXPECT_EQ(Sale(b.c, edTipoCuna0), Queda);
@@ -205,8 +202,7 @@ TEST(Paginas, SeRevisaAntesDePasar) {
   b.Teclea(edDi0, "1,2");
   EXPECT_TRUE(CambiaPaginaColocacion(b.c, 2));
   EXPECT_EQ(b.c.pantalla.avCargas1, "");
-  b.Teclea(edHr0, "8");
-  b.Teclea(edHr0Final, "8");
+  b.Teclea({{edHr0, "8"}, {edHr0Final, "8"}});
   EXPECT_TRUE(CambiaPaginaColocacion(b.c, 2));
   EXPECT_NE(b.c.pantalla.avCargas1.find("efecto arco. Si se quiere"), std::string::npos);
   CambiaPagina(b.c, 0);
@@ -216,8 +212,7 @@ TEST(Paginas, SeRevisaAntesDePasar) {
 }
 
 TEST(Tipologias, CadaColocacionPideLoSuyo) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   const auto pide = [&] {
     std::string s;
     for (const Ed x : {edB0, edTipoRelleno0, edHr1, edTipoApoyo0, edIAs}) {
@@ -241,8 +236,7 @@ TEST(Tipologias, CadaColocacionPideLoSuyo) {
 }
 
 TEST(Tipologias, ElCambioPreguntaYConNoTodoQueda) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.voz.responde = false;
   EligePaginaTipologia(b.c, 1);
   EXPECT_EQ(b.c.pantalla.pagina.TabTipologia, 0);

@@ -94,6 +94,9 @@ struct Banco {
 
   /// A text that stands in a field without any of its rules having run.
   void Pon(Ed campo, const std::string& texto) { c[campo].texto = texto; }
+  void Pon(std::initializer_list<std::pair<Ed, const char*>> textos) {
+    for (const auto& [campo, texto] : textos) Pon(campo, texto);
+  }
 
   void Escoge(Ed campo, int entrada) {
     Entra(c, campo);
@@ -120,6 +123,11 @@ struct Banco {
   TablasCatalogo tablas;
   Guion voz;
   Captura c;
+};
+
+/// With a Tramo in hand that validates.
+struct ConTramo : Banco {
+  ConTramo() { TramoValido(); }
 };
 
 }  // namespace zorbin::prueba

@@ -20,22 +20,19 @@ namespace {
 // Two Tramos of a new Obra, saved under a name that is asked for at the first save.
 void ObraDeDosTramos(Banco& b, const std::string& fichero) {
   b.voz.fichero = fichero;
-  b.Teclea(Ed::edObra, "Traida de aguas");
-  b.Teclea(Ed::edPrsM1, "0.5");  // the other separator
-  b.Teclea(Ed::edPrsM2, "0,9");
-  b.Teclea(Ed::edPrs2, "0,8");
-  b.Teclea(Ed::edPrs3, "0,2");
+  b.Teclea({{Ed::edObra, "Traida de aguas"},
+            {Ed::edPrsM1, "0.5"},  // the other separator
+            {Ed::edPrsM2, "0,9"},
+            {Ed::edPrs2, "0,8"},
+            {Ed::edPrs3, "0,2"}});
   NuevoTramo(b.c);
-  b.Teclea(Ed::edDescriTramo, "Primero");
-  b.Teclea(Ed::edDi0, "1,2");
+  b.Teclea({{Ed::edDescriTramo, "Primero"}, {Ed::edDi0, "1,2"}});
   ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
   NuevoTramo(b.c);
   b.Teclea(Ed::edDescriTramo, "Segundo");
   EligePaginaTipologia(b.c, 1);
   EligeOpcion(b.c, Ed::rdTipoCamisa, 1);
-  b.Teclea(Ed::edFYKPost, "210");
-  b.Teclea(Ed::edDi0, "1,0");
-  b.Teclea(Ed::edHr0, "2");
+  b.Teclea({{Ed::edFYKPost, "210"}, {Ed::edDi0, "1,0"}, {Ed::edHr0, "2"}});
   ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
 }
 
@@ -189,8 +186,7 @@ TEST(Sesion, UnTextoQueElFicheroNoPuedeGuardarSeRechazaAntesDelPrimerByte) {
 }
 
 TEST(Sesion, SinNombreDeFicheroElTramoNuevoNoQuedaEnLaLista) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.voz.fichero = std::nullopt;
   EXPECT_FALSE(AccionGrabaTramo(b.c));
   EXPECT_EQ(b.voz.Ultimo(), "No ha salvado ningun Fichero");
@@ -262,8 +258,7 @@ TEST(Sesion, LoQueCambiaSinTeclearseAnulaLosAjustes) {
 
 // A refused diameter that is then accepted carries its width with it.
 TEST(Sesion, UnDiametroNoComercialAceptadoALaSegunda) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Teclea(Ed::edDi0, "2,345");
   const double ancho = b.e.tramo.B0;
   b.voz.responde = false;
@@ -300,8 +295,7 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   Banco b;
   ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
   EXPECT_EQ(b.c.lista.size(), 2u);
-  b.Teclea(Ed::edTramo, "1");
-  b.Teclea(Ed::edDescriTramo, "Otro");
+  b.Teclea({{Ed::edTramo, "1"}, {Ed::edDescriTramo, "Otro"}});
   EXPECT_FALSE(AccionGrabaTramo(b.c));
   EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"), std::string::npos)
       << b.voz.Ultimo();
@@ -328,8 +322,7 @@ TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
   EXPECT_TRUE(otra.c.SoloLectura());
   ASSERT_EQ(otra.voz.anuncios.size(), 1u);
   EXPECT_NE(otra.voz.anuncios[0].find("sólo para lectura"), std::string::npos);
-  otra.Teclea(Ed::edTramo, "1");
-  otra.Teclea(Ed::edGr0, "1,9");
+  otra.Teclea({{Ed::edTramo, "1"}, {Ed::edGr0, "1,9"}});
   EXPECT_TRUE(ValidaTramo(otra.c, true)) << otra.voz.Ultimo();
   EXPECT_FALSE(AccionGrabaTramo(otra.c));
   EXPECT_NE(otra.voz.Ultimo().find("o.zrb: está abierto sólo para lectura"), std::string::npos);
@@ -389,8 +382,7 @@ TEST(Sesion, UnNumeroRepetidoNoPisaElTramoDeOtro) {
   ASSERT_TRUE(AbreObra(otra.c, b.ruta));
   otra.voz.fichero = (b.ruta).string();
   NuevoTramo(otra.c);
-  otra.Teclea(Ed::edDescriTramo, "Tercero");
-  otra.Teclea(Ed::edDi0, "1,2");
+  otra.Teclea({{Ed::edDescriTramo, "Tercero"}, {Ed::edDi0, "1,2"}});
   ASSERT_TRUE(AccionGrabaTramo(otra.c)) << otra.voz.Ultimo();
   Banco vuelta;
   ASSERT_TRUE(AbreObra(vuelta.c, b.ruta)) << vuelta.voz.Ultimo();
@@ -420,8 +412,7 @@ TEST(Sesion, OtroSistemaDeUnidades) {
 }
 
 TEST(Sesion, OtroIdiomaConservaLoTecleadoYLaPosicionDeLasListas) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   const std::string di = b.c[Ed::edDi0].texto;
   const int relleno = PosicionEnLista(b.c, Ed::edTipoRelleno0);
   OlvidaCambios(b.c);

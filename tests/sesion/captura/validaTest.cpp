@@ -85,10 +85,7 @@ TEST(ValidaObra, CompletaLoQueNadieTeclea) {
   EXPECT_EQ(b.c[edAlt2].texto, "3,00");
 
   b.e.obra.PrsM1 = 10;  // what an earlier edit left, before step 4 reads the field
-  b.Pon(edPrsM1, "10");
-  b.Pon(edPrs1, "");
-  b.Pon(edPrsM2, "");
-  b.Pon(edPrs3, "");
+  b.Pon({{edPrsM1, "10"}, {edPrs1, ""}, {edPrsM2, ""}, {edPrs3, ""}});
   EXPECT_TRUE(ValidaObra(b.c));
   EXPECT_DOUBLE_EQ(b.e.obra.Prs1, 10 / 1.1);
   EXPECT_EQ(b.c[edPrs1].texto, "9,09");
@@ -98,8 +95,7 @@ TEST(ValidaObra, CompletaLoQueNadieTeclea) {
 TEST(ValidaObra, LoQueSoloMiraLaEdicionPasaAqui) {
   Banco b;
   b.Pon(edPrsM1, "10");  // a final MDP below the initial one
-  b.Pon(edPrsM2, "6");
-  b.Pon(edPrs3, "0,01");
+  b.Pon({{edPrsM2, "6"}, {edPrs3, "0,01"}});
   b.e.obra.Prs3 = 0.01;
   b.Pon(edAlt2, "2");  // and a final height
   EXPECT_TRUE(ValidaObra(b.c)) << b.voz.Ultimo();
@@ -191,8 +187,7 @@ const std::vector<Paso> kTramo{
 TEST(ValidaTramo, CadaFallaConSuMensajeYSuFoco) {
   for (const auto& p : kTramo) {
     SCOPED_TRACE(p.nombre);
-    Banco b;
-    b.TramoValido();
+    ConTramo b;
     p.Prepara(b);
     b.c.pantalla.pagina = {0, b.c.pantalla.pagina.TabTipologia, 0, 0};
     EXPECT_FALSE(ValidaTramo(b.c, true));
@@ -214,8 +209,7 @@ TEST(ValidaTramo, CadaFallaConSuMensajeYSuFoco) {
 }
 
 TEST(ValidaTramo, CalculaLoQueNadieTeclea) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Pon(edPrsM1Tram, "10");
   EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
   const auto& t = b.e.tramo;
@@ -234,11 +228,9 @@ TEST(ValidaTramo, CalculaLoQueNadieTeclea) {
 }
 
 TEST(ValidaTramo, LaCargaDadaQuitaLaConcentrada) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   EligeEntrada(b.c, edTipoApoyo0, 1);
-  b.Pon(edQDato0, "0,05");
-  b.Pon(edICar0, "");
+  b.Pon({{edQDato0, "0,05"}, {edICar0, ""}});
   EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
   const auto& t = b.e.tramo;
   EXPECT_EQ(t.IndCar, 0);
@@ -248,11 +240,8 @@ TEST(ValidaTramo, LaCargaDadaQuitaLaConcentrada) {
 }
 
 TEST(ValidaTramo, LosLimitesQuePasan) {
-  Banco b;
-  b.TramoValido();
-  b.Pon(edCamMax, "");
-  b.Pon(edFi0, "90");
-  b.Pon(edTipoControl, "INTENSO");
+  ConTramo b;
+  b.Pon({{edCamMax, ""}, {edFi0, "90"}, {edTipoControl, "INTENSO"}});
   b.e.tramo.Hr0Tramo = 0.5;  // below 1 m, in an Obra that has a height
   b.e.tramo.Hr0Final = 0.5;
   b.Pon(edPrs1Tram, "0,2");
@@ -266,11 +255,9 @@ TEST(ValidaTramo, LosLimitesQuePasan) {
 }
 
 TEST(ValidaTramo, LaRetraccionDelRevestimientoNoSeLee) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   EligePaginaTipologia(b.c, 1);
-  b.Pon(edFYKPost, "210");
-  b.Pon(edEpsr, "cualquier cosa");
+  b.Pon({{edFYKPost, "210"}, {edEpsr, "cualquier cosa"}});
   b.Pon(edFckn, "30");  // as at winding
   b.Pon(edSf, "");
   b.e.tramo.Fyk = 210;
@@ -282,8 +269,7 @@ TEST(ValidaTramo, LaRetraccionDelRevestimientoNoSeLee) {
 }
 
 TEST(ValidaTramo, LaTensionDelAceroSePreguntaYNoSeProhibe) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Pon(edFyd, "140");
   EXPECT_TRUE(ValidaTramo(b.c, true));
   EXPECT_TRUE(b.voz.preguntas.empty());
@@ -303,8 +289,7 @@ TEST(ValidaTramo, LaTensionDelAceroSePreguntaYNoSeProhibe) {
 }
 
 TEST(ValidaTramo, LasDimensionesSePreguntanYEnSilencioNo) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Pon(edReci0, "5,0");
   b.voz.responde = true;  // wants to change them
   EXPECT_FALSE(ValidaTramo(b.c, true));
@@ -320,8 +305,7 @@ TEST(ValidaTramo, LasDimensionesSePreguntanYEnSilencioNo) {
 }
 
 TEST(ValidaTramo, EnSilencioNoPareceUnaEdicion) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.c.TramoEditado = b.c.ObraEditada = true;
   EXPECT_TRUE(ValidaTramo(b.c, true));
   EXPECT_TRUE(b.c.EnCambio());
@@ -330,8 +314,7 @@ TEST(ValidaTramo, EnSilencioNoPareceUnaEdicion) {
 }
 
 TEST(ValidaTramo, SinTipologia) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.e.tramo.Tipologia = 1100;  // known to the listings, not to the capture
   EXPECT_FALSE(ValidaTramo(b.c, true));
   EXPECT_EQ(b.voz.Ultimo(), "Sin definir la Tipología");
