@@ -99,6 +99,8 @@ TEST_F(Zrb, IdaYVueltaEnLosDosSistemasYConLosDosSeparadores) {
         EXPECT_EQ(a.Icontes0, b.Icontes0);
         EXPECT_TRUE(a.EsArmado);
         for (const auto& c : pruebas::kNumerosTramo) {
+          // A Tramo without heights of its own keeps the increment of the Obra.
+          if (c.campo == &Tramo::Hr0Delta && b.Hr0Tramo == 0) continue;
           EXPECT_NEAR(a.*c.campo, b.*c.campo, 1e-9) << i << c.nombre;
         }
       }

@@ -94,8 +94,8 @@ struct Banco {
 
   /// A text that stands in a field without any of its rules having run.
   void Pon(Ed campo, const std::string& texto) { c[campo].texto = texto; }
-  void Pon(std::initializer_list<std::pair<Ed, const char*>> textos) {
-    for (const auto& [campo, texto] : textos) Pon(campo, texto);
+  void Pon(std::initializer_list<std::pair<Ed, const char*>> contenidos) {
+    for (const auto& [campo, texto] : contenidos) Pon(campo, texto);
   }
 
   void Escoge(Ed campo, int entrada) {
