@@ -43,6 +43,13 @@ enum class Lectura {
 /// Runs the Tramo of a state in capture units. The state is left as the run leaves it.
 Final Corre(EstadoCalculo& e, const Catalogo& textos, Lectura lectura);
 
+/// The catalogue of the program, in Spanish.
+const Catalogo& Textos();
+
+/// Where a JSON says "null" for a number that is not finite; empty for nowhere. An adjustment and a
+/// failure that there are not read so too.
+std::string HuecoDeJson(const std::string& json);
+
 /// What in a text is no text of a listing: an infinity, a NaN, an exponent, an entry that the
 /// catalogue lacks. Empty where there is nothing.
 std::string Basura(const std::string& texto, bool conExponentes);

@@ -183,3 +183,8 @@ std::string FicheroDeRegistros(std::string_view datos) {
 }
 
 }  // namespace zorbin::hostil
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
+  zorbin::hostil::Prueba(zorbin::hostil::Vista(datos, largo));
+  return 0;
+}

@@ -7,6 +7,7 @@
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
 #include "persistencia/disco/mdDescriptor.h"
+#include "programas/zorbin-calc/mdAyuda.h"
 #include "programas/zorbin-calc/mdCalcula.h"
 #include "programas/zorbin-calc/mdCalculadoras.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"

@@ -2,6 +2,7 @@
 #include "calculo/armado/mdArmado.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
