@@ -22,6 +22,11 @@ inline constexpr double kAreaUnaCapa = 35.06;
 /// Section of n bars of diameter D [mm], in cm2/m.
 double AreaBarras(double D, double n);
 
+/// Whether n bars of diameter D [mm] in a metre leave between them, in one layer, a bar's diameter
+/// and 2 cm at least.
+/// @throws ErrorEjecucion DivisionPorCero for no bars
+bool CabenEnUnaCapa(double D, double n);
+
 /// @param AS             required area [cm2/m]
 /// @param ICAMIS         0 bars only, 1 sheet and spirals, any other a sheet alone
 /// @param CAMMAX         maximum sheet thickness [mm]; not applied to a sheet alone

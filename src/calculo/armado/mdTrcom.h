@@ -17,8 +17,13 @@ struct DatosSeccion {
   double BRAZO = 0;  // lever arm between the two layers [m]
 };
 
+/// The least steel of a face in composite tension [cm2/m]: 0.04 Fck GamaY Esp / (GamaB Fyk), on the
+/// whole thickness.
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
+double MinimaTraccion(const DatosSeccion& d);
+
 /// Area of one face [cm2/m], found by the share of N that its layer takes; never below
-/// 0.04 Fck GamaY Esp / (GamaB Fyk), on the whole thickness.
+/// `MinimaTraccion`.
 /// @param M        moment [m·t/m]
 /// @param N        axial force, tension [t/m]
 /// @param Aotra    area of the other face [cm2/m]
