@@ -10,6 +10,7 @@
 
 #include "base/tablas.h"
 #include "core/resultadoPostesado.h"
+#include "core/verificacion.h"
 
 namespace zorbin {
 
@@ -142,6 +143,7 @@ struct ResultadoCaso {
   TerminosCaso NHip;          // axial forces of the load terms [t/m]
   std::vector<Aviso> avisos;  // in the order in which they arose
   std::variant<ResultadoArmado, ResultadoPostesado> diseno;
+  Verificacion verificacion;
 
   bool EsArmado() const { return std::holds_alternative<ResultadoArmado>(diseno); }
   const ResultadoArmado& Armado() const { return std::get<ResultadoArmado>(diseno); }

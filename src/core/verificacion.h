@@ -25,7 +25,7 @@ enum class QueComprueba : std::uint8_t {
   MomentoLimite,         // moment / limit moment [m·t/m]
   Fisuracion,            // tension of the concrete / allowed [kp/cm2]
   TopeExterior,          // outer steel provided / its maximum [cm2/m]
-  FlexionTope,           // outer steel that flexure asks for / its maximum [cm2/m]
+  ExteriorIneludible,    // outer steel asked whatever the inner one / its maximum [cm2/m]
   Espesor,               // wall or wire too small: there is no design
   FuerzaAlambre,         // ring force / that of the thickest wire [t/m]
   Zunchado,              // core at winding: stress / allowed [kp/cm2]
@@ -54,14 +54,15 @@ struct ComprobacionCaso {
 /// Why a Caso does not comply, or could not be checked.
 enum class MotivoVeredicto : std::uint8_t {
   Ninguno,
-  Comprobacion,        // of no complying check; `que` of the summary tells which is used most
-  FlexionSobreTope,    // flexure asks for more outer steel than its maximum
-  FisuracionSobreTope, // cracking takes the outer face past its maximum
-  SinSolucion,         // no outer steel within its maximum: the areas found are no design
-  FalloCorrida,        // the calculation failed
-  AxilNulo,            // an axial force of 0, which the formulas divide by
-  PruebaOtraPasada,    // post-tensioned: PP rests on a pass of another hypothesis or winding
-  CapasDeAjuste,       // adjusted by hand: layers and spacing depend on bars that nobody chose
+  Comprobacion,         // of no complying check; `que` of the summary tells which is used most
+  MomentoLimite,        // a moment is past the limit moment: the formulas give no steel
+  FlexionSobreTope,     // flexure asks for more outer steel than its maximum
+  FisuracionSobreTope,  // cracking takes the outer face past its maximum
+  SinSolucion,          // no outer steel within its maximum: the areas found are no design
+  FalloCorrida,         // the calculation failed
+  AxilNulo,             // an axial force of 0, which the formulas divide by
+  PruebaOtraPasada,     // post-tensioned: PP rests on a pass of another hypothesis or winding
+  CapasDeAjuste,        // adjusted by hand: layers and spacing depend on bars that nobody chose
 };
 
 /// What a Caso that complies is told besides; a bit each.

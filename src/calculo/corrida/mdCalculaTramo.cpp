@@ -9,6 +9,7 @@
 #include "calculo/cargas/mdMarston.h"
 #include "calculo/cargas/mdOvaliz.h"
 #include "calculo/cargas/mdTablaCargas.h"
+#include "calculo/corrida/mdVeredicto.h"
 #include "calculo/postesado/mdLame.h"
 #include "calculo/postesado/mdPostesado.h"
 #include "core/mdUnidades.h"
@@ -204,7 +205,11 @@ class CorridaTramo {
  public:
   CorridaTramo(const DatosTramo& datos, const Rango& rango, const SigueCorrida& sigue,
                Registro* registro)
-      : r_(rango), sigue_(sigue), registro_(registro), e_(EstadoDe(datos, rango, registro)) {
+      : r_(rango),
+        sigue_(sigue),
+        registro_(registro),
+        e_(EstadoDe(datos, rango, registro)),
+        veredicto_(x_.datos) {
     x_.datos = datos;
     x_.rango = rango;
     fila_.Hr = rango.Hr0;
@@ -230,6 +235,7 @@ class CorridaTramo {
   Registro* const registro_;
   ResultadoTramo x_;
   EstadoCalculo e_;
+  VeredictoTramo veredicto_;
   Cargas dadas_;
   double casos_ = 0;       // expected
   FilaCaso fila_;          // of the Caso in hand
@@ -304,8 +310,10 @@ class CorridaTramo {
   void Anota() {
     FilaCaso f = fila_;
     if (x_.datos.tramo.EsArmado) {
+      f.verificacion = veredicto_.Resume(e_.caso.armado, e_.caso.avisos);
       PonDiseno(f, e_.caso.armado);
     } else {
+      f.verificacion = veredicto_.Resume(e_.caso.postesado, f.DP, f.MDP);
       PonDiseno(f, e_.caso.postesado);
     }
     f.avisos = Avisados(e_.caso.avisos);
@@ -396,10 +404,13 @@ ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila) 
   PonCaso(e, fila);
   PonAltura(e, resultado.Altura(fila));
   Disena(e);
-  ResultadoCaso caso{e.caso.MHip, e.caso.NHip, std::move(e.caso.avisos), {}};
+  ResultadoCaso caso{e.caso.MHip, e.caso.NHip, std::move(e.caso.avisos), {}, {}};
+  VeredictoTramo veredicto(resultado.datos);
   if (e.tramo.EsArmado) {
+    caso.verificacion = veredicto.Verifica(e.caso.armado, caso.avisos);
     caso.diseno = e.caso.armado;
   } else {
+    caso.verificacion = veredicto.Verifica(e.caso.postesado, fila.DP, fila.MDP);
     caso.diseno = e.caso.postesado;
   }
   return caso;

@@ -10,8 +10,14 @@
 
 namespace zorbin {
 
+/// Stress that the core may have just after winding [kp/cm2].
+/// @param Fckno  its strength then [kp/cm2]
+constexpr double LimiteZunchado(double Fckno) {
+  return 0.55 * Fckno;
+}
+
 /// Losses, residual stress, and stresses of core and coating without external load. It ends early,
-/// with NucleoAguanta false, when the stress of the core just after winding is above 0.55 Fckno.
+/// with NucleoAguanta false, when the stress of the core just after winding is above its limit.
 /// The residual stress is cut at 60 % of the breaking stress; with high creep the loss by
 /// relaxation turns negative, and is left so.
 /// Reads Sf, SFck, Fckno, Ep [kp/cm2], Rel [%], Fic, Fir, PostFlag of the Tramo.

@@ -13,7 +13,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kPrimeraConMomento = 2;    // the factory test has none
+constexpr int kPrimeraConMomento = 2;  // the factory test has none
 constexpr double kKpPorT = 1000.0;
 
 constexpr double kBarraDeFisuracion = 0.25;  // outer steel that rounding alone does not add [cm2/m]
@@ -25,26 +25,34 @@ constexpr CaraPared Cara(std::size_t cara) {
 // A section of a hypothesis: its forces, the face in tension, and what that face needs.
 struct SeccionVista {
   int h, s;
-  double M, N;        // [m·t/m], [t/m]
-  std::size_t cara;   // in tension: 0 inner, 1 outer
-  bool traccion;      // composite tension
-  double necesaria;   // [cm2/m]
+  double M, N;       // [m·t/m], [t/m]
+  std::size_t cara;  // in tension: 0 inner, 1 outer
+  bool traccion;     // composite tension
+  double necesaria;  // [cm2/m]
 };
 
-SeccionVista MiraSeccion(const DatosVerificacion& d, const Esfuerzos& x,
-                         const ArmaduraDispuesta& a, int h, int s) {
+SeccionVista MiraSeccion(const DatosVerificacion& d, const Esfuerzos& x, const ArmaduraDispuesta& a,
+                         int h, int s) {
   const double M = x.M(h, s);
   const double N = x.N(h, s);
   const bool interior = TraccionaInterior(s, M);
   const std::size_t cara = interior ? 0 : 1;
-  const auto c = Lineas_1050(interior ? a.AsInt : a.AsExt, interior ? a.AsExt : a.AsInt,
-                             CalculaM(M), d.BRAZO, N * kKpPorT, d.seccion.Fyd, d.CANTO[cara],
-                             d.Fcad);
+  const auto c =
+      Lineas_1050(interior ? a.AsInt : a.AsExt, interior ? a.AsExt : a.AsInt, CalculaM(M), d.BRAZO,
+                  N * kKpPorT, d.seccion.Fyd, d.CANTO[cara], d.Fcad);
   return {h, s, M, N, cara, c.traccion, c.necesaria};
 }
 
 double Minima(const DatosVerificacion& d, const SeccionVista& v) {
   return v.traccion ? d.minimaTraccion : d.minimaFlexion[v.cara];
+}
+
+// What the tensioned face of a section asks for whatever the steel of the other one: all that
+// flexure asks; in composite tension the couple of the moment, for the other face may take the
+// rest.
+double Ineludible(const DatosVerificacion& d, const SeccionVista& v, bool conMinima) {
+  const double pide = v.traccion ? Div(CalculaM(v.M), d.BRAZO * d.seccion.Fyd) : v.necesaria;
+  return conMinima ? std::max(pide, Minima(d, v)) : pide;
 }
 
 bool HayAxilNulo(const Esfuerzos& x) {
@@ -106,13 +114,13 @@ class Recorrido {
     const auto cara = Cara(v.cara);
     Comprueba(QueComprueba::Armadura, h, s, cara, v.necesaria, dispuesta_[v.cara]);
     if (!v.traccion) {
-      const double Mr = MomentoReducido(d_.seccion, v.M, v.N, d_.seccion.Esp,
-                                        d_.recubrimiento[v.cara]);
+      const double Mr =
+          MomentoReducido(d_.seccion, v.M, v.N, d_.seccion.Esp, d_.recubrimiento[v.cara]);
       Comprueba(QueComprueba::MomentoLimite, h, s, cara, Mr, d_.momentoLimite[v.cara]);
-      if (d_.tope && cara == CaraPared::Exterior) {
-        Comprueba(QueComprueba::FlexionTope, h, s, cara, std::max(v.necesaria, Minima(d_, v)),
-                  *d_.tope);
-      }
+    }
+    if (d_.tope && cara == CaraPared::Exterior) {
+      Comprueba(QueComprueba::ExteriorIneludible, h, s, cara, Ineludible(d_, v, !a_.ajustada),
+                *d_.tope);
     }
     const double minima = Minima(d_, v);
     if (minima > minimas_[v.cara].area) minimas_[v.cara] = {minima, h, s};
@@ -144,7 +152,7 @@ std::uint32_t Avisos(const DatosVerificacion& d, const ResultadoArmado& r,
                      const ArmaduraDispuesta& a) {
   std::uint32_t avisos = 0;
   if (d.TipoCamisa > 0) {
-    const bool segunDiseno = r.HipotesisRige != kHipPPNeta && r.ErrorPostesado == 2;
+    const bool segunDiseno = !a.ajustada && r.HipotesisRige != kHipPPNeta && r.ErrorPostesado == 2;
     const double total = Div(a.AsInt + a.AsExt, d.seccion.Esp * 10000.0);
     if (segunDiseno || total > d.ASC) avisos |= kAvisoRetraccion;
   } else {
@@ -160,13 +168,25 @@ std::uint32_t Avisos(const DatosVerificacion& d, const ResultadoArmado& r,
   return avisos;
 }
 
-MotivoVeredicto PorQueNoCumple(const ArmaduraDispuesta& a, bool sinSolucion, double flexionTope,
-                               double topeExterior) {
-  if (sinSolucion) return MotivoVeredicto::SinSolucion;
-  if (flexionTope > kUsoCumple) return MotivoVeredicto::FlexionSobreTope;
-  if (topeExterior > kUsoCumple && a.exteriorPorFisuracion) {
-    return MotivoVeredicto::FisuracionSobreTope;
+// Uses that decide why a Caso does not comply.
+struct UsosDelMotivo {
+  double momento = 0;
+  double ineludible = 0;
+  double tope = 0;
+
+  void Anota(const ComprobacionCaso& c) {
+    if (c.que == QueComprueba::MomentoLimite) momento = std::max(momento, c.uso);
+    if (c.que == QueComprueba::ExteriorIneludible) ineludible = std::max(ineludible, c.uso);
+    if (c.que == QueComprueba::TopeExterior) tope = c.uso;
   }
+};
+
+MotivoVeredicto PorQueNoCumple(const ArmaduraDispuesta& a, bool sinSolucion,
+                               const UsosDelMotivo& u) {
+  if (sinSolucion) return MotivoVeredicto::SinSolucion;
+  if (u.momento > 1.0) return MotivoVeredicto::MomentoLimite;
+  if (u.ineludible > kUsoCumple) return MotivoVeredicto::FlexionSobreTope;
+  if (u.tope > kUsoCumple && a.exteriorPorFisuracion) return MotivoVeredicto::FisuracionSobreTope;
   return MotivoVeredicto::Comprobacion;
 }
 
@@ -180,8 +200,9 @@ ResumenVerificacion Juzga(const DatosVerificacion& d, const ResultadoArmado& r,
                           const ArmaduraDispuesta& a, bool sinSolucion, Toma&& toma) {
   ResumenVerificacion resumen;
   if (r.IESP > 0) {
-    const ComprobacionCaso pared{QueComprueba::Espesor, 0, 0, CaraPared::Ninguna,
-                                 static_cast<double>(r.IESP), 0.0, kUsoSinLimite};
+    const ComprobacionCaso pared{
+        QueComprueba::Espesor, 0, 0, CaraPared::Ninguna, static_cast<double>(r.IESP), 0.0,
+        kUsoSinLimite};
     toma(pared);
     Anota(resumen, pared);
     resumen.veredicto = Veredicto::NoCumple;
@@ -189,20 +210,18 @@ ResumenVerificacion Juzga(const DatosVerificacion& d, const ResultadoArmado& r,
     return resumen;
   }
   if (HayAxilNulo(r.esfuerzos)) return SinComprobar(MotivoVeredicto::AxilNulo);
-  double flexionTope = 0;
-  double topeExterior = 0;
+  UsosDelMotivo usos;
   const auto anota = [&](const ComprobacionCaso& c) {
     Anota(resumen, c);
-    if (c.que == QueComprueba::FlexionTope) flexionTope = std::max(flexionTope, c.uso);
-    if (c.que == QueComprueba::TopeExterior) topeExterior = c.uso;
+    usos.Anota(c);
     toma(c);
   };
   Recorrido(d, r, a, anota).Corre();
   resumen.avisos = Avisos(d, r, a);
   const bool agotado = sinSolucion && !a.ajustada;
-  if (agotado || resumen.uso > kUsoCumple) {
+  if (agotado || usos.momento > 1.0 || resumen.uso > kUsoCumple) {
     resumen.veredicto = Veredicto::NoCumple;
-    resumen.motivo = PorQueNoCumple(a, agotado, flexionTope, topeExterior);
+    resumen.motivo = PorQueNoCumple(a, agotado, usos);
   } else if (a.ajustada) {
     resumen.motivo = MotivoVeredicto::CapasDeAjuste;
   } else {
@@ -224,6 +243,8 @@ void AnotaUso(UsosArmado& u, const ComprobacionCaso& c) {
       return sube(u.prueba);
     case QueComprueba::MomentoLimite:
       return sube(u.momento);
+    case QueComprueba::ExteriorIneludible:
+      return sube(u.ineludible);
     default:
       return;
   }
@@ -279,8 +300,8 @@ Verificacion VerificaArmado(const DatosVerificacion& d, const ResultadoArmado& r
                             const ArmaduraDispuesta& a, bool sinSolucion) {
   Verificacion v;
   auto& lista = v.comprobaciones;
-  static_cast<ResumenVerificacion&>(v) = Juzga(
-      d, r, a, sinSolucion, [&lista](const ComprobacionCaso& c) { lista.push_back(c); });
+  static_cast<ResumenVerificacion&>(v) =
+      Juzga(d, r, a, sinSolucion, [&lista](const ComprobacionCaso& c) { lista.push_back(c); });
   return v;
 }
 
@@ -288,20 +309,6 @@ bool SinSolucionExterior(std::span<const Aviso> avisos) {
   return std::any_of(avisos.begin(), avisos.end(), [](const Aviso& a) {
     return a.clase == ClaseAviso::NoLlegaNegativos || a.clase == ClaseAviso::NoLlegaAmbos;
   });
-}
-
-double ExteriorIneludible(const DatosVerificacion& d, const Esfuerzos& x) {
-  double area = 0;
-  for (int h = kPrimeraConMomento; h <= kHipotesisArmado; ++h) {
-    for (int s = 1; s <= kSecciones; ++s) {
-      const auto v = MiraSeccion(d, x, {}, h, s);
-      if (v.cara == 0) continue;
-      const double pide =
-          v.traccion ? Div(CalculaM(v.M), d.BRAZO * d.seccion.Fyd) : v.necesaria;
-      area = std::max({area, pide, Minima(d, v)});
-    }
-  }
-  return area;
 }
 
 }  // namespace zorbin

@@ -40,11 +40,11 @@ DatosVerificacion DatosDeVerificacion(const Tramo& t);
 
 /// Steel of both faces.
 struct ArmaduraDispuesta {
-  double AsInt = 0, AsExt = 0;           // [cm2/m]
-  double FIIN = 0, FIEX = 0;             // bar diameters [mm]
-  double NESPIN = 0, NEXPEX = 0;         // bars [1/m]; 0 of an adjusted Caso, which has none
-  bool ajustada = false;                 // fixed by hand
-  bool exteriorPorFisuracion = false;    // outer bars were added against cracking
+  double AsInt = 0, AsExt = 0;         // [cm2/m]
+  double FIIN = 0, FIEX = 0;           // bar diameters [mm]
+  double NESPIN = 0, NEXPEX = 0;       // bars [1/m]; 0 of an adjusted Caso, which has none
+  bool ajustada = false;               // fixed by hand
+  bool exteriorPorFisuracion = false;  // outer bars were added against cracking
 };
 
 /// The steel that the design of a Caso ends with.
@@ -56,9 +56,11 @@ struct UsosArmado {
   std::array<double, 2> fisuracion{};  // of each face
   double prueba = 0;                   // factory test, in all
   double momento = 0;                  // limit moment
+  double ineludible = 0;               // outer steel asked whatever the inner one
 };
 
-/// The verdict in short; it allocates nothing.
+/// The verdict in short; it allocates nothing. A moment past its limit is allowed no use above 1:
+/// no steel was calculated for it.
 /// @param r       esfuerzos, TablaHip(1), HipotesisRige, IESP
 /// @param sinSolucion  the design found no outer area within its maximum
 /// @param usos    where they are wanted
@@ -72,11 +74,5 @@ Verificacion VerificaArmado(const DatosVerificacion& d, const ResultadoArmado& r
 
 /// Whether a search ended without an outer area within its maximum.
 bool SinSolucionExterior(std::span<const Aviso> avisos);
-
-/// The outer area that a Caso asks for whatever the inner one [cm2/m]: that of flexure, the couple
-/// M / (BRAZO · Fyd) of a section in composite tension, whose other part the inner steel may take,
-/// and the least steel.
-/// @throws ErrorEjecucion as the formulas of the sections
-double ExteriorIneludible(const DatosVerificacion& d, const Esfuerzos& x);
 
 }  // namespace zorbin
