@@ -64,9 +64,9 @@ bool HayAxilNulo(const Esfuerzos& x) {
   return false;
 }
 
-// A whole number of bars may pass the outer maximum, but not by a bar.
+// A whole number of bars may pass the outer maximum, but not by a bar. An adjusted Caso has none.
 bool PasaPorRedondeo(const ArmaduraDispuesta& a, double tope) {
-  return !a.ajustada && !a.exteriorPorFisuracion && a.AsExt - tope < AreaBarras(a.FIEX, 1.0);
+  return !a.exteriorPorFisuracion && a.AsExt - tope < AreaBarras(a.FIEX, 1.0);
 }
 
 // All the checks of a Caso, each handed to `toma`.

@@ -85,6 +85,15 @@ TEST(Envolvente, ElTopeSeAgotaYNoSePasa) {
   EXPECT_LT(x.armado.AsExt, 11.7 + x.armado.FIEX * x.armado.FIEX * M_PI / 400);
 }
 
+// A maximum that lies far away changes nothing.
+TEST(Envolvente, ElTopeLejanoNoCuenta) {
+  Escena libre;
+  libre.Pon(4, RINONES, -1.5, 8);
+  Escena lejano = libre;
+  lejano.t = ConTope(lejano.t, 60);
+  EXPECT_EQ(lejano.Corre().armado.AsExt, libre.Corre().armado.AsExt);
+}
+
 TEST(Envolvente, DondeElAceroNoAyudaQuedaElDelMetodo) {
   struct Fila {
     const char* nombre;

@@ -31,20 +31,23 @@ const ComprobacionCaso* Busca(const Verificacion& v, QueComprueba que, int h, in
 // in flexo-compression the check is the design's own formula above its least area.
 TEST(VerificaArmado, LoNecesarioEquilibraLaCaraTraccionada) {
   struct Fila {
+    int h;
     double M, N;
     int s;
     CaraPared cara;
   };
-  for (const auto& f :
-       {Fila{0.4, 20, CLAVE, CaraPared::Interior}, Fila{-0.4, 20, SOLERA, CaraPared::Exterior},
-        Fila{-0.5, 18, RINONES, CaraPared::Exterior}, Fila{0.0, 15, RINONES, CaraPared::Exterior},
-        Fila{2.0, 20, SOLERA, CaraPared::Interior}, Fila{-2.0, 20, RINONES, CaraPared::Exterior},
-        Fila{2.0, -6, CLAVE, CaraPared::Interior}}) {
+  for (const auto& f : {Fila{2, 0.4, 20, CLAVE, CaraPared::Interior},
+                        Fila{3, -0.4, 20, SOLERA, CaraPared::Exterior},
+                        Fila{4, -0.5, 18, RINONES, CaraPared::Exterior},
+                        Fila{5, 0.0, 15, RINONES, CaraPared::Exterior},
+                        Fila{2, 2.0, 20, SOLERA, CaraPared::Interior},
+                        Fila{4, -2.0, 20, RINONES, CaraPared::Exterior},
+                        Fila{5, 2.0, -6, CLAVE, CaraPared::Interior}}) {
     Escena e;
-    e.r.esfuerzos.M(3, f.s) = f.M;
-    e.r.esfuerzos.N(3, f.s) = f.N;
+    e.r.esfuerzos.M(f.h, f.s) = f.M;
+    e.r.esfuerzos.N(f.h, f.s) = f.N;
     const auto v = e.Juzga();
-    const auto* c = Busca(v, QueComprueba::Armadura, 3, f.s);
+    const auto* c = Busca(v, QueComprueba::Armadura, f.h, f.s);
     ASSERT_NE(c, nullptr);
     EXPECT_EQ(c->cara, f.cara);
     const bool interior = f.cara == CaraPared::Interior;
