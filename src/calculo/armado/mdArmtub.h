@@ -2,6 +2,9 @@
 // bars, at the inner face, and bars at the outer one.
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include "core/estado_calculo.h"
 
 namespace zorbin {
@@ -11,32 +14,23 @@ struct AreasCaras {
   double AsExt;  // [cm2/m]
 };
 
-/// Steel for the ring tension of the factory test PP, without choosing bars.
-/// Reads tramo: Di [m], Fyd [kp/cm2], Icontes0, Adato [cm2/m], CamMax [mm], TipoCamisa;
-///       corrida.PP [at] (not PPNeta; the difference is kept).
-/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-AreasCaras ArmPPNeta(const EstadoCalculo& e);
+struct AceroBuscado : AceroArmado {
+  SinFisuracion sinFisuracion;       // steel before the cracking check, without sheet
+  double TensionMax = 0;             // largest concrete tension of the cracking check [kp/cm2]
+  std::optional<double> TensionAdm;  // stress allowed beside it [kp/cm2]; none without tension
+  double TensionAdmMin = 0;          // smallest stress allowed [kp/cm2]
+  std::int16_t ErrorPostesado = 0;   // 0 none, 2 shrinkage limit, 4 limit moment
+  bool MomentoTope = false;
+};
 
-/// Lays out the areas of the factory test: bars, or sheet and bars, at the inner face, and bars at
-/// the outer one. Nothing is added for cracking, which is checked where there is a moment.
-/// Reads  tramo: TipoCamisa, CamMax [mm]; caso.armado: ajuste, AreaExterior.
-/// Writes caso.armado: CAMISA, FIIN, NESPIN, FIEX, NEXPEX, IESP; caso.avisos, bars that do not fit
-///        in one layer.
-/// @param as  required areas [cm2/m]
-/// @throws ErrorEjecucion as `ReparteArmadura`
-void DisponePPNeta(EstadoCalculo& e, const AreasCaras& as);
+double BrazoEntreCapas(const Tramo& t);
 
-/// Searches the steel for the hypotheses H1 to H2: classifies every section as composite tension
-/// or flexo-compression, couples the two faces where both are in composite tension, and checks
-/// the steel ratio (with a sheet) or cracking (without one).
-/// Reads  tramo: Esp, Reci, Rece [m], TipoCamisa, CamMax [mm], Icontes0, Adato [cm2/m],
-///        TipoControl, SubTipo, Fck, Fct, Fyk, Fyd [kp/cm2], GamaB, GamaY, GamaF;
-///        caso.armado: esfuerzos, ajuste, AreaExterior.
-/// Writes caso.armado: CAMISA, FIIN, NESPIN, FIEX, NEXPEX, IESP, BRAZO, sinFisuracion,
-///        TensionMax, TensionAdm, TensionAdmMin, ErrorPostesado, MomentoTope; caso.avisos, a given
-///        warning once a call at most.
-/// @throws ErrorEjecucion DivisionPorCero (an axial force of 0 among them), Desbordamiento,
-///         SinConvergencia
-void ArmTubo(EstadoCalculo& e, int H1, int H2, FaseAviso fase);
+AreasCaras ArmPPNeta(const Tramo& t, double PP);
+
+AceroArmado DisponePPNeta(const Tramo& t, const AreasCaras& as, const std::optional<Ajuste>& ajuste,
+                          std::vector<Aviso>& avisos);
+
+AceroBuscado ArmTubo(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, FaseAviso fase,
+                     const std::optional<Ajuste>& ajuste, Marcha& marcha);
 
 }  // namespace zorbin

@@ -49,9 +49,9 @@ TensionFisuracion TensionDeFisuracion(const ParedFisuracion& p, const SeccionHom
   return {Finito(Sn + Sm), Sa};
 }
 
-Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2,
+Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis,
                        CuentaVueltas& vueltas)
-    : esfuerzos_(esfuerzos), vueltas_(vueltas), H1_(H1), H2_(H2), pared_(ParedDe(t)) {}
+    : esfuerzos_(esfuerzos), vueltas_(vueltas), h_(hipotesis), pared_(ParedDe(t)) {}
 
 void Fisuracion::Comprueba(double& Ri, double& Re) {
   for (int ronda = 0; ronda < kMaxVueltas; ++ronda) {
@@ -68,7 +68,6 @@ bool Fisuracion::Pasa(const SeccionHomogenea& h, double M, double N) {
   if (Sx > tensionMax_) {
     tensionMax_ = Sx;
     tensionAdm_ = Sa;
-    hayTension_ = true;
   }
   return !(Sx > Sa);
 }
@@ -76,14 +75,12 @@ bool Fisuracion::Pasa(const SeccionHomogenea& h, double M, double N) {
 // Grows the steel at the first section that does not pass.
 bool Fisuracion::PasanTodas(double& Ri, double& Re) {
   const SeccionHomogenea homogenea = Homogeneiza(pared_, Ri, Re);
-  for (int h = H1_; h <= H2_; ++h) {
-    for (int s = 1; s <= kSecciones; ++s) {
-      const double M = esfuerzos_.M(h, s);
-      if (Pasa(homogenea, M, esfuerzos_.N(h, s))) continue;
-      if (M >= 0) Ri = Ri + kPasoAcero;
-      if (M <= 0) Re = Re + kPasoAcero;
-      return false;
-    }
+  for (int s = 1; s <= kSecciones; ++s) {
+    const double M = esfuerzos_.M(h_, s);
+    if (Pasa(homogenea, M, esfuerzos_.N(h_, s))) continue;
+    if (M >= 0) Ri = Ri + kPasoAcero;
+    if (M <= 0) Re = Re + kPasoAcero;
+    return false;
   }
   return true;
 }

@@ -2,6 +2,8 @@
 // concrete allows, with steel added where it is not enough.
 #pragma once
 
+#include <optional>
+
 #include "core/estado_calculo.h"
 
 namespace zorbin {
@@ -47,7 +49,7 @@ class Fisuracion {
   /// @param t        Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
   /// @param vueltas  of the run; the check adds its own
   /// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
-  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2, CuentaVueltas& vueltas);
+  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, CuentaVueltas& vueltas);
 
   /// Adds steel in steps of 0.5 cm2/m until every section of the hypotheses passes. A second call
   /// keeps the largest tension found by the first until steel has to grow again.
@@ -55,21 +57,18 @@ class Fisuracion {
   /// @throws ErrorEjecucion SinConvergencia: the tension may saturate, and then no steel helps
   void Comprueba(double& Ri, double& Re);
 
-  double TensionMax() const { return tensionMax_; }        // [kp/cm2]
-  double TensionAdm() const { return tensionAdm_; }        // beside TensionMax [kp/cm2]
-  double TensionAdmMin() const { return tensionAdmMin_; }  // [kp/cm2]
-  bool HayTension() const { return hayTension_; }          // TensionAdm was found
+  double TensionMax() const { return tensionMax_; }                 // [kp/cm2]
+  std::optional<double> TensionAdm() const { return tensionAdm_; }  // beside TensionMax [kp/cm2]
+  double TensionAdmMin() const { return tensionAdmMin_; }           // [kp/cm2]
 
  private:
   const Esfuerzos& esfuerzos_;
   CuentaVueltas& vueltas_;
-  const int H1_;
-  const int H2_;
+  const int h_;
   const ParedFisuracion pared_;
   double tensionMax_ = 0;
-  double tensionAdm_ = 0;
+  std::optional<double> tensionAdm_;
   double tensionAdmMin_ = 1e20;
-  bool hayTension_ = false;
 
   bool Pasa(const SeccionHomogenea& h, double M, double N);
   bool PasanTodas(double& Ri, double& Re);

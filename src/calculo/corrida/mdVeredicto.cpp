@@ -1,7 +1,7 @@
 #include "calculo/corrida/mdVeredicto.h"
 
 #include "calculo/envolvente/mdEnvolvente.h"
-#include "calculo/verificacion/mdVerificaPostesado.h"
+#include "calculo/veredicto/mdVerificaPostesado.h"
 
 namespace zorbin {
 

@@ -4,7 +4,7 @@
 #include <optional>
 #include <span>
 
-#include "calculo/verificacion/mdVerificaArmado.h"
+#include "calculo/veredicto/mdVerificaArmado.h"
 #include "core/resultado.h"
 
 namespace zorbin {

@@ -8,7 +8,7 @@
 
 #include <span>
 
-#include "calculo/verificacion/mdVerificaArmado.h"
+#include "calculo/veredicto/mdVerificaArmado.h"
 
 namespace zorbin {
 

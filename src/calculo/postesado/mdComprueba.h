@@ -32,6 +32,6 @@ double PresionLimite(double PresTension, double Base, double Limite, double MDP)
 /// limits it.
 /// @param x  stresses of a pass under MDP [at]
 /// @throws ErrorEjecucion Desbordamiento
-double PruebaFabrica(const TensionesHipotesis& x, double Fctr, double MDP);
+double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP);
 
 }  // namespace zorbin

@@ -16,10 +16,10 @@ struct EsfuerzosPostesado {
 };
 
 /// Adds up the load terms of each hypothesis.
-EsfuerzosPostesado EsfuerzosHipotesis(const TerminosCaso& MHip, const TerminosCaso& NHip);
+EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos);
 
 /// Pressure of each hypothesis [at]. Reads DP, MDP, STP [at].
-Lista<double, kHipotesisPostesado> PresionesHipotesis(const Corrida& c);
+Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p);
 
 /// Limit stress of the core in each hypothesis [kp/cm2]; that of the coating is always Fctr.
 Lista<double, kHipotesisPostesado> LimitesPrimario(double Fctn);

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "calculo/envolvente/mdEnvolvente.h"
-#include "calculo/verificacion/casoDePrueba.h"
+#include "calculo/veredicto/casoDePrueba.h"
 
 namespace zorbin::pruebas {
 namespace {

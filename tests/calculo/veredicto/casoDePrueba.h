@@ -2,7 +2,7 @@
 // test changes can fail.
 #pragma once
 
-#include "calculo/verificacion/mdVerificaArmado.h"
+#include "calculo/veredicto/mdVerificaArmado.h"
 
 namespace zorbin::pruebas {
 

@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "calculo/corrida/mdCalculaTramo.h"
-#include "calculo/verificacion/mdVerificaPostesado.h"
+#include "calculo/veredicto/mdVerificaPostesado.h"
 #include "comun/estadoDeJson.h"
 
 namespace zorbin::pruebas {

@@ -1,4 +1,4 @@
-#include "calculo/verificacion/mdVerificaArmado.h"
+#include "calculo/veredicto/mdVerificaArmado.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@
 #include "calculo/armado/mdCamisa.h"
 #include "calculo/armado/mdFlecom.h"
 #include "calculo/armado/mdRetraccion.h"
-#include "calculo/verificacion/mdUso.h"
+#include "calculo/veredicto/mdUso.h"
 
 namespace zorbin {
 

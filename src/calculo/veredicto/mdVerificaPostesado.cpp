@@ -1,11 +1,11 @@
-#include "calculo/verificacion/mdVerificaPostesado.h"
+#include "calculo/veredicto/mdVerificaPostesado.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "calculo/postesado/mdAlambre.h"
 #include "calculo/postesado/mdPerdidas.h"
-#include "calculo/verificacion/mdUso.h"
+#include "calculo/veredicto/mdUso.h"
 
 namespace zorbin {
 
