@@ -9,6 +9,7 @@
 #include "base/aritmetica.h"
 #include "core/estado_calculo.h"
 #include "core/resultados.h"
+#include "core/verificacion.h"
 
 namespace zorbin {
 
@@ -36,6 +37,7 @@ struct DatosTramo {
   Tramo tramo;
   std::vector<EntradaAjuste> ajustes;  // adjusted Casos of the project
   bool SinAjustes = false;             // their file was refused: the run goes without them
+  bool envolvente = false;             // the steel grows until every hypothesis complies
 };
 
 /// Loads of one fill height.
@@ -62,6 +64,7 @@ struct FilaCaso : PresionesCaso {
   std::uint32_t avisos = 0;         // warnings met, a bit for each ClaseAviso
   std::int16_t ErrorPostesado = 0;  // of the last check of the design
   bool ajustado = false;            // its reinforcement was fixed by hand
+  ResumenVerificacion verificacion;
 };
 
 /// What ended a run, and the Caso at which it stood.

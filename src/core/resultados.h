@@ -11,6 +11,7 @@
 #include "base/mdRegistro.h"
 #include "base/tablas.h"
 #include "core/resultadoPostesado.h"
+#include "core/verificacion.h"
 
 namespace zorbin {
 
@@ -165,6 +166,7 @@ struct TerminosAnillo {
 struct ResultadoCaso : TerminosAnillo {
   std::vector<Aviso> avisos;  // in the order in which they arose
   std::variant<ResultadoArmado, ResultadoPostesado> diseno;
+  Verificacion verificacion;
 
   bool EsArmado() const { return std::holds_alternative<ResultadoArmado>(diseno); }
   const ResultadoArmado& Armado() const { return std::get<ResultadoArmado>(diseno); }

@@ -35,9 +35,8 @@ Barras BarrasPara(double resto, double D) {
   return {D, n, D * D * n * kPi / 400.0};
 }
 
-bool CabenEnUnaCapa(const Barras& b) {
-  const double claro = Div(100.0 - b.n * b.D / 10.0, b.n);  // [cm]
-  return b.D / 10.0 <= claro && claro >= kClaroMinimo;
+bool Caben(const Barras& b) {
+  return CabenEnUnaCapa(b.D, b.n);
 }
 
 // Bars alone for the area `resto`; of two equal areas the larger diameter wins.
@@ -54,10 +53,10 @@ void EligeBarras(double resto, double chapa, bool HayAjuste, double AreaExterior
   }
   if (i == b.size()) throw ErrorEjecucion(CausaError::Desbordamiento);
   if (!HayAjuste) {
-    while (!CabenEnUnaCapa(b[i]) && i + 1 < b.size()) ++i;
-    r.VariasCapas = !CabenEnUnaCapa(b[i]);
+    while (!Caben(b[i]) && i + 1 < b.size()) ++i;
+    r.VariasCapas = !Caben(b[i]);
   } else {
-    r.VariasCapas = !CabenEnUnaCapa(b[i]) && AreaExterior > kAreaUnaCapa;
+    r.VariasCapas = !Caben(b[i]) && AreaExterior > kAreaUnaCapa;
   }
   r.NESP = I16(b[i].n);
   r.DIA = b[i].D;
@@ -68,6 +67,11 @@ void EligeBarras(double resto, double chapa, bool HayAjuste, double AreaExterior
 
 double AreaBarras(double D, double n) {
   return D * D * kPi / 400.0 * n;
+}
+
+bool CabenEnUnaCapa(double D, double n) {
+  const double claro = Div(100.0 - n * D / 10.0, n);  // [cm]
+  return D / 10.0 <= claro && claro >= kClaroMinimo;
 }
 
 Reparto ReparteArmadura(double AS, std::int16_t ICAMIS, double CAMMAX, bool HayAjuste,

@@ -26,6 +26,11 @@ inline constexpr double kAreaUnaCapa = 35.06;
 /// Section of n bars a metre of diameter D [mm], in cm2/m.
 double AreaBarras(double D, double n);
 
+/// Whether n bars of diameter D [mm] in a metre leave between them, in one layer, a bar's diameter
+/// and 2 cm at least.
+/// @throws ErrorEjecucion DivisionPorCero for no bars
+bool CabenEnUnaCapa(double D, double n);
+
 /// Steel for an area. Of the diameters that give hardly more than it the thickest wins; a larger
 /// one is taken while the bars do not fit in one layer, and with the largest they are told to take
 /// several. A fiftieth of a bar is spared. With a sheet and spirals, the sheet takes whole steps

@@ -22,18 +22,36 @@ double CoefGradiente(double Sm, double Sn) {
 
 }  // namespace
 
+ParedFisuracion ParedDe(const Tramo& t) {
+  ParedFisuracion p{t.Esp * 100.0, t.Reci * 100.0, t.Rece * 100.0, t.Fct, kControlFis(t.SubTipo)};
+  if (t.TipoControl == kControlIntenso) p.controlFis -= kRebajaIntenso;
+  return p;
+}
+
+SeccionHomogenea Homogeneiza(const ParedFisuracion& p, double Ri, double Re) {
+  SeccionHomogenea h{};
+  h.A = (Ri + Re) * kRelacionModular + p.e * 100.0;
+  h.x = Div(((p.e - p.re) * Re + Ri * p.ri) * kRelacionModular + p.e * 50.0 * p.e, h.A);
+  const double c = h.x - p.e / 2.0;
+  const double bi = h.x - p.ri;
+  const double be = p.e - h.x - p.re;
+  h.I = p.e * p.e * p.e * 100.0 / 12.0 + c * c * p.e * 100.0 +
+        (be * be * Re + bi * bi * Ri) * kRelacionModular;
+  return h;
+}
+
+TensionFisuracion TensionDeFisuracion(const ParedFisuracion& p, const SeccionHomogenea& h, double M,
+                                      double N) {
+  const double brazo = M > 0 ? h.x : p.e - h.x;
+  const double Sm = Div((M > 0 ? M : -M) * brazo, h.I) * 100000.0;
+  const double Sn = Div(N, h.A) * 1000.0;
+  const double Sa = Div(p.Fct, p.controlFis / CoefGradiente(Sm, Sn));
+  return {Finito(Sn + Sm), Sa};
+}
+
 Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis,
                        CuentaVueltas& vueltas)
-    : esfuerzos_(esfuerzos),
-      vueltas_(vueltas),
-      h_(hipotesis),
-      Fct_(t.Fct),
-      e_(t.Esp * 100.0),
-      ri_(t.Reci * 100.0),
-      re_(t.Rece * 100.0),
-      controlFis_(kControlFis(t.SubTipo)) {
-  if (t.TipoControl == kControlIntenso) controlFis_ -= kRebajaIntenso;
-}
+    : esfuerzos_(esfuerzos), vueltas_(vueltas), h_(hipotesis), pared_(ParedDe(t)) {}
 
 void Fisuracion::Comprueba(double& Ri, double& Re) {
   for (int ronda = 0; ronda < kMaxVueltas; ++ronda) {
@@ -43,25 +61,9 @@ void Fisuracion::Comprueba(double& Ri, double& Re) {
   throw ErrorEjecucion(CausaError::SinConvergencia, "ArmTubo");
 }
 
-Fisuracion::Homogenea Fisuracion::SeccionHomogenea(double Ri, double Re) const {
-  Homogenea h{};
-  h.A = (Ri + Re) * kRelacionModular + e_ * 100.0;
-  h.x = Div(((e_ - re_) * Re + Ri * ri_) * kRelacionModular + e_ * 50.0 * e_, h.A);
-  const double c = h.x - e_ / 2.0;
-  const double bi = h.x - ri_;
-  const double be = e_ - h.x - re_;
-  h.I = e_ * e_ * e_ * 100.0 / 12.0 + c * c * e_ * 100.0 +
-        (be * be * Re + bi * bi * Ri) * kRelacionModular;
-  return h;
-}
-
-bool Fisuracion::Pasa(const Homogenea& h, double M, double N) {
+bool Fisuracion::Pasa(const SeccionHomogenea& h, double M, double N) {
   vueltas_.Suma(kVueltasDePasa);
-  const double brazo = M > 0 ? h.x : e_ - h.x;
-  const double Sm = Div((M > 0 ? M : -M) * brazo, h.I) * 100000.0;
-  const double Sn = Div(N, h.A) * 1000.0;
-  const double Sa = Div(Fct_, controlFis_ / CoefGradiente(Sm, Sn));
-  const double Sx = Finito(Sn + Sm);
+  const auto [Sx, Sa] = TensionDeFisuracion(pared_, h, M, N);
   if (Sa < tensionAdmMin_) tensionAdmMin_ = Sa;
   if (Sx > tensionMax_) {
     tensionMax_ = Sx;
@@ -72,7 +74,7 @@ bool Fisuracion::Pasa(const Homogenea& h, double M, double N) {
 
 // Grows the steel at the first section that does not pass.
 bool Fisuracion::PasanTodas(double& Ri, double& Re) {
-  const Homogenea homogenea = SeccionHomogenea(Ri, Re);
+  const SeccionHomogenea homogenea = Homogeneiza(pared_, Ri, Re);
   for (int s = 1; s <= kSecciones; ++s) {
     const double M = esfuerzos_.M(h_, s);
     if (Pasa(homogenea, M, esfuerzos_.N(h_, s))) continue;

@@ -12,6 +12,42 @@
 
 namespace zorbin {
 
+/// Wall homogenised with its steel.
+struct SeccionHomogenea {
+  double A;  // [cm2/m]
+  double x;  // centroid from the inner face [cm]
+  double I;  // [cm4/m]
+};
+
+/// Wall of a metre of pipe as the cracking check sees it.
+struct ParedFisuracion {
+  double e = 0;           // thickness [cm]
+  double ri = 0, re = 0;  // inner and outer cover [cm]
+  double Fct = 0;         // [kp/cm2]
+  double controlFis = 0;  // safety factor of the concrete in tension [-]
+};
+
+/// @param t  Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
+/// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
+ParedFisuracion ParedDe(const Tramo& t);
+
+/// @param Ri, Re  areas of the inner and outer face [cm2/m]
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
+SeccionHomogenea Homogeneiza(const ParedFisuracion& p, double Ri, double Re);
+
+/// Tension of the concrete beside the one allowed.
+struct TensionFisuracion {
+  double Sx;  // largest tension, by bending and axial force [kp/cm2]
+  double Sa;  // allowed [kp/cm2]
+};
+
+/// Of the face that the moment tenses. The allowed tension, Fct over its safety factor, grows with
+/// the ratio of bending to mean stress, up to 1.4 times.
+/// @param M  [m·t/m]  @param N  tension positive [t/m]
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
+TensionFisuracion TensionDeFisuracion(const ParedFisuracion& p, const SeccionHomogenea& h, double M,
+                                      double N);
+
 /// The check of one hypothesis.
 class Fisuracion {
  public:
@@ -33,24 +69,15 @@ class Fisuracion {
   double TensionAdmMin() const { return tensionAdmMin_; }           // [kp/cm2]
 
  private:
-  struct Homogenea {
-    double A;  // [cm2/m]
-    double x;  // centroid from the inner face [cm]
-    double I;  // [cm4/m]
-  };
-
   const Esfuerzos& esfuerzos_;
   CuentaVueltas& vueltas_;
   const int h_;
-  const double Fct_;          // [kp/cm2]
-  const double e_, ri_, re_;  // thickness and covers [cm]
-  double controlFis_;         // safety factor of the concrete in tension [-]
+  const ParedFisuracion pared_;
   double tensionMax_ = 0;
   std::optional<double> tensionAdm_;
   double tensionAdmMin_ = 1e20;
 
-  Homogenea SeccionHomogenea(double Ri, double Re) const;
-  bool Pasa(const Homogenea& h, double M, double N);
+  bool Pasa(const SeccionHomogenea& h, double M, double N);
   bool PasanTodas(double& Ri, double& Re);
 };
 

@@ -23,12 +23,16 @@ double Itera(double excentricidad, double total, double Aotra, CuentaVueltas& vu
 
 }  // namespace
 
+double MinimaTraccion(const DatosSeccion& d) {
+  return Div(d.Fck * 0.04 * d.GamaY * d.Esp, d.GamaB * d.Fyk) * 10000.0;
+}
+
 double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra,
                          CuentaVueltas& vueltas) {
   const double excentricidad = Div(std::fabs(M), d.BRAZO * N);
   const double total = Div(N, d.Fyd) * 1000.0;
   const double A = Itera(excentricidad, total, Aotra, vueltas);
-  const double Amin = Div(d.Fck * 0.04 * d.GamaY * d.Esp, d.GamaB * d.Fyk) * 10000.0;
+  const double Amin = MinimaTraccion(d);
   return A < Amin ? Amin : A;
 }
 

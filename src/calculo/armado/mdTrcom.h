@@ -18,11 +18,15 @@ struct DatosSeccion {
   double BRAZO = 0;  // lever arm between the two layers [m]
 };
 
+/// The least steel of a face in composite tension [cm2/m]: 0.04 Fck GamaY Esp / (GamaB Fyk), on the
+/// whole thickness.
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
+double MinimaTraccion(const DatosSeccion& d);
+
 /// Area of one face [cm2/m]. The layer takes N in the share of its area, and the couple of the
 /// moment:
 ///     A = (|M| / (BRAZO N) + A / (A + Aotra)) N / Fyd
-/// solved by iteration to 0.01 cm2/m. Never below the mechanical minimum 0.04 Fck/GamaB over
-/// Fyk/GamaY, on the whole thickness, as the whole section is in tension.
+/// solved by iteration to 0.01 cm2/m. Never below `MinimaTraccion`.
 /// Valid for N > 0 within the two layers, |M| / N <= BRAZO / 2.
 /// @param M        moment [m·t/m]
 /// @param N        axial force, tension [t/m]

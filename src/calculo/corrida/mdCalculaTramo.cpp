@@ -7,6 +7,7 @@
 #include "calculo/cargas/mdMarston.h"
 #include "calculo/cargas/mdOvaliz.h"
 #include "calculo/cargas/mdTablaCargas.h"
+#include "calculo/corrida/mdVeredicto.h"
 #include "calculo/postesado/mdLame.h"
 #include "calculo/postesado/mdPostesado.h"
 #include "core/mdAjustes.h"
@@ -108,6 +109,7 @@ class CorridaTramo {
   const Rango& r_ = x_.rango;
   const Tramo& t_ = x_.datos.tramo;
   Marcha marcha_;
+  VeredictoTramo veredicto_{x_.datos};
   Cargas dadas_;
   TerminosAnillo anillo_;  // of the height in hand
   double casos_ = 0;       // expected
@@ -179,9 +181,13 @@ class CorridaTramo {
   void Disena() {
     FilaCaso f = fila_;
     if (t_.EsArmado) {
-      PonDiseno(f, Armado(x_.datos, anillo_, f, marcha_));
+      auto diseno = Armado(x_.datos, anillo_, f, marcha_);
+      f.verificacion = veredicto_.Resume(diseno, marcha_.avisos);
+      PonDiseno(f, diseno);
     } else {
-      PonDiseno(f, CalculaPostesado(t_, anillo_, f, marcha_));
+      const auto diseno = CalculaPostesado(t_, anillo_, f, marcha_);
+      f.verificacion = veredicto_.Resume(diseno, f.DP, f.MDP);
+      PonDiseno(f, diseno);
     }
     for (const auto& aviso : marcha_.avisos) f.avisos |= 1u << static_cast<unsigned>(aviso.clase);
     x_.filas.push_back(f);
@@ -225,12 +231,15 @@ ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila) 
   const auto& datos = resultado.datos;
   const auto anillo = Anillo(resultado, resultado.Altura(fila));
   Marcha marcha;
+  VeredictoTramo veredicto(datos);
   if (datos.tramo.EsArmado) {
     auto diseno = Armado(datos, anillo, fila, marcha);
-    return {anillo, std::move(marcha.avisos), std::move(diseno)};
+    auto verificacion = veredicto.Verifica(diseno, marcha.avisos);
+    return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
   }
   auto diseno = CalculaPostesado(datos.tramo, anillo, fila, marcha);
-  return {anillo, std::move(marcha.avisos), std::move(diseno)};
+  auto verificacion = veredicto.Verifica(diseno, fila.DP, fila.MDP);
+  return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
 }
 
 }  // namespace zorbin

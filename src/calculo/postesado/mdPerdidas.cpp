@@ -9,7 +9,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kFraccionZunchado = 0.55;    // of the strength of the core at winding [-]
 constexpr double kFraccionResidual = 0.6;     // of the breaking stress of the wire [-]
 constexpr double kFraccionRotura = 0.85;      // of it when the pipe bursts [-]
 constexpr double kObjetivoCamisa = 5.0;       // for the test of the core, with cylinder [kp/cm2]
@@ -28,7 +27,7 @@ struct Zunchado {
     p.SigPostElastica = t.Sf - p.PerdElastica;
     p.SigIniInt = Div(-s.C * s.Asp * p.SigPostElastica, r.RadioNuc);
     p.SigIniExt = Div(-s.B * s.Asp * p.SigPostElastica, r.RadioNuc);
-    const double limite = kFraccionZunchado * t.Fckno;
+    const double limite = LimiteZunchado(t.Fckno);
     p.NucleoAguanta = limite >= std::fabs(p.SigIniInt) && limite >= std::fabs(p.SigIniExt);
   }
 

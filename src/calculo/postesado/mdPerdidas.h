@@ -10,6 +10,12 @@
 
 namespace zorbin {
 
+/// Stress that the core may have just after winding [kp/cm2].
+/// @param Fckno  its strength then [kp/cm2]
+constexpr double LimiteZunchado(double Fckno) {
+  return 0.55 * Fckno;
+}
+
 /// Losses, residual stress, and stresses of core and coating without external load.
 ///     elastic      ni Sf (RadioNuc + RadioInt) / (4 Cr (RadioNuc - RadioInt)): half the
 ///     shortening,
@@ -17,7 +23,7 @@ namespace zorbin {
 ///     creep and shrinkage of both concretes together, as the coating holds the core back
 ///     relaxation   Rel Sf (1 - 2 PerdFluRet / Sf): the wire relaxes less while it shortens
 /// It ends early, with NucleoAguanta false, when the stress of the core just after winding is above
-/// 0.55 Fckno. The residual stress is cut at 60 % of the breaking stress. Where creep and shrinkage
+/// its limit. The residual stress is cut at 60 % of the breaking stress. Where creep and shrinkage
 /// take more than half of Sf the relaxation comes out negative, which gives stress back: beyond
 /// that the formula is not valid, and nothing refuses it. Reads Sf, SFck, Fckno, Ep [kp/cm2], Rel
 /// [%], Fic, Fir, PostFlag of the Tramo.
