@@ -33,6 +33,8 @@ inline constexpr int AvanceDeLaObra = 1274;     // and {4} which Tramo, {5} of h
 inline constexpr int Cancelando = 1275;
 inline constexpr int CancelarCalculo = 214;
 inline constexpr int NombreDelTramo = 1276;     // {1} Obra, {2} Tramo
+inline constexpr int ListadoEnCurso = 1277;
+inline constexpr int AvanceDelListado = 1278;   // {1} sheets
 // clang-format on
 
 }  // namespace zorbin::txt
