@@ -133,12 +133,21 @@ struct Corrida : Cargas {
   Registro* registro = nullptr;              // debug log, none when null
 };
 
+/// The Caso in hand of a run that is listened to.
+struct CasoEnCurso {
+  TerminosCaso MHip;
+  TerminosCaso NHip;
+  std::vector<Aviso> avisos;
+  ResultadoArmado armado;
+  ResultadoPostesado postesado;
+};
+
 /// The whole state.
 struct EstadoCalculo {
   Obra obra;
   Tramo tramo;
   Corrida corrida;
-  ResultadoCaso caso;
+  CasoEnCurso caso;
 };
 
 }  // namespace zorbin

@@ -40,9 +40,10 @@ struct DatosTramo {
 
 /// Loads of one fill height.
 struct CargasAltura {
-  double Hr = 0;     // fill height [m]
-  Cargas cargas;     // [t/m2]
-  double Landa = 0;  // active earth pressure coefficient [-]
+  double Hr = 0;         // fill height [m]
+  Cargas cargas;         // [t/m2]
+  double Landa = 0;      // active earth pressure coefficient [-]
+  bool acabada = false;  // its last pressure is done
 };
 
 /// What every reader wants of a Caso, and no more: a long range is kept whole in memory.
@@ -80,6 +81,8 @@ struct ResultadoTramo {
   Rango rango;
   std::vector<FilaCargas> TablaCargas;  // vertical load table
   Cargas unMetro;                       // loads of 1 m of earth [t/m2]
+  RadiosPostesado radios;               // post-tensioned: what the heading shows
+  MaterialesPostesado materiales;       // post-tensioned
   bool hayCabecera = false;             // load table and 1-metre loads stand
   std::vector<CargasAltura> alturas;
   std::vector<FilaCaso> filas;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <variant>
 #include <vector>
 
 #include "base/tablas.h"
@@ -132,13 +133,19 @@ struct ResultadoArmado {
   bool HayAjuste() const { return ajuste.has_value(); }
 };
 
+/// Moments or axial forces of the load terms.
+using TerminosCaso = Tabla<double, kTerminosOval, kSecciones>;
+
 /// Everything a reader may want of one Caso.
 struct ResultadoCaso {
-  Tabla<double, kTerminosOval, kSecciones> MHip;  // moments of the load terms [m·t/m]
-  Tabla<double, kTerminosOval, kSecciones> NHip;  // axial forces of the load terms [t/m]
-  std::vector<Aviso> avisos;                      // in the order in which they arose
-  ResultadoArmado armado;                         // meaningful for a reinforced Tramo
-  ResultadoPostesado postesado;                   // meaningful for a post-tensioned Tramo
+  TerminosCaso MHip;          // moments of the load terms [m·t/m]
+  TerminosCaso NHip;          // axial forces of the load terms [t/m]
+  std::vector<Aviso> avisos;  // in the order in which they arose
+  std::variant<ResultadoArmado, ResultadoPostesado> diseno;
+
+  bool EsArmado() const { return std::holds_alternative<ResultadoArmado>(diseno); }
+  const ResultadoArmado& Armado() const { return std::get<ResultadoArmado>(diseno); }
+  const ResultadoPostesado& Postesado() const { return std::get<ResultadoPostesado>(diseno); }
 };
 
 }  // namespace zorbin

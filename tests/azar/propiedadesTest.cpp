@@ -171,7 +171,7 @@ TEST(AzarPropiedades, ElOrdenDeLosTramosNoImportaYRepetirDaLosMismosBytes) {
     const auto e = EstadoAlAzar(Clase::Plausible, i);
     auto limpio = e;
     const auto a = Casos(limpio);
-    const ResultadoCaso anterior = seguido.caso;
+    const CasoEnCurso anterior = seguido.caso;
     seguido = e;
     seguido.caso = anterior;
     const auto b = Casos(seguido);

@@ -30,7 +30,7 @@ constexpr std::array<std::array<int, 5>, kHipotesisPostesado> kTerminos{{
     {kTodo},
 }};
 
-double SumaTerminos(const Tabla<double, kTerminosOval, kSecciones>& terminos, int h, int s) {
+double SumaTerminos(const TerminosCaso& terminos, int h, int s) {
   double suma = 0;
   for (const int termino : kTerminos[static_cast<std::size_t>(h - 1)]) {
     if (termino != kNinguno) suma = suma + terminos(termino, s);
@@ -40,12 +40,12 @@ double SumaTerminos(const Tabla<double, kTerminosOval, kSecciones>& terminos, in
 
 }  // namespace
 
-EsfuerzosPostesado EsfuerzosHipotesis(const ResultadoCaso& caso) {
+EsfuerzosPostesado EsfuerzosHipotesis(const TerminosCaso& MHip, const TerminosCaso& NHip) {
   EsfuerzosPostesado x;
   for (int h = 1; h <= kHipotesisPostesado; ++h) {
     for (int s = 1; s <= kSecciones; ++s) {
-      x.TablaMom(h, s) = SumaTerminos(caso.MHip, h, s);
-      x.TablaAxil(h, s) = SumaTerminos(caso.NHip, h, s);
+      x.TablaMom(h, s) = SumaTerminos(MHip, h, s);
+      x.TablaAxil(h, s) = SumaTerminos(NHip, h, s);
     }
   }
   return x;

@@ -16,8 +16,7 @@ struct EsfuerzosPostesado {
 };
 
 /// Adds up the load terms of each hypothesis.
-/// Reads caso.MHip, caso.NHip.
-EsfuerzosPostesado EsfuerzosHipotesis(const ResultadoCaso& caso);
+EsfuerzosPostesado EsfuerzosHipotesis(const TerminosCaso& MHip, const TerminosCaso& NHip);
 
 /// Pressure of each hypothesis [at]. Reads DP, MDP, STP [at].
 Lista<double, kHipotesisPostesado> PresionesHipotesis(const Corrida& c);

@@ -48,7 +48,7 @@ class Analisis {
   EstadoCalculo& e_;
   const Tramo& t_;
   ResultadoPostesado& r_;
-  const EsfuerzosPostesado esfuerzos_ = EsfuerzosHipotesis(e_.caso);
+  const EsfuerzosPostesado esfuerzos_ = EsfuerzosHipotesis(e_.caso.MHip, e_.caso.NHip);
   const Lista<double, kHipotesisPostesado> presiones_ = PresionesHipotesis(e_.corrida);
   FaseAviso fase_ = FaseAviso::Final;
   Alambre alambre_;             // of the pass in hand

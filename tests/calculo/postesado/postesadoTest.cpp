@@ -33,7 +33,7 @@ TEST(Hipotesis, SumanSusTerminos) {
   for (int termino = 1; termino <= kTerminosOval; ++termino, bit *= 2) {
     PonTermino(e, termino, {{bit, 3 * bit, 5 * bit}}, {{-bit, -3 * bit, -5 * bit}});
   }
-  const auto x = EsfuerzosHipotesis(e.caso);
+  const auto x = EsfuerzosHipotesis(e.caso.MHip, e.caso.NHip);
   const double fijas = 1 + 2 + 1024 + 256 + 512;  // 1, 2, 11, 9, 10
   const Lista<double, 6> suma{{fijas, fijas, 64, 1 + 2, 1 + 2 + 128, 64}};
   for (int h = 1; h <= 6; ++h) {
