@@ -94,7 +94,6 @@ void QuedaEnPantalla(Captura& c) {
   ActualizaMenus(c);
 }
 
-
 // What stands before the Tramos of an Obra are taken from its file.
 bool PuedeRecorrerse(Captura& c) {
   const auto aviso = [&](int texto) {
@@ -252,7 +251,8 @@ std::string Calculo::Aviso() const {
   return aviso + encargo.textos.Compone(txt::SinRegistro, {sinRegistro});
 }
 
-Calculo Calcula(Encargo encargo, const Sigue& sigue, const std::filesystem::path& registros) {
+Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
+                       const std::filesystem::path& registros) {
   Calculo calculo;
   LogDeTrabajo log(registros);
   Avance avance;
@@ -311,7 +311,8 @@ std::string Resume(Calculo& calculo, const Sigue& sigue) {
   return std::move(flujo).str();
 }
 
-void Lista(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas, const Fecha& fecha) {
+void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,
+                    const Fecha& fecha) {
   Papel papel(hojas, OrientacionDe(tipo));
   const auto listado =
       CreaListado(tipo, {papel, calculo.encargo.textos, calculo.encargo.estilo, fecha});

@@ -18,14 +18,14 @@
 namespace zorbin {
 
 /// A Tramo to be calculated.
-struct TramoPedido {
+struct TramoEncargado {
   DatosTramo datos;
   std::string numero;  // its text in the list
 };
 
 /// What is to be calculated, and in which words its results are told.
 struct Encargo {
-  std::vector<TramoPedido> tramos;
+  std::vector<TramoEncargado> tramos;
   Catalogo textos;
   EstiloNumeros estilo;
   std::string fichero;     // name of that of the Obra
@@ -80,14 +80,15 @@ struct Calculo {
 };
 
 /// Calculates what was asked for. @param registros  folder of the debug log
-Calculo Calcula(Encargo encargo, const Sigue& sigue = {},
-                const std::filesystem::path& registros = CarpetaRegistros());
+Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue = {},
+                       const std::filesystem::path& registros = CarpetaRegistros());
 
-/// The text of the summary. Where whoever is asked says no it ends there, and the calculation counts
-/// as given up.
+/// The text of the summary. Where whoever is asked says no it ends there, and the calculation
+/// counts as given up.
 std::string Resume(Calculo& calculo, const Sigue& sigue = {});
 
 /// The sheets of a listing. @param fecha  of the page heads
-void Lista(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas, const Fecha& fecha);
+void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,
+                    const Fecha& fecha);
 
 }  // namespace zorbin

@@ -118,7 +118,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
                   [&] { HazFaena(padre, textos, txt::ListadoEnCurso, trabajo); });
 }
 
-bool Escribe(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
              const Catalogo& textos) {
   HojasContadas hojas(destino, marcha, textos);
   documento(hojas);
@@ -139,7 +139,7 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
   bool lleno = false;
   const bool hecho = HazDocumento(padre, textos, ruta, [&](Marcha& marcha) {
     HojasPdf hojas(QFile::encodeName(ruta).toStdString(), S(nombre));
-    lleno = Escribe(documento, hojas, marcha, textos);
+    lleno = EscribeHojas(documento, hojas, marcha, textos);
     if (lleno) hojas.Cierra();
   });
   if (hecho && !lleno) AvisaVacio(padre, textos);

@@ -49,7 +49,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
 /// Writes a document on its destination, page by page, telling how many there are.
 /// @return whether there is any; a document without pages is one that the person is told about
 /// @throws DocumentoCancelado, and whatever the document and its destination throw
-bool Escribe(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
              const Catalogo& textos);
 
 /// There was nothing to print.

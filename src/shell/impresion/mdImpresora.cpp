@@ -71,7 +71,7 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
   const bool hecho = HazDocumento(padre, textos_, fichero, [&](Marcha& marcha) {
     if (!carpeta.isValid()) throw ErrorPintor(S(carpeta.errorString()));
     HojasPdf hojas(trabajo.fichero, trabajo.titulo, papel);
-    lleno = Escribe(documento, hojas, marcha, textos_);
+    lleno = EscribeHojas(documento, hojas, marcha, textos_);
     if (!lleno) return;
     hojas.Cierra();
     marcha.SinVuelta();
@@ -86,7 +86,7 @@ void Impresora::VistaPrevia(QWidget* padre, const QString& nombre, const Documen
   HojasEnMemoria todas;
   bool llena = false;
   const bool hecha = HazDocumento(padre, textos_, nombre, [&](Marcha& marcha) {
-    llena = Escribe(documento, todas, marcha, textos_);
+    llena = EscribeHojas(documento, todas, marcha, textos_);
   });
   if (!hecha) return;
   if (!llena) return AvisaVacio(padre, textos_);

@@ -19,6 +19,7 @@
 
 #include "base/textosResumen.h"
 #include "shell/impresion/mdGuardar.h"
+#include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdBuscador.h"
 
@@ -137,13 +138,20 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
     b->setMinimumWidth(b->sizeHint().width() + kAireBoton);
     connect(b, &QPushButton::clicked, this, accion);
     columna.addWidget(b);
+    return b;
+  };
+  const auto dePapel = [&](const char* nombre, int texto, auto accion) {
+    boton(nombre, texto, accion)->setEnabled(resumido_.conPapel);
   };
   auto& textos = entorno_.textos;
   auto& preferencias = entorno_.preferencias;
-  boton("btImprimeTramo", txt::ResumenImprimir, [this] { Imprime(); });
-  boton("btVistaPrevia", txt::ResumenVistaPrevia,
-        [this] { entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento()); });
-  boton("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
+  dePapel("btImprimeTramo", txt::ResumenImprimir, [this] { Imprime(); });
+  dePapel("btVistaPrevia", txt::ResumenVistaPrevia, [this] {
+    AvisaReparo();
+    entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento());
+  });
+  dePapel("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
+    AvisaReparo();
     GuardaPdf(this, textos, preferencias, NombreDocumento(), ElDocumento());
   });
   columna.addSpacing(12);
@@ -228,10 +236,16 @@ QString frEscribePantalla::NombreDocumento() const {
 }
 
 Documento frEscribePantalla::ElDocumento() const {
-  return [this, tipo = Tipo()](DestinoHojas& hojas) { resumido_.lista(tipo, hojas); };
+  return [lista = resumido_.lista, tipo = Tipo()](DestinoHojas& hojas) { lista(tipo, hojas); };
+}
+
+void frEscribePantalla::AvisaReparo() {
+  if (!resumido_.reparo.empty()) Avisa(this, entorno_.textos, Q(resumido_.reparo));
 }
 
 void frEscribePantalla::Imprime() {
+  if (!resumido_.conPapel) return;  // a key asks for it too
+  AvisaReparo();
   if (entorno_.impresion.Imprime(this, NombreDocumento(), ElDocumento())) accept();
 }
 
