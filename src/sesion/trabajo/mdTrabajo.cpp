@@ -119,7 +119,7 @@ std::optional<std::string> TraeTramo(Captura& c, int posicion) {
   return c.falta ? Causa(*c.falta) : std::string{};
 }
 
-void TomaTramos(Captura& c, Encargante& encargante) {
+void TomaTramos(Captura& c, Encargante& encargante, const std::function<void()>& respira) {
   const auto posiciones = Posiciones(c.lista);
   if (posiciones.empty()) return;
   // The same file gives the same listing, whatever was on the screen: a blank record keeps the
@@ -132,6 +132,7 @@ void TomaTramos(Captura& c, Encargante& encargante) {
       return;
     }
     encargante.Toma(numero, I16(posicion));
+    if (respira) respira();
   }
 }
 
@@ -223,11 +224,11 @@ std::optional<Encargo> EncargaTramo(Captura& c) {
   return std::move(encargante.encargo);
 }
 
-std::optional<Encargo> EncargaObra(Captura& c) {
+std::optional<Encargo> EncargaObra(Captura& c, const std::function<void()>& respira) {
   if (!PuedeRecorrerse(c)) return std::nullopt;
   c.e.obra.NombreObra = c[Ed::edObra].texto;
   Encargante encargante(c);
-  TomaTramos(c, encargante);
+  TomaTramos(c, encargante, respira);
   QuedaEnPantalla(c);
   return std::move(encargante.encargo);
 }

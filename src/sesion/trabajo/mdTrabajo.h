@@ -41,8 +41,9 @@ std::optional<Encargo> EncargaTramo(Captura& c);
 /// after another, each validated without moving the screen. Stops at the first that is refused (its
 /// message has been shown). The last one taken stays on the screen, being modified: whoever shows
 /// the capture has to draw it again, whatever comes of it.
+/// @param respira  called between Tramos, of which there may be hundreds
 /// @return nothing where the Obra is refused; why has been shown
-std::optional<Encargo> EncargaObra(Captura& c);
+std::optional<Encargo> EncargaObra(Captura& c, const std::function<void()>& respira = {});
 
 /// How far a calculation has come. A Caso is about to be calculated, or written.
 struct Avance {

@@ -27,8 +27,8 @@ namespace zorbin {
 
 namespace {
 
-constexpr std::size_t kTrozo = 256 * 1024;  // of the text, shown without the screen standing still
-constexpr int kMenorCuerpo = 6;             // [pt]
+constexpr std::size_t kTrozo = 32 * 1024;  // of the text, shown without the screen standing still
+constexpr int kMenorCuerpo = 6;            // [pt]
 constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;

@@ -1,5 +1,7 @@
 #include "shell/resultados/mdCalculos.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <filesystem>
 
 #include "base/mdTextos.h"
@@ -16,6 +18,7 @@ namespace zorbin {
 namespace {
 
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
+constexpr qint64 kRespiro = 20;            // of the window, while Tramos are taken [ms]
 
 Marcha::Dicho Dice(const Avance& a, const Catalogo& textos) {
   const double delTramo = (a.caso - 1.0) / a.casos;
@@ -81,7 +84,14 @@ void CalculaElTramo(Captura& c, const Entorno& entorno, QWidget* padre) {
 }
 
 void ImprimeLaObra(Captura& c, const Entorno& entorno, QWidget* padre) {
-  auto encargo = EncargaObra(c);
+  QElapsedTimer reloj;
+  reloj.start();
+  // What is typed waits: nobody touches the capture that the Tramos pass through.
+  auto encargo = EncargaObra(c, [&reloj] {
+    if (reloj.elapsed() < kRespiro) return;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    reloj.restart();
+  });
   if (!encargo) return;
   CalculaYMuestra(entorno, padre, std::move(*encargo), Q(NombreObra(c)));
 }

@@ -89,7 +89,7 @@ struct Oficina {
 // What the command line writes of some Tramos of the file, or of all: summary, or a listing.
 void SinPantalla(Oficina& o, const std::vector<int>& posiciones, Listado& lector) {
   const auto proyecto = LeeProyecto(o.obra);
-  const auto lista = BuscaFaltas(proyecto, o.b.tablas, {posiciones, ','}, o.b.textos);
+  const auto lista = ValidaProyecto(proyecto, o.b.textos, o.b.tablas, {posiciones, ','});
   Obra obra = proyecto.obra;
   PonComprobada(obra, lista.obra);
   for (const auto& p : TramosPedidos(proyecto, posiciones)) {
@@ -236,7 +236,7 @@ TEST(Trabajo, ElAvanceCuentaLosCasosQueHay) {
     ultimos[a.tramo] = a;
     return true;
   };
-  o.LaObra();
+  CalculaEncargo(EncargaObra(o.b.c).value(), o.sigue, o.registros);
   ASSERT_EQ(previstos.size(), static_cast<std::size_t>(kTramos));
   for (int n = 1; n <= kTramos; ++n) {
     EXPECT_EQ(ultimos[n].caso, previstos[static_cast<std::size_t>(n - 1)]) << n;
