@@ -7,7 +7,7 @@
 #include "azar/generador.h"
 #include "azar/oraculo.h"
 #include "base/mdTextos.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "persistencia/zrb/mdZrb.h"
 #include "sesion/ajustes/mdAjuste.h"
 #include "sesion/ajustes/mdPared.h"
@@ -22,8 +22,8 @@ constexpr int kGestos = 40;
 bool EsArmadoLegible(const EstadoCalculo& e) {
   const auto pequeno = [](double x) { return std::abs(x) <= kMayorTecleado; };
   return e.tramo.Tipologia == 1210 &&
-         std::all_of(NumerosDeTramo().begin(), NumerosDeTramo().end(),
-                     [&](const CampoTramo& c) { return pequeno(e.tramo.*c.campo); });
+         std::all_of(kNumerosTramo.begin(), kNumerosTramo.end(),
+                     [&](const auto& c) { return pequeno(e.tramo.*c.campo); });
 }
 
 // An Obra of reinforced Tramos, plausible and spoilt by turns.

@@ -13,11 +13,6 @@
 namespace zorbin::pruebas {
 namespace {
 
-const Catalogo& Textos() {
-  static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
-  return textos;
-}
-
 // Longest runs, to see that time is bounded.
 class Reloj {
  public:

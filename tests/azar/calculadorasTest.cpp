@@ -20,50 +20,46 @@ namespace {
 
 constexpr std::array kMetodos{MetodoHidraulico::PrandtlColebrook, MetodoHidraulico::DarcyWeissbach,
                               MetodoHidraulico::HazenWilliams};
+constexpr EstiloNumeros kEstilo{true, ','};
 constexpr std::array kTipos{DatoHidraulico::Pendiente, DatoHidraulico::Caudal};
-
-const Catalogo& Textos() {
-  static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
-  return textos;
-}
 
 // Any positive double now and then, from the smallest to the largest.
 double NumeroDe(Azar& azar, Clase clase, double desde, double hasta) {
   const bool malo = clase == Clase::Disparatado || (clase == Clase::Estropeado && azar.Toca(0.5));
   if (!malo) return azar.Real(desde, hasta);
+  if (azar.Toca(0.3)) return azar.Magnitud(-12, 12);
   return azar.Toca(0.5) ? NumeroImposible(azar) : azar.Magnitud(-300, 308);
 }
 
-void Mira(const FilaHidraulica& f) {
-  EXPECT_TRUE(std::isfinite(f.VLlena));
-  for (const auto* x :
-       {&f.QLlena, &f.VParcial, &f.QParcial, &f.JLlena, &f.JParcial, &f.ReLlena, &f.Cwh}) {
-    EXPECT_TRUE(!*x || std::isfinite(**x));
-  }
-}
-
-void Mira(const ResultadoHidraulico& r) {
-  for (const auto& fila : r.filas) Mira(fila);
-  const EstiloNumeros estilo{true, ','};
-  EXPECT_EQ(Basura(TextoHidraulico(r, Textos(), estilo), false), "");
+// What is shown and what is printed.
+template <class Resultado, class Pinta>
+void MiraTextos(const Resultado& r, const std::string& texto, Pinta pinta) {
+  EXPECT_EQ(Basura(texto, false), "");
   std::ostringstream salida;
   HojasTexto hojas(salida);
   Papel papel(hojas, Orientacion::Vertical);
-  PapelHidraulico(r, Textos(), estilo, papel);
+  pinta(r, Textos(), kEstilo, papel);
   papel.FinDocumento();
   EXPECT_EQ(Basura(salida.str(), false), "");
+}
+
+// Whatever the data, numbers; of data within reason, none that is negative, and velocities.
+void Mira(const ResultadoHidraulico& r, bool razonable) {
+  for (const auto& f : r.filas) {
+    EXPECT_TRUE(std::isfinite(f.VLlena) && (!razonable || f.VLlena > 0));
+    for (const auto& x : {f.QLlena, f.VParcial, f.QParcial, f.ReLlena, f.Cwh}) {
+      EXPECT_TRUE(!x || (std::isfinite(*x) && (!razonable || *x > 0)));
+    }
+    for (const auto& x : {f.JLlena, f.JParcial}) {
+      EXPECT_TRUE(!x || (std::isfinite(*x) && (!razonable || *x >= 0)));  // may underflow
+    }
+  }
+  MiraTextos(r, TextoHidraulico(r, Textos(), kEstilo), PapelHidraulico);
 }
 
 void Mira(const ResultadoMedios& r) {
-  const EstiloNumeros estilo{true, ','};
   EXPECT_TRUE(std::isfinite(r.Dosificacion) && std::isfinite(r.RelacionAC));
-  EXPECT_EQ(Basura(TextoMedios(r, Textos(), estilo), false), "");
-  std::ostringstream salida;
-  HojasTexto hojas(salida);
-  Papel papel(hojas, Orientacion::Vertical);
-  PapelMedios(r, Textos(), estilo, papel);
-  papel.FinDocumento();
-  EXPECT_EQ(Basura(salida.str(), false), "");
+  MiraTextos(r, TextoMedios(r, Textos(), kEstilo), PapelMedios);
 }
 
 template <class F>
@@ -88,8 +84,10 @@ TEST(AzarCalculadoras, Hidraulica) {
     const bool hazen = metodo == MetodoHidraulico::HazenWilliams;
     const double dato = NumeroDe(azar, clase, caudal ? 0.05 : 0.0005, caudal ? 10.0 : 0.05);
     const double rugosidad = NumeroDe(azar, clase, hazen ? 100 : 0.01, hazen ? 150 : 2);
+    const auto razonable = [](double x) { return x >= 1e-12 && x <= 1e12; };
     try {
-      Mira(CalculaHidraulica(metodo, tipo, dato, rugosidad));
+      Mira(CalculaHidraulica(metodo, tipo, dato, rugosidad),
+           razonable(dato) && razonable(rugosidad));
       cuenta.Suma("calculados");
     } catch (const ErrorHidraulico&) {
       cuenta.Suma("dato fuera de la formula");
@@ -119,7 +117,7 @@ TEST(AzarCalculadoras, HidraulicaTecleada) {
       EXPECT_FALSE(TextoAviso(*aviso, Textos()).empty());
     } else {
       ASSERT_TRUE(e.resultado);
-      Mira(*e.resultado);
+      Mira(*e.resultado, true);
     }
   });
   cuenta.Imprime("hidraulica tecleada");

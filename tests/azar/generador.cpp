@@ -1,9 +1,9 @@
 #include "azar/generador.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 #include <sstream>
 
 #include "core/mdUnidades.h"
@@ -13,33 +13,6 @@ namespace zorbin::pruebas {
 namespace {
 
 constexpr std::uint64_t kSemilla = 20261121;
-
-// clang-format off
-constexpr auto kNumerosObra = std::to_array<CampoObra>({
-    {"Prs1", &Obra::Prs1}, {"Prs2", &Obra::Prs2}, {"Prs3", &Obra::Prs3}, {"PrsM1", &Obra::PrsM1},
-    {"PrsM2", &Obra::PrsM2}, {"Alt1", &Obra::Alt1}, {"Alt2", &Obra::Alt2}, {"Alt3", &Obra::Alt3}});
-
-constexpr auto kNumerosTramo = std::to_array<CampoTramo>({
-    {"Adato", &Tramo::Adato}, {"Coepre1", &Tramo::Coepre1}, {"CamMax", &Tramo::CamMax},
-    {"Fck", &Tramo::Fck}, {"Fct", &Tramo::Fct}, {"Fyk", &Tramo::Fyk}, {"Fyd", &Tramo::Fyd},
-    {"GamaB", &Tramo::GamaB}, {"Delca", &Tramo::Delca}, {"Es", &Tramo::Es}, {"Ep", &Tramo::Ep},
-    {"Fckno", &Tramo::Fckno}, {"Fckn", &Tramo::Fckn}, {"Fckr", &Tramo::Fckr},
-    {"SFck", &Tramo::SFck}, {"Sf", &Tramo::Sf}, {"FYKPost", &Tramo::FYKPost},
-    {"Rel", &Tramo::Rel}, {"Fic", &Tramo::Fic}, {"Fir", &Tramo::Fir}, {"Epsc", &Tramo::Epsc},
-    {"Epsr", &Tramo::Epsr}, {"Di", &Tramo::Di}, {"De", &Tramo::De}, {"Esp", &Tramo::Esp},
-    {"Reci", &Tramo::Reci}, {"Rece", &Tramo::Rece}, {"Gc", &Tramo::Gc}, {"B0", &Tramo::B0},
-    {"Gr", &Tramo::Gr}, {"Fi", &Tramo::Fi}, {"Hr1", &Tramo::Hr1}, {"QDato", &Tramo::QDato},
-    {"Prs1Tram", &Tramo::Prs1Tram}, {"Prs2Tram", &Tramo::Prs2Tram},
-    {"Prs3Tram", &Tramo::Prs3Tram}, {"PrsM1Tram", &Tramo::PrsM1Tram},
-    {"PrsM2Tram", &Tramo::PrsM2Tram}, {"Hr0Tramo", &Tramo::Hr0Tramo},
-    {"Hr0Final", &Tramo::Hr0Final}, {"Hr0Delta", &Tramo::Hr0Delta}});
-
-constexpr auto kCodigosTramo = std::to_array<CodigoTramo>({
-    {"Tipologia", &Tramo::Tipologia}, {"TipoControl", &Tramo::TipoControl},
-    {"TipoCamisa", &Tramo::TipoCamisa}, {"TipoCuna", &Tramo::TipoCuna},
-    {"TipoApoyo", &Tramo::TipoApoyo}, {"TipoRelleno", &Tramo::TipoRelleno}, {"IAs", &Tramo::IAs},
-    {"IndCar", &Tramo::IndCar}, {"ICar", &Tramo::ICar}});
-// clang-format on
 
 std::uint64_t SemillaDe(Clase clase, int indice) {
   std::uint64_t x = kSemilla + static_cast<std::uint64_t>(clase) * 0x9E3779B97F4A7C15ULL +
@@ -193,41 +166,26 @@ class Plausible {
 
 // One captured field, by its place among all of them.
 void Estropea(EstadoCalculo& e, Azar& azar, std::size_t lugar) {
-  if (lugar < kNumerosObra.size()) {
-    e.obra.*kNumerosObra[lugar].campo = NumeroImposible(azar);
-    return;
-  }
-  lugar -= kNumerosObra.size();
-  if (lugar < kNumerosTramo.size()) {
-    e.tramo.*kNumerosTramo[lugar].campo = NumeroImposible(azar);
-    return;
-  }
-  lugar -= kNumerosTramo.size();
-  if (lugar < kCodigosTramo.size()) {
-    e.tramo.*kCodigosTramo[lugar].campo = CodigoImposible(azar);
-    return;
-  }
-  bool Tramo::*const marca = lugar == kCodigosTramo.size() ? &Tramo::Icontes0 : &Tramo::Icontes1;
-  e.tramo.*marca = !(e.tramo.*marca);
+  const auto toca = [&](auto& bloque, const auto& campos, auto imposible) {
+    const bool aqui = lugar < campos.size();
+    if (aqui) bloque.*campos[lugar].campo = imposible(azar);
+    lugar -= campos.size();
+    return aqui;
+  };
+  if (toca(e.obra, kNumerosObra, NumeroImposible)) return;
+  if (toca(e.tramo, kNumerosTramo, NumeroImposible)) return;
+  if (toca(e.tramo, kCodigosTramo, CodigoImposible)) return;
+  bool& marca = lugar == 0 ? e.tramo.Icontes0 : e.tramo.Icontes1;
+  marca = !marca;
 }
 
 constexpr std::size_t kCampos =
     kNumerosObra.size() + kNumerosTramo.size() + kCodigosTramo.size() + 2;
 
-// What a file gives together with the fields.
-void Deriva(Tramo& t) {
-  t.EsArmado = t.Tipologia < kPrimeraPostesada;
-  t.SubTipo = t.EsArmado ? 3 : 0;
-  t.PostFlag = t.EsArmado ? 0 : 1;
-  t.TipoColocacion = t.TipoApoyo < 20 ? 0 : t.TipoApoyo < 30 ? 1 : 2;
-}
-
-template <class Bloque, class Campo>
-void Compara(std::string& lista, const Bloque& a, const Bloque& b, std::span<const Campo> campos) {
+template <class Bloque, class Campos>
+void Compara(std::string& lista, const Bloque& a, const Bloque& b, const Campos& campos) {
   for (const auto& c : campos) {
-    if (std::bit_cast<std::uint64_t>(a.*c.campo) == std::bit_cast<std::uint64_t>(b.*c.campo)) {
-      continue;
-    }
+    if (std::memcmp(&(a.*c.campo), &(b.*c.campo), sizeof(a.*c.campo)) == 0) continue;
     std::ostringstream texto;
     texto.precision(17);
     texto << ' ' << c.nombre << ' ' << a.*c.campo << " -> " << b.*c.campo;
@@ -255,15 +213,8 @@ double Azar::Magnitud(int a, int b) {
 }
 
 const char* NombreDe(Clase clase) {
-  switch (clase) {
-    case Clase::Plausible:
-      return "plausible";
-    case Clase::Estropeado:
-      return "estropeado";
-    case Clase::Disparatado:
-      break;
-  }
-  return "disparatado";
+  constexpr std::array kNombres{"plausible", "estropeado", "disparatado"};
+  return kNombres[static_cast<std::size_t>(clase)];
 }
 
 double NumeroImposible(Azar& azar) {
@@ -292,16 +243,6 @@ std::int16_t CodigoImposible(Azar& azar) {
   return azar.Uno(kFijos);
 }
 
-std::span<const CampoObra> NumerosDeObra() {
-  return kNumerosObra;
-}
-std::span<const CampoTramo> NumerosDeTramo() {
-  return kNumerosTramo;
-}
-std::span<const CodigoTramo> CodigosDeTramo() {
-  return kCodigosTramo;
-}
-
 EstadoCalculo PlausibleEn(int indice, bool si) {
   Azar azar(SemillaDe(Clase::Plausible, indice));
   azar.Bits();  // as EstadoAlAzar draws the system first
@@ -328,11 +269,9 @@ EstadoCalculo EstadoAlAzar(Clase clase, int indice) {
 
 std::string Diferencias(const EstadoCalculo& a, const EstadoCalculo& b) {
   std::string lista;
-  Compara(lista, a.obra, b.obra, NumerosDeObra());
-  Compara(lista, a.tramo, b.tramo, NumerosDeTramo());
-  for (const auto& c : kCodigosTramo) {
-    if (a.tramo.*c.campo != b.tramo.*c.campo) lista += std::string(" ") + c.nombre;
-  }
+  Compara(lista, a.obra, b.obra, kNumerosObra);
+  Compara(lista, a.tramo, b.tramo, kNumerosTramo);
+  Compara(lista, a.tramo, b.tramo, kCodigosTramo);
   const auto& s = a.tramo;
   const auto& t = b.tramo;
   if (s.EsArmado != t.EsArmado || s.PostFlag != t.PostFlag || s.SubTipo != t.SubTipo ||

@@ -5,10 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <random>
-#include <span>
 #include <string>
 
-#include "core/estado_calculo.h"
+#include "comun/campos.h"
 
 namespace zorbin::pruebas {
 
@@ -50,23 +49,6 @@ double NumeroImposible(Azar& azar);
 std::int16_t CodigoImposible(Azar& azar);
 /// What a person's hand may type into a field: keys of a number, and some that are of none.
 std::string TextoImposible(Azar& azar);
-
-/// The captured fields, by name.
-struct CampoObra {
-  const char* nombre;
-  double Obra::*campo;
-};
-struct CampoTramo {
-  const char* nombre;
-  double Tramo::*campo;
-};
-struct CodigoTramo {
-  const char* nombre;
-  std::int16_t Tramo::*campo;
-};
-std::span<const CampoObra> NumerosDeObra();
-std::span<const CampoTramo> NumerosDeTramo();
-std::span<const CodigoTramo> CodigosDeTramo();
 
 /// What differs in the captured data of two states, bit by bit; empty for nothing.
 std::string Diferencias(const EstadoCalculo& a, const EstadoCalculo& b);

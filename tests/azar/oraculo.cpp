@@ -17,6 +17,7 @@
 #include "base/mdTextos.h"
 #include "calculo/ajustes/mdNecesaria.h"
 #include "calculo/ajustes/mdTanteo.h"
+#include "comun/reales.h"
 #include "core/mdUnidades.h"
 #include "listados/datos/mdJson.h"
 #include "listados/obra/mdAvisos.h"
@@ -40,107 +41,81 @@ constexpr int kCasosQueSeTantean = 100;  // in the manner of the screen of adjus
 constexpr int kMaxQueja = 600;           // characters of what is told of one run
 constexpr int kMayorEntero = 32767;
 
-template <int N, class F>
-void DeLista(const char* nombre, const Lista<double, N>& l, F f) {
-  for (const double x : l.v) f(nombre, x);
-}
-template <int N, int M, class F>
-void DeTabla(const char* nombre, const Tabla<double, N, M>& t, F f) {
-  for (const auto& fila : t.filas.v) DeLista(nombre, fila, f);
-}
-
-#define REAL(x) f(#x, x)
-#define LISTA(x) DeLista(#x, x, f)
-
-template <class F>
-void DeCargas(const Corrida& c, F f) {
-  REAL(c.Q), REAL(c.QTerraplen), REAL(c.QTierras), REAL(c.QMovil), REAL(c.Impacto);
-  REAL(c.Q1m), REAL(c.QTerraplen1m), REAL(c.QTierras1m), REAL(c.QMovil1m);
-  REAL(c.Hr), REAL(c.DP), REAL(c.MDP), REAL(c.STP), REAL(c.PP), REAL(c.PPNeta), REAL(c.DPActual);
-  REAL(c.IncDP), REAL(c.DPIni), REAL(c.DPFin), REAL(c.MDPIni), REAL(c.MDPFin);
-  REAL(c.PendienteMDP), REAL(c.Hr0Actual), REAL(c.Hr0FinalActual), REAL(c.Landa);
-}
-
 template <class F>
 void DeTablaCargas(const Corrida& c, F f) {
   for (const auto& fila : c.TablaCargas) {
-    REAL(fila.H), REAL(fila.Total);
+    for (const double x : {fila.H, fila.Total}) f("TablaCargas", x);
     for (const auto& x : {fila.Zanja, fila.Terraplen, fila.Adoptada, fila.Moviles}) {
       if (x) f("TablaCargas", *x);
     }
   }
 }
 
-template <class F>
-void DeArmado(const ResultadoArmado& r, F f) {
-  DeTabla("M", r.esfuerzos.M, f);
-  DeTabla("N", r.esfuerzos.N, f);
-  for (const auto& h : r.TablaHip.v) REAL(h.AsInt), REAL(h.AsExt), REAL(h.Total), REAL(h.CAMISA);
-  LISTA(r.MRige), LISTA(r.NRige);
-  REAL(r.CAMISA), REAL(r.FIIN), REAL(r.FIEX), REAL(r.AreaCamisa), REAL(r.AreaEspiras);
-  REAL(r.AreaExterior), REAL(r.AsInt), REAL(r.AsExt), REAL(r.Total), REAL(r.TensionMax);
-  REAL(r.TensionAdm), REAL(r.TensionAdmMin), REAL(r.BRAZO);
-  const auto& s = r.sinFisuracion;
-  REAL(s.FIIN), REAL(s.AsInt), REAL(s.FIEX), REAL(s.AsExt);
-}
-
-template <class F>
-void DeHipotesis(const HipotesisPostesada& h, F f) {
-  REAL(h.FIPR), REAL(h.NESP), REAL(h.PresHip), REAL(h.LimPrimario), REAL(h.TensionChapa);
-  LISTA(h.MomHip), LISTA(h.AxilHip);
-  REAL(h.Asp), REAL(h.sno), REAL(h.yno), REAL(h.sro), REAL(h.yi), REAL(h.ye), REAL(h.yr);
-  REAL(h.Io), REAL(h.rco), REAL(h.rro), REAL(h.A), REAL(h.B), REAL(h.C), REAL(h.Ar), REAL(h.Br);
-  REAL(h.Cr), REAL(h.k), REAL(h.D), REAL(h.PerdElastica), REAL(h.SigPostElastica);
-  REAL(h.SigIniInt), REAL(h.SigIniExt), REAL(h.PerdRelajBruta), REAL(h.SigPostRelaj);
-  REAL(h.SigPrimRelaj), REAL(h.PerdFluRet), REAL(h.PresionRev), REAL(h.PerdRelaj);
-  REAL(h.SigRes), REAL(h.SigPI), REAL(h.SigPE), REAL(h.SigRI), REAL(h.SigRE);
-  REAL(h.PresPrimario), REAL(h.PresAgotamiento), REAL(h.OvPImax), REAL(h.OvPEmax);
-  REAL(h.OvRImax), REAL(h.OvREmax), REAL(h.KPI), REAL(h.KPE), REAL(h.KRI), REAL(h.KRE);
-  REAL(h.KAc), REAL(h.LimPI), REAL(h.LimPE), REAL(h.LimRI), REAL(h.LimRE), REAL(h.PresLimite);
-  REAL(h.PrPI), REAL(h.PrPE), REAL(h.PrRI), REAL(h.PrRE), REAL(h.PrAc);
-  LISTA(h.OvPI), LISTA(h.OvPE), LISTA(h.OvRI), LISTA(h.OvRE), LISTA(h.OvAc);
-  LISTA(h.SinPI), LISTA(h.SinPE), LISTA(h.SinRI), LISTA(h.SinRE), LISTA(h.SinAc);
-  LISTA(h.TotPI), LISTA(h.TotPE), LISTA(h.TotRI), LISTA(h.TotRE), LISTA(h.TotAc);
-}
-
-template <class F>
-void DePostesado(const ResultadoPostesado& r, F f) {
-  const auto& m = r.materiales;
-  REAL(r.radios.RadioInt), REAL(r.radios.RadioCam), REAL(r.radios.RadioNuc);
-  REAL(r.radios.RadioRev), REAL(m.Ecno), REAL(m.Ecn), REAL(m.Ecr), REAL(m.Fctn), REAL(m.Fctr);
-  REAL(m.ni), REAL(m.n), REAL(m.n1), REAL(m.n2), REAL(m.nc), REAL(m.RatioChapa), REAL(m.Delca);
-  REAL(m.Epsc), REAL(m.Epsr), REAL(r.FIPR), REAL(r.NESP), REAL(r.FIPRDEFI), REAL(r.NESPDEFI);
-  REAL(r.PP), REAL(r.TensionChapa), REAL(r.LimiteChapa);
-  REAL(r.fila.FIPR), REAL(r.fila.NESP), REAL(r.fila.PP);
-  for (const auto& h : r.hipotesis.v) DeHipotesis(h, f);
-}
-
-#undef LISTA
-#undef REAL
-
 // Calls `f(name, value)` for every real that a Caso leaves in the state.
 template <class F>
 void Reales(const EstadoCalculo& e, F f) {
   DeCargas(e.corrida, f);
+  DelBucle(e.corrida, f);
   DeTabla("MHip", e.caso.MHip, f);
   DeTabla("NHip", e.caso.NHip, f);
   for (const auto& a : e.caso.avisos) {
     if (a.valor) f("aviso", *a.valor);
     f("aviso", a.alambre.NESP);
   }
-  if (e.tramo.EsArmado) {
-    DeArmado(e.caso.armado, f);
-  } else {
-    DePostesado(e.caso.postesado, f);
+  if (e.tramo.EsArmado) return DeArmado(e.caso.armado, f);
+  const auto& r = e.caso.postesado;
+  DePostesado(r, f);
+  DeMateriales(r.materiales, f);
+  for (const double x : {r.materiales.Delca, r.materiales.Epsc, r.materiales.Epsr, r.fila.FIPR,
+                         r.fila.NESP, r.fila.PP}) {
+    f("postesado", x);
   }
+  for (const auto& h : r.hipotesis.v) DeHipotesis(h, f);
 }
 
 }  // namespace
 
-std::vector<Real> RealesDe(const EstadoCalculo& e) {
+std::vector<Real> RealesDe(const ResultadoTramo& x, const FilaCaso& fila,
+                           const ResultadoCaso& caso) {
   std::vector<Real> v;
-  Reales(e, [&v](const char* nombre, double x) { v.push_back({nombre, x}); });
+  const auto f = [&v](const char* nombre, double valor) { v.push_back({nombre, valor}); };
+  DeFila(x, fila, f);
+  f("PP", fila.PP), f("PPObtenida", fila.PPObtenida), f("AsInt", fila.AsInt);
+  f("AsExt", fila.AsExt), f("Total", fila.Total), f("CAMISA", fila.CAMISA), f("FIIN", fila.FIIN);
+  f("FIEX", fila.FIEX), f("NESPIN", fila.NESPIN), f("NEXPEX", fila.NEXPEX);
+  DeTabla("MHip", caso.MHip, f);
+  DeTabla("NHip", caso.NHip, f);
+  for (const auto& a : caso.avisos) {
+    if (a.valor) f("aviso", *a.valor);
+    f("aviso", a.alambre.NESP);
+  }
+  if (caso.EsArmado()) {
+    DeArmado(caso.Armado(), f);
+  } else {
+    const auto& r = caso.Postesado();
+    DePostesado(r, f);
+    DeMateriales(r.materiales, f);
+    for (const double valor : {r.materiales.Delca, r.materiales.Epsc, r.materiales.Epsr,
+                               r.fila.FIPR, r.fila.NESP, r.fila.PP}) {
+      f("postesado", valor);
+    }
+    for (const auto& h : r.hipotesis.v) DeHipotesis(h, f);
+  }
   return v;
+}
+
+const Catalogo& Textos() {
+  static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
+  return textos;
+}
+
+std::string HuecoDeJson(const std::string& json) {
+  for (auto i = json.find("null"); i != std::string::npos; i = json.find("null", i + 4)) {
+    const auto antes = std::string_view(json).substr(0, i);
+    if (antes.ends_with("\"ajuste\":") || antes.ends_with("\"error\":")) continue;
+    return json.substr(i < 30 ? 0 : i - 30, 40);
+  }
+  return {};
 }
 
 std::string Basura(const std::string& texto, bool conExponentes) {
@@ -330,15 +305,9 @@ class Lector : public OyenteCorrida {
     if (!basura.empty()) Queja(std::string(cual) + ": \"" + basura + "\"");
   }
 
-  // A number that is not finite reads "null" in JSON.
   void MiraJson() {
-    const std::string texto = jsonSalida_.str();
-    for (auto i = texto.find("null"); i != std::string::npos; i = texto.find("null", i + 4)) {
-      const auto antes = texto.substr(i < 10 ? 0 : i - 10, std::min<std::size_t>(i, 10));
-      if (antes.ends_with("\"ajuste\":") || antes.ends_with("\"error\":")) continue;
-      Queja("json: " + texto.substr(i < 30 ? 0 : i - 30, 40));
-      break;
-    }
+    const auto hueco = HuecoDeJson(jsonSalida_.str());
+    if (!hueco.empty()) Queja("json: " + hueco);
     jsonSalida_.str({});
   }
 

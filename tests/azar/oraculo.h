@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "calculo/corrida/mdCorrida.h"
 #include "sesion/captura/mdCaptura.h"
 
@@ -18,8 +19,9 @@ struct Real {
   const char* nombre;
   double valor;
 };
-/// Every real that a Caso leaves in the state, but for the table of loads.
-std::vector<Real> RealesDe(const EstadoCalculo& e);
+/// Every real of a Caso, but for the table of loads.
+std::vector<Real> RealesDe(const ResultadoTramo& x, const FilaCaso& fila,
+                           const ResultadoCaso& caso);
 
 /// How a run ended.
 struct Final {
@@ -40,6 +42,13 @@ enum class Lectura {
 
 /// Runs the Tramo of a state in capture units. The state is left as the run leaves it.
 Final Corre(EstadoCalculo& e, const Catalogo& textos, Lectura lectura);
+
+/// The catalogue of the program, in Spanish.
+const Catalogo& Textos();
+
+/// Where a JSON says "null" for a number that is not finite; empty for nowhere. An adjustment and a
+/// failure that there are not read so too.
+std::string HuecoDeJson(const std::string& json);
 
 /// What in a text is no text of a listing: an infinity, a NaN, an exponent, an entry that the
 /// catalogue lacks. Empty where there is nothing.

@@ -1,9 +1,12 @@
 #include "comun/estadoDeJson.h"
 
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <type_traits>
 
+#include "calculo/corrida/mdCalculaTramo.h"
+#include "comun/campos.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin::pruebas {
@@ -39,23 +42,15 @@ nlohmann::json LeeJson(const std::string& ruta) {
 void RellenaObra(EstadoCalculo& e, const nlohmann::json& j) {
   auto& destino = e.obra;
   LEE(Idioma), LEE(SisUnid), LEE(GolpeCalculado), LEE(NombreObra), LEE(Cliente);
-  LEE(Prs1), LEE(Prs2), LEE(Prs3), LEE(PrsM1), LEE(PrsM2), LEE(Alt1), LEE(Alt2), LEE(Alt3);
+  for (const auto& c : kNumerosObra) Lee(j, c.nombre, destino.*c.campo);
 }
 
 void RellenaTramo(EstadoCalculo& e, const nlohmann::json& j) {
   auto& destino = e.tramo;
-  LEE(NumeroTramo), LEE(DescriTramo), LEE(Tipologia), LEE(Icontes0), LEE(Adato), LEE(Icontes1);
-  LEE(Coepre1), LEE(TipoControl), LEE(TipoCamisa), LEE(CamMax), LEE(Fck), LEE(Fct), LEE(Fyk);
-  LEE(Fyd), LEE(GamaB), LEE(Delca), LEE(Es), LEE(Ep), LEE(Fckno), LEE(Fckn), LEE(Fckr);
-  LEE(SFck), LEE(Sf), LEE(FYKPost), LEE(Rel), LEE(Fic), LEE(Fir), LEE(Epsc), LEE(Epsr), LEE(Di);
-  LEE(De), LEE(Esp), LEE(Reci), LEE(Rece), LEE(Gc), LEE(TipoCuna), LEE(TipoApoyo), LEE(B0);
-  LEE(Gr), LEE(Fi), LEE(TipoRelleno), LEE(Hr1), LEE(IAs), LEE(QDato), LEE(IndCar), LEE(ICar);
-  LEE(Prs1Tram), LEE(Prs2Tram), LEE(Prs3Tram), LEE(PrsM1Tram), LEE(PrsM2Tram), LEE(Hr0Tramo);
-  LEE(Hr0Final), LEE(Hr0Delta);
-  destino.EsArmado = destino.Tipologia < kPrimeraPostesada;
-  destino.SubTipo = destino.EsArmado ? 3 : 0;
-  destino.PostFlag = destino.EsArmado ? 0 : 1;
-  destino.TipoColocacion = destino.TipoApoyo < 20 ? 0 : destino.TipoApoyo < 30 ? 1 : 2;
+  LEE(NumeroTramo), LEE(DescriTramo), LEE(Icontes0), LEE(Icontes1);
+  for (const auto& c : kNumerosTramo) Lee(j, c.nombre, destino.*c.campo);
+  for (const auto& c : kCodigosTramo) Lee(j, c.nombre, destino.*c.campo);
+  Deriva(destino);
   if (destino.Fct == 0) destino.Fct = FctDeFck(destino.Fck);
 }
 
@@ -74,6 +69,10 @@ EstadoCalculo EstadoDeMuestra(int posicion) {
   RellenaObra(e, datos.at("obra"));
   RellenaTramo(e, datos.at("tramos").at(static_cast<std::size_t>(posicion - 1)));
   return e;
+}
+
+DatosTramo EnCalculo(const EstadoCalculo& e) {
+  return DatosDeCalculo(e.obra, e.tramo, e.corrida.ajustes, e.corrida.SinAjustes);
 }
 
 EstadoCalculo EnMks(EstadoCalculo e) {

@@ -1,7 +1,6 @@
 #include "comun/grabadoRoto.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace zorbin::pruebas {
 
@@ -10,15 +9,6 @@ Bloque BloqueDe(const std::string& texto) {
   b[0] = static_cast<char>(texto.size());
   std::copy(texto.begin(), texto.end(), b.begin() + 2);
   return b;
-}
-
-std::string Bytes(const std::filesystem::path& fichero) {
-  std::ifstream f(fichero, std::ios::binary);
-  return {std::istreambuf_iterator<char>(f), {}};
-}
-
-void PonBytes(const std::filesystem::path& fichero, const std::string& bytes) {
-  std::ofstream(fichero, std::ios::binary) << bytes;
 }
 
 void DejaAMedias(const std::filesystem::path& fichero, const Bloques& bloques, int escritos) {

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 
+#include "comun/carpeta.h"
 #include "persistencia/disco/mdDiario.h"
 
 namespace zorbin::pruebas {
@@ -17,8 +18,5 @@ void DejaAMedias(const std::filesystem::path& fichero, const Bloques& bloques, i
 
 /// Records 5 and 6 of a header changed, and one past the end of the file; two of them written.
 void DejaCabeceraAMedias(const std::filesystem::path& fichero);
-
-std::string Bytes(const std::filesystem::path& fichero);
-void PonBytes(const std::filesystem::path& fichero, const std::string& bytes);
 
 }  // namespace zorbin::pruebas

@@ -20,8 +20,6 @@ namespace {
 constexpr int kAlAzar = 8;  // mixtures by chance at each cut
 constexpr unsigned kSemilla = 20091102;
 
-using Ficheros = std::map<std::string, std::string>;
-
 bool DeDiario(const Pendiente& p) {
   return p.nombre.find("-diario") != std::string::npos;
 }
@@ -58,14 +56,6 @@ std::set<Ficheros> Mezclas(const Disco& disco, std::mt19937& azar) {
   return sinMarca;
 }
 
-Ficheros FicherosDe(const fs::path& carpeta) {
-  Ficheros ficheros;
-  for (const auto& f : fs::directory_iterator(carpeta)) {
-    ficheros[f.path().filename().string()] = *BytesDe(f.path());
-  }
-  return ficheros;
-}
-
 bool HayDiario(const Ficheros& ficheros) {
   return std::any_of(ficheros.begin(), ficheros.end(),
                      [](const auto& par) { return par.first.ends_with("-diario"); });
@@ -81,7 +71,7 @@ struct Momento {
 class Apagon : public testing::TestWithParam<std::size_t> {
  protected:
   const Escena& escena = Escenas().at(GetParam());
-  CarpetaReal casa{"apagon"};
+  CarpetaReal casa;
   fs::path carpeta = casa.ruta() / "obra";
   fs::path otra = casa.ruta() / "otra";
   std::vector<Bytes> estados = Estados(escena, carpeta);
@@ -137,8 +127,7 @@ class Apagon : public testing::TestWithParam<std::size_t> {
   }
 
   // The next start of the program finds what a moment left, and the power goes while it undoes it;
-  // once a journal
-  // is dealt with, what the file was found to hold stays.
+  // once a journal is dealt with, what the file was found to hold stays.
   void AbreConApagones(const Ficheros& ficheros, std::optional<Disco> disco, int grabados) {
     PonFicheros(otra, ficheros);
     if (disco) disco->Muda(otra);

@@ -2,11 +2,8 @@
 
 #include "fallos/fallos.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
-#include <map>
 
 namespace zorbin::fallos {
 
@@ -195,44 +192,30 @@ int Indice(const std::vector<Bytes>& estados, const Bytes& bytes) {
   return i == estados.end() ? -1 : static_cast<int>(i - estados.begin());
 }
 
-std::string Nombres(const fs::path& carpeta) {
-  std::vector<std::string> nombres;
-  for (const auto& f : fs::directory_iterator(carpeta)) {
-    nombres.push_back(f.path().filename().string());
-  }
-  std::sort(nombres.begin(), nombres.end());
-  std::string todos;
-  for (const auto& nombre : nombres) todos += nombre + " ";
-  return todos;
-}
-
-std::string Contenido(const fs::path& carpeta) {
-  std::map<std::string, std::string> ficheros;
+Ficheros FicherosDe(const fs::path& carpeta) {
+  Ficheros ficheros;
   for (const auto& f : fs::directory_iterator(carpeta)) {
     ficheros[f.path().filename().string()] = *BytesDe(f.path());
   }
-  std::string todo;
-  for (const auto& [nombre, bytes] : ficheros) {
-    todo += nombre + " " + std::to_string(bytes.size()) + " " + bytes;
-  }
-  return todo;
+  return ficheros;
 }
 
-CarpetaReal::CarpetaReal(const std::string& nombre)
-    : ruta_(fs::canonical(fs::temp_directory_path()) /
-            ("zorbin-" + nombre + "-" + std::to_string(::getpid()))) {
-  fs::create_directories(ruta_);
+std::string Nombres(const fs::path& carpeta) {
+  std::string todos;
+  for (const auto& [nombre, bytes] : FicherosDe(carpeta)) todos += nombre + " ";
+  return todos;
+}
+
+CarpetaReal::CarpetaReal() {
   Sana();
 }
 
 void CarpetaReal::Sana() const {
-  fallos_arma(ruta_.c_str(), 0, FALLO_NINGUNO, 0);
+  fallos_arma(ruta().c_str(), 0, FALLO_NINGUNO, 0);
 }
 
 CarpetaReal::~CarpetaReal() {
   fallos_desarma();
-  std::error_code error;
-  fs::remove_all(ruta_, error);
 }
 
 }  // namespace zorbin::fallos

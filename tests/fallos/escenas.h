@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -62,22 +63,16 @@ int Indice(const std::vector<Bytes>& estados, const Bytes& bytes);
 std::string Nombres(const fs::path& carpeta);
 
 /// Names and bytes of all its files.
-std::string Contenido(const fs::path& carpeta);
+using Ficheros = std::map<std::string, std::string>;
+Ficheros FicherosDe(const fs::path& carpeta);
 
-/// A folder of its real name, which goes away with the process that made it. What is synced in it
-/// is not waited for.
-class CarpetaReal {
+/// What is synced in this folder is not waited for.
+class CarpetaReal : public pruebas::Carpeta {
  public:
-  explicit CarpetaReal(const std::string& nombre);
+  CarpetaReal();
   ~CarpetaReal();
-  CarpetaReal(const CarpetaReal&) = delete;
-  CarpetaReal& operator=(const CarpetaReal&) = delete;
-  const fs::path& ruta() const { return ruta_; }
   /// No call fails from now on.
   void Sana() const;
-
- private:
-  fs::path ruta_;
 };
 
 }  // namespace zorbin::fallos

@@ -57,7 +57,7 @@ struct Parte {
 class Fallos : public testing::TestWithParam<std::size_t> {
  protected:
   const Escena& escena = Escenas().at(GetParam());
-  CarpetaReal casa{"fallos"};
+  CarpetaReal casa;
   fs::path carpeta = casa.ruta() / "obra";
   std::vector<Bytes> estados = Estados(escena, carpeta);
   Parte* parte = nullptr;
@@ -179,13 +179,13 @@ class FallosAlDeshacer : public Fallos {};
 
 TEST_P(FallosAlDeshacer, PuedeRomperseYRepetirse) {
   const fs::path dejado = casa.ruta() / "dejado";
-  std::set<std::string> vistos;
+  std::set<Ficheros> vistos;
   for (int n = 1;; ++n) {
     Prepara(escena, carpeta);
     if (!Graba(n, kMata, Entonces::Acaba)) break;
     const int grabados = parte->grabados;
     fs::remove(RutaMarca(carpeta / escena.fichero));  // never the same twice
-    if (!vistos.insert(Contenido(carpeta)).second) continue;
+    if (!vistos.insert(FicherosDe(carpeta)).second) continue;
     fs::remove_all(dejado);
     fs::copy(carpeta, dejado);
     for (const auto& clase : kClases) {

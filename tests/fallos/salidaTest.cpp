@@ -1,12 +1,11 @@
 // A result written to a file, with every call that changes the folder failing: the file is that of
 // before or the new one whole, nothing else is left, and the next attempt succeeds.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
+#include "comun/carpeta.h"
 #include "comun/sinDerechos.h"
 #include "fallos/fallos.h"
 #include "persistencia/disco/mdFicheroSalida.h"
@@ -15,13 +14,9 @@ namespace zorbin::fallos {
 namespace {
 
 namespace fs = std::filesystem;
+using pruebas::Bytes;
 
 const std::string kAntes = "lo de antes\n";
-
-std::string Lee(const fs::path& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  return {std::istreambuf_iterator<char>(f), {}};
-}
 
 // @return why it could not be written; empty when it was
 std::string Escribe(const fs::path& ruta, const std::string& texto) {
@@ -39,17 +34,13 @@ std::string Escribe(const fs::path& ruta, const std::string& texto) {
 }
 
 struct SalidaConFallos : testing::Test {
-  fs::path casa =
-      fs::canonical(fs::temp_directory_path()) / ("zorbin-salida-" + std::to_string(::getpid()));
+  const pruebas::Carpeta propia;
+  const fs::path& casa = propia.ruta();
   fs::path ruta = casa / "listado.txt";
   std::string nuevo = std::string(5000, 'x') + "\nfin\n";
 
-  void SetUp() override { fs::create_directories(casa); }
-  void TearDown() override {
-    fallos_desarma();
-    fs::remove_all(casa);
-  }
-  void PonAntes() const { std::ofstream(ruta, std::ios::binary) << kAntes; }
+  void TearDown() override { fallos_desarma(); }
+  void PonAntes() const { pruebas::PonBytes(ruta, kAntes); }
   long Nombres() const {
     return std::distance(fs::directory_iterator(casa), fs::directory_iterator());
   }
@@ -71,14 +62,14 @@ TEST_F(SalidaConFallos, ElFicheroEsElDeAntesOElNuevoEntero) {
         puntos += toca ? 1 : 0;
         SCOPED_TRACE(std::to_string(tipo) + ", call " + std::to_string(n) + ": " + causa);
         if (causa.empty()) {
-          EXPECT_EQ(Lee(ruta), nuevo);
+          EXPECT_EQ(Bytes(ruta), nuevo);
         } else {
           EXPECT_EQ(habia, fs::exists(ruta));
-          EXPECT_EQ(Lee(ruta), habia ? kAntes : "");
+          EXPECT_EQ(Bytes(ruta), habia ? kAntes : "");
         }
         EXPECT_EQ(Nombres(), fs::exists(ruta) ? 1 : 0);
         EXPECT_EQ(Escribe(ruta, nuevo), "");
-        EXPECT_EQ(Lee(ruta), nuevo);
+        EXPECT_EQ(Bytes(ruta), nuevo);
       }
     }
   }
@@ -101,7 +92,7 @@ TEST_F(SalidaConFallos, DondeNoSePuedeSeDiceYNoSeTocaNada) {
     EXPECT_NE(Escribe(casa / "otro.txt", nuevo), "");
     EXPECT_NE(Escribe(ruta, nuevo), "");
   }
-  EXPECT_EQ(Lee(ruta), kAntes);
+  EXPECT_EQ(Bytes(ruta), kAntes);
   EXPECT_EQ(Nombres(), 2);
 }
 
@@ -112,7 +103,7 @@ TEST_F(SalidaConFallos, LoQueHabiaConservaEnlaceYPermisos) {
   fs::create_symlink("listado.txt", casa / "enlace.txt");
   EXPECT_EQ(Escribe(casa / "enlace.txt", nuevo), "");
   EXPECT_TRUE(fs::is_symlink(casa / "enlace.txt"));
-  EXPECT_EQ(Lee(ruta), nuevo);
+  EXPECT_EQ(Bytes(ruta), nuevo);
   EXPECT_EQ(fs::status(ruta).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_EQ(Escribe(casa / std::string(255, 'n'), nuevo), "");
   EXPECT_EQ(Escribe("/dev/null", nuevo), "");

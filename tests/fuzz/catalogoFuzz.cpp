@@ -42,18 +42,15 @@ void PruebaCatalogo(std::string_view datos) {
 
 }  // namespace
 
-}  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  using namespace zorbin;
-  using namespace zorbin::hostil;
+void Prueba(std::string_view datos) {
   try {
-    PruebaCatalogo(Vista(datos, largo));
+    PruebaCatalogo(datos);
   } catch (const ErrorCatalogo& error) {
     const std::string_view texto = error.what();
     Exige(texto.size() <= kMaxMensajeCatalogo && EsTextoLimpio(texto), "a refusal can be read",
           texto);
     Exige(texto.starts_with(Carpeta().string()), "it names the file", texto);
   }
-  return 0;
 }
+
+}  // namespace zorbin::hostil

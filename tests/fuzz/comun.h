@@ -1,5 +1,6 @@
-// What the fuzz targets share. A target is one function that is handed the bytes of a hostile file
-// and ends the process where the program does not keep what it promises of such a file.
+// What the fuzz targets share. A target is one function, Prueba, that is handed the bytes of a
+// hostile file and ends the process where the program does not keep what it promises of such a
+// file.
 #pragma once
 
 #include <cstdint>
@@ -15,6 +16,9 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo);
 
 namespace zorbin::hostil {
+
+/// What a target does with the bytes: its own.
+void Prueba(std::string_view datos);
 
 inline std::string_view Vista(const std::uint8_t* datos, std::size_t largo) {
   return {reinterpret_cast<const char*>(datos), largo};

@@ -189,7 +189,9 @@ void Abre(const Escena& x) {
   }
 }
 
-void PruebaDiario(std::string_view datos) {
+}  // namespace
+
+void Prueba(std::string_view datos) {
   if (datos.size() < 3) return;
   const auto modo = static_cast<unsigned char>(datos[0]);
   const std::size_t pedido = Numero(datos, 1, 2);
@@ -204,11 +206,4 @@ void PruebaDiario(std::string_view datos) {
   return (modo & kSoloLee) && !(modo & kSinObra) ? Lee(x) : Abre(x);
 }
 
-}  // namespace
-
 }  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  zorbin::hostil::PruebaDiario(zorbin::hostil::Vista(datos, largo));
-  return 0;
-}

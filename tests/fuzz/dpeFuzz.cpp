@@ -60,7 +60,9 @@ void Cambia(const fs::path& ruta) {
   Exige(BuscaCaso(f.entradas(), 6.0, 3, 2.5) <= 0, "a Tramo that is wiped has no Caso left");
 }
 
-void PruebaDpe(std::string_view datos) {
+}  // namespace
+
+void Prueba(std::string_view datos) {
   VaciaCarpeta();
   const auto ruta = Carpeta() / "obra.dpe";
   const std::string bytes = FicheroDeRegistros(datos);
@@ -83,11 +85,4 @@ void PruebaDpe(std::string_view datos) {
   Exige(NombresEnCarpeta() == std::vector<std::string>{"obra.dpe"}, "nothing is left beside it");
 }
 
-}  // namespace
-
 }  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  zorbin::hostil::PruebaDpe(zorbin::hostil::Vista(datos, largo));
-  return 0;
-}

@@ -8,7 +8,9 @@ namespace {
 
 constexpr std::size_t kMaxDato = 200;  // bytes
 
-void PruebaMarca(std::string_view texto) {
+}  // namespace
+
+void Prueba(std::string_view texto) {
   const auto titular = LeeTextoMarca(texto);
   if (!titular) return;
   for (const auto& dato : {titular->usuario, titular->equipo, titular->desde}) {
@@ -23,11 +25,4 @@ void PruebaMarca(std::string_view texto) {
         "a mark there and back");
 }
 
-}  // namespace
-
 }  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  zorbin::hostil::PruebaMarca(zorbin::hostil::Vista(datos, largo));
-  return 0;
-}

@@ -40,11 +40,9 @@ void PruebaPagina(std::string_view bytes) {
 
 }  // namespace
 
-}  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  const auto bytes = zorbin::hostil::Vista(datos, largo);
-  zorbin::hostil::PruebaNumero(bytes);
-  zorbin::hostil::PruebaPagina(bytes);
-  return 0;
+void Prueba(std::string_view datos) {
+  PruebaNumero(datos);
+  PruebaPagina(datos);
 }
+
+}  // namespace zorbin::hostil

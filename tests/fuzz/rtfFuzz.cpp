@@ -46,22 +46,19 @@ void ExigeMarcas(std::string_view html) {
 
 }  // namespace
 
-}  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  using namespace zorbin;
-  using namespace zorbin::hostil;
+void Prueba(std::string_view datos) {
   try {
-    const auto d = InterpretaRtf(Vista(datos, largo), "documento.rtf");
+    const auto d = InterpretaRtf(datos, "documento.rtf");
     std::size_t piezas = 0;
     ExigeLimites(d, piezas);
     const std::string html = HtmlDeRtf(d);
-    Exige(html.size() <= 200 + kHtmlPorByte * largo + kHtmlPorPieza * piezas,
+    Exige(html.size() <= 200 + kHtmlPorByte * datos.size() + kHtmlPorPieza * piezas,
           "HTML is not much larger than its document");
     Exige(EsTextoLimpio(html), "HTML is clean text");
     ExigeMarcas(html);
   } catch (const ErrorRtf& error) {
     ExigeClaro(error.mensaje(), "documento.rtf");
   }
-  return 0;
 }
+
+}  // namespace zorbin::hostil

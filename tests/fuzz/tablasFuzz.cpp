@@ -52,15 +52,12 @@ void PruebaTablas(std::string_view datos) {
 
 }  // namespace
 
-}  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  using namespace zorbin;
-  using namespace zorbin::hostil;
+void Prueba(std::string_view datos) {
   try {
-    PruebaTablas(Vista(datos, largo));
+    PruebaTablas(datos);
   } catch (const ErrorFichero& error) {
     ExigeClaro(error.mensaje(), Carpeta());
   }
-  return 0;
 }
+
+}  // namespace zorbin::hostil

@@ -3,8 +3,9 @@
 #include <cmath>
 #include <sstream>
 
+#include "comun/campos.h"
 #include "core/mdUnidades.h"
-#include "fuzz/comun.h"
+#include "fuzz/asiente.h"
 #include "listados/datos/mdJson.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
@@ -20,39 +21,28 @@ namespace fs = std::filesystem;
 constexpr int kMaxCasos = 2;                 // of a Tramo
 constexpr std::size_t kMaxTramosUsados = 2;  // of an Obra
 
-const TablasCatalogo& Tablas() {
-  static const TablasCatalogo tablas = LeeTablas(ZORBIN_FUENTES "recursos/tablas");
-  return tablas;
-}
-
 // ---- The state
 
-constexpr auto kNumerosObra = std::to_array(
-    {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
-     &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI});
-constexpr auto kNumerosTramo =
-    std::to_array({&Tramo::Adato,       &Tramo::Coepre1,     &Tramo::CamMax,     &Tramo::Fck,
-                   &Tramo::Fct,         &Tramo::Fyk,         &Tramo::Fyd,        &Tramo::GamaB,
-                   &Tramo::Delca,       &Tramo::Es,          &Tramo::Ep,         &Tramo::Fckno,
-                   &Tramo::Fckn,        &Tramo::Fckr,        &Tramo::SFck,       &Tramo::Sf,
-                   &Tramo::FYKPost,     &Tramo::Rel,         &Tramo::Fic,        &Tramo::Fir,
-                   &Tramo::Epsc,        &Tramo::Epsr,        &Tramo::Di,         &Tramo::De,
-                   &Tramo::Esp,         &Tramo::Reci,        &Tramo::Rece,       &Tramo::Gc,
-                   &Tramo::B0,          &Tramo::Gr,          &Tramo::Fi,         &Tramo::Hr1,
-                   &Tramo::QDato,       &Tramo::Prs1Tram,    &Tramo::Prs2Tram,   &Tramo::Prs3Tram,
-                   &Tramo::PrsM1Tram,   &Tramo::PrsM2Tram,   &Tramo::Hr0Tramo,   &Tramo::Hr0Final,
-                   &Tramo::Hr0Delta,    &Tramo::Prs1TramSI,  &Tramo::Prs2TramSI, &Tramo::Prs3TramSI,
-                   &Tramo::PrsM1TramSI, &Tramo::PrsM2TramSI, &Tramo::FckSI,      &Tramo::FctSI,
-                   &Tramo::FykSI,       &Tramo::FydSI,       &Tramo::QDatoSI,    &Tramo::EsSI,
-                   &Tramo::EpSI,        &Tramo::FcknoSI,     &Tramo::FcknSI,     &Tramo::FckrSI,
-                   &Tramo::SFckSI,      &Tramo::SfSI,        &Tramo::FYKPostSI});
+// clang-format off
+constexpr auto kGemelosObra = std::to_array(
+    {&Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI});
+constexpr auto kGemelosTramo = std::to_array(
+    {&Tramo::Prs1TramSI, &Tramo::Prs2TramSI, &Tramo::Prs3TramSI, &Tramo::PrsM1TramSI,
+     &Tramo::PrsM2TramSI, &Tramo::FckSI, &Tramo::FctSI, &Tramo::FykSI, &Tramo::FydSI,
+     &Tramo::QDatoSI, &Tramo::EsSI, &Tramo::EpSI, &Tramo::FcknoSI, &Tramo::FcknSI, &Tramo::FckrSI,
+     &Tramo::SFckSI, &Tramo::SfSI, &Tramo::FYKPostSI});
+// clang-format on
 
 void ExigeFinitos(const Obra& o) {
-  for (const auto campo : kNumerosObra) Exige(std::isfinite(o.*campo), "the Obra holds numbers");
+  for (const auto& c : pruebas::kNumerosObra)
+    Exige(std::isfinite(o.*c.campo), "a number", c.nombre);
+  for (const auto campo : kGemelosObra) Exige(std::isfinite(o.*campo), "the Obra holds numbers");
 }
 
 void ExigeFinitos(const Tramo& t) {
-  for (const auto campo : kNumerosTramo) Exige(std::isfinite(t.*campo), "the Tramo holds numbers");
+  for (const auto& c : pruebas::kNumerosTramo)
+    Exige(std::isfinite(t.*c.campo), "a number", c.nombre);
+  for (const auto campo : kGemelosTramo) Exige(std::isfinite(t.*campo), "the Tramo holds numbers");
 }
 
 // ---- The run
@@ -128,18 +118,6 @@ void Valida(const EstadoCalculo& e, const ObraEnFichero& obra, const fs::path& r
 }
 
 // ---- The capture
-
-class Asiente : public Interlocutor {
- public:
-  void Muestra(const std::string& texto, const std::string&) override {
-    Exige(EsTextoLimpio(texto), "a message is clean text", texto);
-    ultimo = texto;
-  }
-  bool Pregunta(const std::string&, const std::string&) override { return true; }
-  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
-  void VaA(Ed) override {}
-  std::string ultimo;
-};
 
 // Opens the Obra at the capture, chooses a Tramo and saves it. @return whether it was saved
 bool GrabaTramoDe(const fs::path& ruta, const std::string& numero, std::string& queja) {
@@ -220,14 +198,10 @@ void PruebaObra(const fs::path& ruta, const std::string& bytes) {
 
 }  // namespace
 
-}  // namespace zorbin::hostil
-
-int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
-  using namespace zorbin;
-  using namespace zorbin::hostil;
+void Prueba(std::string_view datos) {
   VaciaCarpeta();
   const auto ruta = Carpeta() / "obra.zrb";
-  const std::string bytes = FicheroDeRegistros(Vista(datos, largo));
+  const std::string bytes = FicheroDeRegistros(datos);
   Pon(ruta, bytes);
   try {
     PruebaObra(ruta, bytes);
@@ -235,5 +209,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t largo) {
     ExigeClaro(error.mensaje(), ruta);
     Exige(Bytes(ruta) == bytes, "what is refused is not touched");
   }
-  return 0;
 }
+
+}  // namespace zorbin::hostil

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <csignal>
 
-#include "base/textosGrabado.h"
+#include "base/textos.h"
 #include "comun/grabadoRoto.h"
 #include "persistencia/registros/mdRegistros.h"
 
@@ -26,18 +26,15 @@ int SinCerrojos(int, int) {
 
 class ConCerrojos : public testing::Test {
  protected:
-  fs::path carpeta =
-      fs::canonical(fs::temp_directory_path()) / ("zorbin-cerrojo-" + std::to_string(::getpid()));
+  const pruebas::Carpeta carpeta;
   fs::path ruta = carpeta / "obra.zrb";
   Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
 
   void SetUp() override {
-    fs::create_directories(carpeta);
     FicheroRegistros f(ruta, Modo::LecturaEscritura);
     f.EscribeRegistro(1, "uno");
     f.Vacia();
   }
-  void TearDown() override { fs::remove_all(carpeta); }
 
   // Another program with the file open, until it is killed.
   pid_t OtroPrograma(PideCerrojo pide = CerrojoDelSistema) const {
@@ -92,7 +89,7 @@ TEST_F(ConCerrojos, AlSegundoSeLeDiceQuienLoTieneYPuedeLeer) {
   Mata(otro);
   EXPECT_FALSE(Negativa());  // what a dead process had is nobody's
   fs::remove(ruta);
-  EXPECT_TRUE(fs::is_empty(carpeta));
+  EXPECT_TRUE(fs::is_empty(carpeta.ruta()));
 }
 
 TEST_F(ConCerrojos, SinCerrojosSeDiceYLaMarcaHaceLoQuePuede) {

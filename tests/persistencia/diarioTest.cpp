@@ -11,7 +11,6 @@
 #include <fstream>
 
 #include "base/textos.h"
-#include "base/textosGrabado.h"
 #include "comun/grabadoRoto.h"
 #include "comun/sinDerechos.h"
 #include "persistencia/registros/mdRegistros.h"
@@ -33,8 +32,8 @@ std::string Texto(const Bloque& b) {
 
 class ConDiario : public testing::Test {
  protected:
-  fs::path carpeta =
-      fs::canonical(fs::temp_directory_path()) / ("zorbin-diario-" + std::to_string(::getpid()));
+  const pruebas::Carpeta propia;
+  const fs::path& carpeta = propia.ruta();
   fs::path ruta = carpeta / "obra.zrb";
   fs::path diario = RutaDiario(ruta);
   // Three records and a piece of a fourth.
@@ -42,14 +41,7 @@ class ConDiario : public testing::Test {
                       std::string("\3\0cua y lo que sigue", 20);
   const Bloques cambio{{2, BloqueDe("DOS")}, {4, BloqueDe("CUATRO")}, {7, BloqueDe("SIETE")}};
 
-  void SetUp() override {
-    fs::create_directories(carpeta);
-    PonBytes(ruta, antes);
-  }
-  void TearDown() override {
-    fs::permissions(carpeta, fs::perms::owner_all);
-    fs::remove_all(carpeta);
-  }
+  void SetUp() override { PonBytes(ruta, antes); }
 
   // Entry of the refusal; 0 when there is none.
   template <class Accion>

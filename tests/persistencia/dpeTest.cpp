@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "comun/carpeta.h"
 #include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
@@ -18,7 +19,8 @@ TEST(Dpe, NombreJuntoALaObra) {
 }
 
 TEST(Dpe, IdaYVuelta) {
-  const auto ruta = fs::temp_directory_path() / ("zorbin-" + std::to_string(getpid()) + ".dpe");
+  const pruebas::Carpeta carpeta;
+  const auto ruta = carpeta / "o.dpe";
   EXPECT_TRUE(LeeAjustes(ruta).empty());
   {
     FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
@@ -31,13 +33,13 @@ TEST(Dpe, IdaYVuelta) {
   EXPECT_EQ(leidas[0].Hr, 2.5);
   EXPECT_EQ(leidas[0].areas.Espiras, 3.5);
   EXPECT_TRUE(leidas[1].Libre());
-  fs::remove(ruta);
 }
 
 // An appended entry may end the file at its height: the reserved records after it were never
 // written. A file that ends before that has lost something.
 TEST(Dpe, UnaUltimaEntradaSinSusReservasCuenta) {
-  const auto ruta = fs::temp_directory_path() / ("zorbin-c" + std::to_string(getpid()) + ".dpe");
+  const pruebas::Carpeta carpeta;
+  const auto ruta = carpeta / "o.dpe";
   {
     FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
     EscribeAjustes(f, {{6, 1, 2.5, {20, 3.5, 18}}}, ',');
@@ -46,15 +48,13 @@ TEST(Dpe, UnaUltimaEntradaSinSusReservasCuenta) {
   EXPECT_EQ(LeeAjustes(ruta).size(), 1u);
   fs::resize_file(ruta, 6 * kBytesRegistro);
   EXPECT_THROW(LeeAjustes(ruta), ErrorFichero);
-  fs::remove(ruta);
 }
 
 class DpeAbierto : public testing::Test {
  protected:
-  fs::path ruta = fs::temp_directory_path() / ("zorbin-a" + std::to_string(getpid()) + ".dpe");
+  const pruebas::Carpeta carpeta;
+  const fs::path ruta = carpeta / "o.dpe";
   Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
-
-  void TearDown() override { fs::remove(ruta); }
 
   // What the file says when it is refused; empty when it opens.
   std::string Rechazo() const {
@@ -155,7 +155,8 @@ TEST_F(DpeAbierto, ElQueNoCabeSeDice) {
 }
 
 TEST(Log, SeAnadeYNoSeTrunca) {
-  const auto carpeta = fs::temp_directory_path() / ("zorbin-log-" + std::to_string(getpid())) / "x";
+  const pruebas::Carpeta propia;
+  const auto carpeta = propia / "x";
   for (int i = 0; i < 2; ++i) {
     FicheroLog log(carpeta);
     log.registro() << "una";
@@ -164,7 +165,6 @@ TEST(Log, SeAnadeYNoSeTrunca) {
   }
   EXPECT_EQ(fs::file_size(carpeta / "Debugpim_cal.txt"), 8u);
   EXPECT_THROW(FicheroLog(carpeta / "Debugpim_cal.txt"), ErrorEjecucion);
-  fs::remove_all(carpeta.parent_path());
 }
 
 }  // namespace

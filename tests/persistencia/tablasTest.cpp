@@ -2,12 +2,11 @@
 #include "persistencia/tablas/mdTablas.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <fstream>
 #include <string>
 
-#include "base/textosTablas.h"
+#include "base/textos.h"
+#include "comun/carpeta.h"
 
 namespace zorbin {
 namespace {
@@ -16,25 +15,16 @@ namespace fs = std::filesystem;
 
 class Tablas : public testing::Test {
  protected:
-  Tablas() {
-    carpeta_ = fs::temp_directory_path() / ("zorbin-tablas-" + std::to_string(::getpid()));
-    fs::remove_all(carpeta_);
-    fs::create_directories(carpeta_);
-    Pon("TUB#GM", kCabecera + kFila);
-  }
-  ~Tablas() override {
-    std::error_code error;
-    fs::remove_all(carpeta_, error);
-  }
+  Tablas() { Pon("TUB#GM", kCabecera + kFila); }
 
   void Pon(const std::string& nombre, const std::string& texto) {
-    std::ofstream(carpeta_ / nombre, std::ios::binary) << texto;
+    pruebas::PonBytes(carpeta_ / nombre, texto);
   }
 
   // Entry and line of the refusal.
   std::pair<int, std::string> Rechazo() {
     try {
-      LeeTablas(carpeta_);
+      LeeTablas(carpeta_.ruta());
     } catch (const ErrorFichero& e) {
       const auto& m = e.mensaje();
       return {m.texto, m.datos.size() > 1 ? m.datos[1] : std::string{}};
@@ -45,11 +35,11 @@ class Tablas : public testing::Test {
   static inline const std::string kCabecera = "a\r\nb\r\nc\r\n";
   static inline const std::string kFila =
       "1200*  25   26  125*  30   31  135*  25   20  110   32   27  126*  85   28  111\r\n";
-  fs::path carpeta_;
+  const pruebas::Carpeta carpeta_;
 };
 
 TEST_F(Tablas, LasColumnasYLaMarcaDeCadaGrupo) {
-  const auto t = LeeTablas(carpeta_);
+  const auto t = LeeTablas(carpeta_.ruta());
   ASSERT_EQ(t.NumDiametros(), 1);
   const auto& f = t.TablaDimensiones[0];
   EXPECT_EQ(f.Diametro, 1200);
@@ -60,7 +50,7 @@ TEST_F(Tablas, LasColumnasYLaMarcaDeCadaGrupo) {
 
 TEST_F(Tablas, UnaFilaCortaYLosBlancosSonCero) {
   Pon("TUB#GM", kCabecera + " 300*  25        60\n 400");
-  const auto t = LeeTablas(carpeta_);
+  const auto t = LeeTablas(carpeta_.ruta());
   ASSERT_EQ(t.NumDiametros(), 2);
   EXPECT_EQ(t.TablaDimensiones[0].grupos[0], (DimensionesGrupo{25, 0, 60, '*'}));
   EXPECT_EQ(t.TablaDimensiones[1].grupos[4], DimensionesGrupo{});
@@ -68,7 +58,7 @@ TEST_F(Tablas, UnaFilaCortaYLosBlancosSonCero) {
 
 TEST_F(Tablas, LosNombresSinCajaYLoQueFalta) {
   fs::rename(carpeta_ / "TUB#GM", carpeta_ / "tub#gm");
-  auto t = LeeTablas(carpeta_);
+  auto t = LeeTablas(carpeta_.ruta());
   EXPECT_EQ(t.NumDiametros(), 1);
   EXPECT_EQ(t.NumArmaduras(), 100);
   EXPECT_EQ(t.TablaArmaduras.front(), 5.0);
@@ -76,7 +66,7 @@ TEST_F(Tablas, LosNombresSinCajaYLoQueFalta) {
   EXPECT_EQ(t.MaxAnchoZanja, 0);
   Pon("TUB#ES", "");
   Pon("Tub#pm", " 3 Veces\r\n\r\n 4 otras\n  sin valor\n");  // the last one with a value
-  t = LeeTablas(carpeta_);
+  t = LeeTablas(carpeta_.ruta());
   EXPECT_EQ(t.NumArmaduras(), 100);
   EXPECT_EQ(t.MaxAnchoZanja, 4);
   fs::remove(carpeta_ / "tub#gm");
@@ -110,7 +100,7 @@ TEST_F(Tablas, CienEntradasYNiUnaMas) {
   }
   Pon("TUB#ES", cien);
   Pon("TUB#GM", filas);
-  EXPECT_EQ(LeeTablas(carpeta_).NumArmaduras(), 100);
+  EXPECT_EQ(LeeTablas(carpeta_.ruta()).NumArmaduras(), 100);
   Pon("TUB#ES", cien + "5\n");
   EXPECT_EQ(Rechazo().first, txt::DemasiadasArmaduras);
   Pon("TUB#GM", filas + kFila);

@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 #include <QWindow>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "shell/ayuda/frAyuda.h"
 #include "shell/entornoPrueba.h"
 #include "shell/piezas/mdVisorHtml.h"
@@ -218,7 +218,9 @@ TEST(Ayuda, NadaSeTraeDeFuera) {
   a.ayuda.Muestra({});
   const QString texto = a.Visor().toPlainText();
   const QUrl pagina = a.Visor().source();
+  a.Visor().setSearchPaths({a.mesa.carpeta.path()});
   for (const auto& [tipo, fichero] : {std::pair{QTextDocument::ImageResource, "foto.png"},
+                                      {QTextDocument::ImageResource, "http://127.0.0.1:9/f.png"},
                                       {QTextDocument::StyleSheetResource, "hoja.css"},
                                       {QTextDocument::HtmlResource, "otro.html"}}) {
     const QUrl suelto = QUrl(fichero);
@@ -236,6 +238,7 @@ TEST(Ayuda, NadaSeTraeDeFuera) {
   }
   a.Pulsa("#cuna");
   EXPECT_EQ(a.Arriba(), "La cuna");
+  EXPECT_FALSE(a.Visor().openLinks() || a.Visor().openExternalLinks());
 }
 
 TEST(Ayuda, SeAmpliaPorDondeSeLee) {

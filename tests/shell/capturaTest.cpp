@@ -4,11 +4,9 @@
 #include <QComboBox>
 #include <QDropEvent>
 #include <QFile>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -94,6 +92,11 @@ struct Programa {
   std::unique_ptr<FormaPrincipal> ventana;
 };
 
+// The sample Obra open in it.
+struct ConMuestra : Programa {
+  ConMuestra() { EXPECT_TRUE(ventana->Abre(Muestra())) << S(persona.Ultima()); }
+};
+
 TEST(Ventana, UnaObraDesdeCeroConElTeclado) {
   Programa p;
   p.Lanza(Orden::MnNuevaObra);
@@ -174,8 +177,7 @@ TEST(Ventana, MenusDeCadaEstado) {
 }
 
 TEST(Ventana, CerrarConCambiosSeNiega) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edCliente);
   p.Teclea("Otro");
   EXPECT_TRUE(p.ventana->isWindowModified());
@@ -221,8 +223,7 @@ TEST(Ventana, SueltaUnaObra) {
 }
 
 TEST(Captura, UnCampoRechazadoDicePorQue) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edAlt1);
   p.Teclea("0,5");
   EXPECT_TRUE(p.TieneFoco(Ed::edAlt1));
@@ -240,8 +241,7 @@ TEST(Captura, UnCampoRechazadoDicePorQue) {
 }
 
 TEST(Captura, CancelarNoEjecutaLaRegla) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Lanza(Orden::mnNuevoTramo);
   p.Pincha(Ed::edFck);
   QTest::keyClicks(QApplication::focusWidget(), "0");
@@ -253,8 +253,7 @@ TEST(Captura, CancelarNoEjecutaLaRegla) {
 }
 
 TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edAlt2);
   QApplication::clipboard()->setText("12.3");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
@@ -268,8 +267,7 @@ TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
 }
 
 TEST(Captura, ElTabuladorSigueElTrabajo) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edPrsM1);
   for (const Ed siguiente :
        {Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3, Ed::edAlt1, Ed::edAlt2, Ed::edAlt3}) {
@@ -284,8 +282,7 @@ TEST(Captura, ElTabuladorSigueElTrabajo) {
 }
 
 TEST(Captura, LaListaDeTramosLlevaAUno) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   auto* lista = p.ventana->findChild<QTreeWidget*>("Tramos");
   ASSERT_EQ(lista->topLevelItemCount(), static_cast<int>(p.c.lista.size()));
   auto* sexto = lista->topLevelItem(5);
@@ -306,8 +303,7 @@ TEST(Captura, LaListaDeTramosLlevaAUno) {
 }
 
 TEST(Captura, ElUltimoCampoPostesadoLlevaALaColocacion) {
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   p.Pincha(Ed::edTramo);
   p.ventana->captura().Hace([&] { CambiaPagina(p.c, 1); });
   p.Pincha(Ed::edTramo);
@@ -347,31 +343,6 @@ bool EsDelCatalogo(const std::set<QString>& textos, QString texto) {
   return false;
 }
 
-struct Visto {
-  QWidget* widget;
-  QString texto;
-};
-
-std::vector<Visto> Vistos(QWidget& ventana) {
-  std::vector<Visto> vistos;
-  for (auto* w : ventana.findChildren<QWidget*>()) {
-    if (!w->isVisible()) continue;
-    if (auto* r = qobject_cast<QLabel*>(w)) vistos.push_back({w, r->text()});
-    if (auto* b = qobject_cast<QAbstractButton*>(w)) vistos.push_back({w, b->text()});
-    if (auto* g = qobject_cast<QGroupBox*>(w)) vistos.push_back({w, g->title()});
-    if (auto* t = qobject_cast<QTabBar*>(w)) {
-      for (int i = 0; i < t->count(); ++i) vistos.push_back({w, t->tabText(i)});
-    }
-    if (auto* m = qobject_cast<QMenuBar*>(w)) {
-      for (auto* menu : m->actions()) {
-        vistos.push_back({w, menu->text()});
-        for (auto* entrada : menu->menu()->actions()) vistos.push_back({w, entrada->text()});
-      }
-    }
-  }
-  return vistos;
-}
-
 // Every page of the capture, one after the other, with a Tramo of each kind in hand.
 void RecorrePaginas(Programa& p, const std::function<void(const std::string&)>& mira) {
   auto& pantalla = p.ventana->captura();
@@ -403,8 +374,7 @@ class EnIdioma : public testing::TestWithParam<int> {};
 
 TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
   const int idioma = GetParam();
-  Programa p;
-  ASSERT_TRUE(p.ventana->Abre(p.Muestra()));
+  ConMuestra p;
   auto* lista = qobject_cast<QComboBox*>(p.Campo(Ed::edIdioma));
   lista->setCurrentIndex(idioma - 1);
   emit lista->activated(idioma - 1);
@@ -423,9 +393,10 @@ TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
       EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << donde;
       EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << donde;
     }
-    for (const auto& visto : Vistos(*p.ventana)) {
+    for (const auto& visto : prueba::TextosALaVista(*p.ventana)) {
       const QString nombre = visto.widget->objectName();
-      if (nombre == "estadoObra" || nombre.startsWith("qt_")) continue;
+      if (visto.widget == p.ventana.get() || nombre == "estadoObra" || nombre.startsWith("qt_"))
+        continue;
       if (qobject_cast<QLineEdit*>(visto.widget->parentWidget()) != nullptr) continue;
       if (nombre == "lbTitulo") {
         EXPECT_EQ(visto.texto, Rotulo(p.c.pantalla.titulo));
@@ -434,7 +405,7 @@ TEST_P(EnIdioma, TodoTextoEsDelCatalogoYCabe) {
       }
       EXPECT_TRUE(EsDelCatalogo(textos, visto.texto))
           << donde << ", " << S(nombre) << ": " << S(visto.texto);
-      auto* rotulo = qobject_cast<QLabel*>(visto.widget);
+      const auto* rotulo = qobject_cast<const QLabel*>(visto.widget);
       const bool parte = rotulo != nullptr && rotulo->wordWrap();
       const bool ajeno = visto.widget->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored;
       if (!parte && !ajeno) {

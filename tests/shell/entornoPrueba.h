@@ -5,9 +5,14 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFileDialog>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -65,6 +70,36 @@ struct Mesa {
 
   QString Tx(int n) const { return Q(textos.Texto(n)); }
 };
+
+/// A text in sight, and what shows it.
+struct TextoVisto {
+  const QWidget* widget;
+  QString texto;
+};
+
+/// The title of a window and the texts of its labels, buttons, frames, pages and menus.
+inline std::vector<TextoVisto> TextosALaVista(const QWidget& ventana) {
+  std::vector<TextoVisto> vistos{{&ventana, ventana.windowTitle()}};
+  for (const auto* w : ventana.findChildren<QWidget*>()) {
+    if (!w->isVisible()) continue;
+    const auto anade = [&](const QString& texto) {
+      if (!texto.isEmpty()) vistos.push_back({w, texto});
+    };
+    if (const auto* r = qobject_cast<const QLabel*>(w)) anade(r->text());
+    if (const auto* b = qobject_cast<const QAbstractButton*>(w)) anade(b->text());
+    if (const auto* g = qobject_cast<const QGroupBox*>(w)) anade(g->title());
+    if (const auto* t = qobject_cast<const QTabBar*>(w)) {
+      for (int i = 0; i < t->count(); ++i) anade(t->tabText(i));
+    }
+    if (const auto* m = qobject_cast<const QMenuBar*>(w)) {
+      for (auto* menu : m->actions()) {
+        anade(menu->text());
+        for (auto* entrada : menu->menu()->actions()) anade(entrada->text());
+      }
+    }
+  }
+  return vistos;
+}
 
 /// Answers the message boxes that an action opens, and keeps what they said. Without an answer left
 /// it presses the default button.

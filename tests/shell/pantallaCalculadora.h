@@ -69,20 +69,6 @@ inline QString SinMarcas(QString texto) {
   return texto.remove('&').replace('\n', ' ').trimmed();
 }
 
-/// Texts in sight: labels, buttons, frames and the title.
-inline std::vector<std::pair<const QWidget*, QString>> TextosALaVista(const QWidget& pantalla) {
-  std::vector<std::pair<const QWidget*, QString>> textos{{&pantalla, pantalla.windowTitle()}};
-  for (const auto* w : pantalla.findChildren<QWidget*>()) {
-    if (!w->isVisible()) continue;
-    QString texto;
-    if (const auto* etiqueta = qobject_cast<const QLabel*>(w)) texto = etiqueta->text();
-    if (const auto* boton = qobject_cast<const QAbstractButton*>(w)) texto = boton->text();
-    if (const auto* marco = qobject_cast<const QGroupBox*>(w)) texto = marco->title();
-    if (!texto.isEmpty()) textos.emplace_back(w, texto);
-  }
-  return textos;
-}
-
 /// Every text in sight is the catalogue's in its language, except those given; none is cut, and no
 /// two have the same key.
 inline void CompruebaTextos(const QWidget& pantalla, const Catalogo& catalogo,

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <new>
 
+#include "comun/carpeta.h"
 #include "comun/discoLleno.h"
 #include "programas/zorbin/mdAplicacion.h"
 #include "programas/zorbin/mdPrograma.h"
@@ -20,15 +21,8 @@ namespace {
 
 using pruebas::DiscoLleno;
 
-QByteArray Lee(const QString& ruta) {
-  QFile f(ruta);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void Escribe(const QString& ruta, const char* texto) {
-  QFile f(ruta);
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(texto);
+std::string Lee(const QString& ruta) {
+  return pruebas::Bytes(S(ruta));
 }
 
 // A document of some hundred kilobytes.
@@ -62,7 +56,7 @@ TEST(Salidas, LoQueNoSePuedeEscribirSeDiceYElSegundoIntentoVale) {
     const auto en = [&](const char* nombre) {
       return mesa.carpeta.filePath(nombre) + '.' + extension;
     };
-    Escribe(en("bueno"), "lo de antes");
+    pruebas::PonBytes(S(en("bueno")), "lo de antes");
     QDir(mesa.carpeta.path()).mkdir("carpeta." + extension);
     for (const auto& ruta :
          {en("no/hay"), en("carpeta"),
@@ -85,7 +79,7 @@ TEST(Salidas, LoQueNoSePuedeEscribirSeDiceYElSegundoIntentoVale) {
     EXPECT_EQ(Lee(en("bueno")), "lo de antes");
     EXPECT_EQ(nombres().size(), 1) << S(nombres().join(' '));
     EXPECT_TRUE(guarda(mesa));
-    EXPECT_GT(Lee(en("bueno")).size(), 20'000);
+    EXPECT_GT(Lee(en("bueno")).size(), 20'000u);
     EXPECT_EQ(nombres().size(), 1);
   }
 }

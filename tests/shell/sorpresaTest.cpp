@@ -19,7 +19,6 @@
 #include "programas/zorbin/mdPrograma.h"
 #include "shell/entornoPrueba.h"
 #include "shell/impresion/frVistaPrevia.h"
-#include "shell/piezas/mdVisorHtml.h"
 
 namespace zorbin::prueba {
 namespace {
@@ -131,28 +130,6 @@ TEST_F(Sorpresa, EnLosMensajesYEnElPapelTambien) {
   vista.show();
   EXPECT_TRUE(vista.windowHandle()->title().endsWith(" - " + kNombre));
   NadaEsHtml(vista);
-}
-
-// What a page asks for is not fetched: not from the network, not from the disk.
-TEST_F(Sorpresa, UnaPaginaNoCargaNadaDeFuera) {
-  QImage imagen(4, 4, QImage::Format_RGB32);
-  imagen.fill(Qt::red);
-  const QString foto = carpeta.filePath("foto.png");
-  ASSERT_TRUE(imagen.save(foto));
-  VisorHtml visor;
-  visor.setSearchPaths({carpeta.path()});
-  visor.show();
-  for (const auto& direccion : {foto, QString("foto.png"), QUrl::fromLocalFile(foto).toString(),
-                                QString("http://127.0.0.1:9/f.png")}) {
-    visor.setHtml("<link rel=stylesheet href='" + direccion + "'><img src='" + direccion +
-                  "'><a href='" + direccion + "'>x</a>");
-    QTest::qWait(1);
-    const auto cargado = visor.document()->resource(QTextDocument::ImageResource, QUrl(direccion));
-    EXPECT_TRUE(cargado.toByteArray().isEmpty()) << S(direccion);
-    EXPECT_TRUE(qvariant_cast<QImage>(cargado).isNull()) << S(direccion);
-  }
-  EXPECT_FALSE(visor.openLinks());
-  EXPECT_FALSE(visor.openExternalLinks());
 }
 
 }  // namespace

@@ -5,8 +5,7 @@
 #include <utility>
 
 #include "base/mdTextos.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
@@ -78,7 +77,7 @@ void Avisa(Ajustes& a, int texto) {
 }
 
 void MuestraFallo(Ajustes& a, const std::string& texto) {
-  a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::AjErrorEnEjecucion))));
+  a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::ErrorEnEjecucion))));
 }
 
 // Changes the work, calculates what follows, rows or check alone, and shows it: the screen is free

@@ -1,6 +1,6 @@
 #include "sesion/ajustes/mdFilas.h"
 
-#include "base/textosAjustes.h"
+#include "base/textos.h"
 #include "core/mdAjustes.h"
 #include "sesion/ajustes/mdHoja.h"
 #include "sesion/captura/mdAjustesTramo.h"

@@ -3,8 +3,7 @@
 #include <cmath>
 
 #include "base/mdNumeros.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
 #include "sesion/captura/mdGeometria.h"
 

@@ -5,8 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include "base/textosImpresion.h"
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
 #include "persistencia/disco/mdFicheroSalida.h"
 #include "shell/impresion/mdColaImpresion.h"
@@ -86,7 +85,7 @@ QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& 
     preferencias.PonValor(kCarpeta, QFileInfo(ruta).absolutePath());
     if (!QFileInfo::exists(ruta) ||
         Pregunta(padre, textos, Frase(textos, txt::YaExiste, QDir::toNativeSeparators(ruta)),
-                 Rotulo(textos.Texto(txt::TituloAvisoImpresion)))) {
+                 Rotulo(textos.Texto(txt::TituloAviso)))) {
       return ruta;
     }
   }
@@ -119,7 +118,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
 }
 
 bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
-             const Catalogo& textos) {
+                  const Catalogo& textos) {
   HojasContadas hojas(destino, marcha, textos);
   documento(hojas);
   marcha.Exige();

@@ -3,7 +3,7 @@
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 
-#include "base/textosImpresion.h"
+#include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"

@@ -12,7 +12,7 @@
 #include <thread>
 #include <utility>
 
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
@@ -43,7 +43,7 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Marcha& marcha, Q
       marcha_(marcha),
       texto_(new QLabel(this)),
       barra_(new QProgressBar(this)),
-      cancela_(new QPushButton(Rotulo(textos.Texto(txt::CancelarCalculo)), this)) {
+      cancela_(new QPushButton(Rotulo(textos.Texto(txt::BotonCancelar)), this)) {
   setWindowTitle(Rotulo(textos.Texto(titulo)));
   setWindowModality(Qt::WindowModal);
   texto_->setTextFormat(Qt::PlainText);

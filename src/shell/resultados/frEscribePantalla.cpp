@@ -16,8 +16,9 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
+#include <array>
 
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "shell/impresion/mdGuardar.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
@@ -33,6 +34,8 @@ constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;
 constexpr int kAireBoton = 18;  // round its text [pixels]
+constexpr std::array<int, kTiposListado> kRotulosListado{txt::Normal, txt::ListadoTabular,
+                                                         txt::ListadoPantalla, txt::ListadoLame};
 const QString kVentana = QStringLiteral("frEscribePantalla");
 const QString kCuerpo = QStringLiteral("Resumen/Cuerpo");
 
@@ -116,7 +119,7 @@ void frEscribePantalla::CreaOpciones(QVBoxLayout& columna) {
   grupo->setObjectName(QStringLiteral("rdTipoListado"));
   auto* filas = new QVBoxLayout(grupo);
   for (int tipo = 0; tipo < kTiposListado; ++tipo) {
-    auto* opcion = new QRadioButton(Tx(txt::TiposDeListado[static_cast<std::size_t>(tipo)]), grupo);
+    auto* opcion = new QRadioButton(Tx(kRotulosListado[static_cast<std::size_t>(tipo)]), grupo);
     rdTipoListado_->addButton(opcion, tipo);
     filas->addWidget(opcion);
   }
@@ -145,8 +148,8 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
   };
   auto& textos = entorno_.textos;
   auto& preferencias = entorno_.preferencias;
-  dePapel("btImprimeTramo", txt::ResumenImprimir, [this] { Imprime(); });
-  dePapel("btVistaPrevia", txt::ResumenVistaPrevia, [this] {
+  dePapel("btImprimeTramo", txt::BotonImprimir, [this] { Imprime(); });
+  dePapel("btVistaPrevia", txt::VistaPrevia, [this] {
     AvisaReparo();
     entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento());
   });
@@ -161,7 +164,7 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
   boton("btCopiar", txt::ResumenCopiar, [this] { Copia(); });
   boton("btBuscar", txt::ResumenBuscar, [this] { buscador_->Abre(); });
   columna.addStretch();
-  boton("btSalir", txt::ResumenSalir, [this] { reject(); });
+  boton("btSalir", txt::BotonSalir, [this] { reject(); });
 }
 
 void frEscribePantalla::CreaTeclas() {

@@ -29,7 +29,7 @@ std::string Hormigon(const MuestraMedios& m) {
   EXPECT_EQ(r.RelacionAC, r.Dosificacion == 0 ? 0 : r.Dosificacion == 350 ? 0.5 : 0.45);
   return std::to_string(std::lround(r.Dosificacion)) +
          (r.TipoCemento == txt::CementoSR ? " SR" : " Normal") +
-         (r.Adicional == txt::AdicionalSi ? " Si" : " No");
+         (r.Adicional == txt::RespuestaSi ? " Si" : " No");
 }
 
 struct Caso {
@@ -37,60 +37,44 @@ struct Caso {
   const char* hormigon;
 };
 
-TEST(Medios, BandasDeLasAguas) {
-  const Caso casos[] = {
-      {{{kPH, 6.51}}, "0 Normal No"},
-      {{{kPH, 6.5}}, "350 Normal No"},
-      {{{kPH, 4.5}}, "350 Normal No"},
-      {{{kPH, 4.49}}, "400 Normal No"},
-      {{{kPH, 4.0}}, "400 Normal No"},
-      {{{kPH, 3.99}}, "400 Normal Si"},
-      {{{kPH, 0}}, "400 Normal Si"},
-      {{{kCO2, 14.99}}, "0 Normal No"},
-      {{{kCO2, 15}}, "350 Normal No"},
-      {{{kCO2, 60}}, "350 Normal No"},
-      {{{kCO2, 60.01}}, "400 Normal No"},
-      {{{kCO2, 100}}, "400 Normal No"},
-      {{{kCO2, 100.01}}, "400 Normal Si"},
-      {{{kNH4, 14.99}}, "0 Normal No"},
-      {{{kNH4, 15}}, "350 Normal No"},
-      {{{kNH4, 30}}, "350 Normal No"},
-      {{{kNH4, 30.01}}, "400 Normal No"},
-      {{{kNH4, 60}}, "400 Normal No"},
-      {{{kNH4, 60.01}}, "400 Normal Si"},
-      {{{kMg, 299.99}}, "0 Normal No"},
-      {{{kMg, 300}}, "350 Normal No"},
-      {{{kMg, 1500}}, "350 Normal No"},
-      {{{kMg, 1500.01}}, "400 Normal No"},
-      {{{kMg, 3000}}, "400 Normal No"},
-      {{{kMg, 3000.01}}, "400 Normal Si"},
-      // The worst of them counts, in whatever order they stand.
-      {{{kPH, 4.2}, {kCO2, 20}, {kNH4, 20}, {kMg, 400}}, "400 Normal No"},
-      {{{kPH, 3}, {kCO2, 80}, {kNH4, 40}, {kMg, 2000}}, "400 Normal Si"},
-      {{{kPH, 5}, {kMg, 2000}}, "400 Normal No"},
-      {{{kCO2, 120}, {kNH4, 20}}, "400 Normal Si"},
-  };
+void Comprueba(const std::vector<Caso>& casos) {
   for (std::size_t i = 0; i < std::size(casos); ++i) {
     EXPECT_EQ(Hormigon(Con(casos[i].valores)), casos[i].hormigon) << i;
   }
 }
 
+TEST(Medios, BandasDeLasAguas) {
+  Comprueba({{{{kPH, 6.51}}, "0 Normal No"},      {{{kPH, 6.5}}, "350 Normal No"},
+             {{{kPH, 4.5}}, "350 Normal No"},     {{{kPH, 4.49}}, "400 Normal No"},
+             {{{kPH, 4.0}}, "400 Normal No"},     {{{kPH, 3.99}}, "400 Normal Si"},
+             {{{kPH, 0}}, "400 Normal Si"},       {{{kCO2, 14.99}}, "0 Normal No"},
+             {{{kCO2, 15}}, "350 Normal No"},     {{{kCO2, 60}}, "350 Normal No"},
+             {{{kCO2, 60.01}}, "400 Normal No"},  {{{kCO2, 100}}, "400 Normal No"},
+             {{{kCO2, 100.01}}, "400 Normal Si"}, {{{kNH4, 14.99}}, "0 Normal No"},
+             {{{kNH4, 15}}, "350 Normal No"},     {{{kNH4, 30}}, "350 Normal No"},
+             {{{kNH4, 30.01}}, "400 Normal No"},  {{{kNH4, 60}}, "400 Normal No"},
+             {{{kNH4, 60.01}}, "400 Normal Si"},  {{{kMg, 299.99}}, "0 Normal No"},
+             {{{kMg, 300}}, "350 Normal No"},     {{{kMg, 1500}}, "350 Normal No"},
+             {{{kMg, 1500.01}}, "400 Normal No"}, {{{kMg, 3000}}, "400 Normal No"},
+             {{{kMg, 3000.01}}, "400 Normal Si"}});
+  // The worst of them counts, in whatever order they stand.
+  Comprueba({{{{kPH, 4.2}, {kCO2, 20}, {kNH4, 20}, {kMg, 400}}, "400 Normal No"},
+             {{{kPH, 3}, {kCO2, 80}, {kNH4, 40}, {kMg, 2000}}, "400 Normal Si"},
+             {{{kPH, 5}, {kMg, 2000}}, "400 Normal No"},
+             {{{kCO2, 120}, {kNH4, 20}}, "400 Normal Si"}});
+}
+
 TEST(Medios, BandasDeLosSulfatos) {
-  const Caso casos[] = {
-      {{{kSO4Exterior, 200}}, "0 Normal No"},   {{{kSO4Exterior, 200.01}}, "350 Normal No"},
-      {{{kSO4Exterior, 600}}, "350 Normal No"}, {{{kSO4Exterior, 600.01}}, "350 SR No"},
-      {{{kSO4Exterior, 3000}}, "350 SR No"},    {{{kSO4Exterior, 3000.01}}, "400 SR No"},
-      {{{kSO4Exterior, 6000}}, "400 SR No"},    {{{kSO4Exterior, 6000.01}}, "400 SR Si"},
-      {{{kSO4Interior, 200}}, "0 Normal No"},   {{{kSO4Interior, 200.01}}, "350 SR No"},
-      {{{kSO4Interior, 600.01}}, "350 SR No"},  {{{kSO4Interior, 3000}}, "350 SR No"},
-      {{{kSO4Interior, 3000.01}}, "400 SR No"}, {{{kSO4Interior, 6000.01}}, "400 SR Si"},
-      {{{kSO4Suelo, 2000}}, "0 Normal No"},     {{{kSO4Suelo, 2000.01}}, "350 Normal No"},
-      {{{kSO4Suelo, 3000}}, "350 Normal No"},   {{{kSO4Suelo, 3000.01}}, "350 SR No"},
-      {{{kSO4Suelo, 12000}}, "350 SR No"},      {{{kSO4Suelo, 12000.01}}, "400 SR No"},
-  };
-  for (std::size_t i = 0; i < std::size(casos); ++i) {
-    EXPECT_EQ(Hormigon(Con(casos[i].valores)), casos[i].hormigon) << i;
-  }
+  Comprueba({{{{kSO4Exterior, 200}}, "0 Normal No"},   {{{kSO4Exterior, 200.01}}, "350 Normal No"},
+             {{{kSO4Exterior, 600}}, "350 Normal No"}, {{{kSO4Exterior, 600.01}}, "350 SR No"},
+             {{{kSO4Exterior, 3000}}, "350 SR No"},    {{{kSO4Exterior, 3000.01}}, "400 SR No"},
+             {{{kSO4Exterior, 6000}}, "400 SR No"},    {{{kSO4Exterior, 6000.01}}, "400 SR Si"},
+             {{{kSO4Interior, 200}}, "0 Normal No"},   {{{kSO4Interior, 200.01}}, "350 SR No"},
+             {{{kSO4Interior, 600.01}}, "350 SR No"},  {{{kSO4Interior, 3000}}, "350 SR No"},
+             {{{kSO4Interior, 3000.01}}, "400 SR No"}, {{{kSO4Interior, 6000.01}}, "400 SR Si"},
+             {{{kSO4Suelo, 2000}}, "0 Normal No"},     {{{kSO4Suelo, 2000.01}}, "350 Normal No"},
+             {{{kSO4Suelo, 3000}}, "350 Normal No"},   {{{kSO4Suelo, 3000.01}}, "350 SR No"},
+             {{{kSO4Suelo, 12000}}, "350 SR No"},      {{{kSO4Suelo, 12000.01}}, "400 SR No"}});
   EXPECT_EQ(Hormigon(Con({{kSO4Suelo, 12000.01}}, true)), "400 SR Si");
   EXPECT_EQ(Hormigon(Con({{kSO4Suelo, 12000}}, true)), "350 SR No");
 }
@@ -99,23 +83,18 @@ TEST(Medios, BandasDeLosSulfatos) {
 // soil then act only where their requirement is not below; the interior ones ask for the resistant
 // cement whatever the content, unless the exterior ones acted in a higher band.
 TEST(Medios, ElCementoResistenteDependeDeQuienLoPide) {
-  const Caso casos[] = {
-      {{{kPH, 4.2}, {kSO4Exterior, 800}}, "400 Normal No"},
-      {{{kPH, 4.2}, {kSO4Exterior, 4000}}, "400 SR No"},
-      {{{kPH, 5.0}, {kSO4Exterior, 800}}, "350 SR No"},
-      {{{kPH, 5.0}, {kSO4Exterior, 400}, {kSO4Interior, 400}}, "350 SR No"},
-      {{{kPH, 4.2}, {kSO4Interior, 800}}, "400 SR No"},
-      {{{kPH, 4.2}, {kSO4Exterior, 800}, {kSO4Interior, 250}}, "400 SR No"},
-      {{{kSO4Exterior, 300}, {kSO4Interior, 300}}, "350 SR No"},
-      {{{kSO4Exterior, 800}, {kSO4Interior, 5000}}, "400 SR No"},
-      {{{kSO4Exterior, 7000}, {kSO4Interior, 7000}}, "400 SR Si"},
-      {{{kPH, 4.2}, {kSO4Suelo, 5000}}, "400 Normal No"},
-      {{{kPH, 5.0}, {kSO4Suelo, 5000}}, "350 SR No"},
-      {{{kPH, 4.2}, {kSO4Suelo, 13000}}, "400 SR No"},
-  };
-  for (std::size_t i = 0; i < std::size(casos); ++i) {
-    EXPECT_EQ(Hormigon(Con(casos[i].valores)), casos[i].hormigon) << i;
-  }
+  Comprueba({{{{kPH, 4.2}, {kSO4Exterior, 800}}, "400 Normal No"},
+             {{{kPH, 4.2}, {kSO4Exterior, 4000}}, "400 SR No"},
+             {{{kPH, 5.0}, {kSO4Exterior, 800}}, "350 SR No"},
+             {{{kPH, 5.0}, {kSO4Exterior, 400}, {kSO4Interior, 400}}, "350 SR No"},
+             {{{kPH, 4.2}, {kSO4Interior, 800}}, "400 SR No"},
+             {{{kPH, 4.2}, {kSO4Exterior, 800}, {kSO4Interior, 250}}, "400 SR No"},
+             {{{kSO4Exterior, 300}, {kSO4Interior, 300}}, "350 SR No"},
+             {{{kSO4Exterior, 800}, {kSO4Interior, 5000}}, "400 SR No"},
+             {{{kSO4Exterior, 7000}, {kSO4Interior, 7000}}, "400 SR Si"},
+             {{{kPH, 4.2}, {kSO4Suelo, 5000}}, "400 Normal No"},
+             {{{kPH, 5.0}, {kSO4Suelo, 5000}}, "350 SR No"},
+             {{{kPH, 4.2}, {kSO4Suelo, 13000}}, "400 SR No"}});
 }
 
 TEST(Medios, ResistividadYCorrientes) {

@@ -4,11 +4,10 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <fstream>
 #include <functional>
 #include <sstream>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdCajon.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -20,17 +19,9 @@ namespace {
 namespace fs = std::filesystem;
 using prueba::Banco;
 using prueba::Carpeta;
-
-std::string Bytes(const fs::path& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  std::ostringstream texto;
-  texto << f.rdbuf();
-  return texto.str();
-}
-
-void Escribe(const fs::path& ruta, const std::string& texto) {
-  std::ofstream(ruta, std::ios::binary) << texto;
-}
+using prueba::ConTramo;
+using pruebas::Bytes;
+using pruebas::PonBytes;
 
 std::string Muestra(const Carpeta& carpeta, const std::string& nombre = "o.zrb") {
   const auto ruta = carpeta / nombre;
@@ -100,8 +91,7 @@ const Escena kEscenas[] = {
     {"a new Tramo", true,
      [](Banco& b) {
        NuevoTramo(b.c);
-       b.Teclea(Ed::edDescriTramo, "Cruce <b>bajo</b> \"vía\"");
-       b.Teclea(Ed::edDi0, "1,2");
+       b.Teclea({{Ed::edDescriTramo, "Cruce <b>bajo</b> \"vía\""}, {Ed::edDi0, "1,2"}});
      }},
     {"another typology", true,
      [](Banco& b) {
@@ -118,8 +108,7 @@ const Escena kEscenas[] = {
      }},
     {"an Obra without file", false,
      [](Banco& b) {
-       b.Teclea(Ed::edObra, "Nueva");
-       b.Teclea(Ed::edPrsM1, "0,5");
+       b.Teclea({{Ed::edObra, "Nueva"}, {Ed::edPrsM1, "0,5"}});
        NuevoTramo(b.c);
        b.Teclea(Ed::edDi0, "1,2");
      }},
@@ -158,7 +147,7 @@ TEST(Borrador, DejaLaCapturaComoEstabaYGrabaLoMismo) {
         banco->c.SinTramoEnMano() ? AccionGrabaObra(banco->c) : AccionGrabaTramo(banco->c);
         banco->c.fichero.reset();
         grabado[i++] = Bytes(ruta) + banco->voz.Ultimo();
-        Escribe(ruta, antes);
+        PonBytes(ruta, antes);
       }
       EXPECT_TRUE(grabado[0] == grabado[1]) << otra.voz.Ultimo();
       if (grabado[0].substr(0, antes.size()) != antes) ++grabadas;
@@ -240,8 +229,7 @@ TEST(Borrador, LasDosVersionesSeVenDatoADato) {
 }
 
 TEST(Borrador, UnTextoDanadoNoEsBorrador) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   auto borrador = TomaBorrador(b.c);
   borrador.fichero = "/tmp/con espacios, 100% \xff y \xc3\xb1.zrb";
   const std::string texto = TextoDeBorrador(borrador);
@@ -269,14 +257,13 @@ TEST(Borrador, UnTextoDanadoNoEsBorrador) {
 
 // A draft as a program leaves it that was killed.
 fs::path DejaBorrador(const fs::path& carpeta, const std::string& cuando, int n) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   auto borrador = TomaBorrador(b.c);
   borrador.autor.arranque += static_cast<unsigned>(n);
   borrador.cuando = cuando;
   fs::create_directories(carpeta);
   const auto ruta = carpeta / ("borrador-1-" + std::to_string(n) + ".json");
-  Escribe(ruta, TextoDeBorrador(borrador));
+  PonBytes(ruta, TextoDeBorrador(borrador));
   return ruta;
 }
 
@@ -289,9 +276,8 @@ TEST(Cajon, GuardaParaSuDuenoYOfreceLoDeLosMuertos) {
 
   const auto vieja = DejaBorrador(donde, "30/11/2026 08:00", 1);
   const auto nueva = DejaBorrador(donde, "01/12/2026 07:00", 2);
-  Escribe(donde / "borrador-9-9.json", "{\"version\": 1");
-  Banco b;
-  b.TramoValido();
+  PonBytes(donde / "borrador-9-9.json", "{\"version\": 1");
+  ConTramo b;
   cajon.Guarda(TextoDeBorrador(TomaBorrador(b.c)));
   struct stat datos {};
   ASSERT_EQ(::stat(cajon.ruta().c_str(), &datos), 0);
@@ -322,7 +308,7 @@ TEST(Cajon, GuardaParaSuDuenoYOfreceLoDeLosMuertos) {
 
 TEST(Cajon, LoQueElDiscoNiegaSeDiceYQuedaLoDeAntes) {
   Carpeta carpeta;
-  Escribe(carpeta / "fichero", "x");
+  PonBytes(carpeta / "fichero", "x");
   const auto causa = [](const Cajon& cajon) {
     try {
       cajon.Guarda("x");

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdTipologias.h"
 #include "sesion/captura/mdValidaObra.h"
@@ -13,209 +13,177 @@
 namespace zorbin::prueba {
 namespace {
 
+using enum Ed;
+using enum SalidaCampo;
+
 TEST(Teclas, SoloCifrasYUnSeparador) {
   Banco b('.');
-  b.Teclea(Ed::edPrsM1, "-1,2.5x");
+  b.Teclea(edPrsM1, "-1,2.5x");
   EXPECT_EQ(b.e.obra.PrsM1, 1.25);  // "," is ".", the second one and the sign are dropped
   NuevoTramo(b.c);
-  EXPECT_EQ(Tecla(b.c, Ed::edAdato, '-'), '\0');  // disabled
-  CambiaMarca(b.c, Ed::edIcontes0, true);
-  EXPECT_EQ(Tecla(b.c, Ed::edAdato, '-'), '-');  // a field without the filter
+  EXPECT_EQ(Tecla(b.c, edAdato, '-'), '\0');  // disabled
+  CambiaMarca(b.c, edIcontes0, true);
+  EXPECT_EQ(Tecla(b.c, edAdato, '-'), '-');  // a field without the filter
 }
 
 TEST(Campos, UnBlancoTomaSuDefectoAlEntrar) {
   Banco b;
   NuevoTramo(b.c);
-  EligePaginaTipologia(b.c, 1);
-  const auto entra = [&](Ed campo) {
-    b.Pon(campo, "");
-    Entra(b.c, campo);
-    return b.c[campo].texto;
+  const auto entran = [&](std::initializer_list<std::pair<Ed, const char*>> defectos) {
+    for (const auto& [campo, defecto] : defectos) {
+      b.Pon(campo, "");
+      Entra(b.c, campo);
+      EXPECT_EQ(b.c[campo].texto, defecto) << Fila(campo).nombre;
+    }
   };
-  EXPECT_EQ(entra(Ed::edFYKPost), "210,0");
+  EligePaginaTipologia(b.c, 1);
+  entran({{edFYKPost, "210,0"}});
   EXPECT_EQ(b.c.pantalla.pagina.TabPostesados, 1);
-  EXPECT_TRUE(b.c[Ed::edFYKPost].seleccionado);
+  EXPECT_TRUE(b.c[edFYKPost].seleccionado);
   // Deliberate: these keep the number of MKS under SI.
-  EXPECT_EQ(entra(Ed::edFckn), "400,00");
-  EXPECT_EQ(entra(Ed::edSFck), "17000");
-  EXPECT_EQ(entra(Ed::edEs), "210000");
-  EXPECT_EQ(entra(Ed::edSf), "12750");
+  entran({{edFckn, "400,00"}, {edSFck, "17000"}, {edEs, "210000"}, {edSf, "12750"}});
   EligePaginaTipologia(b.c, 0);
-  EXPECT_EQ(entra(Ed::edFck), "35,0");
-  EXPECT_EQ(b.c[Ed::edFct].texto, "4,8");
-  EXPECT_EQ(entra(Ed::edTipoControl), "Intenso");
-  EXPECT_EQ(entra(Ed::edB0), "");  // there is no diameter yet
+  entran({{edFck, "35,0"}, {edTipoControl, "Intenso"}, {edB0, ""}});  // there is no diameter yet
+  EXPECT_EQ(b.c[edFct].texto, "4,8");
 }
 
 TEST(Campos, ElHormigonArrastraLaTraccionYTieneMinimo) {
   Banco b;
-  EligeOpcion(b.c, Ed::rdSistemaUnidades, 1);
+  EligeOpcion(b.c, rdSistemaUnidades, 1);
   NuevoTramo(b.c);
-  EXPECT_EQ(b.c[Ed::edFct].texto, "22");  // default
+  EXPECT_EQ(b.c[edFct].texto, "22");  // default
   b.Olvida();
-  EXPECT_EQ(b.Teclea(Ed::edFck, "200"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.c[Ed::edFck].texto, "275");
+  b.Teclea({{edFck, "200", Pasa, {{edFck, "275"}}}});
   EXPECT_EQ(b.voz.Ultimo(), "AVISO: Valor Mínimo  ");
   EXPECT_EQ(b.voz.Titulo(), "Resist. del hormigón a compresión");
   EXPECT_NEAR(b.e.tramo.Fct, 0.45 * std::cbrt(275.0 * 275.0), 1e-9);
-  EXPECT_EQ(b.Teclea(Ed::edFck, "0"), SalidaCampo::Queda);
-  EXPECT_EQ(b.c[Ed::edFck].texto, "350");
+  b.Teclea({{edFck, "0", Queda, {{edFck, "350"}}}});
 }
 
 TEST(Campos, ElAceroArrastraLaTensionDeCalculo) {
   Banco b;
   NuevoTramo(b.c);
-  b.Teclea(Ed::edFyd, "100");
-  b.Teclea(Ed::edFyk, "210");
-  EXPECT_EQ(b.c[Ed::edFyd].texto, "100,0");  // the same value moves nothing
-  b.Teclea(Ed::edFyk, "240");
-  EXPECT_EQ(b.c[Ed::edFyd].texto, "160,0");
+  b.Teclea({{edFyd, "100"},
+            {edFyk, "210", {}, {{edFyd, "100,0"}}},  // the same value moves nothing
+            {edFyk, "240", {}, {{edFyd, "160,0"}}}});
   b.voz.responde = false;
-  EXPECT_EQ(b.Teclea(Ed::edFyd, "141"), SalidaCampo::Queda);
+  b.Teclea({{edFyd, "141", Queda}});
   b.voz.responde = true;
-  EXPECT_EQ(b.Teclea(Ed::edFyd, "141"), SalidaCampo::Pasa);
+  b.Teclea({{edFyd, "141", Pasa}});
   EligePaginaTipologia(b.c, 1);
-  b.Teclea(Ed::edSFck, "1000");
-  EXPECT_EQ(b.c[Ed::edSf].texto, "750");
-  EXPECT_EQ(b.c[Ed::edSf].etiqueta, "Tensión de tesado (750)");
+  b.Teclea({{edSFck, "1000", {}, {{edSf, "750"}}}});
+  EXPECT_EQ(b.c[edSf].etiqueta, "Tensión de tesado (750)");
 }
 
 TEST(Campos, LaArmaduraExteriorPreguntaPorEncimaDeDosCapas) {
   Banco b;
   NuevoTramo(b.c);
-  CambiaMarca(b.c, Ed::edIcontes0, true);
+  CambiaMarca(b.c, edIcontes0, true);
   b.voz.responde = false;
-  EXPECT_EQ(b.Teclea(Ed::edAdato, "35,06"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edAdato, "35,07"), SalidaCampo::Queda);
+  b.Teclea({{edAdato, "35,06", Pasa}, {edAdato, "35,07", Queda}});
   b.voz.responde = true;
-  EXPECT_EQ(b.Teclea(Ed::edAdato, "35,07"), SalidaCampo::Pasa);
-  CambiaMarca(b.c, Ed::edIcontes0, false);
+  b.Teclea({{edAdato, "35,07", Pasa}});
+  CambiaMarca(b.c, edIcontes0, false);
   EXPECT_EQ(b.e.tramo.Adato, 0.0);
-  EXPECT_EQ(b.c[Ed::edAdato].texto, "");
-  EXPECT_TRUE(b.c[Ed::edAdato].gris);
+  EXPECT_EQ(b.c[edAdato].texto, "");
+  EXPECT_TRUE(b.c[edAdato].gris);
 }
 
 TEST(Campos, UnValorQueNadieTocoNoSeRelee) {
   Banco b;
-  b.Teclea(Ed::edPrsM1, "10");
-  b.Teclea(Ed::edPrs1, "");
-  EXPECT_EQ(b.c[Ed::edPrs1].texto, "9,09");
-  Entra(b.c, Ed::edPrs1);
-  Sale(b.c, Ed::edPrs1);
+  b.Teclea({{edPrsM1, "10"}, {edPrs1, "", {}, {{edPrs1, "9,09"}}}});
+  Entra(b.c, edPrs1);
+  Sale(b.c, edPrs1);
   EXPECT_DOUBLE_EQ(b.e.obra.Prs1, 10 / 1.1);
 }
 
 TEST(Campos, LaZanjaAnchaSoloSeAvisaEnLaTerraplenada) {
-  Banco b;
-  b.TramoValido();
-  b.Teclea(Ed::edB0, "9");
+  ConTramo b;
+  b.Teclea(edB0, "9");
   EXPECT_TRUE(b.voz.mensajes.empty());
-  EligeOpcion(b.c, Ed::rdTipoColocacion, 1);
-  b.Teclea(Ed::edB0, "9,5");
+  EligeOpcion(b.c, rdTipoColocacion, 1);
+  b.Teclea(edB0, "9,5");
   EXPECT_EQ(b.voz.Ultimo(), "Ancho de la Zanja mayor que 3\nveces el diámetro interior");
   b.Olvida();
-  Entra(b.c, Ed::edB0);
-  EXPECT_EQ(Sale(b.c, Ed::edB0), SalidaCampo::Pasa);  // once per change
+  Entra(b.c, edB0);
+  EXPECT_EQ(Sale(b.c, edB0), Pasa);  // once per change
   EXPECT_TRUE(b.voz.mensajes.empty());
   EXPECT_FALSE(b.c.AnchoZanjaAuto);
-  b.Teclea(Ed::edEsp0, "14");  // overwrites the width typed by hand
-  EXPECT_EQ(b.c[Ed::edB0].texto, "2,752");
-  b.Teclea(Ed::edB0, "0");
-  EXPECT_EQ(b.c[Ed::edB0].texto, "2,752");
+  b.Teclea({{edEsp0, "14", {}, {{edB0, "2,752"}}},  // overwrites the width typed by hand
+            {edB0, "0", {}, {{edB0, "2,752"}}}});
 }
 
 TEST(Campos, ElAnguloYLaGeneratriz) {
-  Banco b;
-  b.TramoValido();
-  EXPECT_EQ(b.Teclea(Ed::edFi0, "90"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edFi0, "91"), SalidaCampo::Queda);
+  ConTramo b;
+  b.Teclea({{edFi0, "90", Pasa}, {edFi0, "91", Queda}});
   EXPECT_EQ(b.voz.Titulo(), "ERROR");
-  EligeOpcion(b.c, Ed::rdTipoColocacion, 1);
-  EXPECT_EQ(b.Teclea(Ed::edHr1, "3"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edHr1, "3,1"), SalidaCampo::Queda);
+  EligeOpcion(b.c, rdTipoColocacion, 1);
+  b.Teclea({{edHr1, "3", Pasa}, {edHr1, "3,1", Queda}});
 }
 
 TEST(Campos, UnaListaSinEntradaSeRechazaYVuelveASuDefecto) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.c.TramoEditado = false;
-  Cambia(b.c, Ed::edTipoCuna0, "");
-  EXPECT_EQ(Sale(b.c, Ed::edTipoCuna0), SalidaCampo::Queda);
+  Cambia(b.c, edTipoCuna0, "");
+  EXPECT_EQ(Sale(b.c, edTipoCuna0), Queda);
   EXPECT_EQ(b.voz.Ultimo(), "Dato Requerido");
   EXPECT_EQ(b.voz.Titulo(), "Tipo de Apoyo");
-  EXPECT_EQ(b.c[Ed::edTipoCuna0].texto, "Granular, 90 grd");
-  Cambia(b.c, Ed::edTipoCuna0, "HORMIGÓN, 120 GRD");
-  EXPECT_EQ(Sale(b.c, Ed::edTipoCuna0), SalidaCampo::Pasa);
+  EXPECT_EQ(b.c[edTipoCuna0].texto, "Granular, 90 grd");
+  Cambia(b.c, edTipoCuna0, "HORMIGÓN, 120 GRD");
+  EXPECT_EQ(Sale(b.c, edTipoCuna0), Pasa);
   EXPECT_EQ(b.e.tramo.TipoCuna, 2);
   EXPECT_EQ(b.c.pantalla.figuraColocacion, "Zanja2a.bmp");
 }
 
 TEST(Presiones, DeLaObra) {
   Banco b;
-  EXPECT_TRUE(b.c[Ed::edPrs3].bloqueado);
-  b.Teclea(Ed::edPrsM1, "10");
-  b.Teclea(Ed::edPrsM2, "6");
+  EXPECT_TRUE(b.c[edPrs3].bloqueado);
+  b.Teclea({{edPrsM1, "10"}, {edPrsM2, "6"}});
   EXPECT_EQ(b.voz.Ultimo(), "Presión Final MDP inferior a la Inicial");
-  b.Teclea(Ed::edPrsM2, "x6");  // the letter does not get in
-  EXPECT_EQ(b.Teclea(Ed::edPrsM2, "16"), SalidaCampo::Pasa);
-  EXPECT_FALSE(b.c[Ed::edPrs3].bloqueado);
-  EXPECT_EQ(b.Teclea(Ed::edPrs3, "0"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edPrs3, "2"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edPrs1, "11"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edPrs1, "5"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edPrs2, "4"), SalidaCampo::Queda);
+  b.Teclea({{edPrsM2, "x6"}, {edPrsM2, "16", Pasa}});  // the letter does not get in
+  EXPECT_FALSE(b.c[edPrs3].bloqueado);
+  b.Teclea({{edPrs3, "0", Queda}, {edPrs3, "2", Pasa}, {edPrs1, "11", Queda}, {edPrs1, "5", Pasa}});
+  b.Teclea({{edPrs2, "4", Queda}});
   EXPECT_EQ(b.voz.Ultimo(), "Presión DP Final Inferior a la Inicial");
-  EXPECT_EQ(b.Teclea(Ed::edPrs2, "17"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edPrs2, "0"), SalidaCampo::Pasa);  // follows MDP
-  EXPECT_EQ(b.c[Ed::edPrs2].texto, "14,55");
-  b.Teclea(Ed::edPrsM1, "11");  // a DP that is there follows its MDP
-  EXPECT_EQ(b.c[Ed::edPrs1].texto, "10,00");
-  b.Teclea(Ed::edPrsM2, "0");
-  EXPECT_EQ(b.c[Ed::edPrsM2].texto, "11,00");
+  b.Teclea({{edPrs2, "17", Queda},
+            {edPrs2, "0", Pasa, {{edPrs2, "14,55"}}},  // follows MDP
+            {edPrsM1, "11", {}, {{edPrs1, "10,00"}}},  // a DP that is there follows its MDP
+            {edPrsM2, "0", {}, {{edPrsM2, "11,00"}}}});
   EXPECT_EQ(b.e.obra.Prs3, 0.0);
-  EXPECT_TRUE(b.c[Ed::edPrs2].bloqueado);
+  EXPECT_TRUE(b.c[edPrs2].bloqueado);
   EXPECT_TRUE(ValidaObra(b.c)) << b.voz.Ultimo();
   // The labels of Obra and Tramo are crossed on purpose.
-  Cambia(b.c, Ed::edPrsM2, "a");
-  Sale(b.c, Ed::edPrsM2);
+  Cambia(b.c, edPrsM2, "a");
+  Sale(b.c, edPrsM2);
   EXPECT_EQ(b.voz.Titulo(), "Presión Final (DP)");
 }
 
 TEST(Presiones, ElIncrementoDelTramoQuedaDetrasDelCampo) {
   Banco b;
   NuevoTramo(b.c);
-  b.Teclea(Ed::edPrsM1Tram, "1");
-  b.Teclea(Ed::edPrsM2Tram, "2");
-  b.Teclea(Ed::edPrs3Tram, "0,5");
-  b.Teclea(Ed::edPrsM2Tram, "1");
-  EXPECT_EQ(b.c[Ed::edPrs3Tram].texto, "0");
+  b.Teclea({{edPrsM1Tram, "1"},
+            {edPrsM2Tram, "2"},
+            {edPrs3Tram, "0,5"},
+            {edPrsM2Tram, "1", {}, {{edPrs3Tram, "0"}}}});
   EXPECT_EQ(b.e.tramo.Prs3Tram, 0.5);
-  EXPECT_TRUE(b.c[Ed::edPrs3Tram].bloqueado);
+  EXPECT_TRUE(b.c[edPrs3Tram].bloqueado);
 }
 
 TEST(Alturas, DeLaObraYDelTramo) {
   Banco b;
-  EXPECT_EQ(b.Teclea(Ed::edAlt1, "0,9"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edAlt1, "2"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edAlt2, "1"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edAlt2, "4"), SalidaCampo::Pasa);
-  EXPECT_FALSE(b.c[Ed::edAlt3].bloqueado);
-  EXPECT_EQ(b.Teclea(Ed::edAlt3, "0"), SalidaCampo::Queda);
-  EXPECT_EQ(b.Teclea(Ed::edAlt3, "0,5"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.Teclea(Ed::edAlt2, "0"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.c[Ed::edAlt2].texto, "2,00");
-  EXPECT_EQ(b.c[Ed::edAlt3].texto, "");
-  EXPECT_TRUE(b.c[Ed::edAlt3].bloqueado);
+  b.Teclea(
+      {{edAlt1, "0,9", Queda}, {edAlt1, "2", Pasa}, {edAlt2, "1", Queda}, {edAlt2, "4", Pasa}});
+  EXPECT_FALSE(b.c[edAlt3].bloqueado);
+  b.Teclea({{edAlt3, "0", Queda}, {edAlt3, "0,5", Pasa}, {edAlt2, "0", Pasa, {{edAlt2, "2,00"}}}});
+  EXPECT_EQ(b.c[edAlt3].texto, "");
+  EXPECT_TRUE(b.c[edAlt3].bloqueado);
   NuevoTramo(b.c);
-  b.Teclea(Ed::edHr0, "0");
-  EXPECT_EQ(b.c[Ed::edHr0].texto, "");
+  b.Teclea({{edHr0, "0", {}, {{edHr0, ""}}}});
   EXPECT_EQ(b.e.corrida.Hr0Actual, 2.0);
-  b.Teclea(Ed::edHr0, "3");
-  EXPECT_EQ(b.Teclea(Ed::edHr0Final, "2"), SalidaCampo::Queda);
-  b.Teclea(Ed::edHr0Final, "5");
-  EXPECT_FALSE(b.c[Ed::edHr0Delta].bloqueado);
-  b.Teclea(Ed::edHr0Final, "3");
-  EXPECT_TRUE(b.c[Ed::edHr0Delta].bloqueado);
+  b.Teclea({{edHr0, "3"}, {edHr0Final, "2", Queda}, {edHr0Final, "5"}});
+  EXPECT_FALSE(b.c[edHr0Delta].bloqueado);
+  b.Teclea(edHr0Final, "3");
+  EXPECT_TRUE(b.c[edHr0Delta].bloqueado);
 }
 
 TEST(Paginas, SeRevisaAntesDePasar) {
@@ -223,76 +191,73 @@ TEST(Paginas, SeRevisaAntesDePasar) {
   EXPECT_TRUE(CambiaPagina(b.c, 1));
   EXPECT_FALSE(CambiaPagina(b.c, 2));
   EXPECT_EQ(b.voz.Ultimo(), "Debe seleccionar un Tramo");
-  EXPECT_EQ(b.voz.foco, Ed::edTramo);
+  EXPECT_EQ(b.voz.foco, edTramo);
   EXPECT_EQ(b.c.pantalla.pagina.TabPrincipal, 1);
   NuevoTramo(b.c);
   EXPECT_TRUE(CambiaPagina(b.c, 2));
-  EXPECT_EQ(b.c.pantalla.foco, Ed::rdTipoColocacion);
+  EXPECT_EQ(b.c.pantalla.foco, rdTipoColocacion);
   EXPECT_FALSE(CambiaPaginaColocacion(b.c, 2));
   EXPECT_EQ(b.voz.Ultimo(), "No ha seleccionado Diámetro Exterior (mts)");
-  EXPECT_EQ(b.voz.foco, Ed::edDi0);
-  b.Teclea(Ed::edDi0, "1,2");
+  EXPECT_EQ(b.voz.foco, edDi0);
+  b.Teclea(edDi0, "1,2");
   EXPECT_TRUE(CambiaPaginaColocacion(b.c, 2));
   EXPECT_EQ(b.c.pantalla.avCargas1, "");
-  b.Teclea(Ed::edHr0, "8");
-  b.Teclea(Ed::edHr0Final, "8");
+  b.Teclea({{edHr0, "8"}, {edHr0Final, "8"}});
   EXPECT_TRUE(CambiaPaginaColocacion(b.c, 2));
   EXPECT_NE(b.c.pantalla.avCargas1.find("efecto arco. Si se quiere"), std::string::npos);
   CambiaPagina(b.c, 0);
-  b.Pon(Ed::edPrs1, "x");
+  b.Pon(edPrs1, "x");
   EXPECT_FALSE(CambiaPagina(b.c, 1));
-  EXPECT_EQ(b.c.pantalla.foco, Ed::edPrs1);
+  EXPECT_EQ(b.c.pantalla.foco, edPrs1);
 }
 
 TEST(Tipologias, CadaColocacionPideLoSuyo) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   const auto pide = [&] {
     std::string s;
-    for (const Ed x : {Ed::edB0, Ed::edTipoRelleno0, Ed::edHr1, Ed::edTipoApoyo0, Ed::edIAs}) {
+    for (const Ed x : {edB0, edTipoRelleno0, edHr1, edTipoApoyo0, edIAs}) {
       s.push_back(b.c[x].habilitado && b.c[x].etiquetaHabilitada && !b.c[x].gris ? '1' : '0');
     }
     return s;
   };
   EXPECT_EQ(pide(), "11010");
-  EligeOpcion(b.c, Ed::rdTipoColocacion, 2);
+  EligeOpcion(b.c, rdTipoColocacion, 2);
   EXPECT_EQ(pide(), "00101");
-  EXPECT_EQ(b.c[Ed::edIAs].texto, "Suelo Ordinario");
+  EXPECT_EQ(b.c[edIAs].texto, "Suelo Ordinario");
   EXPECT_EQ(b.e.tramo.TipoApoyo, 31);
-  EXPECT_EQ(b.c[Ed::edB0].texto, "");
-  EXPECT_EQ(b.c[Ed::edHr1].etiqueta, "Dist. gen. superior a terreno natural hr' (m):");
+  EXPECT_EQ(b.c[edB0].texto, "");
+  EXPECT_EQ(b.c[edHr1].etiqueta, "Dist. gen. superior a terreno natural hr' (m):");
   EXPECT_EQ(b.c.pantalla.figuraColocacion, "Terrapl1.bmp");
-  EligeOpcion(b.c, Ed::rdTipoColocacion, 1);
+  EligeOpcion(b.c, rdTipoColocacion, 1);
   EXPECT_EQ(pide(), "10110");
-  EXPECT_EQ(b.c[Ed::edB0].texto, "2,738");
-  EXPECT_EQ(b.c[Ed::edTipoApoyo0].texto, "Relleno Compactado");
-  EXPECT_EQ(b.c[Ed::edHr1].etiqueta, "Dist. gen. superior a terreno natural hr'' (m):");
+  EXPECT_EQ(b.c[edB0].texto, "2,738");
+  EXPECT_EQ(b.c[edTipoApoyo0].texto, "Relleno Compactado");
+  EXPECT_EQ(b.c[edHr1].etiqueta, "Dist. gen. superior a terreno natural hr'' (m):");
 }
 
 TEST(Tipologias, ElCambioPreguntaYConNoTodoQueda) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.voz.responde = false;
   EligePaginaTipologia(b.c, 1);
   EXPECT_EQ(b.c.pantalla.pagina.TabTipologia, 0);
   EXPECT_EQ(b.e.tramo.Tipologia, 1210);
-  EXPECT_EQ(b.c[Ed::edFck].texto, "35,0");
+  EXPECT_EQ(b.c[edFck].texto, "35,0");
   b.voz.responde = true;
   EligePaginaTipologia(b.c, 1);
   EXPECT_EQ(b.e.tramo.Tipologia, 2211);
-  EXPECT_EQ(b.c[Ed::edFck].texto, "");
-  EXPECT_EQ(b.c[Ed::edFyk].texto, "210,0");           // on the other page
-  EXPECT_EQ(b.c[Ed::edFYKPost].texto, "");            // which nobody fills
-  EXPECT_FALSE(b.c[Ed::edReci0].etiquetaHabilitada);  // the reverse of the option
+  EXPECT_EQ(b.c[edFck].texto, "");
+  EXPECT_EQ(b.c[edFyk].texto, "210,0");           // on the other page
+  EXPECT_EQ(b.c[edFYKPost].texto, "");            // which nobody fills
+  EXPECT_FALSE(b.c[edReci0].etiquetaHabilitada);  // the reverse of the option
   EXPECT_EQ(b.c.pantalla.figuraTubo, "Tub2211.bmp");
   EXPECT_FALSE(b.c.pantalla.Habilitada(Orden::mnAjustarArmaduras));
-  const auto fckn = b.c[Ed::edFckn].texto;
+  const auto fckn = b.c[edFckn].texto;
   b.Olvida();
-  EligeOpcion(b.c, Ed::rdTipoCamisa, 1);
+  EligeOpcion(b.c, rdTipoCamisa, 1);
   EXPECT_EQ(b.e.tramo.Tipologia, 2221);
-  EXPECT_EQ(b.c[Ed::edFckn].texto, fckn);  // never clears
+  EXPECT_EQ(b.c[edFckn].texto, fckn);  // never clears
   EXPECT_TRUE(b.voz.preguntas.empty());
-  EXPECT_FALSE(b.c[Ed::edReci0].habilitado);
+  EXPECT_FALSE(b.c[edReci0].habilitado);
 }
 
 TEST(Tipologias, SinTramoNiCambiosNoSePregunta) {
@@ -305,15 +270,15 @@ TEST(Tipologias, SinTramoNiCambiosNoSePregunta) {
 TEST(Tipologias, LaLimpiezaDejaElTextoDelRevestimiento) {
   Banco b;
   EligePaginaTipologia(b.c, 1);
-  const auto texto = b.c[Ed::edFckr].texto;
+  const auto texto = b.c[edFckr].texto;
   ASSERT_EQ(texto, "35,0");
   LimpiaCaptura(b.c, 0);
-  EXPECT_EQ(b.c[Ed::edFckr].texto, texto);
+  EXPECT_EQ(b.c[edFckr].texto, texto);
   EXPECT_EQ(b.e.tramo.Fckr, 0.0);
-  EXPECT_EQ(b.c[Ed::edFckn].texto, "");
+  EXPECT_EQ(b.c[edFckn].texto, "");
   EXPECT_EQ(b.e.tramo.Tipologia, 1210);
   EXPECT_EQ(b.e.tramo.ICar, 1);  // 2 once the field is read
-  EXPECT_EQ(b.c[Ed::edICar0].texto, "Eje de 13 Toneladas");
+  EXPECT_EQ(b.c[edICar0].texto, "Eje de 13 Toneladas");
   DefectosArmado(b.c);
   EXPECT_NEAR(b.e.tramo.Fct, 0.4815, 1e-3);  // a tenth of what any recalculation gives
 }
@@ -321,15 +286,32 @@ TEST(Tipologias, LaLimpiezaDejaElTextoDelRevestimiento) {
 TEST(Obra, NoHaberCalculadoElGolpeSeConfirma) {
   Banco b;
   b.voz.responde = false;
-  EligeOpcion(b.c, Ed::rdGolpeAriete, 1);
-  EXPECT_EQ(b.c[Ed::rdGolpeAriete].opcion, 0);
+  EligeOpcion(b.c, rdGolpeAriete, 1);
+  EXPECT_EQ(b.c[rdGolpeAriete].opcion, 0);
   EXPECT_TRUE(b.e.obra.GolpeCalculado);
   b.voz.responde = true;
-  EligeOpcion(b.c, Ed::rdGolpeAriete, 1);
+  EligeOpcion(b.c, rdGolpeAriete, 1);
   EXPECT_FALSE(b.e.obra.GolpeCalculado);
 }
 
 // ---------------------------------------------------------------------------------------------
+
+constexpr std::array kNumeros{"1",   "0,5", "2", "30",    "0", "1,2", "12", "99999999999999999999",
+                              "3,0", "210", "",  "0,0003"};
+const std::array<std::string, 9> kTextos{
+    "-3", "1e308", "nan", "ñandú", "Ω", std::string(200, '9'), "1.2.3", " ", "inf"};
+// What makes a save likely now and then.
+constexpr std::array<std::pair<Ed, const char*>, 11> kSensatos{{{edAlt1, "3"},
+                                                                {edAlt2, "3"},
+                                                                {edDi0, "1"},
+                                                                {edEsp0, "12"},
+                                                                {edReci0, "3"},
+                                                                {edRece0, "3"},
+                                                                {edB0, "2"},
+                                                                {edGr0, "2"},
+                                                                {edHr0, "2"},
+                                                                {edHr0Final, "2"},
+                                                                {edFYKPost, "210"}}};
 
 // Somebody who types anything anywhere. The seeds are fixed, so a fault can be repeated.
 class Mecanografo {
@@ -341,115 +323,50 @@ class Mecanografo {
   void Momento() {
     b_.voz.responde = Dado(3) > 0;
     b_.Olvida();
+    auto& c = b_.c;
     const Ed campo = static_cast<Ed>(Dado(kCamposCaptura));
-    switch (Dado(12)) {
-      case 0:
-        Accion();
-        break;
-      case 1:
-        EligeOpcion(b_.c, campo, Dado(3));
-        break;
-      case 2:
-        CambiaMarca(b_.c, Dado(2) ? Ed::edIcontes0 : Ed::edIcontes1, Dado(2) != 0);
-        break;
-      case 3:
-        Dado(2) ? void(CambiaPagina(b_.c, Dado(3))) : void(CambiaPaginaColocacion(b_.c, Dado(3)));
-        break;
-      case 4:
-        Cambia(b_.c, campo, Texto());
-        Sale(b_.c, campo);
-        break;
-      case 5:
-        if (!b_.c[campo].entradas.empty() && campo != Ed::edTramo) {
-          b_.Escoge(campo, 1 + Dado(static_cast<int>(b_.c[campo].entradas.size())));
-        }
-        break;
-      default:
-        b_.Teclea(campo, Numero());
-        break;
-    }
+    const auto entradas = static_cast<int>(campo == edTramo ? 0 : c[campo].entradas.size());
+    const std::function<void()> gestos[]{
+        [&] { Accion(); },
+        [&] { EligeOpcion(c, campo, Dado(3)); },
+        [&] { CambiaMarca(c, Dado(2) ? edIcontes0 : edIcontes1, Dado(2) != 0); },
+        [&] { CambiaPagina(c, Dado(3)); },
+        [&] { CambiaPaginaColocacion(c, Dado(3)); },
+        [&] { Cambia(c, campo, Uno(kTextos)), Sale(c, campo); },
+        [&] { entradas > 0 ? b_.Escoge(campo, 1 + Dado(entradas)) : void(); },
+    };
+    const auto n = static_cast<std::size_t>(Dado(14));
+    n < std::size(gestos) ? gestos[n]() : void(b_.Teclea(campo, Uno(kNumeros)));
     Comprueba();
   }
 
   int guardados() const { return guardados_; }
-  const Captura& c() const { return b_.c; }
 
  private:
   int Dado(int caras) { return static_cast<int>(azar_() % static_cast<unsigned>(caras)); }
-
-  std::string Numero() {
-    static const std::vector<std::string> casos{"1",   "0,5", "2",  "30",
-                                                "0",   "1,2", "12", "99999999999999999999",
-                                                "3,0", "210", "",   "0,0003"};
-    return casos[static_cast<std::size_t>(Dado(static_cast<int>(casos.size())))];
-  }
-  std::string Texto() {
-    static const std::vector<std::string> casos{
-        "-3", "1e308", "nan", "ñandú", "Ω", std::string(200, '9'), "1.2.3", " ", "inf"};
-    return casos[static_cast<std::size_t>(Dado(static_cast<int>(casos.size())))];
-  }
-
-  // What makes a save likely now and then.
-  void Sensato() {
-    for (const auto& [campo, texto] :
-         std::vector<std::pair<Ed, std::string>>{{Ed::edAlt1, "3"},
-                                                 {Ed::edAlt2, "3"},
-                                                 {Ed::edDi0, "1"},
-                                                 {Ed::edEsp0, "12"},
-                                                 {Ed::edReci0, "3"},
-                                                 {Ed::edRece0, "3"},
-                                                 {Ed::edB0, "2"},
-                                                 {Ed::edGr0, "2"},
-                                                 {Ed::edHr0, "2"},
-                                                 {Ed::edHr0Final, "2"},
-                                                 {Ed::edFYKPost, "210"}}) {
-      b_.Teclea(campo, texto);
-    }
-    Cambia(b_.c, Ed::edObra, "obra");
-    Cambia(b_.c, Ed::edCliente, "cliente");
-    Cambia(b_.c, Ed::edDescriTramo, "descripción");
-    Sale(b_.c, Ed::edDescriTramo);
+  template <class T, std::size_t N>
+  const T& Uno(const std::array<T, N>& de) {
+    return de[static_cast<std::size_t>(Dado(static_cast<int>(N)))];
   }
 
   void Accion() {
-    switch (Dado(6)) {
-      case 0:
-        NuevoTramo(b_.c);
-        break;
-      case 1:
-        CancelaCaptura(b_.c);
-        break;
-      case 2:
-        AccionGrabaObra(b_.c);
-        break;
-      case 3:
-        EligePaginaTipologia(b_.c, Dado(2));
-        break;
-      case 4:
-        Cambia(b_.c, Ed::edTramo, std::to_string(Dado(5)));
-        Sale(b_.c, Ed::edTramo);
-        break;
-      default:
-        if (Dado(2)) Sensato();
-        b_.voz.responde = true;
-        Graba();
-        break;
-    }
-  }
-
-  // Mends the field that the refusal names, as a person would.
-  void Corrige(Ed campo) {
-    const bool incremento = campo == Ed::edPrs3 || campo == Ed::edPrs3Tram || campo == Ed::edAlt3 ||
-                            campo == Ed::edHr0Delta;
-    const bool dp = campo == Ed::edPrs1 || campo == Ed::edPrs2;
-    if (Fila(campo).clase == Clase::Lista) {
-      b_.Escoge(campo, 1);
-    } else {
-      b_.Teclea(campo, incremento ? "0,1" : dp ? "0" : "30");
-    }
+    auto& c = b_.c;
+    const std::function<void()> acciones[]{
+        [&] { NuevoTramo(c); },
+        [&] { CancelaCaptura(c); },
+        [&] { AccionGrabaObra(c); },
+        [&] { EligePaginaTipologia(c, Dado(2)); },
+        [&] { Cambia(c, edTramo, std::to_string(Dado(5))), Sale(c, edTramo); },
+        [&] { Graba(); },
+    };
+    acciones[Dado(6)]();
   }
 
   void Graba() {
+    if (Dado(2)) {
+      for (const auto& [campo, texto] : kSensatos) b_.Teclea(campo, texto);
+    }
+    b_.voz.responde = true;
     b_.voz.niega = b_.textos.Texto(txt::RecTitulo);  // keeps the dimensions as they are
     bool grabado = AccionGrabaTramo(b_.c);
     for (int i = 0; i < 8 && !grabado && b_.c.falta; ++i) {
@@ -466,6 +383,16 @@ class Mecanografo {
     for (int i = 1; i <= static_cast<int>(leida.lista.size()); ++i) CargaTramo(e, f, i);
   }
 
+  // Mends the field that the refusal names, as a person would.
+  void Corrige(Ed campo) {
+    static const std::map<Ed, const char*> otros{{edPrs3, "0,1"}, {edPrs3Tram, "0,1"},
+                                                 {edAlt3, "0,1"}, {edHr0Delta, "0,1"},
+                                                 {edPrs1, "0"},   {edPrs2, "0"}};
+    if (Fila(campo).clase == Clase::Lista) return b_.Escoge(campo, 1);
+    const auto otro = otros.find(campo);
+    b_.Teclea(campo, otro == otros.end() ? "30" : otro->second);
+  }
+
   void Comprueba() {
     for (const auto& fila : TablaCampos()) {
       if (fila.clase != Clase::Numero) continue;
@@ -473,8 +400,7 @@ class Mecanografo {
       ASSERT_TRUE(std::isfinite(valor) && std::fabs(valor) < 1e12) << fila.nombre << " " << valor;
     }
     ASSERT_TRUE(std::isfinite(b_.e.corrida.Q) && std::isfinite(b_.e.corrida.QTerraplen));
-    const auto& lista = b_.c[Ed::edTramo].entradas;
-    ASSERT_EQ(lista.size(), b_.c.lista.size());
+    ASSERT_EQ(b_.c[edTramo].entradas.size(), b_.c.lista.size());
   }
 
   std::mt19937 azar_;

@@ -1,12 +1,13 @@
 // A person at the capture screen, by script: answers to questions, what was shown, typing.
 #pragma once
 
-#include <unistd.h>
-#include <filesystem>
+#include <gtest/gtest.h>
+
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "comun/carpeta.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
 
@@ -47,26 +48,7 @@ class Guion : public Interlocutor {
   }
 };
 
-/// A folder that goes away with the test.
-class Carpeta {
- public:
-  Carpeta() {
-    static int cuenta = 0;
-    ruta_ = std::filesystem::temp_directory_path() /
-            ("zorbin-captura-" + std::to_string(::getpid()) + "-" + std::to_string(++cuenta));
-    std::filesystem::create_directories(ruta_);
-  }
-  ~Carpeta() {
-    std::error_code error;
-    std::filesystem::remove_all(ruta_, error);
-  }
-  Carpeta(const Carpeta&) = delete;
-  Carpeta& operator=(const Carpeta&) = delete;
-  std::filesystem::path operator/(const std::string& nombre) const { return ruta_ / nombre; }
-
- private:
-  std::filesystem::path ruta_;
-};
+using pruebas::Carpeta;
 
 /// The whole screen over the tables of the program.
 struct Banco {
@@ -91,8 +73,30 @@ struct Banco {
     return Sale(c, campo);
   }
 
+  /// What is typed into a field, and where it is looked at, whether the field is left and what then
+  /// stands in it or in another.
+  struct Gesto {
+    Ed campo;
+    const char* teclas;
+    std::optional<SalidaCampo> sale = {};
+    std::optional<std::pair<Ed, const char*>> queda = {};
+  };
+  void Teclea(std::initializer_list<Gesto> gestos) {
+    for (const auto& g : gestos) {
+      SCOPED_TRACE(std::string(Fila(g.campo).nombre) + ": " + g.teclas);
+      const auto sale = Teclea(g.campo, g.teclas);
+      EXPECT_TRUE(!g.sale || sale == *g.sale);
+      if (g.queda) {
+        EXPECT_EQ(c[g.queda->first].texto, g.queda->second);
+      }
+    }
+  }
+
   /// A text that stands in a field without any of its rules having run.
   void Pon(Ed campo, const std::string& texto) { c[campo].texto = texto; }
+  void Pon(std::initializer_list<std::pair<Ed, const char*>> contenidos) {
+    for (const auto& [campo, texto] : contenidos) Pon(campo, texto);
+  }
 
   void Escoge(Ed campo, int entrada) {
     Entra(c, campo);
@@ -119,6 +123,11 @@ struct Banco {
   TablasCatalogo tablas;
   Guion voz;
   Captura c;
+};
+
+/// With a Tramo in hand that validates.
+struct ConTramo : Banco {
+  ConTramo() { TramoValido(); }
 };
 
 }  // namespace zorbin::prueba

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <fstream>
 #include <set>
 
 #include "comun/grabadoRoto.h"
@@ -21,24 +20,39 @@ namespace {
 // Two Tramos of a new Obra, saved under a name that is asked for at the first save.
 void ObraDeDosTramos(Banco& b, const std::string& fichero) {
   b.voz.fichero = fichero;
-  b.Teclea(Ed::edObra, "Traida de aguas");
-  b.Teclea(Ed::edPrsM1, "0.5");  // the other separator
-  b.Teclea(Ed::edPrsM2, "0,9");
-  b.Teclea(Ed::edPrs2, "0,8");
-  b.Teclea(Ed::edPrs3, "0,2");
+  b.Teclea({{Ed::edObra, "Traida de aguas"},
+            {Ed::edPrsM1, "0.5"},  // the other separator
+            {Ed::edPrsM2, "0,9"},
+            {Ed::edPrs2, "0,8"},
+            {Ed::edPrs3, "0,2"}});
   NuevoTramo(b.c);
-  b.Teclea(Ed::edDescriTramo, "Primero");
-  b.Teclea(Ed::edDi0, "1,2");
+  b.Teclea({{Ed::edDescriTramo, "Primero"}, {Ed::edDi0, "1,2"}});
   ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
   NuevoTramo(b.c);
   b.Teclea(Ed::edDescriTramo, "Segundo");
   EligePaginaTipologia(b.c, 1);
   EligeOpcion(b.c, Ed::rdTipoCamisa, 1);
-  b.Teclea(Ed::edFYKPost, "210");
-  b.Teclea(Ed::edDi0, "1,0");
-  b.Teclea(Ed::edHr0, "2");
+  b.Teclea({{Ed::edFYKPost, "210"}, {Ed::edDi0, "1,0"}, {Ed::edHr0, "2"}});
   ASSERT_TRUE(AccionGrabaTramo(b.c)) << b.voz.Ultimo();
 }
+
+// That Obra on the disk, open before a person.
+struct Despacho : Banco {
+  Despacho() { ObraDeDosTramos(*this, ruta.string()); }
+  // An adjusted Caso of each of these Tramos, in the file beside the Obra.
+  void Ajusta(std::initializer_list<double> tramos) const {
+    std::vector<EntradaAjuste> entradas;
+    for (const double t : tramos) entradas.push_back({6.0, t, 2.0, {1, 2, 3}});
+    FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, entradas, ',');
+  }
+  // Whether the adjusted Caso at a place has been given up.
+  bool Anulado(std::size_t lugar) const { return LeeAjustes(dpe)[lugar].Libre(); }
+
+  const Carpeta carpeta;
+  const std::filesystem::path ruta = carpeta / "o.zrb";
+  const std::filesystem::path dpe = RutaDpe(ruta);
+};
 
 TEST(Sesion, UnaObraTecleadaSeReabreEnUnaMaquinaConElOtroSeparador) {
   const Carpeta carpeta;
@@ -74,10 +88,8 @@ TEST(Sesion, UnaObraTecleadaSeReabreEnUnaMaquinaConElOtroSeparador) {
 }
 
 TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "obra.zrb").string());
-  EXPECT_TRUE(ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {}).Vale());
+  Despacho b;
+  EXPECT_TRUE(ValidaObraEnFichero(b.ruta, b.textos, b.tablas, {}).Vale());
 
   // A Tramo with a fault of its own, and a question that nobody is there to answer.
   b.e.tramo.Gr = 0.0;
@@ -85,7 +97,7 @@ TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
   CargaTramo(b.e, *b.c.fichero, 1);
   b.e.tramo.Fyd = 150.0;
   EscribeTramo(*b.c.fichero, b.e, b.c.lista, 1, ',');
-  const auto lista = ValidaObraEnFichero(carpeta / "obra.zrb", b.textos, b.tablas, {});
+  const auto lista = ValidaObraEnFichero(b.ruta, b.textos, b.tablas, {});
   ASSERT_EQ(lista.faltas.size(), 1U);
   EXPECT_EQ(lista.faltas[0].posicion, 2);
   EXPECT_EQ(lista.faltas[0].campo, "edGr0");
@@ -125,9 +137,7 @@ TEST(Sesion, CancelarSinTramoNoHaceNadaYConNoDejaTodoComoEstaba) {
 }
 
 TEST(Sesion, UnNumeroDesconocidoDevuelveElAnterior) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  Despacho b;
   b.Olvida();
   b.Teclea(Ed::edTramo, "7");
   EXPECT_EQ(b.voz.Ultimo(), "No existe ese Tramo");
@@ -158,14 +168,8 @@ TEST(Sesion, UnNumeroDesconocidoDevuelveElAnterior) {
 }
 
 TEST(Sesion, UnTextoQueElFicheroNoPuedeGuardarSeRechazaAntesDelPrimerByte) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
-  const auto bytes = [&] {
-    std::ifstream f(carpeta / "o.zrb", std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(f), {});
-  };
-  const std::string antes = bytes();
+  Despacho b;
+  const std::string antes = pruebas::Bytes(b.ruta);
   for (const std::string& malo : {std::string(127, 'x'), std::string("\u03a9")}) {
     NuevoTramo(b.c);  // the data on the screen, kept or not, make the new one
     b.Teclea(Ed::edDi0, "1,2");
@@ -178,12 +182,11 @@ TEST(Sesion, UnTextoQueElFicheroNoPuedeGuardarSeRechazaAntesDelPrimerByte) {
     EXPECT_TRUE(b.c.EnCambio());
     CancelaCaptura(b.c);
   }
-  EXPECT_EQ(bytes(), antes);
+  EXPECT_EQ(pruebas::Bytes(b.ruta), antes);
 }
 
 TEST(Sesion, SinNombreDeFicheroElTramoNuevoNoQuedaEnLaLista) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.voz.fichero = std::nullopt;
   EXPECT_FALSE(AccionGrabaTramo(b.c));
   EXPECT_EQ(b.voz.Ultimo(), "No ha salvado ningun Fichero");
@@ -206,76 +209,56 @@ TEST(Sesion, ConCambiosNoSeCierra) {
 }
 
 TEST(Sesion, UnCambioDelTramoAnulaSusAjustesYNoLosDeOtro) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
-  const auto dpe = RutaDpe(carpeta / "o.zrb");
-  const auto entrada = [](double tramo) { return EntradaAjuste{6.0, tramo, 2.0, {1, 2, 3}}; };
-  {
-    FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
-    EscribeAjustes(f, {entrada(1), entrada(2), entrada(1)}, ',');
-  }
+  Despacho b;
+  b.Ajusta({1, 2, 1});
   b.Teclea(Ed::edTramo, "1");
   EXPECT_TRUE(ValidaTramo(b.c, true));  // neither loading nor validating is a change
-  EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+  EXPECT_FALSE(b.Anulado(0));
   b.Teclea(Ed::edGr0, "1,9");
-  EXPECT_TRUE(LeeAjustes(dpe)[0].Libre());
-  EXPECT_TRUE(LeeAjustes(dpe)[2].Libre());
-  EXPECT_FALSE(LeeAjustes(dpe)[1].Libre());
+  EXPECT_TRUE(b.Anulado(0));
+  EXPECT_TRUE(b.Anulado(2));
+  EXPECT_FALSE(b.Anulado(1));
 }
 
 // While another program holds the file the wipe waits: it is told once, and again on saving.
 TEST(Sesion, LosAjustesQueNoSePuedenAnularSeDicenYSeReintentan) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
-  const auto dpe = RutaDpe(carpeta / "o.zrb");
-  {
-    FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
-    EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
-  }
+  Despacho b;
+  b.Ajusta({1});
   b.Teclea(Ed::edTramo, "1");
   b.Olvida();
   {
-    const FicheroDpe otro(dpe, ',');
+    const FicheroDpe otro(b.dpe, ',');
     b.Teclea(Ed::edGr0, "1,97");
     EXPECT_EQ(b.voz.mensajes.size(), 1u);
     EXPECT_NE(b.voz.Ultimo().find("otro programa"), std::string::npos) << b.voz.Ultimo();
     EXPECT_TRUE(AccionGrabaTramo(b.c));
     EXPECT_EQ(b.voz.mensajes.size(), 2u);
-    EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+    EXPECT_FALSE(b.Anulado(0));
   }
   EXPECT_TRUE(AccionGrabaTramo(b.c));
   EXPECT_EQ(b.voz.mensajes.size(), 2u);
-  EXPECT_TRUE(LeeAjustes(dpe)[0].Libre());
+  EXPECT_TRUE(b.Anulado(0));
 }
 
 // Another laying, and a dimension that moves the width, change the data of the Tramo too.
 TEST(Sesion, LoQueCambiaSinTeclearseAnulaLosAjustes) {
   for (const bool colocacion : {true, false}) {
-    const Carpeta carpeta;
-    Banco b;
-    ObraDeDosTramos(b, (carpeta / "o.zrb").string());
-    const auto dpe = RutaDpe(carpeta / "o.zrb");
-    {
-      FicheroRegistros f(dpe, FicheroRegistros::Modo::LecturaEscritura);
-      EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
-    }
+    Despacho b;
+    b.Ajusta({1});
     b.Teclea(Ed::edTramo, "1");
-    EXPECT_FALSE(LeeAjustes(dpe)[0].Libre());
+    EXPECT_FALSE(b.Anulado(0));
     if (colocacion) {
       EligeColocacion(b.c, 2);
     } else {
       b.Teclea(Ed::edDi0, "1,4");
     }
-    EXPECT_TRUE(LeeAjustes(dpe)[0].Libre()) << colocacion;
+    EXPECT_TRUE(b.Anulado(0)) << colocacion;
   }
 }
 
 // A refused diameter that is then accepted carries its width with it.
 TEST(Sesion, UnDiametroNoComercialAceptadoALaSegunda) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   b.Teclea(Ed::edDi0, "2,345");
   const double ancho = b.e.tramo.B0;
   b.voz.responde = false;
@@ -287,16 +270,14 @@ TEST(Sesion, UnDiametroNoComercialAceptadoALaSegunda) {
 
 // Whatever keeps a new Tramo from being written, the file opens again with those it had.
 TEST(Sesion, UnTramoQueNoSeGuardaNoDejaRastroEnElFichero) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  Despacho b;
   NuevoTramo(b.c);
   b.Teclea(Ed::edDi0, "1,2");
   b.Pon(Ed::edPrs3Tram, "abc");  // nobody reads it where the pressure has no range
   EXPECT_FALSE(AccionGrabaTramo(b.c));
   EXPECT_EQ(b.voz.foco, Ed::edPrs3Tram);
   Banco otra;
-  ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));
+  ASSERT_TRUE(AbreObra(otra.c, b.ruta));
   EXPECT_EQ(otra.c.lista.size(), 2u);
 }
 
@@ -314,8 +295,7 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
   Banco b;
   ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
   EXPECT_EQ(b.c.lista.size(), 2u);
-  b.Teclea(Ed::edTramo, "1");
-  b.Teclea(Ed::edDescriTramo, "Otro");
+  b.Teclea({{Ed::edTramo, "1"}, {Ed::edDescriTramo, "Otro"}});
   EXPECT_FALSE(AccionGrabaTramo(b.c));
   EXPECT_NE(b.voz.Ultimo().find("ajena.zrb: está abierto sólo para lectura"), std::string::npos)
       << b.voz.Ultimo();
@@ -324,14 +304,9 @@ TEST(Sesion, UnaObraQueSoloSeLeeSeAbreYNoPierdeLoTecleado) {
 }
 
 TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
-  const Carpeta carpeta;
-  const auto ruta = carpeta / "o.zrb";
-  Banco b;
-  ObraDeDosTramos(b, ruta.string());
-  {
-    FicheroRegistros f(RutaDpe(ruta), FicheroRegistros::Modo::LecturaEscritura);
-    EscribeAjustes(f, {EntradaAjuste{6.0, 1.0, 2.0, {1, 2, 3}}}, ',');
-  }
+  Despacho b;
+  const auto& ruta = b.ruta;
+  b.Ajusta({1});
   const std::string antes = pruebas::Bytes(ruta);
   Banco otra;
   otra.voz.responde = false;
@@ -347,16 +322,15 @@ TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
   EXPECT_TRUE(otra.c.SoloLectura());
   ASSERT_EQ(otra.voz.anuncios.size(), 1u);
   EXPECT_NE(otra.voz.anuncios[0].find("sólo para lectura"), std::string::npos);
-  otra.Teclea(Ed::edTramo, "1");
-  otra.Teclea(Ed::edGr0, "1,9");
+  otra.Teclea({{Ed::edTramo, "1"}, {Ed::edGr0, "1,9"}});
   EXPECT_TRUE(ValidaTramo(otra.c, true)) << otra.voz.Ultimo();
   EXPECT_FALSE(AccionGrabaTramo(otra.c));
   EXPECT_NE(otra.voz.Ultimo().find("o.zrb: está abierto sólo para lectura"), std::string::npos);
   EXPECT_FALSE(AccionGrabaObra(otra.c));
   EXPECT_FALSE(GrabaTramo(otra.c));
   EXPECT_TRUE(PreparaCalculo(otra.c, false)) << otra.voz.Ultimo();
-  EXPECT_FALSE(PreparaCalculo(otra.c, true));          // adjusting writes beside the Obra
-  EXPECT_FALSE(LeeAjustes(RutaDpe(ruta))[0].Libre());  // those are the other program's too
+  EXPECT_FALSE(PreparaCalculo(otra.c, true));  // adjusting writes beside the Obra
+  EXPECT_FALSE(b.Anulado(0));                  // those are the other program's too
   EXPECT_EQ(pruebas::Bytes(ruta), antes);
   otra.voz.responde = false;
   EXPECT_FALSE(CierraFormulario(otra.c));
@@ -372,10 +346,8 @@ TEST(Sesion, LaObraQueOtroTieneSeAbreParaLeerSiSeQuiere) {
 }
 
 TEST(Sesion, UnGrabadoQueSeRompioSeDeshaceAlAbrirYSeAnunciaEnSuIdioma) {
-  const Carpeta carpeta;
-  const auto ruta = carpeta / "o.zrb";
-  Banco b;
-  ObraDeDosTramos(b, ruta.string());
+  Despacho b;
+  const auto& ruta = b.ruta;
   ASSERT_TRUE(CierraObra(b.c));
   const std::string antes = pruebas::Bytes(ruta);
   std::set<std::string> distintos;
@@ -398,25 +370,22 @@ TEST(Sesion, UnGrabadoQueSeRompioSeDeshaceAlAbrirYSeAnunciaEnSuIdioma) {
 
 // Tramos 5 and 4: the new one is 5 again, and takes a block of its own.
 TEST(Sesion, UnNumeroRepetidoNoPisaElTramoDeOtro) {
-  const Carpeta carpeta;
-  Banco b;
-  ObraDeDosTramos(b, (carpeta / "o.zrb").string());
+  Despacho b;
   ASSERT_TRUE(CierraObra(b.c));
   {
-    FicheroRegistros f(carpeta / "o.zrb", FicheroRegistros::Modo::LecturaEscritura);
+    FicheroRegistros f(b.ruta, FicheroRegistros::Modo::LecturaEscritura);
     f.EscribeRegistro(21, "5");
     f.EscribeRegistro(81, "4");
     f.Vacia();
   }
   Banco otra;
-  ASSERT_TRUE(AbreObra(otra.c, carpeta / "o.zrb"));
-  otra.voz.fichero = (carpeta / "o.zrb").string();
+  ASSERT_TRUE(AbreObra(otra.c, b.ruta));
+  otra.voz.fichero = (b.ruta).string();
   NuevoTramo(otra.c);
-  otra.Teclea(Ed::edDescriTramo, "Tercero");
-  otra.Teclea(Ed::edDi0, "1,2");
+  otra.Teclea({{Ed::edDescriTramo, "Tercero"}, {Ed::edDi0, "1,2"}});
   ASSERT_TRUE(AccionGrabaTramo(otra.c)) << otra.voz.Ultimo();
   Banco vuelta;
-  ASSERT_TRUE(AbreObra(vuelta.c, carpeta / "o.zrb")) << vuelta.voz.Ultimo();
+  ASSERT_TRUE(AbreObra(vuelta.c, b.ruta)) << vuelta.voz.Ultimo();
   EXPECT_EQ(vuelta.c.lista.size(), 3u);
   LeeTramo(vuelta.c, 1);
   EXPECT_EQ(vuelta.e.tramo.DescriTramo, "Primero");
@@ -443,8 +412,7 @@ TEST(Sesion, OtroSistemaDeUnidades) {
 }
 
 TEST(Sesion, OtroIdiomaConservaLoTecleadoYLaPosicionDeLasListas) {
-  Banco b;
-  b.TramoValido();
+  ConTramo b;
   const std::string di = b.c[Ed::edDi0].texto;
   const int relleno = PosicionEnLista(b.c, Ed::edTipoRelleno0);
   OlvidaCambios(b.c);

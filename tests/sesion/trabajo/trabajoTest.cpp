@@ -9,7 +9,7 @@
 #include <map>
 #include <sstream>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/comparaFichero.h"
 #include "listados/obra/mdResumen.h"

@@ -28,18 +28,14 @@ namespace {
 
 QPalette Oscura() {
   QPalette p;
-  p.setColor(QPalette::Window, QColor(45, 45, 48));
-  p.setColor(QPalette::WindowText, QColor(230, 230, 230));
-  p.setColor(QPalette::Base, QColor(30, 30, 32));
-  p.setColor(QPalette::AlternateBase, QColor(40, 40, 44));
-  p.setColor(QPalette::Text, QColor(230, 230, 230));
-  p.setColor(QPalette::Button, QColor(60, 60, 64));
-  p.setColor(QPalette::ButtonText, QColor(230, 230, 230));
-  p.setColor(QPalette::ToolTipBase, QColor(60, 60, 64));
-  p.setColor(QPalette::ToolTipText, QColor(230, 230, 230));
-  p.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
-  p.setColor(QPalette::Highlight, QColor(38, 110, 180));
-  p.setColor(QPalette::HighlightedText, Qt::white);
+  const std::map<QPalette::ColorRole, QColor> colores{
+      {QPalette::Window, "#2d2d30"},      {QPalette::WindowText, "#e6e6e6"},
+      {QPalette::Base, "#1e1e20"},        {QPalette::AlternateBase, "#28282c"},
+      {QPalette::Text, "#e6e6e6"},        {QPalette::Button, "#3c3c40"},
+      {QPalette::ButtonText, "#e6e6e6"},  {QPalette::ToolTipBase, "#3c3c40"},
+      {QPalette::ToolTipText, "#e6e6e6"}, {QPalette::PlaceholderText, "#8c8c8c"},
+      {QPalette::Highlight, "#266eb4"},   {QPalette::HighlightedText, "#ffffff"}};
+  for (const auto& [rol, color] : colores) p.setColor(rol, color);
   for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     p.setColor(QPalette::Disabled, rol, QColor(125, 125, 125));
   }
