@@ -51,7 +51,10 @@ struct Sala {
         nullptr);
     return persona.veces;
   }
-  std::string Resumen() { return ResumeTramo(b.c, MediosTrabajo{}).resumen; }
+  std::string Resumen() {
+    auto calculo = CalculaEncargo(EncargaTramo(b.c).value());
+    return Resume(calculo);
+  }
 };
 
 QString Etiqueta(QWidget& p, const QString& nombre) {

@@ -11,17 +11,20 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QWheelEvent>
+#include <atomic>
 #include <sstream>
+#include <thread>
 
 #include "comun/comparaFichero.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdEdicion.h"
+#include "sesion/trabajo/mdTrabajo.h"
 #include "shell/enPantalla.h"
 #include "shell/entornoPrueba.h"
+#include "shell/piezas/mdFaena.h"
 #include "shell/resultados/frEscribePantalla.h"
 #include "shell/resultados/mdCalculos.h"
-#include "shell/resultados/mdProgreso.h"
 
 namespace zorbin::prueba {
 namespace {
@@ -30,16 +33,15 @@ struct Sala {
   Mesa mesa;
   std::vector<TipoListado> pedidos;
 
-  std::unique_ptr<frEscribePantalla> Abre(std::string texto, bool conLame = false) {
-    auto pantalla = std::make_unique<frEscribePantalla>(
-        mesa.entorno, Resumido{std::move(texto),
-                               conLame,
-                               "acequia - Tramo 1",
-                               {},
-                               [this](TipoListado tipo, DestinoHojas& hojas) {
-                                 pedidos.push_back(tipo);
-                                 hojas.RecibeHoja(Hoja{});
-                               }});
+  std::unique_ptr<frEscribePantalla> Abre(std::string texto, bool conLame = false,
+                                          bool conPapel = true) {
+    Resumido resumido{std::move(texto), conLame, "acequia - Tramo 1"};
+    resumido.conPapel = conPapel;
+    resumido.lista = [this](TipoListado tipo, DestinoHojas& hojas) {
+      pedidos.push_back(tipo);
+      hojas.RecibeHoja(Hoja{});
+    };
+    auto pantalla = std::make_unique<frEscribePantalla>(mesa.entorno, std::move(resumido));
     pantalla->show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(pantalla.get()));
     return pantalla;
@@ -191,19 +193,102 @@ TEST(PantallaResumen, LaLetraSeAgrandaYSeConserva) {
   EXPECT_EQ(Texto(*pantalla).font().pointSize(), cuerpo);
 }
 
-TEST(CajaProgreso, SoloSeMuestraSiTardaYCancela) {
+// A part of a calculation is not to be taken for the whole: only its text can be kept.
+TEST(PantallaResumen, DeLoCanceladoNoHayPapel) {
+  Sala r;
+  auto pantalla = r.Abre("x", false, false);
+  for (const char* boton : {"btImprimeTramo", "btVistaPrevia", "btPdf"}) Pulsa(*pantalla, boton);
+  QTest::keyClick(pantalla.get(), Qt::Key_P, Qt::ControlModifier);
+  EXPECT_TRUE(r.pedidos.empty());
+  EXPECT_TRUE(pantalla->isVisible());
+  EXPECT_TRUE(pantalla->findChild<QPushButton*>("btTexto")->isEnabled());
+}
+
+// ---------------------------------------------------------------------------------------------
+
+// Waits in the work's own thread until something has happened in the window's.
+template <class Que>
+void Aguarda(const Que& que) {
+  while (!que()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
+TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
   Mesa mesa;
-  CajaProgreso caja(mesa.textos, nullptr);
-  EXPECT_TRUE(caja.Sigue({2, 1, 9, 1, 1}));
-  EXPECT_FALSE(caja.isVisible());
-  QTest::qSleep(520);
-  EXPECT_TRUE(caja.Sigue({2, 4, 9, 3, 7}));
-  EXPECT_TRUE(caja.isVisible());
-  EXPECT_EQ(caja.findChild<QLabel*>()->text(), "Calculando el Tramo 2 (3 de 7): Caso 4 de 9");
-  EXPECT_EQ(caja.findChild<QProgressBar*>()->value(), 1000 * (2 * 9 + 3) / (9 * 7));
-  QTest::keyClick(&caja, Qt::Key_Escape);
-  EXPECT_TRUE(caja.isVisible());  // until the run hears of it
-  EXPECT_FALSE(caja.Sigue({2, 5, 9, 3, 7}));
+  QWidget ventana;
+  ventana.show();
+  std::atomic<int> latidos = 0;
+  QTimer reloj;
+  QObject::connect(&reloj, &QTimer::timeout, [&latidos] { ++latidos; });
+  reloj.start(1);
+  std::vector<QString> dichos;
+  std::vector<int> barras;
+  EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
+    caja.Renueva();
+    dichos.push_back(caja.findChild<QLabel*>()->text());
+    barras.push_back(caja.findChild<QProgressBar*>()->value());
+    QTest::keyClick(&caja, Qt::Key_Escape);
+    EXPECT_TRUE(caja.isVisible());  // until the work hears of it
+  });
+  bool cancelada = false;
+  HazFaena(&ventana, mesa.textos, 1272, [&](Marcha& marcha) {
+    Aguarda([&] { return latidos > 20; });  // before the box is there
+    marcha.Di({"Caso 4 de 9", 0.25});
+    Aguarda([&] { return !marcha.Sigue(); });
+    cancelada = true;
+  });
+  EXPECT_TRUE(cancelada);
+  EXPECT_EQ(dichos, std::vector<QString>{"Caso 4 de 9"});
+  EXPECT_EQ(barras, std::vector<int>{250});
+}
+
+TEST(Faena, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
+  Mesa mesa;
+  EnPantalla<CajaProgreso> persona([](CajaProgreso&) {});
+  std::thread::id hilo;
+  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha&) { hilo = std::this_thread::get_id(); });
+  EXPECT_NE(hilo, std::this_thread::get_id());
+  EXPECT_THROW(
+      HazFaena(nullptr, mesa.textos, 1272, [](Marcha&) { throw std::runtime_error("disco"); }),
+      std::runtime_error);
+  QTest::qWait(20);
+  EXPECT_EQ(persona.veces, 0);
+}
+
+// A program that is left, and a window that is closed, end the work and wait for it.
+TEST(Faena, AlSalirDelProgramaSeCancela) {
+  Mesa mesa;
+  for (const bool cierra : {false, true}) {
+    EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
+      if (cierra) {
+        caja.close();
+      } else {
+        QApplication::exit();
+      }
+    });
+    bool oido = false;
+    HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
+      Aguarda([&] { return !marcha.Sigue(); });
+      oido = true;
+    });
+    EXPECT_TRUE(oido);
+  }
+  // The loops of the tests to come do not hear of it.
+  QTimer::singleShot(0, [] { QApplication::exit(); });
+  QApplication::exec();
+}
+
+TEST(Faena, LoQueYaNoTieneVueltaNoSeCancela) {
+  Mesa mesa;
+  std::atomic<bool> pulsada = false;
+  EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
+    caja.reject();
+    pulsada = true;
+  });
+  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
+    marcha.SinVuelta();
+    Aguarda([&] { return pulsada.load(); });
+    EXPECT_TRUE(marcha.Sigue());
+  });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -237,13 +322,13 @@ TEST(Calculos, DelTramoAlResumenYAlPapel) {
   });
   CalculaElTramo(d.b.c, d.mesa.entorno, nullptr);
   EXPECT_EQ(lector.veces, 1);
-  MediosTrabajo medios;
-  EXPECT_EQ(S(texto), ResumeTramo(d.b.c, medios).resumen);
+  auto calculo = CalculaEncargo(EncargaTramo(d.b.c).value());
+  EXPECT_EQ(S(texto), Resume(calculo));
   std::ostringstream impreso, esperado;
   HojasTexto papel(impreso);
   for (const auto& hoja : d.mesa.papel.hojas) papel.RecibeHoja(hoja);
   HojasTexto otroPapel(esperado);
-  ListaTramo(d.b.c, TipoListado::Lame, otroPapel, medios);
+  EscribeListado(calculo, TipoListado::Lame, otroPapel, Ahora());
   const auto sinFecha = [](std::string t) { return t.erase(t.find("FECHA: "), 26); };
   EXPECT_EQ(sinFecha(impreso.str()), sinFecha(esperado.str()));
   EXPECT_EQ(d.mesa.papel.nombres, std::vector<QString>{"acequia - Tramo 7 - Coef. Lamé"});
@@ -270,27 +355,25 @@ TEST(Calculos, LaObraEnteraConUnFalloSeDiceYSeMuestra) {
   EXPECT_EQ(d.b.c[Ed::edTramo].texto, "7");
 }
 
-// Thousands of Casos: the box comes up while they run, and its button ends the run.
+// Thousands of Casos: the box comes up while they are calculated, its button ends that, and the
+// summary says so.
 TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
   Despacho d;
   d.b.Teclea(Ed::edAlt2, "14");
   d.b.Teclea(Ed::edAlt3, "0,01");
   d.b.Teclea(Ed::edPrs3, "0,01");
   d.b.Teclea(Ed::edTramo, "1");
-  CajaProgreso caja(d.mesa.textos, nullptr);
   EnPantalla<CajaProgreso> persona([](CajaProgreso& c) { Pulsa(c, "btCancelar"); });
-  int casos = 0;
-  MediosTrabajo medios;
-  medios.sigue = [&](const Avance& avance) {
-    casos = avance.casos;
-    return caja.Sigue(avance);
-  };
-  QTest::qSleep(510);
-  const auto r = ResumeTramo(d.b.c, medios);
+  QString texto;
+  EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
+    Pulsa(pantalla, "btCopiar");
+    texto = QApplication::clipboard()->text();
+    Pulsa(pantalla, "btSalir");
+  });
+  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr);
   EXPECT_EQ(persona.veces, 1);
-  EXPECT_EQ(r.fin, FinTrabajo::Cancelado);
-  EXPECT_GT(casos, 30'000);
-  EXPECT_NE(r.resumen.find("** Cálculo cancelado"), std::string::npos);
+  EXPECT_EQ(lector.veces, 1);
+  EXPECT_TRUE(texto.contains("** Cálculo cancelado"));
   EXPECT_EQ(d.b.c.EstadoCaptura, kModificaciones);
 }
 

@@ -1,15 +1,17 @@
 #include "sesion/ajustes/mdAjuste.h"
 
 #include <cmath>
+#include <functional>
 #include <utility>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "core/mdUnidades.h"
+#include "listados/obra/mdAvisos.h"
 #include "sesion/ajustes/mdFilas.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
-#include "sesion/ajustes/mdRecubrimientos.h"
+#include "sesion/ajustes/mdTecleado.h"
 #include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdPresenta.h"
@@ -22,119 +24,185 @@ namespace {
 constexpr double kToleranciaCaso = 0.001;  // [m] and [at]
 constexpr double kEngancheLimite = 0.01;  // a pressure this near to the end of its range is it [at]
 
-// The debug log of one Caso, as far as the disk takes it: an engineer who cannot write it works all
-// the same, and is told.
-class LogDeCaso {
+// ---------------------------------------------------------------------------------------------
+// The Tramo
+
+// Speaks for the rules of the Tramo, which run over data that a person has accepted already: their
+// messages are shown, and a question is not put a second time.
+class VozDeAjustes : public Interlocutor {
  public:
-  explicit LogDeCaso(Ajustes& a) : a_(a), registro_([this](std::string_view b) { Escribe(b); }) {
-    a_.t.e.corrida.registro = &registro_;
+  explicit VozDeAjustes(Interlocutor& voz) : voz_(voz) {}
+  void Muestra(const std::string& texto, const std::string& titulo) override {
+    voz_.Muestra(texto, titulo);
   }
-  ~LogDeCaso() { a_.t.e.corrida.registro = nullptr; }
-  LogDeCaso(const LogDeCaso&) = delete;
-  LogDeCaso& operator=(const LogDeCaso&) = delete;
+  bool Pregunta(const std::string&, const std::string&) override { return true; }
+  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+  void VaA(Ed) override {}
 
  private:
-  Ajustes& a_;
-  Registro registro_;
-
-  void Escribe(std::string_view bloque) {
-    try {
-      FicheroLog log(a_.registros);
-      log.registro() << bloque;
-      log.registro().Vuelca();
-    } catch (const ErrorEjecucion& error) {
-      a_.t.pantalla.aviso = a_.c.textos.Compone(txt::AjSinRegistro, {error.dato()});
-    }
-  }
+  Interlocutor& voz_;
 };
 
-// The data of the Tramo as the file has them, with what the validation completes.
-bool LeeElTramo(Ajustes& a) {
-  const int numero = a.c.e.tramo.NumeroTramo;
+// The rules complete the data in a capture of their own. A file that cannot be read, and data that
+// they refuse, have been told.
+std::optional<TramoAjustado> LeeElTramo(Captura& c, int posicion) {
+  const auto numero = c.e.tramo.NumeroTramo;
+  EstadoCalculo e;
+  e.obra = c.e.obra;
+  e.tramo = c.e.tramo;
+  VozDeAjustes voz(c.voz);
+  Captura copia(e, c.textos, c.tablas, voz, c.SeparadorDecimal);
+  PreparaPantalla(copia);
+  MuestraObra(copia);
   try {
-    CargaTramo(a.t.e, *a.c.fichero, PosicionDelTramo(a.c, numero));
+    CargaTramo(e, *c.fichero, posicion);
   } catch (const ErrorFichero& error) {
-    a.c.voz.Muestra(TextoDeError(a.c, error), {});
+    c.voz.Muestra(TextoDeError(c, error), {});
+    return std::nullopt;
+  }
+  e.tramo.NumeroTramo = numero;
+  Escribe(copia, Ed::edTramo, TextoEntero(numero));
+  MuestraTramo(copia);
+  if (!ValidaTramo(copia, false)) return std::nullopt;
+  auto datos = DatosDeCalculo(e.obra, e.tramo);
+  const Rango rango = RangoDe(datos);
+  return TramoAjustado{e.tramo, std::move(datos), rango, copia.EsComercial};
+}
+
+// ---------------------------------------------------------------------------------------------
+// What a person does
+
+void Avisa(Ajustes& a, int texto) {
+  a.c.voz.Muestra(Texto(a, texto), Texto(a, txt::TituloAviso));
+}
+
+void MuestraFallo(Ajustes& a, const std::string& texto) {
+  a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::ErrorEnEjecucion))));
+}
+
+// Changes the work, calculates what follows, rows or check alone, and shows it: the screen is free
+// again. A failure of the arithmetic is told, and leaves everything as it was.
+bool Rehaz(Ajustes& a, void (*calcula)(Ajustes&),
+           const std::function<void(TrabajoAjuste&)>& cambia) {
+  auto antes = a.t;
+  try {
+    cambia(a.t);
+    calcula(a);
+    a.t.pantalla.estado = EstadoAjuste::Libre;
+    Muestra(a);
+    return true;
+  } catch (const ErrorEjecucion& error) {
+    a.t = std::move(antes);
+    MuestraFallo(a, TextoCausa(error, a.c.textos));
     return false;
   }
-  a.t.e.tramo.NumeroTramo = static_cast<std::int16_t>(numero);
-  Escribe(a.trabajo, Ed::edTramo, TextoEntero(numero));
-  MuestraTramo(a.trabajo);
-  return ValidaTramo(a.trabajo, false);
 }
 
-// The Caso as the design finds it: a stored adjustment stands beside the result, not in it.
-void Corre(Ajustes& a, double Hr, double DP) {
-  auto& e = a.t.e;
-  e.corrida.ajustes.clear();
-  const LogDeCaso log(a);
-  CalculaCasos(e, Hr, DP, {});
-  e.corrida.Hr = Hr;
+// The mean value moves by `paso` rows, and with it the row chosen, so that the same area stays so.
+void MueveValorMedio(Ajustes& a, int paso, int limite, int enLimite, int elegidaEnLimite) {
+  if (a.t.FilaTanteo == limite) return Avisa(a, enLimite);
+  const bool sale = a.t.FilaElegida == limite;
+  if (sale && !a.t.SeleccionDirecta) return Avisa(a, elegidaEnLimite);
+  Rehaz(a, CalculaFilas, [&](TrabajoAjuste& t) {
+    t.FilaTanteo += paso;
+    if (sale) {
+      t.FilaElegida = kFilaResultado;  // the row to go back to from a direct entry is lost
+    } else if (t.FilaElegida != kFilaResultado) {
+      t.FilaElegida += paso;
+    }
+  });
 }
 
-void EmpiezaCaso(Ajustes& a, double Hr, double DP) {
-  a.t.HrAjuste = Hr;
-  a.t.PrsAjuste = DP;
-  a.t.FilaTanteo = kFilaTanteoInicial;
-  a.t.FilaElegida = kFilaResultado;
-  a.t.RecAltActivo = false;
-  a.t.MiraAjusteGuardado = true;
-  MuestraRecubrimientosOrigen(a);
+void AceptaSeleccionDirecta(Ajustes& a) {
+  if (!TomaDirecta(a)) return;
+  Rehaz(a, CompruebaLoElegido, [](TrabajoAjuste& t) { t.SeleccionDirecta = true; });
+}
+
+void CambiaRecubrimientos(Ajustes& a) {
+  a.t.RecIntAlt = a.tramo.tramo.Reci;
+  a.t.RecExtAlt = a.tramo.tramo.Rece;
+  a.t.pantalla.estado = EstadoAjuste::Recubrimientos;
+  Muestra(a);
+}
+
+void AceptaRecubrimientos(Ajustes& a) {
+  if (!TomaRecubrimientos(a)) return;
+  Rehaz(a, CalculaFilas, [](TrabajoAjuste& t) { t.RecAltActivo = true; });
+}
+
+void RecuperaRecubrimientosOrigen(Ajustes& a) {
+  Rehaz(a, CalculaFilas, [](TrabajoAjuste& t) { t.RecAltActivo = false; });
 }
 
 void OtraAltura(Ajustes& a, std::optional<double> altura) {
   if (!altura) return Avisa(a, txt::AjSinAlturas);
-  CalculaunTramoEspecifico(a, *altura, a.t.PrsAjuste);
+  CalculaunTramoEspecifico(a, *altura, a.t.fila.DP);
 }
 
 std::optional<double> AlturaDespues(const Ajustes& a) {
-  const auto& c = a.t.e.corrida;
-  const auto h = AlturaSiguiente(a.t.HrAjuste, a.t.e.tramo.Hr0Delta, c.Hr0FinalActual);
-  if (!h || *h > c.Hr0FinalActual + kToleranciaCaso) return std::nullopt;
+  const auto& r = a.tramo.rango;
+  const auto h = AlturaSiguiente(a.t.fila.Hr, r.Hr0Delta, r.Hr0Final);
+  if (!h || *h > r.Hr0Final + kToleranciaCaso) return std::nullopt;
   return h;
-}
-
-// The pressures of the Tramo and their step, in at, as a run takes them.
-void EligeRango(Ajustes& a) {
-  const EnUnidadesDeCalculo unidades(a.t.e);
 }
 
 // `sentido` is -1 towards the first pressure, 1 towards the last.
 void OtraPresion(Ajustes& a, int sentido) {
-  EligeRango(a);
-  const auto& c = a.t.e.corrida;
-  const double limite = sentido < 0 ? c.DPIni : c.DPFin;
-  double DP = a.t.PrsAjuste + sentido * c.IncDP;
-  if (!(c.IncDP > 0) || sentido * (DP - limite) > kToleranciaCaso) {
+  const auto& r = a.tramo.rango;
+  const double limite = sentido < 0 ? r.DPIni : r.DPFin;
+  double DP = a.t.fila.DP + sentido * r.IncDP;
+  if (!(r.IncDP > 0) || sentido * (DP - limite) > kToleranciaCaso) {
     return Avisa(a, txt::AjSinPresiones);
   }
   if (std::fabs(DP - limite) < kEngancheLimite) DP = limite;
-  CalculaunTramoEspecifico(a, a.t.HrAjuste, DP);
+  CalculaunTramoEspecifico(a, a.t.fila.Hr, DP);
 }
 
+// What is stored is what the screen shows, with alternative covers too.
 bool Guarda(Ajustes& a) {
-  return CargaDatosIniEnUniCalc(a) && GrabaUnTramoPresion(a);
+  return Rehaz(a, CalculaFilas, [](TrabajoAjuste&) {}) && GrabaUnTramoPresion(a);
 }
 
-// What is stored is what the screen shows, with alternative covers too; they end with the screen.
-bool Cierra(Ajustes& a, bool guardando) {
-  if (guardando && !Guarda(a)) return false;
+// The covers end with the screen.
+bool Cierra(Ajustes& a) {
   a.t.RecAltActivo = false;
   a.dpe.reset();
   return true;
 }
 
+// ---------------------------------------------------------------------------------------------
+// A Caso
+
+// It is calculated with its debug log, as far as the disk takes it: an engineer who cannot write it
+// works all the same, and is told.
+ResultadoTramo Corre(Ajustes& a, double Hr, double DP) {
+  Registro registro([&a](std::string_view bloque) {
+    try {
+      FicheroLog log(a.registros);
+      log.registro() << bloque;
+      log.registro().Vuelca();
+    } catch (const ErrorEjecucion& error) {
+      a.t.pantalla.aviso = a.c.textos.Compone(txt::AjSinRegistro, {error.dato()});
+    }
+  });
+  const auto& datos = a.tramo.datos;
+  return CalculaTramo(datos, RangoDeUnCaso(datos, Hr, DP), {}, &registro);
+}
+
+void EmpiezaCaso(TrabajoAjuste& t, const ResultadoTramo& r) {
+  t.fila = r.filas.front();
+  t.caso = CasoEntero(r, t.fila);
+  t.FilaTanteo = kFilaTanteoInicial;
+  t.FilaElegida = kFilaResultado;
+  t.RecAltActivo = false;
+  t.MiraAjusteGuardado = true;
+}
+
 }  // namespace
 
-Ajustes::Ajustes(Captura& captura, std::filesystem::path carpetaRegistros, PideCerrojo pide)
-    : c(captura),
-      registros(std::move(carpetaRegistros)),
-      voz(captura.voz),
-      trabajo(t.e, captura.textos, captura.tablas, voz, captura.SeparadorDecimal) {
-  t.e.obra = c.e.obra;
-  t.e.tramo = c.e.tramo;
-  PreparaPantalla(trabajo);
-  MuestraObra(trabajo);
+Ajustes::Ajustes(Captura& captura, TramoAjustado suTramo, std::filesystem::path carpetaRegistros,
+                 PideCerrojo pide)
+    : c(captura), tramo(std::move(suTramo)), registros(std::move(carpetaRegistros)) {
   dpe.emplace(RutaDpe(c.e.obra.NombreFichero), c.SeparadorDecimal, pide);
   MuestraRotulos(*this);
   if (!dpe->ConCerrojo()) {
@@ -145,72 +213,74 @@ Ajustes::Ajustes(Captura& captura, std::filesystem::path carpetaRegistros, PideC
 std::unique_ptr<Ajustes> AjustaArmaduras(Captura& c, const std::filesystem::path& registros,
                                          PideCerrojo pide) {
   if (!c.e.tramo.EsArmado || !PreparaCalculo(c, true)) return nullptr;
-  if (!c.fichero || PosicionDelTramo(c, c.e.tramo.NumeroTramo) == 0) {
+  const int posicion = c.fichero ? PosicionDelTramo(c, c.e.tramo.NumeroTramo) : 0;
+  if (posicion == 0) {
     c.voz.Muestra(Texto(c, txt::NoExisteEseTramo), {});
     return nullptr;
   }
-  std::unique_ptr<Ajustes> a;
+  auto tramo = LeeElTramo(c, posicion);
+  if (!tramo) return nullptr;
   try {
-    a = std::make_unique<Ajustes>(c, registros, pide);
+    auto a = std::make_unique<Ajustes>(c, std::move(*tramo), registros, pide);
+    const auto& r = a->tramo.rango;
+    return CalculaunTramoEspecifico(*a, r.Hr0, r.DPIni) ? std::move(a) : nullptr;
   } catch (const ErrorFichero& error) {
     c.voz.Muestra(TextoDeError(c, error), {});
     return nullptr;
   }
-  EligeAlturas(a->t.e);
-  EligeRango(*a);
-  const auto& corrida = a->t.e.corrida;
-  if (!CalculaunTramoEspecifico(*a, corrida.Hr0Actual, corrida.DPIni)) return nullptr;
-  return a;
 }
 
 bool CalculaunTramoEspecifico(Ajustes& a, double HrAjuste, double PrsAjuste) {
-  const auto antes = a.t;
-  const bool hecho = LeeElTramo(a) && EnUnidades(a, [&] {
-                       Corre(a, HrAjuste, PrsAjuste);
-                       EmpiezaCaso(a, HrAjuste, PrsAjuste);
-                       CargaDatosIni(a);
-                       GrabaUnTramoPresion(a);
-                       return true;
-                     });
-  if (!hecho) a.t = antes;
+  const auto r = Corre(a, HrAjuste, PrsAjuste);
+  if (r.fallo) {
+    const auto obra = std::filesystem::path(a.c.e.obra.NombreFichero).filename().string();
+    MuestraFallo(a, TextoFallo(*r.fallo, obra, TextoEntero(r.datos.tramo.NumeroTramo), a.c.textos,
+                               {a.c.EsSI(), a.c.SeparadorDecimal}));
+    return false;
+  }
+  const bool hecho = Rehaz(a, CalculaFilas, [&r](TrabajoAjuste& t) { EmpiezaCaso(t, r); });
+  if (hecho) GrabaUnTramoPresion(a);
   return hecho;
 }
 
-void Cambia(Ajustes& a, CampoAjuste campo, std::string texto) {
+void EligeFila(Ajustes& a, int fila) {
   auto& p = a.t.pantalla;
-  if (!p.Abierto(campo)) return;
-  p.Texto(campo) = std::move(texto);
-  p.tocados[static_cast<std::size_t>(campo)] = true;
-}
-
-bool Sale(Ajustes& a, CampoAjuste campo) {
-  const auto& p = a.t.pantalla;
-  if (!p.Abierto(campo) || !p.tocados[static_cast<std::size_t>(campo)]) return true;
-  return p.estado == EstadoAjuste::Directa ? SaleDirecta(a, campo) : SaleRecubrimiento(a, campo);
+  if (fila < kFilaResultado || fila > kFilaDirecta ||
+      !p.filas[static_cast<std::size_t>(fila)].habilitada) {
+    return;
+  }
+  if (fila == kFilaDirecta) {
+    p.estado = EstadoAjuste::Directa;
+    return Muestra(a);
+  }
+  Rehaz(a, CompruebaLoElegido, [fila](TrabajoAjuste& t) {
+    OlvidaDirecta(t);
+    t.FilaElegida = fila;
+  });
 }
 
 bool Pulsa(Ajustes& a, BotonAjuste boton) {
   if (!a.DpeAbierto() || !a.t.pantalla.Habilitado(boton)) return false;
-  const auto& e = a.t.e;
+  const auto& r = a.tramo.rango;
   switch (boton) {
     case BotonAjuste::btAceptarAjuste:
-      return Cierra(a, true);
+      return Guarda(a) && Cierra(a);
     case BotonAjuste::btSalir:
-      return Cierra(a, false);
+      return Cierra(a);
     case BotonAjuste::btGuardar:
       Guarda(a);
       break;
     case BotonAjuste::btSubirValorMedio:
-      SubeValorMedio(a);
+      MueveValorMedio(a, -1, 1, txt::AjPrimeraFila, txt::AjElegidaPrimera);
       break;
     case BotonAjuste::btBajarValorMedio:
-      BajaValorMedio(a);
+      MueveValorMedio(a, 1, kFilasTanteo, txt::AjUltimaFila, txt::AjElegidaUltima);
       break;
     case BotonAjuste::btSeleccionDirecta:
       AceptaSeleccionDirecta(a);
       break;
     case BotonAjuste::btAnulaSeleccionDirecta:
-      AnulaSeleccionDirecta(a);
+      Rehaz(a, CompruebaLoElegido, OlvidaDirecta);
       break;
     case BotonAjuste::btCambiarRecubrimientos:
       CambiaRecubrimientos(a);
@@ -219,13 +289,11 @@ bool Pulsa(Ajustes& a, BotonAjuste boton) {
       AceptaRecubrimientos(a);
       break;
     case BotonAjuste::btAnularRecubrimientos:
-      AnulaRecubrimientos(a);
-      break;
     case BotonAjuste::btRecubrimientosOrigen:
       RecuperaRecubrimientosOrigen(a);
       break;
     case BotonAjuste::btAnteriorAltura:
-      OtraAltura(a, AlturaAnterior(a.t.HrAjuste, e.tramo.Hr0Delta, e.corrida.Hr0Actual));
+      OtraAltura(a, AlturaAnterior(a.t.fila.Hr, r.Hr0Delta, r.Hr0));
       break;
     case BotonAjuste::btSiguienteAltura:
       OtraAltura(a, AlturaDespues(a));
@@ -240,10 +308,13 @@ bool Pulsa(Ajustes& a, BotonAjuste boton) {
   return false;
 }
 
-void RenuevaTextos(Ajustes& a) {
-  MuestraRotulos(a);
-  MuestraFilas(a);
-  MuestraComprobacion(a);
+bool HaySinGuardar(const Ajustes& a) {
+  const auto* entrada = Guardada(a);
+  if (SinDatos(a.t)) return entrada != nullptr;
+  if (entrada == nullptr) return true;
+  const auto& g = entrada->areas;
+  return g.Camisa != a.t.Disp.Camisa || g.Espiras != a.t.Disp.Espiras ||
+         g.Exterior != a.t.Disp.Exterior;
 }
 
 }  // namespace zorbin

@@ -2,7 +2,11 @@
 // over the Casos of a reinforced Tramo and replaces the reinforcement that the design found; the
 // choice is kept in the file of adjusted Casos, and later runs use it.
 //
-// The work goes on in a copy of the state. The capture that it was opened from is only read.
+// The data of the Tramo are read once, and each Caso is calculated from them as a run does. The
+// capture that it was opened from is only read.
+//
+// An action goes one way: what it changes of the work (here, and the fields in mdTecleado), the
+// rows and the check that follow from it (mdFilas), and the screen (mdPresentaAjustes).
 #pragma once
 
 #include <filesystem>
@@ -10,6 +14,7 @@
 #include <optional>
 
 #include "calculo/ajustes/mdNecesaria.h"
+#include "core/resultado.h"
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "sesion/ajustes/mdModeloAjustes.h"
@@ -17,27 +22,18 @@
 
 namespace zorbin {
 
-/// Speaks for the rules of the Tramo, which run again for each Caso over data that a person has
-/// accepted already: their messages are shown, and a question is not put a second time.
-class VozDeAjustes : public Interlocutor {
- public:
-  explicit VozDeAjustes(Interlocutor& voz) : voz_(voz) {}
-  void Muestra(const std::string& texto, const std::string& titulo) override {
-    voz_.Muestra(texto, titulo);
-  }
-  bool Pregunta(const std::string&, const std::string&) override { return true; }
-  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
-  void VaA(Ed) override {}
-
- private:
-  Interlocutor& voz_;
+/// The Tramo whose Casos are adjusted, as its file has it, with what the validation completes.
+struct TramoAjustado {
+  Tramo tramo;               // as captured: thickness and covers in cm
+  DatosTramo datos;          // what its Casos are calculated from
+  Rango rango;               // its heights and pressures
+  bool EsComercial = false;  // its diameter is in the catalogue
 };
 
 /// What an action may leave half done: a failure of the arithmetic puts it back as it was.
 struct TrabajoAjuste {
-  EstadoCalculo e;                      // results of the Caso; data in the units of the Obra
-  double HrAjuste = 0;                  // height of the Caso [m]
-  double PrsAjuste = 0;                 // pressure of the Caso [at]
+  FilaCaso fila;                        // the Caso
+  ResultadoCaso caso;                   // the whole of it
   int FilaTanteo = kFilaTanteoInicial;  // row of the mean value, 1 to 7
   int FilaElegida = kFilaResultado;     // 0 to 7; with a direct entry, the row to go back to
   Tanteo tanteo;
@@ -52,16 +48,17 @@ struct TrabajoAjuste {
 };
 
 struct Ajustes {
-  Ajustes(Captura& captura, std::filesystem::path carpetaRegistros, PideCerrojo pide);
+  /// @throws ErrorFichero where the file of adjustments cannot be held
+  Ajustes(Captura& captura, TramoAjustado tramo, std::filesystem::path carpetaRegistros,
+          PideCerrojo pide);
   Ajustes(const Ajustes&) = delete;
   Ajustes& operator=(const Ajustes&) = delete;
 
   Captura& c;
-  std::filesystem::path registros;  // folder of the logs
-  std::optional<FicheroDpe> dpe;    // open for the life of the screen
+  const TramoAjustado tramo;
+  const std::filesystem::path registros;  // folder of the logs
+  std::optional<FicheroDpe> dpe;          // open for the life of the screen
   TrabajoAjuste t;
-  VozDeAjustes voz;
-  Captura trabajo;  // rules of the Tramo over the copy of the state
 
   bool DpeAbierto() const { return dpe.has_value(); }
 };
@@ -96,8 +93,5 @@ inline bool PuedeCerrar(const Ajustes& a) {
 
 /// Whether what is chosen is another thing than what is stored for the Caso.
 bool HaySinGuardar(const Ajustes& a);
-
-/// Writes the screen again in the language and with the captions in force.
-void RenuevaTextos(Ajustes& a);
 
 }  // namespace zorbin

@@ -1,6 +1,7 @@
 #include "sesion/ajustes/mdPared.h"
 
 #include "calculo/armado/mdCamisa.h"
+#include "sesion/ajustes/mdFilas.h"
 
 namespace zorbin {
 
@@ -28,13 +29,13 @@ CapaDeBarras CapaPara(double area) {
 
 ParedDeTubo ParedElegida(const Ajustes& a) {
   const auto& d = a.t.comprobacion.datos;
-  const auto& r = a.t.e.caso.armado;
+  const auto& r = a.t.caso.Armado();
   ParedDeTubo p;
   p.Di = d.Di;
   p.Esp = d.Esp;
   p.Reci = d.Reci;
   p.Rece = d.Rece;
-  p.delDiseno = a.t.FilaElegida == kFilaResultado && !a.t.SeleccionDirecta;
+  p.delDiseno = SinDatos(a.t);
   p.CAMISA = p.delDiseno ? r.CAMISA : a.t.Disp.Camisa / kAreaPorMm;
   p.espiras = p.delDiseno ? Capa(r.FIIN, r.NESPIN) : CapaPara(a.t.Disp.Espiras);
   p.exteriores = p.delDiseno ? Capa(r.FIEX, r.NEXPEX) : CapaPara(a.t.Disp.Exterior);

@@ -2,13 +2,13 @@
 
 #include <array>
 #include <charconv>
-#include <cmath>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
+#include "sesion/ajustes/mdFilas.h"
 
 namespace zorbin {
 
@@ -72,17 +72,6 @@ int RotuloDeLinea(const Comprobacion& c, int j) {
   return c.traccionPura ? kTraccion[static_cast<std::size_t>(j)] : txt::AjSecciones[0] + j;
 }
 
-// Areas of a row before they are shown.
-Ajuste AreasExactas(const Ajustes& a, int fila) {
-  if (fila != kFilaResultado) {
-    const auto& x = a.t.tanteo.filas(fila);
-    return {x.Interior, 0.0, x.Exterior};
-  }
-  const auto& r = a.t.e.caso.armado;
-  if (r.HipotesisRige != kHipPPNeta) return {r.AreaCamisa, r.AreaEspiras, r.AreaExterior};
-  return {r.TablaHip(kHipPPNeta).AsInt, 0.0, r.TablaHip(kHipPPNeta).AsExt};
-}
-
 void MuestraAreas(Ajustes& a, int fila, const Ajuste& areas) {
   auto& f = a.t.pantalla.filas[static_cast<std::size_t>(fila)];
   f.txArmCamisa = Formato(a, areas.Camisa, kMascaraArea);
@@ -91,64 +80,16 @@ void MuestraAreas(Ajustes& a, int fila, const Ajuste& areas) {
   f.txArmTotal = Formato(a, areas.Camisa + areas.Espiras + areas.Exterior, kMascaraArea);
 }
 
-}  // namespace
-
-const std::string& Texto(const Ajustes& a, int entrada) {
-  return a.c.textos.Texto(entrada);
-}
-
-std::string Formato(const Ajustes& a, double valor, std::string_view mascara) {
-  return FormatoMascara(valor, mascara, a.c.SeparadorDecimal);
-}
-
-void Avisa(Ajustes& a, int texto) {
-  a.c.voz.Muestra(Texto(a, texto), Texto(a, txt::TituloAviso));
-}
-
-bool ValidaNumero(Ajustes& a, CampoAjuste campo, double minimo, double& destino, int etiqueta) {
-  const auto valor = NumeroTexto(a.t.pantalla.Texto(campo));
-  const bool numero = valor && std::fabs(*valor) <= kMayorTecleado;
-  if (numero && *valor >= minimo) {
-    destino = *valor;
-    return true;
-  }
-  a.c.voz.Muestra(Texto(a, numero ? txt::ValorIncorrecto : txt::NoEsValorNumerico),
-                  SinDosPuntos(Texto(a, etiqueta)));
-  return false;
-}
-
-void MuestraRotulos(Ajustes& a) {
-  auto& p = a.t.pantalla;
-  p.titulo = std::string(kSangriaTitulo, ' ') + Texto(a, txt::AjTitulo);
-  p.rotulo = Texto(a, txt::AjRotulo);
-  for (const auto& [boton, texto] : kTextosBotones) {
-    p.botones[static_cast<std::size_t>(boton)].texto = Texto(a, texto);
-  }
-  p.cabezas = {Texto(a, txt::AjCamisa), Texto(a, txt::AjRefuerzo), Texto(a, txt::AjExterior),
-               Texto(a, txt::AjTotal)};
-  p.filas[kFilaResultado].rotulo = Texto(a, txt::AjResultado);
-  p.filas[kFilaDirecta].rotulo = Texto(a, txt::AjDirecta);
-  p.rotuloNecesaria = Texto(a, txt::AjNecesaria);
-  p.rotuloDispuesta = Texto(a, txt::AjDispuesta);
-  p.rotuloPresion = Texto(a, txt::AjDP) + Texto(a, a.t.e.obra.EsSI() ? txt::AjMPa : txt::AjAt);
-  p.rotuloAltura = Texto(a, txt::AjAltura);
-  p.rotuloRecubrimientos = Texto(a, txt::AjRecubrimientos);
-  p.rotuloRecInterior = Texto(a, txt::AjRecInterior);
-  p.rotuloRecExterior = Texto(a, txt::AjRecExterior);
-  p.tbAviso = Texto(a, txt::DocAvisoRecubrimientos);
-  p.edAvisoCaldera = Texto(a, txt::AjAvisoCaldera);
-}
-
 void MuestraCaso(Ajustes& a) {
   auto& p = a.t.pantalla;
-  const double factor = a.t.e.obra.EsSI() ? kFactorTension : 1.0;
-  p.txPresion = Formato(a, a.t.PrsAjuste / factor, kMascaraArea);
-  p.txAltura = Formato(a, a.t.HrAjuste, kMascaraArea);
-  p.tbHRaCalcular = EnTotal(a.t.HrAjuste, a.c.SeparadorDecimal);
-  p.tbPRSaCalcular = EnTotal(a.t.PrsAjuste, a.c.SeparadorDecimal);
-  p.edAvisoCalderaVisible = a.t.e.caso.armado.HipotesisRige == kHipPPNeta;
+  const double factor = a.c.EsSI() ? kFactorTension : 1.0;
+  p.txPresion = Formato(a, a.t.fila.DP / factor, kMascaraArea);
+  p.txAltura = Formato(a, a.t.fila.Hr, kMascaraArea);
+  p.tbHRaCalcular = EnTotal(a.t.fila.Hr, a.c.SeparadorDecimal);
+  p.tbPRSaCalcular = EnTotal(a.t.fila.DP, a.c.SeparadorDecimal);
+  p.edAvisoCalderaVisible = a.t.fila.HipotesisRige == kHipPPNeta;
   p.avisosDelCaso.clear();
-  for (const auto& aviso : a.t.e.caso.avisos) {
+  for (const auto& aviso : a.t.caso.avisos) {
     if (aviso.fase == FaseAviso::Final) p.avisosDelCaso.push_back(TextoAviso(aviso, a.c.textos));
   }
 }
@@ -156,22 +97,13 @@ void MuestraCaso(Ajustes& a) {
 void MuestraFilas(Ajustes& a) {
   auto& filas = a.t.pantalla.filas;
   for (int i = kFilaResultado; i <= kFilasTanteo; ++i) {
-    MuestraAreas(a, i, AreasExactas(a, i));
+    MuestraAreas(a, i, AreasExactas(a.t, i));
     auto& fila = filas[static_cast<std::size_t>(i)];
     fila.utilizable = i == kFilaResultado || a.t.tanteo.filas(i).utilizable;
     if (i == kFilaResultado) continue;
     fila.rotulo = i == a.t.FilaTanteo ? Texto(a, txt::AjValorMedio) : std::string{};
   }
   filas[kFilaDirecta].utilizable = true;
-}
-
-void MuestraDirecta(Ajustes& a) {
-  MuestraAreas(a, kFilaDirecta, a.t.Dir);
-  auto& p = a.t.pantalla;
-  for (const auto campo :
-       {CampoAjuste::txArmCamisa, CampoAjuste::txArmRefuerzo, CampoAjuste::txArmExterior}) {
-    p.tocados[static_cast<std::size_t>(campo)] = false;
-  }
 }
 
 void MuestraComprobacion(Ajustes& a) {
@@ -189,9 +121,17 @@ void MuestraComprobacion(Ajustes& a) {
   }
 }
 
+// The alternative covers while they are typed or in force, otherwise those of the Tramo.
+void MuestraRecubrimientos(Ajustes& a) {
+  const bool otros = a.t.RecAltActivo || a.t.pantalla.estado == EstadoAjuste::Recubrimientos;
+  const auto& t = a.tramo.tramo;
+  Escribe(a, CampoAjuste::txRecInterior, otros ? a.t.RecIntAlt : t.Reci, kMascaraRecubrimiento);
+  Escribe(a, CampoAjuste::txRecExterior, otros ? a.t.RecExtAlt : t.Rece, kMascaraRecubrimiento);
+}
+
 void MuestraEstado(Ajustes& a) {
   auto& p = a.t.pantalla;
-  const bool alturas = a.t.e.corrida.Hr0Actual < a.t.e.corrida.Hr0FinalActual;
+  const bool alturas = a.tramo.rango.Hr0 < a.tramo.rango.Hr0Final;
   for (const auto& [boton, texto] : kTextosBotones) {
     p.botones[static_cast<std::size_t>(boton)].habilitado =
         p.estado == EstadoDelBoton(boton) && (alturas || !EsDeAlturas(boton));
@@ -212,14 +152,59 @@ void MuestraEstado(Ajustes& a) {
       p.estado == EstadoAjuste::Directa || a.t.SeleccionDirecta ? kFilaDirecta : a.t.FilaElegida;
 }
 
+}  // namespace
+
+const std::string& Texto(const Ajustes& a, int entrada) {
+  return a.c.textos.Texto(entrada);
+}
+
+std::string Formato(const Ajustes& a, double valor, std::string_view mascara) {
+  return FormatoMascara(valor, mascara, a.c.SeparadorDecimal);
+}
+
+void MuestraRotulos(Ajustes& a) {
+  auto& p = a.t.pantalla;
+  p.titulo = std::string(kSangriaTitulo, ' ') + Texto(a, txt::AjTitulo);
+  p.rotulo = Texto(a, txt::AjRotulo);
+  for (const auto& [boton, texto] : kTextosBotones) {
+    p.botones[static_cast<std::size_t>(boton)].texto = Texto(a, texto);
+  }
+  p.cabezas = {Texto(a, txt::AjCamisa), Texto(a, txt::AjRefuerzo), Texto(a, txt::AjExterior),
+               Texto(a, txt::AjTotal)};
+  p.filas[kFilaResultado].rotulo = Texto(a, txt::AjResultado);
+  p.filas[kFilaDirecta].rotulo = Texto(a, txt::AjDirecta);
+  p.rotuloNecesaria = Texto(a, txt::AjNecesaria);
+  p.rotuloDispuesta = Texto(a, txt::AjDispuesta);
+  p.rotuloPresion = Texto(a, txt::AjDP) + Texto(a, a.c.EsSI() ? txt::AjMPa : txt::AjAt);
+  p.rotuloAltura = Texto(a, txt::AjAltura);
+  p.rotuloRecubrimientos = Texto(a, txt::AjRecubrimientos);
+  p.rotuloRecInterior = Texto(a, txt::AjRecInterior);
+  p.rotuloRecExterior = Texto(a, txt::AjRecExterior);
+  p.tbAviso = Texto(a, txt::DocAvisoRecubrimientos);
+  p.edAvisoCaldera = Texto(a, txt::AjAvisoCaldera);
+}
+
+void MuestraDirecta(Ajustes& a) {
+  MuestraAreas(a, kFilaDirecta, a.t.Dir);
+  auto& p = a.t.pantalla;
+  for (const auto campo :
+       {CampoAjuste::txArmCamisa, CampoAjuste::txArmRefuerzo, CampoAjuste::txArmExterior}) {
+    p.tocados[static_cast<std::size_t>(campo)] = false;
+  }
+}
+
+void Muestra(Ajustes& a) {
+  MuestraCaso(a);
+  MuestraFilas(a);
+  MuestraDirecta(a);
+  MuestraComprobacion(a);
+  MuestraRecubrimientos(a);
+  MuestraEstado(a);
+}
+
 void Escribe(Ajustes& a, CampoAjuste campo, double valor, std::string_view mascara) {
   a.t.pantalla.Texto(campo) = Formato(a, valor, mascara);
   a.t.pantalla.tocados[static_cast<std::size_t>(campo)] = false;
-}
-
-Ajuste AreasDeFila(const Ajustes& a, int fila) {
-  const Ajuste x = AreasExactas(a, fila);
-  return {AreaMostrada(x.Camisa), AreaMostrada(x.Espiras), AreaMostrada(x.Exterior)};
 }
 
 }  // namespace zorbin

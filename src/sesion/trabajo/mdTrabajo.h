@@ -1,70 +1,95 @@
-// The work behind "Calcular el Tramo" and "Imprimir Obra": a run over the data of the capture, once
-// for the screen, as the text of its summary, and again for paper, as the sheets of a listing.
-//
-// A run works on a copy of the data, so that nothing of the capture changes however it ends: the
-// units and values on the screen are those a person typed. Nothing carries over from one call to
-// the next, nor from Tramo to Tramo of a whole Obra.
+// The work behind "Calcular el Tramo" and "Imprimir Obra", in three steps. What is to be calculated
+// is taken from the capture, with every message that a refusal has; it is calculated; and from the
+// results come the text of the summary and the sheets of a listing. Only the first step knows the
+// capture: the others have values of their own, and may go on another thread.
 #pragma once
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "core/resultado.h"
 #include "listados/obra/mdTipoListado.h"
 #include "persistencia/disco/mdLog.h"
 #include "sesion/captura/mdCaptura.h"
 
 namespace zorbin {
 
-/// How far a run has come. A Caso is about to be calculated.
+/// A Tramo to be calculated.
+struct TramoEncargado {
+  DatosTramo datos;
+  std::string numero;  // its text in the list
+};
+
+/// What is to be calculated, and in which words its results are told.
+struct Encargo {
+  std::vector<TramoEncargado> tramos;
+  Catalogo textos;
+  EstiloNumeros estilo;
+  std::string fichero;     // name of that of the Obra
+  std::string sinAjustes;  // why its hand adjustments were refused; empty where they were not
+  std::string detenido;    // which Tramo of the Obra was refused, and why; empty for none
+};
+
+/// mnCalculaTramo: validates Obra and Tramo in hand with messages.
+/// @return nothing where they are refused; why has been shown
+std::optional<Encargo> EncargaTramo(Captura& c);
+
+/// MnImprimir: refuses unsaved edits, validates the Obra, and takes its Tramos from the file one
+/// after another, each validated without moving the screen. Stops at the first that is refused (its
+/// message has been shown). The last one taken stays on the screen, being modified: whoever shows
+/// the capture has to draw it again, whatever comes of it.
+/// @param respira  called between Tramos, of which there may be hundreds
+/// @return nothing where the Obra is refused; why has been shown
+std::optional<Encargo> EncargaObra(Captura& c, const std::function<void()>& respira = {});
+
+/// How far a calculation has come. A Caso is about to be calculated, or written.
 struct Avance {
   int tramo = 0;       // as the listing numbers it
   int caso = 0;        // of this Tramo, from 1
   int casos = 0;       // expected of it; never below `caso`
-  int posicion = 1;    // of this Tramo among those of the run, from 1
-  int posiciones = 1;  // Tramos of the run
+  int posicion = 1;    // of this Tramo among those of the calculation, from 1
+  int posiciones = 1;  // Tramos of the calculation
 };
 
-/// Asked before each Caso whether the run goes on. false ends it.
+/// Asked before each Caso whether the work goes on. false ends it.
 using Sigue = std::function<bool(const Avance&)>;
 
-struct MediosTrabajo {
-  Sigue sigue = {};                                      // none: the run goes to its end
-  std::filesystem::path registros = CarpetaRegistros();  // folder of the debug log
-  Fecha fecha = Ahora();                                 // of the page heads
-};
-
 enum class FinTrabajo {
-  Completo,   // every Tramo was run, with arithmetic failures or without
-  NoEmpieza,  // refused before the first Caso; why has been shown
+  Completo,   // every Tramo was calculated, with arithmetic failures or without
   Detenido,   // a Tramo of the Obra was refused; those before it are done
   Cancelado,  // whoever was asked said no
 };
 
-struct ResultadoTrabajo {
+/// What came of it.
+struct Calculo {
+  Encargo encargo;  // its Tramos have moved to the results
   FinTrabajo fin = FinTrabajo::Completo;
-  std::string resumen;              // text of the summary; empty for a listing
-  std::vector<std::string> fallos;  // arithmetic failures, each with its place, a line each
-  std::string detenido;             // which Tramo was refused, and why
-  std::string aviso;                // debug log not written, adjustments not read; else empty
-  bool hayPostesado = false;        // a post-tensioned Tramo was run
+  std::vector<ResultadoTramo> tramos;
+  std::vector<std::string> numeros;  // their texts in the list
+  std::vector<std::string> fallos;   // of each; empty without a failure
+  Avance cancelado;                  // where it stood when it was given up
+  std::string sinRegistro;           // the debug log that could not be written; else empty
+
+  bool HayPostesado() const;
+  /// Arithmetic failures, each with its place, a line each.
+  std::vector<std::string> Fallos() const;
+  /// Debug log not written, adjustments not read; empty for neither.
+  std::string Aviso() const;
 };
 
-/// mnCalculaTramo, for the screen: validates Obra and Tramo in hand with messages, and runs it.
-ResultadoTrabajo ResumeTramo(Captura& c, const MediosTrabajo& medios);
+/// Calculates what was asked for. @param registros  folder of the debug log
+Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue = {},
+                       const std::filesystem::path& registros = CarpetaRegistros());
 
-/// MnImprimir, for the screen: refuses unsaved edits, validates the Obra, and takes its Tramos from
-/// the file one after another, each validated without moving the screen. Stops at the first that is
-/// refused (its message has been shown). The last one taken stays on the screen, being modified:
-/// whoever shows the capture has to draw it again, whatever the result.
-ResultadoTrabajo ResumeObra(Captura& c, const MediosTrabajo& medios);
+/// The text of the summary. Where whoever is asked says no it ends there, and the calculation
+/// counts as given up.
+std::string Resume(Calculo& calculo, const Sigue& sigue = {});
 
-/// The same runs for paper. The document is ended, so that what was done comes out, unless the run
-/// was cancelled: then the last sheet is missing.
-ResultadoTrabajo ListaTramo(const Captura& c, TipoListado tipo, DestinoHojas& hojas,
-                            const MediosTrabajo& medios);
-ResultadoTrabajo ListaObra(Captura& c, TipoListado tipo, DestinoHojas& hojas,
-                           const MediosTrabajo& medios);
+/// The sheets of a listing. @param fecha  of the page heads
+void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,
+                    const Fecha& fecha);
 
 }  // namespace zorbin

@@ -580,7 +580,7 @@ void frAjustes::keyPressEvent(QKeyEvent* suceso) {
 
 void frAjustes::reject() {
   if (PuedeCerrar(a_)) return Actua(btSalir);
-  zorbin::Avisa(a_, txt::AjAcepteORechace);
+  a_.c.voz.Muestra(T(txt::AjAcepteORechace), T(txt::TituloAviso));
 }
 
 }  // namespace zorbin

@@ -40,6 +40,30 @@ QString SinBarras(QString nombre) {
   return nombre.isEmpty() ? QStringLiteral("ZORBIN") : nombre;
 }
 
+// Sheets on their way to a destination: each is told, and none comes after the person gave up.
+class HojasContadas : public DestinoHojas {
+ public:
+  HojasContadas(DestinoHojas& destino, Marcha& marcha, const Catalogo& textos)
+      : destino_(destino), marcha_(marcha), textos_(textos) {}
+
+  void RecibeHoja(const Hoja& hoja) override {
+    marcha_.Exige();
+    destino_.RecibeHoja(hoja);
+    ++cuantas_;
+    if (marcha_.Espera()) {
+      marcha_.Di({textos_.Compone(txt::AvanceDelListado, {std::to_string(cuantas_)}), {}});
+    }
+  }
+
+  int cuantas() const { return cuantas_; }
+
+ private:
+  DestinoHojas& destino_;
+  Marcha& marcha_;
+  const Catalogo& textos_;
+  int cuantas_ = 0;
+};
+
 QString Frase(const Catalogo& textos, int n, const QString& a, const QString& b = {}) {
   return Q(textos.Compone(n, {S(a), S(b)}));
 }
@@ -68,10 +92,10 @@ QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& 
   return {};
 }
 
-bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
-                  const std::function<void()>& trabajo) {
+bool DiFallos(QWidget* padre, const Catalogo& textos, const QString& donde,
+              const std::function<void()>& accion) {
   try {
-    trabajo();
+    accion();
     return true;
   } catch (const DocumentoCancelado&) {
   } catch (const ErrorFuente& error) {
@@ -87,21 +111,38 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
   return false;
 }
 
+bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
+                  const TrabajoDocumento& trabajo) {
+  return DiFallos(padre, textos, donde,
+                  [&] { HazFaena(padre, textos, txt::ListadoEnCurso, trabajo); });
+}
+
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
+                  const Catalogo& textos) {
+  HojasContadas hojas(destino, marcha, textos);
+  documento(hojas);
+  marcha.Exige();
+  return hojas.cuantas() > 0;
+}
+
+void AvisaVacio(QWidget* padre, const Catalogo& textos) {
+  Avisa(padre, textos, Q(textos.Texto(txt::DocumentoVacio)));
+}
+
 bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
                const QString& nombre, const Documento& documento) {
   const QString ruta =
       PideNombreFichero(padre, textos, preferencias,
                         {txt::GuardarPdf, txt::FiltroPdf, QStringLiteral("pdf")}, nombre);
   if (ruta.isEmpty()) return false;
-  bool vacio = false;
-  const bool hecho = HazDocumento(padre, textos, ruta, [&] {
+  bool lleno = false;
+  const bool hecho = HazDocumento(padre, textos, ruta, [&](Marcha& marcha) {
     HojasPdf hojas(QFile::encodeName(ruta).toStdString(), S(nombre));
-    documento(hojas);
-    vacio = hojas.paginas() == 0;
-    if (!vacio) hojas.Cierra();
+    lleno = EscribeHojas(documento, hojas, marcha, textos);
+    if (lleno) hojas.Cierra();
   });
-  if (vacio) Avisa(padre, textos, Q(textos.Texto(txt::DocumentoVacio)));
-  return hecho && !vacio;
+  if (hecho && !lleno) AvisaVacio(padre, textos);
+  return hecho && lleno;
 }
 
 bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
@@ -110,7 +151,7 @@ bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferenc
       PideNombreFichero(padre, textos, preferencias,
                         {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
   if (ruta.isEmpty()) return false;
-  return HazDocumento(padre, textos, ruta, [&] {
+  return HazDocumento(padre, textos, ruta, [&](Marcha&) {
     FicheroSalida fichero(QFile::encodeName(ruta).toStdString());
     fichero.Escribe(texto);
     fichero.Termina();

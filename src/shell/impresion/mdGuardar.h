@@ -7,6 +7,7 @@
 #include <string>
 
 #include "base/mdCatalogo.h"
+#include "shell/piezas/mdFaena.h"
 #include "shell/piezas/mdImpresion.h"
 #include "shell/piezas/mdPreferencias.h"
 
@@ -32,9 +33,26 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
 bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
                  const QString& nombre, const std::string& texto);
 
-/// Makes a document, and shows what goes wrong. `donde` names the file or the printer in a refusal.
+/// Does something and shows what goes wrong. `donde` names the file or the printer in a refusal.
 /// @return whether it went well; false too when the person gave up
+bool DiFallos(QWidget* padre, const Catalogo& textos, const QString& donde,
+              const std::function<void()>& accion);
+
+/// What a document is made on, and handed over to, on the thread of the work.
+using TrabajoDocumento = std::function<void(Marcha&)>;
+
+/// Does it off the thread of the window, with a box to give up, and shows what goes wrong.
+/// @return as DiFallos
 bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
-                  const std::function<void()>& trabajo);
+                  const TrabajoDocumento& trabajo);
+
+/// Writes a document on its destination, page by page, telling how many there are.
+/// @return whether there is any; a document without pages is one that the person is told about
+/// @throws DocumentoCancelado, and whatever the document and its destination throw
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
+             const Catalogo& textos);
+
+/// There was nothing to print.
+void AvisaVacio(QWidget* padre, const Catalogo& textos);
 
 }  // namespace zorbin

@@ -1,12 +1,7 @@
 #include "shell/impresion/mdImpresora.h"
 
-#include <QEventLoop>
-#include <QGuiApplication>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
-#include <exception>
-#include <functional>
-#include <thread>
 
 #include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
@@ -34,25 +29,6 @@ QPageSize PapelDe(const QString& impresora) {
   const auto papeles = informe.supportedPageSizes();
   const QPageSize suyo = informe.defaultPageSize();
   return papeles.isEmpty() || papeles.contains(a4) || !suyo.isValid() ? a4 : suyo;
-}
-
-// While the server keeps silent the windows go on being painted. What is typed waits.
-void EnOtroHilo(const std::function<void()>& trabajo) {
-  std::exception_ptr fallo;
-  QEventLoop espera;
-  std::thread hilo([&] {
-    try {
-      trabajo();
-    } catch (...) {
-      fallo = std::current_exception();
-    }
-    QMetaObject::invokeMethod(&espera, &QEventLoop::quit, Qt::QueuedConnection);
-  });
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  espera.exec(QEventLoop::ExcludeUserInputEvents);
-  QGuiApplication::restoreOverrideCursor();
-  hilo.join();
-  if (fallo) std::rethrow_exception(fallo);
 }
 
 }  // namespace
@@ -88,30 +64,33 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
   // The printer gets a document that is whole, or nothing.
   const QTemporaryDir carpeta;
   const QString fichero = carpeta.filePath(QStringLiteral("listado.pdf"));
-  return HazDocumento(padre, textos_, fichero, [&] {
+  const QPageSize papel = impresoras_.papel(impresora);
+  const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
+                                 papel.id() == QPageSize::A4};
+  bool lleno = false;
+  const bool hecho = HazDocumento(padre, textos_, fichero, [&](Marcha& marcha) {
     if (!carpeta.isValid()) throw ErrorPintor(S(carpeta.errorString()));
-    const QPageSize papel = impresoras_.papel(impresora);
-    HojasPdf hojas(S(fichero), S(nombre), papel);
-    documento(hojas);
-    if (hojas.paginas() == 0) {
-      Avisa(padre, textos_, Q(textos_.Texto(txt::DocumentoVacio)));
-      throw DocumentoCancelado{};
-    }
+    HojasPdf hojas(trabajo.fichero, trabajo.titulo, papel);
+    lleno = EscribeHojas(documento, hojas, marcha, textos_);
+    if (!lleno) return;
     hojas.Cierra();
-    const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
-                                   papel.id() == QPageSize::A4};
-    EnOtroHilo([&] { impresoras_.entrega(trabajo); });
+    marcha.SinVuelta();
+    marcha.Exige();
+    impresoras_.entrega(trabajo);
   });
+  if (hecho && !lleno) AvisaVacio(padre, textos_);
+  return hecho && lleno;
 }
 
 void Impresora::VistaPrevia(QWidget* padre, const QString& nombre, const Documento& documento) {
   HojasEnMemoria todas;
-  if (!HazDocumento(padre, textos_, nombre, [&] { documento(todas); })) return;
-  if (todas.hojas.empty()) {
-    Avisa(padre, textos_, Q(textos_.Texto(txt::DocumentoVacio)));
-    return;
-  }
-  HazDocumento(padre, textos_, nombre, [&] {
+  bool llena = false;
+  const bool hecha = HazDocumento(padre, textos_, nombre, [&](Marcha& marcha) {
+    llena = EscribeHojas(documento, todas, marcha, textos_);
+  });
+  if (!hecha) return;
+  if (!llena) return AvisaVacio(padre, textos_);
+  DiFallos(padre, textos_, nombre, [&] {
     frVistaPrevia vista(textos_, preferencias_, *this, nombre, std::move(todas.hojas), padre);
     vista.exec();
   });

@@ -10,12 +10,9 @@ class QWidget;
 
 namespace zorbin {
 
-/// Writes a document on the sheets of a destination. It may throw DocumentoCancelado.
+/// Writes a document on the sheets of a destination, on a thread that is not the window's: it reads
+/// what nobody changes meanwhile, and shows nothing.
 using Documento = std::function<void(DestinoHojas&)>;
-
-/// The person gave up while a document was being made: nothing of it comes out, and nothing is
-/// said.
-struct DocumentoCancelado {};
 
 class ServicioImpresion {
  public:

@@ -20,6 +20,7 @@
 
 #include "base/textos.h"
 #include "shell/impresion/mdGuardar.h"
+#include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdBuscador.h"
 
@@ -27,14 +28,14 @@ namespace zorbin {
 
 namespace {
 
-constexpr std::size_t kTrozo = 256 * 1024;  // of the text, shown without the screen standing still
-constexpr int kMenorCuerpo = 6;             // [pt]
+constexpr std::size_t kTrozo = 32 * 1024;  // of the text, shown without the screen standing still
+constexpr int kMenorCuerpo = 6;            // [pt]
 constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;
+constexpr int kAireBoton = 18;  // round its text [pixels]
 constexpr std::array<int, kTiposListado> kRotulosListado{txt::Normal, txt::ListadoTabular,
                                                          txt::ListadoPantalla, txt::ListadoLame};
-constexpr int kAireBoton = 18;  // round its text [pixels]
 const QString kVentana = QStringLiteral("frEscribePantalla");
 const QString kCuerpo = QStringLiteral("Resumen/Cuerpo");
 
@@ -140,13 +141,20 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
     b->setMinimumWidth(b->sizeHint().width() + kAireBoton);
     connect(b, &QPushButton::clicked, this, accion);
     columna.addWidget(b);
+    return b;
+  };
+  const auto dePapel = [&](const char* nombre, int texto, auto accion) {
+    boton(nombre, texto, accion)->setEnabled(resumido_.conPapel);
   };
   auto& textos = entorno_.textos;
   auto& preferencias = entorno_.preferencias;
-  boton("btImprimeTramo", txt::BotonImprimir, [this] { Imprime(); });
-  boton("btVistaPrevia", txt::VistaPrevia,
-        [this] { entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento()); });
-  boton("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
+  dePapel("btImprimeTramo", txt::BotonImprimir, [this] { Imprime(); });
+  dePapel("btVistaPrevia", txt::VistaPrevia, [this] {
+    AvisaReparo();
+    entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento());
+  });
+  dePapel("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
+    AvisaReparo();
     GuardaPdf(this, textos, preferencias, NombreDocumento(), ElDocumento());
   });
   columna.addSpacing(12);
@@ -231,10 +239,16 @@ QString frEscribePantalla::NombreDocumento() const {
 }
 
 Documento frEscribePantalla::ElDocumento() const {
-  return [this, tipo = Tipo()](DestinoHojas& hojas) { resumido_.lista(tipo, hojas); };
+  return [lista = resumido_.lista, tipo = Tipo()](DestinoHojas& hojas) { lista(tipo, hojas); };
+}
+
+void frEscribePantalla::AvisaReparo() {
+  if (!resumido_.reparo.empty()) Avisa(this, entorno_.textos, Q(resumido_.reparo));
 }
 
 void frEscribePantalla::Imprime() {
+  if (!resumido_.conPapel) return;  // a key asks for it too
+  AvisaReparo();
   if (entorno_.impresion.Imprime(this, NombreDocumento(), ElDocumento())) accept();
 }
 

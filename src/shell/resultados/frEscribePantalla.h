@@ -18,11 +18,13 @@ class Buscador;
 
 /// What the screen is given.
 struct Resumido {
-  std::string texto;       // the summary
-  bool conLame = false;    // "Coef. Lamé" is offered
-  QString nombre;          // of the documents made from here
-  std::string aviso = {};  // said under the text; none when empty
-  /// Makes the listing of a kind; may throw DocumentoCancelado.
+  std::string texto;        // the summary
+  bool conLame = false;     // "Coef. Lamé" is offered
+  QString nombre;           // of the documents made from here
+  std::string aviso = {};   // said under the text; none when empty
+  bool conPapel = true;     // a listing is offered: nobody prints a part and takes it for the whole
+  std::string reparo = {};  // said before a listing is made; nothing when empty
+  /// Makes the listing of a kind, on a thread that is not the window's.
   std::function<void(TipoListado, DestinoHojas&)> lista = [](TipoListado, DestinoHojas&) {};
 };
 
@@ -58,6 +60,7 @@ class frEscribePantalla : public QDialog {
 
   QString NombreDocumento() const;
   Documento ElDocumento() const;
+  void AvisaReparo();
   void Imprime();
   void Copia();
 };

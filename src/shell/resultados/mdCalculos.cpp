@@ -1,32 +1,34 @@
 #include "shell/resultados/mdCalculos.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <filesystem>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/piezas/mdDialogos.h"
+#include "shell/piezas/mdFaena.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/frEscribePantalla.h"
-#include "shell/resultados/mdProgreso.h"
 
 namespace zorbin {
 
 namespace {
 
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
+constexpr qint64 kRespiro = 20;            // of the window, while Tramos are taken [ms]
 
-/// A run, watched by a box of progress.
-using Faena = std::function<ResultadoTrabajo(const MediosTrabajo&)>;
-
-ResultadoTrabajo ConProgreso(const Entorno& entorno, QWidget* padre, const Faena& faena) {
-  CajaProgreso caja(entorno.textos, padre);
-  MediosTrabajo medios;
-  medios.sigue = [&caja](const Avance& avance) { return caja.Sigue(avance); };
-  return faena(medios);
+Marcha::Dicho Dice(const Avance& a, const Catalogo& textos) {
+  const double delTramo = (a.caso - 1.0) / a.casos;
+  return {textos.Compone(a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo,
+                         {TextoEntero(a.tramo), std::to_string(a.caso), std::to_string(a.casos),
+                          std::to_string(a.posicion), std::to_string(a.posiciones)}),
+          (a.posicion - 1 + delTramo) / a.posiciones};
 }
 
-void DiFallos(const Entorno& entorno, QWidget* padre, const std::vector<std::string>& fallos) {
+void MuestraFallos(const Entorno& entorno, QWidget* padre, const Calculo& calculo) {
+  const auto fallos = calculo.Fallos();
   if (fallos.empty()) return;
   std::string texto;
   for (std::size_t i = 0; i < fallos.size() && i < kFallosDichos; ++i) texto += fallos[i] + "\n";
@@ -37,38 +39,33 @@ void DiFallos(const Entorno& entorno, QWidget* padre, const std::vector<std::str
   Avisa(padre, entorno.textos, Q(texto), Rotulo(entorno.textos.Texto(txt::ErrorEnEjecucion)));
 }
 
-// What is done with a summary: the run for the screen, and the one for each listing.
-struct Calculo {
-  Faena resume;
-  std::function<ResultadoTrabajo(TipoListado, DestinoHojas&, const MediosTrabajo&)> lista;
-};
-
-// The listing for a screen that waits; a Tramo that stopped it is told.
-void Lista(const Entorno& entorno, QWidget* padre, const Calculo& calculo, TipoListado tipo,
-           DestinoHojas& hojas) {
-  const auto r = ConProgreso(entorno, padre, [&](const MediosTrabajo& medios) {
-    return calculo.lista(tipo, hojas, medios);
-  });
-  if (r.fin == FinTrabajo::NoEmpieza || r.fin == FinTrabajo::Cancelado) throw DocumentoCancelado{};
-  if (r.fin == FinTrabajo::Detenido) {
-    Avisa(padre, entorno.textos, Q(entorno.textos.Compone(txt::ListadoDetenido, {r.detenido})));
-  }
+// What the summary says that a listing of it will not have.
+std::string Reparo(const Calculo& calculo) {
+  if (calculo.fin != FinTrabajo::Detenido) return {};
+  return calculo.encargo.textos.Compone(txt::ListadoDetenido, {calculo.encargo.detenido});
 }
 
-void Calcula(const Entorno& entorno, QWidget* padre, const std::function<QString()>& nombre,
-             const Calculo& calculo) {
-  auto r = ConProgreso(entorno, padre, calculo.resume);
-  if (r.fin == FinTrabajo::NoEmpieza) return;
-  DiFallos(entorno, padre, r.fallos);
-  QWidget* pantalla = padre;  // the summary, once it is there
-  frEscribePantalla resumen(entorno,
-                            {std::move(r.resumen), r.hayPostesado, nombre(), std::move(r.aviso),
-                             [&](TipoListado tipo, DestinoHojas& hojas) {
-                               Lista(entorno, pantalla, calculo, tipo, hojas);
-                             }},
-                            padre);
-  pantalla = &resumen;
-  resumen.exec();
+void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
+                     const QString& nombre) {
+  Calculo calculo;
+  std::string resumen;
+  HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](Marcha& marcha) {
+    const auto sigue = [&](const Avance& avance) {
+      if (marcha.Espera()) marcha.Di(Dice(avance, entorno.textos));
+      return marcha.Sigue();
+    };
+    calculo = CalculaEncargo(std::move(encargo), sigue);
+    resumen = Resume(calculo, sigue);
+  });
+  MuestraFallos(entorno, padre, calculo);
+  const auto lista = [&calculo](TipoListado tipo, DestinoHojas& hojas) {
+    EscribeListado(calculo, tipo, hojas, Ahora());
+  };
+  frEscribePantalla(entorno,
+                    {std::move(resumen), calculo.HayPostesado(), nombre, calculo.Aviso(),
+                     calculo.fin != FinTrabajo::Cancelado, Reparo(calculo), lista},
+                    padre)
+      .exec();
 }
 
 std::string NombreObra(const Captura& c) {
@@ -78,23 +75,24 @@ std::string NombreObra(const Captura& c) {
 }  // namespace
 
 void CalculaElTramo(Captura& c, const Entorno& entorno, QWidget* padre) {
-  const auto nombre = [&] {
-    return Q(entorno.textos.Compone(txt::NombreDelTramo,
-                                    {NombreObra(c), TextoEntero(c.e.tramo.NumeroTramo)}));
-  };
-  Calcula(entorno, padre, nombre,
-          {[&c](const MediosTrabajo& medios) { return ResumeTramo(c, medios); },
-           [&c](TipoListado tipo, DestinoHojas& hojas, const MediosTrabajo& medios) {
-             return ListaTramo(c, tipo, hojas, medios);
-           }});
+  auto encargo = EncargaTramo(c);
+  if (!encargo) return;
+  const auto nombre = entorno.textos.Compone(txt::NombreDelTramo,
+                                             {NombreObra(c), TextoEntero(c.e.tramo.NumeroTramo)});
+  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(nombre));
 }
 
 void ImprimeLaObra(Captura& c, const Entorno& entorno, QWidget* padre) {
-  Calcula(entorno, padre, [&c] { return Q(NombreObra(c)); },
-          {[&c](const MediosTrabajo& medios) { return ResumeObra(c, medios); },
-           [&c](TipoListado tipo, DestinoHojas& hojas, const MediosTrabajo& medios) {
-             return ListaObra(c, tipo, hojas, medios);
-           }});
+  QElapsedTimer reloj;
+  reloj.start();
+  // What is typed waits: nobody touches the capture that the Tramos pass through.
+  auto encargo = EncargaObra(c, [&reloj] {
+    if (reloj.elapsed() < kRespiro) return;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    reloj.restart();
+  });
+  if (!encargo) return;
+  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(NombreObra(c)));
 }
 
 }  // namespace zorbin

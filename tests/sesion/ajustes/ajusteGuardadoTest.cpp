@@ -9,11 +9,11 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "comun/estadoDeJson.h"
-#include "comun/listado.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/datos/mdJson.h"
-#include "listados/obra/mdResumen.h"
-#include "persistencia/zrb/mdZrb.h"
+#include "listados/obra/mdTipoListado.h"
+#include "listados/papel/mdHojasTexto.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "sesion/ajustes/banco.h"
 #include "sesion/ajustes/mdAjuste.h"
 
@@ -149,19 +149,18 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   b.Directa("21,3", "4,4", "19,7");
   b.Pulsa(btAceptarAjuste);
 
-  EstadoCalculo e;
-  const auto obra = AbreObra(e, b.obra);
-  const PeticionCalculo peticion{{1}, b.registros, {}, {}};
+  const auto proyecto = LeeProyecto(b.obra);
+  const auto pedido = TramosPedidos(proyecto, {1}).at(0);
+  const auto datos = DatosDeCalculo(proyecto.obra, pedido.tramo, proyecto.ajustes);
+  const auto r = CalculaTramo(datos, RangoDe(datos));
+  const EstiloNumeros estilo{true, ','};
   std::ostringstream json;
-  {
-    ListadoJson lector(json, "o.zrb", b.textos, {true, ','});
-    lector.EmpiezaObra(e);
-    CalculaObra(e, obra, peticion, lector);
-    lector.AcabaObra();
-  }
-  const auto casos = nlohmann::json::parse(json.str())["tramos"][0]["casos"];
+  ListadoJson lector(json, "o.zrb", {{1, pedido.tramo}}, b.textos, estilo);
+  lector.EmpiezaObra(proyecto.obra);
+  lector.Tramo(r, 1, "1", {});
+  lector.AcabaObra();
   int ajustados = 0;
-  for (const auto& caso : casos) {
+  for (const auto& caso : nlohmann::json::parse(json.str())["tramos"][0]["casos"]) {
     const auto& armado = caso["armado"];
     if (!armado["HayAjuste"].get<bool>()) continue;
     ++ajustados;
@@ -173,21 +172,24 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   }
   EXPECT_EQ(ajustados, 1);
 
-  // The same state through the listings on paper and the summary.
-  CargaTramo(e, obra.fichero, 1);
-  e.tramo.NumeroTramo = 1;
-  const auto cuenta = [](const std::string& texto, const std::string& que) {
-    int n = 0;
-    for (auto i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++n;
-    return n;
+  struct EnPapel {
+    TipoListado tipo;
+    std::string texto;
   };
-  const auto tabular = pruebas::ListadoDe({e}, "tabular");
-  EXPECT_EQ(cuenta(tabular, "21,3      4,4    25,7             19,7         45,4"), 1) << tabular;
-  const auto normal = pruebas::ListadoDe({e}, "normal");
-  EXPECT_EQ(cuenta(normal, "25,7 cm2/m"), 1);
-  EXPECT_EQ(cuenta(normal, "45,4 cm2/m"), 1);
-  const auto pantalla = pruebas::ListadoDe({e}, "pantalla");
-  EXPECT_EQ(cuenta(pantalla, "45,40"), 1);
+  for (const auto& [tipo, texto] :
+       {EnPapel{TipoListado::Tabular, "21,3      4,4    25,7             19,7         45,4"},
+        {TipoListado::Normal, "25,7 cm2/m"},
+        {TipoListado::Normal, "45,4 cm2/m"},
+        {TipoListado::Pantalla, "45,40"}}) {
+    std::ostringstream salida;
+    HojasTexto hojas(salida);
+    Papel papel(hojas, OrientacionDe(tipo));
+    CreaListado(tipo, {papel, b.textos, estilo, {}})->Tramo(r, 1, "1", {});
+    papel.FinDocumento();
+    const auto donde = salida.str().find(texto);
+    EXPECT_NE(donde, std::string::npos) << texto;
+    EXPECT_EQ(salida.str().find(texto, donde + 1), std::string::npos) << texto;
+  }
 }
 
 // The file keeps the number of the Tramo, not its place in the list.

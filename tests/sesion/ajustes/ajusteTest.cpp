@@ -397,7 +397,7 @@ TEST(Ajuste, SeRecorrenLasAlturasYLasPresiones) {
   b.Pulsa(btAnteriorAltura);
   b.Pulsa(btAnteriorPresion);
   EXPECT_EQ(esta(), "3/5");
-  EXPECT_EQ(b.a->t.e.caso.armado.HayAjuste(), false);
+  EXPECT_FALSE(b.a->t.fila.ajustado);
 }
 
 // The step is that of the run: for a Tramo with pressures of its own, its own. 0.3 to 0.5 MPa in
@@ -460,7 +460,7 @@ TEST(Ajuste, EnTraccionPuraSeAvisaYSeComparanLasCaras) {
   EXPECT_TRUE(b.p().edAvisoCalderaVisible);
   EXPECT_TRUE(b.p().edAvisoCaldera.starts_with("EL CASO CALCULADO COMO PÉSIMO"));
   // Row 1 of the table, not the bars that another hypothesis left.
-  const auto& T = b.a->t.e.caso.armado.TablaHip(1);
+  const auto& T = b.a->t.caso.Armado().TablaHip(1);
   EXPECT_EQ(b.a->t.Disp.Camisa, AreaMostrada(T.AsInt));
   EXPECT_EQ(b.Linea(0), "EXTERIOR 15,00 7,86 !");
   EXPECT_EQ(b.Linea(1), "INTERIOR 7,86 15,00");
