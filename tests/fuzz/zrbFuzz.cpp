@@ -27,32 +27,11 @@ const TablasCatalogo& Tablas() {
 
 // ---- The state
 
-constexpr auto kNumerosObra = std::to_array(
-    {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
-     &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI});
-constexpr auto kNumerosTramo =
-    std::to_array({&Tramo::Adato,       &Tramo::Coepre1,     &Tramo::CamMax,     &Tramo::Fck,
-                   &Tramo::Fct,         &Tramo::Fyk,         &Tramo::Fyd,        &Tramo::GamaB,
-                   &Tramo::Delca,       &Tramo::Es,          &Tramo::Ep,         &Tramo::Fckno,
-                   &Tramo::Fckn,        &Tramo::Fckr,        &Tramo::SFck,       &Tramo::Sf,
-                   &Tramo::FYKPost,     &Tramo::Rel,         &Tramo::Fic,        &Tramo::Fir,
-                   &Tramo::Epsc,        &Tramo::Epsr,        &Tramo::Di,         &Tramo::De,
-                   &Tramo::Esp,         &Tramo::Reci,        &Tramo::Rece,       &Tramo::Gc,
-                   &Tramo::B0,          &Tramo::Gr,          &Tramo::Fi,         &Tramo::Hr1,
-                   &Tramo::QDato,       &Tramo::Prs1Tram,    &Tramo::Prs2Tram,   &Tramo::Prs3Tram,
-                   &Tramo::PrsM1Tram,   &Tramo::PrsM2Tram,   &Tramo::Hr0Tramo,   &Tramo::Hr0Final,
-                   &Tramo::Hr0Delta,    &Tramo::Prs1TramSI,  &Tramo::Prs2TramSI, &Tramo::Prs3TramSI,
-                   &Tramo::PrsM1TramSI, &Tramo::PrsM2TramSI, &Tramo::FckSI,      &Tramo::FctSI,
-                   &Tramo::FykSI,       &Tramo::FydSI,       &Tramo::QDatoSI,    &Tramo::EsSI,
-                   &Tramo::EpSI,        &Tramo::FcknoSI,     &Tramo::FcknSI,     &Tramo::FckrSI,
-                   &Tramo::SFckSI,      &Tramo::SfSI,        &Tramo::FYKPostSI});
-
-void ExigeFinitos(const Obra& o) {
-  for (const auto campo : kNumerosObra) Exige(std::isfinite(o.*campo), "the Obra holds numbers");
-}
-
-void ExigeFinitos(const Tramo& t) {
-  for (const auto campo : kNumerosTramo) Exige(std::isfinite(t.*campo), "the Tramo holds numbers");
+template <class Bloque>
+void ExigeFinitos(const Bloque& b) {
+  RecorreNumeros<Bloque>([&](const Ficha& ficha, double Bloque::*campo) {
+    Exige(std::isfinite(b.*campo), "data are numbers", std::string(ficha.nombre));
+  });
 }
 
 // ---- The run

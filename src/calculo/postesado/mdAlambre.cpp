@@ -1,11 +1,12 @@
 #include "calculo/postesado/mdAlambre.h"
 
+#include "core/campos/tramo.h"
+
 namespace zorbin {
 
 namespace {
 
 constexpr double kPiFuerza = 3.14159265;     // π of the force of a wire; its section has another
-constexpr std::int16_t kRevestida = 2221;    // Tipologia with lined cylinder
 constexpr double kFraccionPerdonada = 0.02;  // of a spiral [1/m]
 constexpr int kAlambre5mm = 2;               // the thinnest that is wound
 constexpr double kReserva = 0.9;             // on the greatest force of the second and third wire

@@ -8,7 +8,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr std::int16_t kRevestida = 2221;        // Tipologia with lined cylinder
 constexpr double kEscalaChapa = 1000.0;          // of the stress of the cylinder, as told
 constexpr int kHipotesisHormigon = 6;            // the one whose concrete is checked
 constexpr double kFraccionHormigon = 0.6;        // of the strength in compression [-]
