@@ -7,9 +7,8 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kGrado = kPi / 180.0;     // [rad]
-constexpr double kRazonComparacion = 0.5;  // settlement ratio of the comparison load [-]
-constexpr double kTolNewton = 0.00001;     // [-]
+constexpr double kGrado = kPi / 180.0;  // [rad]
+constexpr double kTolNewton = 0.00001;  // [-]
 
 double Exp(double x) {
   return Finito(std::exp(x));
@@ -35,14 +34,6 @@ Suelo TerminosSuelo(double Fi) {
   const double Ka = t * t;
   const double Mu = TanGrados(Fi);
   return {Ka, Mu, (Ka + Ka) * Mu};
-}
-
-// Settlement coefficient of the negative projection by the projection ratio p.
-double CoefAsentamiento(double p) {
-  if (p < 0.5) return -0.1;
-  if (p < 1.5) return (0.5 - p) * 0.4 - 0.1;
-  if (p < 2.0) return 1.0 - p;
-  return -1.0;
 }
 
 // The load that governs of the laying's own one (q.Q so far) and the embankment load Qt.
@@ -118,6 +109,13 @@ double CoefRelleno(std::int16_t TipoRelleno) {
 
 double RazonAsentamiento(std::int16_t IAs) {
   return kAsentamiento(IAs);
+}
+
+double CoefAsentamiento(double p) {
+  if (p < 0.5) return -0.1;
+  if (p < 1.5) return (0.5 - p) * 0.4 - 0.1;
+  if (p < 2.0) return 1.0 - p;
+  return -1.0;
 }
 
 double CoefZanja(double Kmu, double H, double B) {
