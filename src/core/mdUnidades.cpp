@@ -2,62 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
 
 namespace zorbin {
 
 namespace {
-
-template <class T>
-struct Gemelo {
-  double T::*campo;
-  double T::*si;
-  double factor;
-};
-
-constexpr std::array<Gemelo<Obra>, 5> kGemelosObra{{
-    {&Obra::Prs1, &Obra::Prs1SI, kFactorTension},
-    {&Obra::Prs2, &Obra::Prs2SI, kFactorTension},
-    {&Obra::Prs3, &Obra::Prs3SI, kFactorTension},
-    {&Obra::PrsM1, &Obra::PrsM1SI, kFactorTension},
-    {&Obra::PrsM2, &Obra::PrsM2SI, kFactorTension},
-}};
-
-// Fct is not here: it follows from Fck in each unit.
-constexpr std::array<Gemelo<Tramo>, 17> kGemelosTramo{{
-    {&Tramo::Prs1Tram, &Tramo::Prs1TramSI, kFactorTension},
-    {&Tramo::Prs2Tram, &Tramo::Prs2TramSI, kFactorTension},
-    {&Tramo::Prs3Tram, &Tramo::Prs3TramSI, kFactorTension},
-    {&Tramo::PrsM1Tram, &Tramo::PrsM1TramSI, kFactorTension},
-    {&Tramo::PrsM2Tram, &Tramo::PrsM2TramSI, kFactorTension},
-    {&Tramo::Fck, &Tramo::FckSI, kFactorTension},
-    {&Tramo::Fyk, &Tramo::FykSI, kFactorTension},
-    {&Tramo::Fyd, &Tramo::FydSI, kFactorTension},
-    {&Tramo::QDato, &Tramo::QDatoSI, kFactorCarga},
-    {&Tramo::Es, &Tramo::EsSI, kFactorTension},
-    {&Tramo::Ep, &Tramo::EpSI, kFactorTension},
-    {&Tramo::Fckno, &Tramo::FcknoSI, kFactorTension},
-    {&Tramo::Fckn, &Tramo::FcknSI, kFactorTension},
-    {&Tramo::Fckr, &Tramo::FckrSI, kFactorTension},
-    {&Tramo::SFck, &Tramo::SFckSI, kFactorTension},
-    {&Tramo::Sf, &Tramo::SfSI, kFactorTension},
-    {&Tramo::FYKPost, &Tramo::FYKPostSI, kFactorTension},
-}};
-
-template <class T, std::size_t N>
-void AMks(T& bloque, const std::array<Gemelo<T>, N>& gemelos, bool pantallaEnSI) {
-  for (const auto& g : gemelos) {
-    const auto par = Pareja(bloque.*g.campo, pantallaEnSI, g.factor);
-    bloque.*g.campo = par.mks;
-    bloque.*g.si = par.si;
-  }
-}
-
-template <class T, std::size_t N>
-void ASI(T& bloque, const std::array<Gemelo<T>, N>& gemelos) {
-  for (const auto& g : gemelos) bloque.*g.campo = bloque.*g.si;
-}
 
 // The captured increment is one of MDP; the loop steps DP.
 void CalculaIncDP(EstadoCalculo& e) {
@@ -65,31 +14,6 @@ void CalculaIncDP(EstadoCalculo& e) {
   const double inc = incMDP / e.corrida.PendienteMDP;
   e.corrida.IncDPIndefinido = !std::isfinite(inc);
   e.corrida.IncDP = e.corrida.IncDPIndefinido || inc == 0.0 ? 0.0 : inc;
-}
-
-void ParaCalculo(EstadoCalculo& e) {
-  const bool si = e.obra.EsSI();
-  e.corrida.ParaCalculoActivo = true;
-  AMks(e.obra, kGemelosObra, si);
-  AMks(e.tramo, kGemelosTramo, si);
-  if (si) e.tramo.Fct = FctDeFck(e.tramo.Fck);
-  e.tramo.FctSI = FctDeFck(e.tramo.FckSI);
-  EligePresiones(e);
-  CalculaIncDP(e);
-}
-
-void ParaPantalla(EstadoCalculo& e) {
-  e.corrida.ParaCalculoActivo = false;
-  if (!e.obra.EsSI()) return;
-  ASI(e.obra, kGemelosObra);
-  ASI(e.tramo, kGemelosTramo);
-  e.tramo.Fct = FctDeFck(e.tramo.FckSI);
-}
-
-bool IgualSinCaja(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
-    return std::tolower(x) == std::tolower(y);
-  });
 }
 
 // What a conversion does under SI (value, unit, change of decimals) and under MKS. With
@@ -120,10 +44,6 @@ constexpr std::array<Conversion, 9> kConversiones{{
 // clang-format on
 
 }  // namespace
-
-double FctDeFck(double Fck) {
-  return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0);
-}
 
 void EligeAlturas(EstadoCalculo& e) {
   auto& c = e.corrida;
@@ -164,17 +84,20 @@ void EligePresiones(EstadoCalculo& e) {
   c.PendienteMDP = std::isfinite(pendiente) ? pendiente : 0.0;
 }
 
-ParUnidades Pareja(double valorPantalla, bool pantallaEnSI, double factor) {
-  if (pantallaEnSI) return {valorPantalla * factor, valorPantalla};
-  return {valorPantalla, valorPantalla / factor};
+EnUnidadesDeCalculo::EnUnidadesDeCalculo(EstadoCalculo& e) : e_(e), obra_(e.obra), tramo_(e.tramo) {
+  e.corrida.ParaCalculoActivo = true;
+  e.tramo = TramoEnCalculo(tramo_, obra_.EsSI());
+  e.obra = ObraEnCalculo(obra_);
+  EligePresiones(e);
+  CalculaIncDP(e);
 }
 
-void PreparaUnidades(EstadoCalculo& e, std::string_view modo) {
-  if (IgualSinCaja(modo, "ParaCalculo")) {
-    ParaCalculo(e);
-  } else if (IgualSinCaja(modo, "ParaPantalla")) {
-    ParaPantalla(e);
-  }
+EnUnidadesDeCalculo::~EnUnidadesDeCalculo() {
+  e_.corrida.ParaCalculoActivo = false;
+  if (!obra_.EsSI()) return;
+  RecuperaUnidades(e_.obra, obra_);
+  RecuperaUnidades(e_.tramo, tramo_);
+  e_.tramo.Fct = FctDeFck(tramo_.Fck);
 }
 
 double Convierte(double valor, std::string_view conversion, bool si, std::string& unidad,

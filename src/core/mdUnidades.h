@@ -1,24 +1,17 @@
-// Unit systems: the switch of the state between screen and calculation units, and the named
-// conversions of the listings. 1 MPa counts as 10 at and as 10 kp/cm2, by design.
+// Unit systems: the state in calculation units, and the named conversions of the listings.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "core/campos/mdDatos.h"
 #include "core/estado_calculo.h"
 
 namespace zorbin {
 
-inline constexpr double kFactorTension = 10.0;  // MPa to at or kp/cm2
-inline constexpr double kFactorCarga = 100.0;   // MPa to t/m2, for QDato
-inline constexpr double kFactorFuerza = 10.0;   // t to kN, and kp to N
-inline constexpr double kRelacionMDPDP = 1.1;   // default MDP / DP of the capture [-]
-
-/// Tensile strength from the compressive one: 0.45 (Fck Fck)^(1/3). The formula is applied to
-/// each unit as it stands, so the value in MPa is not a tenth of the one in kp/cm2; that
-/// difference is kept on purpose.
-double FctDeFck(double Fck);
+inline constexpr double kFactorFuerza = 10.0;  // t to kN, and kp to N
+inline constexpr double kRelacionMDPDP = 1.1;  // default MDP / DP of the capture [-]
 
 /// Takes the fill heights in force: the Tramo's own, or the Obra's where it has none.
 /// Writes Hr, Hr0Actual, Hr0FinalActual [m] and, with the Obra's heights, Hr0Delta.
@@ -39,31 +32,21 @@ std::optional<double> AlturaAnterior(double h, double paso, double primera);
 /// that the state holds. A slope that is not finite becomes 0, which leaves the step undefined.
 void EligePresiones(EstadoCalculo& e);
 
-/// "ParaCalculo" brings the state to calculation units and finds the pressure step IncDP;
-/// "ParaPantalla" brings it back to the units of the Obra. Case does not matter. The calls go in
-/// pairs: use EnUnidadesDeCalculo.
-void PreparaUnidades(EstadoCalculo& e, std::string_view modo);
-
-/// Holds the state in calculation units while it lives, whatever ends its life.
+/// Holds the state in calculation units while it lives, whatever ends its life; the pressures in
+/// force and their step are then found. Afterwards the data that depend on the system have the
+/// values of before, and Fct under SI is the one that follows from Fck.
 class EnUnidadesDeCalculo {
  public:
-  explicit EnUnidadesDeCalculo(EstadoCalculo& e) : e_(e) { PreparaUnidades(e_, "ParaCalculo"); }
-  ~EnUnidadesDeCalculo() { PreparaUnidades(e_, "ParaPantalla"); }
+  explicit EnUnidadesDeCalculo(EstadoCalculo& e);
+  ~EnUnidadesDeCalculo();
   EnUnidadesDeCalculo(const EnUnidadesDeCalculo&) = delete;
   EnUnidadesDeCalculo& operator=(const EnUnidadesDeCalculo&) = delete;
 
  private:
   EstadoCalculo& e_;
+  Obra obra_;
+  Tramo tramo_;
 };
-
-/// A value in both systems.
-struct ParUnidades {
-  double mks;
-  double si;
-};
-
-/// Both values of a field that the screen holds in one of the systems.
-ParUnidades Pareja(double valorPantalla, bool pantallaEnSI, double factor);
 
 /// `valor` by one of the conversions "", "at->MPa", "Kp/cm2->MPa", "T/M2->MPa", "T/M2->kN/M2",
 /// "T->kN", "mT->mkN", "kp/cm->N/cm", "kp.cm/cm->N.m/cm". Writes the unit text and may change the

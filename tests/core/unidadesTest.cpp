@@ -50,14 +50,13 @@ TEST(Unidades, LaCorridaVeMksYLaPantallaRecuperaLoSuyo) {
     EXPECT_TRUE(e.corrida.ParaCalculoActivo);
     EXPECT_DOUBLE_EQ(e.obra.Prs1, 6);
     EXPECT_DOUBLE_EQ(e.tramo.Fck, 350);
-    EXPECT_NEAR(e.tramo.Fct, 22.349, 1e-3);   // 0.45·350^(2/3)
-    EXPECT_NEAR(e.tramo.FctSI, 4.815, 1e-3);  // 0.45·35^(2/3), not a tenth of the other
-    EXPECT_DOUBLE_EQ(e.tramo.QDato, 5);       // t/m2
-    EXPECT_DOUBLE_EQ(e.corrida.IncDP, 1.2);   // no pressure range: the slope is 1
+    EXPECT_NEAR(e.tramo.Fct, 22.349, 1e-3);  // 0.45·350^(2/3)
+    EXPECT_DOUBLE_EQ(e.tramo.QDato, 5);      // t/m2
+    EXPECT_DOUBLE_EQ(e.corrida.IncDP, 1.2);  // no pressure range: the slope is 1
   }
   EXPECT_EQ(e.obra.Prs1, antes.obra.Prs1);
   EXPECT_EQ(e.tramo.Fck, 35);
-  EXPECT_DOUBLE_EQ(e.tramo.Fct, antes.tramo.Fct);
+  EXPECT_NEAR(e.tramo.Fct, 4.815, 1e-3);  // 0.45·35^(2/3), not a tenth of the other
   EXPECT_EQ(e.tramo.QDato, 0.05);
 
   e.obra.SisUnid = "MKS";
@@ -65,7 +64,6 @@ TEST(Unidades, LaCorridaVeMksYLaPantallaRecuperaLoSuyo) {
   const EnUnidadesDeCalculo dentro(e);
   EXPECT_EQ(e.tramo.Fck, 35);
   EXPECT_EQ(e.tramo.Fct, 22);  // left as it is
-  EXPECT_EQ(e.tramo.FckSI, 3.5);
 }
 
 // Which pressures apply is decided by four fields, which increment by two.
@@ -74,19 +72,19 @@ TEST(Unidades, RangoYPasoDePresiones) {
   e.obra.SisUnid = "MKS";
   e.obra.Prs1 = 4, e.obra.Prs2 = 6, e.obra.PrsM1 = 5, e.obra.PrsM2 = 9, e.obra.Prs3 = 2;
   e.tramo.Prs3Tram = 3;
-  PreparaUnidades(e, "paracalculo");
+  { const EnUnidadesDeCalculo dentro(e); }
   EXPECT_EQ(e.corrida.PendienteMDP, 2);
   EXPECT_EQ(e.corrida.IncDP, 1);
   e.tramo.PrsM2Tram = 8;  // only an MDP of its own: the range is the Tramo's, the step the Obra's
-  PreparaUnidades(e, "PARACALCULO");
+  { const EnUnidadesDeCalculo dentro(e); }
   EXPECT_EQ(e.corrida.DPFin, 0);
   EXPECT_EQ(e.corrida.PendienteMDP, 1);
   EXPECT_EQ(e.corrida.IncDP, 2);
   e.tramo.Prs2Tram = 4;
-  PreparaUnidades(e, "ParaCalculo");
+  { const EnUnidadesDeCalculo dentro(e); }
   EXPECT_EQ(e.corrida.IncDP, 1.5);
   e.tramo.PrsM1Tram = 8;  // a range of DP without one of MDP
-  PreparaUnidades(e, "ParaCalculo");
+  { const EnUnidadesDeCalculo dentro(e); }
   EXPECT_TRUE(e.corrida.IncDPIndefinido);
 }
 

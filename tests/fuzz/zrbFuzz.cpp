@@ -23,26 +23,11 @@ constexpr std::size_t kMaxTramosUsados = 2;  // of an Obra
 
 // ---- The state
 
-// clang-format off
-constexpr auto kGemelosObra = std::to_array(
-    {&Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI});
-constexpr auto kGemelosTramo = std::to_array(
-    {&Tramo::Prs1TramSI, &Tramo::Prs2TramSI, &Tramo::Prs3TramSI, &Tramo::PrsM1TramSI,
-     &Tramo::PrsM2TramSI, &Tramo::FckSI, &Tramo::FctSI, &Tramo::FykSI, &Tramo::FydSI,
-     &Tramo::QDatoSI, &Tramo::EsSI, &Tramo::EpSI, &Tramo::FcknoSI, &Tramo::FcknSI, &Tramo::FckrSI,
-     &Tramo::SFckSI, &Tramo::SfSI, &Tramo::FYKPostSI});
-// clang-format on
-
-void ExigeFinitos(const Obra& o) {
-  for (const auto& c : pruebas::kNumerosObra)
-    Exige(std::isfinite(o.*c.campo), "a number", c.nombre);
-  for (const auto campo : kGemelosObra) Exige(std::isfinite(o.*campo), "the Obra holds numbers");
-}
-
-void ExigeFinitos(const Tramo& t) {
-  for (const auto& c : pruebas::kNumerosTramo)
-    Exige(std::isfinite(t.*c.campo), "a number", c.nombre);
-  for (const auto campo : kGemelosTramo) Exige(std::isfinite(t.*campo), "the Tramo holds numbers");
+template <class Bloque>
+void ExigeFinitos(const Bloque& b) {
+  RecorreNumeros<Bloque>([&](const Ficha& ficha, double Bloque::*campo) {
+    Exige(std::isfinite(b.*campo), "data are numbers", std::string(ficha.nombre));
+  });
 }
 
 // ---- The run

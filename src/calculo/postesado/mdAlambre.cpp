@@ -1,6 +1,6 @@
 #include "calculo/postesado/mdAlambre.h"
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
 
 namespace zorbin {
 
@@ -53,7 +53,7 @@ double EspMinimo(int i) {
 
 Alambre AlambreMasAbierto(int i, std::int16_t Tipologia) {
   const auto& f = kTabla(i);
-  const double espMax = Tipologia == kPostesadaRevestida ? f.EspMaxRevestida : f.EspMax;
+  const double espMax = Tipologia == kRevestida ? f.EspMaxRevestida : f.EspMax;
   return {f.Diametro / 10.0, EspirasPorMetro(f.Diametro, espMax / 10.0)};
 }
 

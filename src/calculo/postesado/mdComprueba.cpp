@@ -18,7 +18,7 @@ constexpr double kNoLimita = 999999.0;           // [at]
 }  // namespace
 
 double CompruebaChapa(const Tramo& t, double RatioChapa, const TensionesHipotesis& x) {
-  if (t.Tipologia == kPostesadaRevestida) return Finito(Max3(x.TotPE) * RatioChapa * kEscalaChapa);
+  if (t.Tipologia == kRevestida) return Finito(Max3(x.TotPE) * RatioChapa * kEscalaChapa);
   Lista<double, kSecciones> v;
   for (int s = 1; s <= kSecciones; ++s) {
     v(s) = Div((x.TotPE(s) - x.TotPI(s)) * t.Reci, t.Esp - t.Rece) + x.TotPI(s);

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/mdNumeros.h"
+#include "core/campos/mdDatos.h"
 #include "listados/obra/mdAvisos.h"
 
 namespace zorbin {
@@ -27,86 +28,14 @@ Json DeTabla(const Tabla<double, N, M>& t) {
   return filas;
 }
 
-Json DeObra(const Obra& o) {
-  return {{"Idioma", o.Idioma},
-          {"IdiomaOffset", o.IdiomaOffset},
-          {"SisUnid", o.SisUnid},
-          {"GolpeCalculado", o.GolpeCalculado},
-          {"NombreObra", o.NombreObra},
-          {"Cliente", o.Cliente},
-          {"Prs1", o.Prs1},
-          {"Prs2", o.Prs2},
-          {"Prs3", o.Prs3},
-          {"PrsM1", o.PrsM1},
-          {"PrsM2", o.PrsM2},
-          {"Alt1", o.Alt1},
-          {"Alt2", o.Alt2},
-          {"Alt3", o.Alt3},
-          {"RutaApp", o.RutaApp},
-          {"NombreFichero", o.NombreFichero},
-          {"ObraAbierta", o.ObraAbierta}};
-}
-
-Json DeTramo(const Tramo& t) {
-  return {{"DescriTramo", t.DescriTramo},
-          {"Tipologia", t.Tipologia},
-          {"EsArmado", t.EsArmado},
-          {"PostFlag", t.PostFlag},
-          {"SubTipo", t.SubTipo},
-          {"Icontes0", t.Icontes0},
-          {"Adato", t.Adato},
-          {"Icontes1", t.Icontes1},
-          {"Coepre1", t.Coepre1},
-          {"TipoControl", t.TipoControl},
-          {"TipoCamisa", t.TipoCamisa},
-          {"CamMax", t.CamMax},
-          {"Fck", t.Fck},
-          {"Fct", t.Fct},
-          {"Fyk", t.Fyk},
-          {"Fyd", t.Fyd},
-          {"GamaB", t.GamaB},
-          {"GamaY", t.GamaY},
-          {"GamaF", t.GamaF},
-          {"Delca", t.Delca},
-          {"Es", t.Es},
-          {"Ep", t.Ep},
-          {"Fckno", t.Fckno},
-          {"Fckn", t.Fckn},
-          {"Fckr", t.Fckr},
-          {"SFck", t.SFck},
-          {"Sf", t.Sf},
-          {"FYKPost", t.FYKPost},
-          {"Rel", t.Rel},
-          {"Fic", t.Fic},
-          {"Fir", t.Fir},
-          {"Epsc", t.Epsc},
-          {"Epsr", t.Epsr},
-          {"Di", t.Di},
-          {"De", t.De},
-          {"Esp", t.Esp},
-          {"Reci", t.Reci},
-          {"Rece", t.Rece},
-          {"Gc", t.Gc},
-          {"TipoCuna", t.TipoCuna},
-          {"TipoApoyo", t.TipoApoyo},
-          {"TipoColocacion", t.TipoColocacion},
-          {"B0", t.B0},
-          {"Gr", t.Gr},
-          {"Fi", t.Fi},
-          {"TipoRelleno", t.TipoRelleno},
-          {"Hr1", t.Hr1},
-          {"IAs", t.IAs},
-          {"QDato", t.QDato},
-          {"IndCar", t.IndCar},
-          {"ICar", t.ICar},
-          {"Prs1Tram", t.Prs1Tram},
-          {"Prs2Tram", t.Prs2Tram},
-          {"Prs3Tram", t.Prs3Tram},
-          {"PrsM1Tram", t.PrsM1Tram},
-          {"PrsM2Tram", t.PrsM2Tram},
-          {"Hr0Tramo", t.Hr0Tramo},
-          {"Hr0Final", t.Hr0Final},
-          {"Hr0Delta", t.Hr0Delta}};
+// Every datum of an Obra or of a Tramo that the results repeat.
+template <class Bloque>
+Json DeDatos(const Bloque& bloque) {
+  Json j;
+  RecorreDatos(bloque, [&](const Ficha& ficha, const auto& dato) {
+    if (ficha.enResultados) j[ficha.nombre] = dato;
+  });
+  return j;
 }
 
 Json DeAjuste(const std::optional<Ajuste>& a) {
@@ -268,7 +197,7 @@ Json DeCaso(const EstadoCalculo& e, const Catalogo& textos) {
 }  // namespace
 
 void ListadoJson::EmpiezaObra(const EstadoCalculo& e) {
-  salida_ << "{\"obra\":" << Texto(DeObra(e.obra)) << ",\n\"tramos\":[";
+  salida_ << "{\"obra\":" << Texto(DeDatos(e.obra)) << ",\n\"tramos\":[";
 }
 
 void ListadoJson::AcabaObra() {
@@ -277,7 +206,7 @@ void ListadoJson::AcabaObra() {
 
 void ListadoJson::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
   Json tramo{{"posicion", posicion}, {"NumeroTramo", I16(NumeroTexto(numero).value_or(0.0))}};
-  tramo.update(DeTramo(e.tramo));
+  tramo.update(DeDatos(e.tramo));
   std::string abierto = Texto(tramo);
   abierto.pop_back();  // the object goes on with its Casos
   salida_ << (hayTramo_ ? ",\n" : "\n") << abierto << ",\"casos\":[";

@@ -1,8 +1,7 @@
 #include "persistencia/zrb/mdZrb.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
-#include <optional>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -10,6 +9,7 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "core/campos/mdDatos.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin {
@@ -21,7 +21,6 @@ constexpr int kRegistrosBloque = 60;
 constexpr int kBaseBloque = 14;  // an offset counts from it in the first block
 constexpr int kOffsetCuenta = 6;
 constexpr int kOffsetNumero = 7;
-constexpr int kOffsetDescripcion = 8;
 constexpr int kOffsetTipologia = 9;
 constexpr int kUltimoOffsetLeido = 64;
 constexpr int kUltimoOffset = 66;
@@ -31,120 +30,17 @@ int Base(int posicion) {
   return (posicion - 1) * kRegistrosBloque + kBaseBloque;
 }
 
-// ---------------------------------------------------------------------------------------------
-// Declaration of the fields
-
-struct ParObra {
-  int registro;
-  std::string_view nombre;
-  double Obra::*campo;
-  double Obra::*si;
-};
-
-constexpr std::array<ParObra, 5> kParesObra{{
-    {7, "Prs1", &Obra::Prs1, &Obra::Prs1SI},
-    {8, "Prs2", &Obra::Prs2, &Obra::Prs2SI},
-    {10, "Prs3", &Obra::Prs3, &Obra::Prs3SI},
-    {11, "PrsM1", &Obra::PrsM1, &Obra::PrsM1SI},
-    {12, "PrsM2", &Obra::PrsM2, &Obra::PrsM2SI},
-}};
-
-struct AlturaObra {
-  int registro;
-  std::string_view nombre;
-  double Obra::*campo;
-};
-
-constexpr std::array<AlturaObra, 3> kAlturasObra{{
-    {13, "Alt1", &Obra::Alt1},
-    {14, "Alt2", &Obra::Alt2},
-    {15, "Alt3", &Obra::Alt3},
-}};
-
-constexpr std::string_view kMascaraPresion = "#####0.00";
-
-// A number with a mask; with a twin, a pair of numbers with a mask each; with a factor alone, the
-// MKS value of a field that the screen may hold in SI.
-struct Numero {
-  double Tramo::*campo;
-  std::string_view mascara;
-  double Tramo::*si = nullptr;
-  std::string_view mascaraSI = {};
-  double factor = 1.0;
-};
-
-struct Campo {
-  int offset;
-  std::string_view nombre;
-  std::variant<Numero, std::int16_t Tramo::*, bool Tramo::*> valor;
-  bool seLee = true;
-};
-
-constexpr Numero Par(double Tramo::*campo, double Tramo::*si, std::string_view mascara,
-                     std::string_view mascaraSI, double factor = kFactorTension) {
-  return {campo, mascara, si, mascaraSI, factor};
+// The data that have a record, in the order of the file.
+template <class Bloque>
+std::vector<const Dato<Bloque>*> EnOrden(std::span<const Dato<Bloque>> tabla) {
+  std::vector<const Dato<Bloque>*> datos;
+  for (const auto& dato : tabla) {
+    if (dato.ficha.registro != 0) datos.push_back(&dato);
+  }
+  std::sort(datos.begin(), datos.end(),
+            [](const auto* a, const auto* b) { return a->ficha.registro < b->ficha.registro; });
+  return datos;
 }
-
-// clang-format off
-constexpr auto kCampos = std::to_array<Campo>({
-    { 9, "Tipologia",   &Tramo::Tipologia},
-    {10, "Icontes0",    &Tramo::Icontes0},
-    {11, "Adato",       Numero{&Tramo::Adato, "#####0.000"}},
-    {12, "TipoControl", &Tramo::TipoControl},
-    {13, "TipoCamisa",  &Tramo::TipoCamisa},
-    {14, "SubTipo",     &Tramo::SubTipo, false},
-    {15, "CamMax",      Numero{&Tramo::CamMax, "#####0.0"}},
-    {16, "Fck",         Par(&Tramo::Fck, &Tramo::FckSI, "#####0", "#####0.0")},
-    {17, "Fct",         Par(&Tramo::Fct, &Tramo::FctSI, "#####0", "#####0.0")},
-    {18, "Fyk",         Par(&Tramo::Fyk, &Tramo::FykSI, "#####0", "#####0.0")},
-    {19, "Fyd",         Par(&Tramo::Fyd, &Tramo::FydSI, "#####0", "#####0.0")},
-    {20, "GamaB",       Numero{&Tramo::GamaB, "#####0.00"}},
-    {21, "GamaY",       Numero{&Tramo::GamaY, "#####0.00"}, false},
-    {22, "GamaF",       Numero{&Tramo::GamaF, "#####0.00"}, false},
-    {23, "Icontes1",    &Tramo::Icontes1},
-    {24, "Coepre1",     Numero{&Tramo::Coepre1, "#####0.000"}},
-    {25, "Delca",       Numero{&Tramo::Delca, "#####0.00"}},
-    {26, "Es",          Par(&Tramo::Es, &Tramo::EsSI, "#######0", "#####0")},
-    {27, "Ep",          Par(&Tramo::Ep, &Tramo::EpSI, "#######0", "#####0")},
-    {28, "Fckno",       Par(&Tramo::Fckno, &Tramo::FcknoSI, "#####0", "#####0.0")},
-    {29, "Fckn",        Par(&Tramo::Fckn, &Tramo::FcknSI, "#####0", "#####0.0")},
-    {30, "Fckr",        Par(&Tramo::Fckr, &Tramo::FckrSI, "#####0", "#####0.0")},
-    {31, "SFck",        Par(&Tramo::SFck, &Tramo::SFckSI, "#####0", "#####0")},
-    {32, "Sf",          Par(&Tramo::Sf, &Tramo::SfSI, "#####0", "#####0")},
-    {33, "Rel",         Numero{&Tramo::Rel, "#####0.00"}},
-    {34, "Fic",         Numero{&Tramo::Fic, "#####0.000"}},
-    {35, "Fir",         Numero{&Tramo::Fir, "#####0.000"}},
-    {36, "Epsc",        Numero{&Tramo::Epsc, "#####0.0000"}},
-    {37, "Epsr",        Numero{&Tramo::Epsr, "#####0.0000"}},
-    {38, "Di",          Numero{&Tramo::Di, "#####0.000"}},
-    {39, "Esp",         Numero{&Tramo::Esp, "#####0.0"}},
-    {40, "De",          Numero{&Tramo::De, "#####0.000"}},
-    {41, "Reci",        Numero{&Tramo::Reci, "#####0.0"}},
-    {42, "Rece",        Numero{&Tramo::Rece, "#####0.0"}},
-    {43, "Gc",          Numero{&Tramo::Gc, "#####0.00"}},
-    {44, "TipoCuna",    &Tramo::TipoCuna},
-    {45, "TipoApoyo",   &Tramo::TipoApoyo},
-    {46, "Hr0Tramo",    Numero{&Tramo::Hr0Tramo, "#####0.00"}},
-    {47, "B0",          Numero{&Tramo::B0, "#####0.000"}},
-    {48, "Gr",          Numero{&Tramo::Gr, "#####0.00"}},
-    {49, "Fi",          Numero{&Tramo::Fi, "#####0.00"}},
-    {50, "TipoRelleno", &Tramo::TipoRelleno},
-    {51, "Hr1",         Numero{&Tramo::Hr1, "#####0.00"}},
-    {52, "IAs",         &Tramo::IAs},
-    {53, "QDato",       Par(&Tramo::QDato, &Tramo::QDatoSI, "#####0.000", "#####0.000", kFactorCarga)},
-    {54, "IndCar",      &Tramo::IndCar},
-    {55, "ICar",        &Tramo::ICar},
-    {56, "Prs1Tram",    Par(&Tramo::Prs1Tram, &Tramo::Prs1TramSI, kMascaraPresion, kMascaraPresion)},
-    {57, "Prs2Tram",    Par(&Tramo::Prs2Tram, &Tramo::Prs2TramSI, kMascaraPresion, kMascaraPresion)},
-    {58, "Prs3Tram",    Numero{&Tramo::Prs3Tram, kMascaraPresion, nullptr, {}, kFactorTension}, false},
-    {59, "PrsM1Tram",   Par(&Tramo::PrsM1Tram, &Tramo::PrsM1TramSI, kMascaraPresion, kMascaraPresion)},
-    {60, "PrsM2Tram",   Par(&Tramo::PrsM2Tram, &Tramo::PrsM2TramSI, kMascaraPresion, kMascaraPresion)},
-    {61, "Hr0Final",    Numero{&Tramo::Hr0Final, "#####0.00"}},
-    {62, "Hr0Delta",    Numero{&Tramo::Hr0Delta, "#####0.00"}},
-    {63, "Prs3Tram",    Par(&Tramo::Prs3Tram, &Tramo::Prs3TramSI, kMascaraPresion, kMascaraPresion)},
-    {64, "FYKPost",     Par(&Tramo::FYKPost, &Tramo::FYKPostSI, "#####0", "#####0.0")},
-});
-// clang-format on
 
 // ---------------------------------------------------------------------------------------------
 // Reading
@@ -172,14 +68,17 @@ std::int16_t LeeEntero(const FicheroRegistros& f, int registro, std::string_view
        {f.Nombre(), TextoEntero(registro), std::string(nombre), std::string(texto)}});
 }
 
-// Both values of a paired record. Without the mark between the halves, the SI one is derived.
-ParUnidades LeePar(const FicheroRegistros& f, int registro, std::string_view nombre,
-                   double factor) {
+// The half of a paired record in a system. Both halves must be numbers; without the mark between
+// them, the SI one is derived.
+double LeePar(const FicheroRegistros& f, int registro, const Ficha& ficha, bool si) {
   const std::string texto = f.LeeRegistro(registro);
   const auto corte = texto.find(kSeparadorPar);
-  const double mks = LeeNumero(f, registro, nombre, texto.substr(0, corte));
-  if (corte == std::string::npos) return Pareja(mks, false, factor);
-  return {mks, LeeNumero(f, registro, nombre, texto.substr(corte + kSeparadorPar.size()))};
+  ParUnidades par =
+      Pareja(LeeNumero(f, registro, ficha.nombre, texto.substr(0, corte)), false, ficha.magnitud);
+  if (corte != std::string::npos) {
+    par.si = LeeNumero(f, registro, ficha.nombre, texto.substr(corte + kSeparadorPar.size()));
+  }
+  return si ? par.si : par.mks;
 }
 
 ErrorFichero OtroFormato(const FicheroRegistros& f, int mensaje) {
@@ -227,24 +126,46 @@ ListaTramos LeeLista(const FicheroRegistros& f) {
   return lista;
 }
 
-void LeeCampo(Tramo& t, const Campo& c, const FicheroRegistros& f, int registro, bool si) {
-  const std::string texto(Recorta(f.LeeRegistro(registro)));
-  if (const auto* numero = std::get_if<Numero>(&c.valor)) {
-    if (numero->si != nullptr) {
-      const auto par = LeePar(f, registro, c.nombre, numero->factor);
-      t.*numero->campo = si ? par.si : par.mks;
-      t.*numero->si = par.si;
-    } else if (!texto.empty()) {
-      t.*numero->campo = LeeNumero(f, registro, c.nombre, texto);
+// A blank record leaves the variable as it was; a text takes it as it stands.
+class Lector {
+ public:
+  Lector(const FicheroRegistros& f, int registro, const Ficha& ficha, bool si)
+      : f_(f), registro_(registro), ficha_(ficha), si_(si) {}
+
+  void operator()(std::string& destino) const { destino = f_.LeeRegistro(registro_); }
+  void operator()(double& destino) const {
+    if (ficha_.Escala()) {
+      destino = LeePar(f_, registro_, ficha_, si_);
+    } else if (const auto texto = Texto(); !texto.empty()) {
+      destino = LeeNumero(f_, registro_, ficha_.nombre, texto);
     }
-    return;
   }
-  if (texto.empty()) return;
-  const std::int16_t entero = LeeEntero(f, registro, c.nombre, texto);
-  if (const auto* campo = std::get_if<std::int16_t Tramo::*>(&c.valor)) {
-    t.*(*campo) = entero;
-  } else {
-    t.*std::get<bool Tramo::*>(c.valor) = entero != 0;
+  void operator()(std::int16_t& destino) const {
+    if (const auto texto = Texto(); !texto.empty()) destino = Entero(texto);
+  }
+  void operator()(bool& destino) const {
+    if (const auto texto = Texto(); !texto.empty()) destino = Entero(texto) != 0;
+  }
+
+ private:
+  std::string Texto() const { return std::string(Recorta(f_.LeeRegistro(registro_))); }
+  std::int16_t Entero(const std::string& texto) const {
+    return LeeEntero(f_, registro_, ficha_.nombre, texto);
+  }
+
+  const FicheroRegistros& f_;
+  int registro_;
+  const Ficha& ficha_;
+  bool si_;
+};
+
+// `base` is what the records of the block count from.
+template <class Bloque>
+void LeeDatos(Bloque& bloque, const FicheroRegistros& f, int base, bool si) {
+  for (const auto* dato : EnOrden(TablaDe(bloque))) {
+    if (!dato->ficha.seLee) continue;
+    const Lector lector(f, base + dato->ficha.registro, dato->ficha, si);
+    std::visit([&](const auto miembro) { lector(bloque.*miembro); }, dato->miembro);
   }
 }
 
@@ -287,30 +208,70 @@ struct Registro128 {
   std::string texto;
 };
 
-std::string TextoPar(const ParUnidades& par, std::string_view mascara, std::string_view mascaraSI,
-                     char separador) {
-  return FormatoMascara(par.mks, mascara, separador) + std::string(kSeparadorPar) +
-         FormatoMascara(par.si, mascaraSI, separador);
+// The text of a variable in its record.
+class Escritor {
+ public:
+  Escritor(const Ficha& ficha, bool si, char separador)
+      : ficha_(ficha), si_(si), separador_(separador) {}
+
+  std::string operator()(const std::string& texto) const { return texto; }
+  std::string operator()(std::int16_t codigo) const { return TextoEntero(codigo); }
+  std::string operator()(bool marca) const { return marca ? "1" : "0"; }
+  std::string operator()(double valor) const {
+    if (!ficha_.Escala()) return Mks(valor);
+    return Par(Pareja(valor, si_, ficha_.magnitud));
+  }
+  std::string Par(const ParUnidades& par) const {
+    return Mks(par.mks) + std::string(kSeparadorPar) + Numero(par.si, true);
+  }
+  std::string Mks(double valor) const { return Numero(valor, false); }
+
+ private:
+  std::string Numero(double valor, bool si) const {
+    return FormatoMascara(valor, ficha_.MascaraFichero(si), separador_);
+  }
+
+  const Ficha& ficha_;
+  bool si_;
+  char separador_;
+};
+
+// Fct follows from Fck in each system, but for the value on the screen.
+ParUnidades ParFct(const Tramo& t, bool si) {
+  const auto fck = Pareja(t.Fck, si, Magnitud::Tension);
+  return {FctDeFck(fck.mks), si ? t.Fct : FctDeFck(fck.si)};
 }
 
-std::string TextoCampo(const Tramo& t, const Campo& c, bool si, char separador) {
-  if (const auto* numero = std::get_if<Numero>(&c.valor)) {
-    auto par = Pareja(t.*numero->campo, si && numero->factor != 1.0, numero->factor);
-    if (numero->si == nullptr) return FormatoMascara(par.mks, numero->mascara, separador);
-    if (numero->campo == &Tramo::Fct) {
-      const auto fck = Pareja(t.Fck, si, kFactorTension);
-      par = {FctDeFck(fck.mks), si ? t.Fct : FctDeFck(fck.si)};
-    }
-    return TextoPar(par, numero->mascara, numero->mascaraSI, separador);
-  }
-  if (const auto* campo = std::get_if<std::int16_t Tramo::*>(&c.valor)) {
-    return TextoEntero(t.*(*campo));
-  }
-  return t.*std::get<bool Tramo::*>(c.valor) ? "1" : "0";
+std::string TextoDato(const Obra& o, const Dato<Obra>& dato, const Escritor& escritor, bool) {
+  return std::visit([&](const auto miembro) { return escritor(o.*miembro); }, dato.miembro);
 }
 
-// Turns every text into bytes before the first record changes.
-void EscribeTodos(FicheroRegistros& f, const std::vector<Registro128>& registros) {
+std::string TextoDato(const Tramo& t, const Dato<Tramo>& dato, const Escritor& escritor, bool si) {
+  if (dato.miembro == Miembro<Tramo>(&Tramo::Fct)) return escritor.Par(ParFct(t, si));
+  return std::visit([&](const auto miembro) { return escritor(t.*miembro); }, dato.miembro);
+}
+
+// The records of the data. `base` is what the records of the block count from.
+template <class Bloque>
+void PonDatos(std::vector<Registro128>& r, const Bloque& bloque, int base, bool si,
+              char separador) {
+  for (const auto& dato : TablaDe(bloque)) {
+    const auto& ficha = dato.ficha;
+    if (ficha.registro == 0) continue;
+    const std::string nombre(ficha.nombre);
+    const Escritor escritor(ficha, si, separador);
+    r.push_back({base + ficha.registro, nombre, TextoDato(bloque, dato, escritor, si)});
+    if (ficha.registroMks == 0) continue;
+    const double valor = bloque.*std::get<double Bloque::*>(dato.miembro);
+    r.push_back(
+        {base + ficha.registroMks, nombre, escritor.Mks(Pareja(valor, si, ficha.magnitud).mks)});
+  }
+}
+
+// In the order of the file. Turns every text into bytes before the first record changes.
+void EscribeTodos(FicheroRegistros& f, std::vector<Registro128> registros) {
+  std::sort(registros.begin(), registros.end(),
+            [](const auto& a, const auto& b) { return a.numero < b.numero; });
   std::vector<std::pair<int, std::string>> bytes;
   for (const auto& r : registros) {
     bytes.emplace_back(r.numero, BytesDeCampo(f.Nombre(), r.nombre, r.texto));
@@ -331,16 +292,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
       Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
   // The caption is compared as it stands: a file saved in another language reads as estimated.
   obra.GolpeCalculado = Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)) == "Si";
-  obra.NombreObra = f.LeeRegistro(5);
-  obra.Cliente = f.LeeRegistro(6);
-  for (const auto& p : kParesObra) {
-    const auto par = LeePar(f, p.registro, p.nombre, kFactorTension);
-    obra.*p.campo = obra.EsSI() ? par.si : par.mks;
-    obra.*p.si = par.si;
-  }
-  for (const auto& a : kAlturasObra) {
-    obra.*a.campo = LeeNumero(f, a.registro, a.nombre, f.LeeRegistro(a.registro));
-  }
+  LeeDatos(obra, f, 0, obra.EsSI());
   leida.lista = LeeLista(f);
   obra.RutaApp = e.obra.RutaApp;
   obra.NombreFichero = f.Nombre();
@@ -357,10 +309,7 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
     throw ErrorFichero({txt::FaltaTipologia, {f.Nombre(), TextoEntero(base + kOffsetTipologia)}});
   }
   Tramo t = e.tramo;
-  t.DescriTramo = f.LeeRegistro(base + kOffsetDescripcion);
-  for (const auto& c : kCampos) {
-    if (c.seLee) LeeCampo(t, c, f, base + c.offset, e.obra.EsSI());
-  }
+  LeeDatos(t, f, base, e.obra.EsSI());
   CompletaTramo(t);
   e.tramo = std::move(t);
   CargasDelDato(e);
@@ -370,28 +319,17 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
 void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
                  const Catalogo& textos, char separador) {
   const Obra& o = e.obra;
-  const auto presion = [&](double v) { return FormatoMascara(v, kMascaraPresion, separador); };
   std::vector<Registro128> r{
       {1, "Version", std::string(kVersionFichero)},
       {2, "Idioma",
        "IDIOMA : " + TextoEntero(o.Idioma) + " " +
            textos.Texto(txt::NombresIdioma[0] + o.Idioma - 1)},
       {3, "SisUnid", "SisUnid: " + o.SisUnid + std::string(27, ' ')},
-      {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)},
-      {5, "NombreObra", o.NombreObra},
-      {6, "Cliente", o.Cliente},
-      {9, "Prs3", presion(Pareja(o.Prs3, o.EsSI(), kFactorTension).mks)}};
-  for (const auto& p : kParesObra) {
-    r.push_back({p.registro, std::string(p.nombre),
-                 TextoPar(Pareja(o.*p.campo, o.EsSI(), kFactorTension), kMascaraPresion,
-                          kMascaraPresion, separador)});
-  }
-  for (const auto& a : kAlturasObra) {
-    r.push_back({a.registro, std::string(a.nombre), presion(o.*a.campo)});
-  }
+      {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)}};
+  PonDatos(r, o, 0, o.EsSI(), separador);
   for (int reserva = 16; reserva <= 19; ++reserva) r.push_back({reserva, "", "0"});
   r.push_back({kRegistroCuenta, "", TextoEntero(static_cast<int>(lista.size()))});
-  EscribeTodos(f, r);
+  EscribeTodos(f, std::move(r));
 }
 
 void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
@@ -399,16 +337,12 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
   const int base = Base(posicion);
   std::vector<Registro128> r{
       {base + kOffsetCuenta, "", TextoEntero(static_cast<int>(lista.size()))},
-      {base + kOffsetNumero, "NumeroTramo", lista.at(static_cast<std::size_t>(posicion - 1))},
-      {base + kOffsetDescripcion, "DescriTramo", e.tramo.DescriTramo}};
-  for (const auto& c : kCampos) {
-    r.push_back(
-        {base + c.offset, std::string(c.nombre), TextoCampo(e.tramo, c, e.obra.EsSI(), separador)});
-  }
+      {base + kOffsetNumero, "NumeroTramo", lista.at(static_cast<std::size_t>(posicion - 1))}};
+  PonDatos(r, e.tramo, base, e.obra.EsSI(), separador);
   for (int offset = kUltimoOffsetLeido + 1; offset <= kUltimoOffset; ++offset) {
     r.push_back({base + offset, "", "0"});
   }
-  EscribeTodos(f, r);
+  EscribeTodos(f, std::move(r));
 }
 
 std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion) {

@@ -56,8 +56,8 @@ struct Borrador {
   std::string estado{kSinTramo};
   bool obraEditada = false;
   bool tramoEditado = false;
-  Obra obra;    // without file and folder
-  Tramo tramo;  // without twins
+  Obra obra;  // without file and folder
+  Tramo tramo;
   MemoriaReglas memoria;
   Paginas pagina;
   Ed foco = Ed::edObra;

@@ -54,44 +54,24 @@ void Lee(const Json& j, const char* clave, T& destino) {
 
 // ---- Lists of the data. `v(clave, dato)` is called for each.
 
-void RecorreCodigos(auto& t, const auto& v) {
-  v("NumeroTramo", t.NumeroTramo);
-  v("DescriTramo", t.DescriTramo);
-  v("Tipologia", t.Tipologia);
-  v("EsArmado", t.EsArmado);
-  v("PostFlag", t.PostFlag);
-  v("SubTipo", t.SubTipo);
-  v("Icontes0", t.Icontes0);
-  v("Icontes1", t.Icontes1);
-  v("TipoControl", t.TipoControl);
-  v("TipoCamisa", t.TipoCamisa);
-  v("GamaY", t.GamaY);
-  v("GamaF", t.GamaF);
-  v("TipoCuna", t.TipoCuna);
-  v("TipoApoyo", t.TipoApoyo);
-  v("TipoColocacion", t.TipoColocacion);
-  v("TipoRelleno", t.TipoRelleno);
-  v("IAs", t.IAs);
-  v("IndCar", t.IndCar);
-  v("ICar", t.ICar);
+bool EsNumeroDeCampo(const Ficha& ficha) {
+  return ficha.EnPantalla() && ficha.campo.clase == Clase::Numero;
 }
 
-// The numbers are those of the fields.
-void RecorreTramo(auto& t, const auto& v) {
-  RecorreCodigos(t, v);
-  for (const auto& fila : TablaCampos()) {
-    if (fila.tramo != nullptr) v(fila.nombre.data(), t.*fila.tramo);
-  }
+double Obra::*NumeroDe(const FilaCampo& fila, const Obra&) {
+  return fila.obra;
+}
+double Tramo::*NumeroDe(const FilaCampo& fila, const Tramo&) {
+  return fila.tramo;
 }
 
-void RecorreObra(auto& o, const auto& v) {
-  v("Idioma", o.Idioma);
-  v("SisUnid", o.SisUnid);
-  v("GolpeCalculado", o.GolpeCalculado);
-  v("NombreObra", o.NombreObra);
-  v("Cliente", o.Cliente);
+// The data of the project. The numbers go by the names of their fields, in their order.
+void RecorreBloque(auto& b, const auto& v) {
+  RecorreDatos(b, [&](const Ficha& ficha, auto& dato) {
+    if (!ficha.deSesion && !EsNumeroDeCampo(ficha)) v(ficha.nombre.data(), dato);
+  });
   for (const auto& fila : TablaCampos()) {
-    if (fila.obra != nullptr) v(fila.nombre.data(), o.*fila.obra);
+    if (const auto numero = NumeroDe(fila, b)) v(fila.nombre.data(), b.*numero);
   }
 }
 
@@ -215,8 +195,8 @@ Borrador BorradorDe(const Json& j) {
   b.fichero = NombreDeLlano(j.at("fichero").get<std::string>());
   RecorreBorrador(b, Lector(j));
   RecorreAutor(b.autor, Lector(j.at("autor")));
-  RecorreObra(b.obra, Lector(j.at("obra")));
-  RecorreTramo(b.tramo, Lector(j.at("tramo")));
+  RecorreBloque(b.obra, Lector(j.at("obra")));
+  RecorreBloque(b.tramo, Lector(j.at("tramo")));
   RecorreMemoria(b.memoria, Lector(j.at("memoria")));
   RecorrePagina(b.pagina, Lector(j.at("pagina")));
   const auto foco = CampoPorNombre(j.at("foco").get<std::string>());
@@ -238,8 +218,8 @@ std::string TextoDeBorrador(const Borrador& b) {
   j["fichero"] = NombreLlano(b.fichero);
   RecorreBorrador(b, Escritor(j));
   RecorreAutor(b.autor, Escritor(j["autor"]));
-  RecorreObra(b.obra, Escritor(j["obra"]));
-  RecorreTramo(b.tramo, Escritor(j["tramo"]));
+  RecorreBloque(b.obra, Escritor(j["obra"]));
+  RecorreBloque(b.tramo, Escritor(j["tramo"]));
   RecorreMemoria(b.memoria, Escritor(j["memoria"]));
   RecorrePagina(b.pagina, Escritor(j["pagina"]));
   j["foco"] = Fila(b.foco).nombre;

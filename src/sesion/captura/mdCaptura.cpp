@@ -82,7 +82,7 @@ double& Variable(Captura& c, Ed campo) {
 }
 
 void MuestraVariable(Captura& c, Ed campo) {
-  Escribe(c, campo, Variable(c, campo), Fila(campo).Mascara(c.EsSI()));
+  Escribe(c, campo, Variable(c, campo), Fila(campo).ficha->MascaraTecleada(c.EsSI()));
 }
 
 void MuestraSinCero(Captura& c, Ed campo) {
@@ -173,8 +173,9 @@ bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino, int etiq
 
 bool LeeAlSalir(Captura& c, Ed campo, double minimo, double& destino, int etiqueta) {
   const auto& control = c[campo];
-  const bool intacto = !control.tocado && destino >= minimo &&
-                       control.texto == Formato(c, destino, Fila(campo).Mascara(c.EsSI()));
+  const bool intacto =
+      !control.tocado && destino >= minimo &&
+      control.texto == Formato(c, destino, Fila(campo).ficha->MascaraTecleada(c.EsSI()));
   return intacto || ValidaNumero(c, campo, minimo, destino, etiqueta);
 }
 

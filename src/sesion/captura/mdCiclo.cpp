@@ -1,7 +1,6 @@
 #include "sesion/captura/mdCiclo.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "base/mdNumeros.h"
@@ -78,58 +77,27 @@ void Vacia(Captura& c) {
 
 // ---- Saving
 
-constexpr auto kTextosObra = std::to_array<Ed>({Ed::edPrs1, Ed::edPrs2, Ed::edPrs3, Ed::edPrsM1,
-                                                Ed::edPrsM2, Ed::edAlt1, Ed::edAlt2, Ed::edAlt3});
-constexpr auto kTextosTramo = std::to_array<Ed>(
-    {Ed::edPrs1Tram, Ed::edPrs2Tram, Ed::edPrs3Tram, Ed::edPrsM1Tram, Ed::edPrsM2Tram, Ed::edFck,
-     Ed::edFyk, Ed::edFyd, Ed::edEs, Ed::edEp, Ed::edFckno, Ed::edFckn, Ed::edFckr, Ed::edSFck,
-     Ed::edSf, Ed::edFYKPost, Ed::edQDato0});
-
-template <class Bloque>
-struct Gemelo {
-  double Bloque::*campo;
-  double Bloque::*si;
-};
-constexpr auto kGemelosObra = std::to_array<Gemelo<Obra>>({{&Obra::Prs1, &Obra::Prs1SI},
-                                                           {&Obra::Prs2, &Obra::Prs2SI},
-                                                           {&Obra::Prs3, &Obra::Prs3SI},
-                                                           {&Obra::PrsM1, &Obra::PrsM1SI},
-                                                           {&Obra::PrsM2, &Obra::PrsM2SI}});
-constexpr auto kGemelosTramo =
-    std::to_array<Gemelo<Tramo>>({{&Tramo::Prs1Tram, &Tramo::Prs1TramSI},
-                                  {&Tramo::Prs2Tram, &Tramo::Prs2TramSI},
-                                  {&Tramo::Prs3Tram, &Tramo::Prs3TramSI},
-                                  {&Tramo::PrsM1Tram, &Tramo::PrsM1TramSI},
-                                  {&Tramo::PrsM2Tram, &Tramo::PrsM2TramSI},
-                                  {&Tramo::Fck, &Tramo::FckSI},
-                                  {&Tramo::Fyk, &Tramo::FykSI},
-                                  {&Tramo::Fyd, &Tramo::FydSI},
-                                  {&Tramo::Es, &Tramo::EsSI},
-                                  {&Tramo::Ep, &Tramo::EpSI},
-                                  {&Tramo::Fckno, &Tramo::FcknoSI},
-                                  {&Tramo::Fckn, &Tramo::FcknSI},
-                                  {&Tramo::Fckr, &Tramo::FckrSI},
-                                  {&Tramo::SFck, &Tramo::SFckSI},
-                                  {&Tramo::Sf, &Tramo::SfSI},
-                                  {&Tramo::FYKPost, &Tramo::FYKPostSI},
-                                  {&Tramo::QDato, &Tramo::QDatoSI}});
-
-// Texts into variables. A text that is no number leaves everything as it was.
-int LeeTextos(Captura& c, std::span<const Ed> campos) {
-  for (const Ed campo : campos) {
-    const auto valor = NumeroTexto(c[campo].texto);
-    if (!valor || *valor > kMayorTecleado) {
-      c.falta = Falta{campo, c[campo].texto, {}, Texto(c, txt::NoEsValorNumerico)};
-      return kErrorDeTipo;
-    }
-  }
-  for (const Ed campo : campos) Variable(c, campo) = *NumeroTexto(c[campo].texto);
-  return 0;
+// Whether a number is read from its text again before it is written. Fct follows from Fck, and the
+// other numbers of a Tramo were read by their rules.
+bool SeRelee(const FilaCampo& fila, bool deObra) {
+  if (fila.clase != Clase::Numero || (fila.obra != nullptr) != deObra) return false;
+  return deObra || (fila.ficha->Escala() && fila.id != Ed::edFct);
 }
 
-template <class Bloque, std::size_t N>
-void PonGemelos(Bloque& b, const std::array<Gemelo<Bloque>, N>& gemelos, bool si) {
-  for (const auto& g : gemelos) b.*g.si = Pareja(b.*g.campo, si, kFactorTension).si;
+// Texts into variables. A text that is no number leaves everything as it was, and is the refusal.
+bool LeeTextos(Captura& c, bool deObra) {
+  std::vector<std::pair<Ed, double>> leidos;
+  for (const auto& fila : TablaCampos()) {
+    if (!SeRelee(fila, deObra)) continue;
+    const auto valor = NumeroTexto(c[fila.id].texto);
+    if (!valor || *valor > kMayorTecleado) {
+      c.falta = Falta{fila.id, c[fila.id].texto, {}, Texto(c, txt::NoEsValorNumerico)};
+      return false;
+    }
+    leidos.emplace_back(fila.id, *valor);
+  }
+  for (const auto& [campo, valor] : leidos) Variable(c, campo) = valor;
+  return true;
 }
 
 // Texts that may not fit in a record, in the order of the file.
@@ -212,10 +180,13 @@ void CambiaDeTramo(Captura& c, int numero, int anterior) {
 
 // The texts of the Tramo in its state; says what cannot be read and goes to the field.
 bool TextosEnElEstado(Captura& c) {
-  const int error = SincronizaTramo(c, c.EsSI());
-  if (error == 0) return true;
-  c.voz.Muestra(
-      Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidadesTramo), {});
+  if (LeeTextos(c, false)) {
+    c.e.tramo.Fct = FctDeFck(c.e.tramo.Fck);
+    return true;
+  }
+  c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) +
+                    Texto(c, txt::AlCambiarUnidadesTramo),
+                {});
   if (c.falta) VaA(c, c.falta->campo);
   return false;
 }
@@ -225,10 +196,10 @@ bool TextosEnElEstado(Captura& c) {
 bool DisponeObra(Captura& c) {
   CompruebaTextos(c, c.e.obra.NombreFichero, false);
   TraeTextosObra(c);
-  const int error = SincronizaObra(c, c.EsSI());
-  if (error == 0) return TieneFichero(c);
-  c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(error) + Texto(c, txt::AlCambiarUnidades),
-                {});
+  if (LeeTextos(c, true)) return TieneFichero(c);
+  c.voz.Muestra(
+      Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) + Texto(c, txt::AlCambiarUnidades),
+      {});
   c.pantalla.pagina.TabPrincipal = 0;
   c[Ed::edPrs3].gris = false;
   VaA(c, Ed::edPrs3);
@@ -250,13 +221,7 @@ bool EstaEnLista(Captura& c) {
   return false;
 }
 
-void ObraEscrita(Captura& c) {
-  RestauraObra(c);
-  c.ObraEditada = false;
-}
-
 void TramoEscrito(Captura& c) {
-  RestauraTramo(c);
   if (std::exchange(c.AjustesPorBorrar, false)) RegistraCambios(c);
 }
 
@@ -276,7 +241,7 @@ bool EscribeTramoEnMano(Captura& c) {
   try {
     if (EstaEnLista(c) && DisponeObra(c)) {
       EscribeObraYTramo(c);
-      ObraEscrita(c);
+      c.ObraEditada = false;
       TramoEscrito(c);
       return true;
     }
@@ -368,36 +333,6 @@ bool AbreObra(Captura& c, const fs::path& ruta) {
   return true;
 }
 
-int SincronizaObra(Captura& c, bool pantallaEnSI) {
-  const int error = LeeTextos(c, kTextosObra);
-  if (error == 0) PonGemelos(c.e.obra, kGemelosObra, pantallaEnSI);
-  return error;
-}
-
-int SincronizaTramo(Captura& c, bool pantallaEnSI) {
-  auto& t = c.e.tramo;
-  const int error = LeeTextos(c, kTextosTramo);
-  if (error != 0) return error;
-  PonGemelos(t, kGemelosTramo, pantallaEnSI);
-  t.QDatoSI = Pareja(t.QDato, pantallaEnSI, kFactorCarga).si;
-  t.FctSI = FctDeFck(t.FckSI);
-  t.Fct = pantallaEnSI ? t.FctSI : FctDeFck(t.Fck);
-  return 0;
-}
-
-void RestauraObra(Captura& c) {
-  auto& o = c.e.obra;
-  if (!o.EsSI()) return;
-  for (const auto& g : kGemelosObra) o.*g.campo = o.*g.si;
-}
-
-void RestauraTramo(Captura& c) {
-  auto& t = c.e.tramo;
-  if (!c.EsSI()) return;
-  for (const auto& g : kGemelosTramo) t.*g.campo = t.*g.si;
-  t.Fct = FctDeFck(t.FckSI);
-}
-
 bool GrabaObra(Captura& c) {
   try {
     if (!DisponeObra(c)) return false;
@@ -406,7 +341,7 @@ bool GrabaObra(Captura& c) {
     MuestraError(c, error);
     return false;
   }
-  ObraEscrita(c);
+  c.ObraEditada = false;
   return true;
 }
 
@@ -473,7 +408,7 @@ void NuevoTramo(Captura& c) {
       LimpiaCaptura(c, 0);
       DefectosArmado(c);
     }
-  } else if (c.e.tramo.Tipologia == 1210 && EnBlanco(c, Ed::edFck)) {
+  } else if (c.e.tramo.Tipologia == kArmada && EnBlanco(c, Ed::edFck)) {
     DefectosArmado(c);  // the screen as a reset left it
   }
   PonNumero(c, numero);

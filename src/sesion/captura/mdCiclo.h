@@ -20,17 +20,6 @@ void NuevaObra(Captura& c);
 /// is shown and leaves no Obra.
 bool AbreObra(Captura& c, const std::filesystem::path& ruta);
 
-/// Brings the texts of the Obra into the state, both systems' values of the pressures too. The
-/// fields stay in the units of the screen: the pairs of the file are made as they are written.
-/// @param pantallaEnSI  the texts are SI values
-/// @return 0, or 13 when a text is no number; `falta` names it
-int SincronizaObra(Captura& c, bool pantallaEnSI);
-/// As SincronizaObra. Fct follows from Fck.
-int SincronizaTramo(Captura& c, bool pantallaEnSI);
-/// After a write: under SI the fields take their twins back, and Fct follows from FckSI.
-void RestauraObra(Captura& c);
-void RestauraTramo(Captura& c);
-
 /// Writes the header; asks for a file when there is none. Nothing is written when a text cannot be
 /// stored. @return whether it was written
 bool GrabaObra(Captura& c);

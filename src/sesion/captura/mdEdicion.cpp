@@ -18,8 +18,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kNadaBajoCero = -1e-10;
-constexpr double kAlgo = 1e-10;
 constexpr double kExteriorSinPregunta = 35.06;  // outer reinforcement of two layers [cm2/m]
 constexpr double kFckMinimo = 275.0;            // [kp/cm2]
 
@@ -33,7 +31,7 @@ void MarcaCambio(Captura& c, Ed campo) {
 
 bool LeeFila(Captura& c, Ed campo) {
   const auto& fila = Fila(campo);
-  return LeeAlSalir(c, campo, fila.minimo, Variable(c, campo), fila.etiqueta);
+  return LeeAlSalir(c, campo, fila.ficha->minimo, Variable(c, campo), fila.etiqueta);
 }
 
 SalidaCampo Queda(Captura& c, Ed campo, const std::string& texto, const std::string& titulo) {
@@ -54,25 +52,18 @@ void CalculaFct(Captura& c) {
   MuestraVariable(c, Ed::edFct);
 }
 
-double FydDeFyk(const Captura& c) {
-  return 2.0 * c.e.tramo.Fyk / 3.0;
-}
-double SfDeSFck(const Captura& c) {
-  return 0.75 * c.e.tramo.SFck;
-}
-
 // Default of a blank number.
 void RellenaNumero(Captura& c, Ed campo) {
-  if (const auto defecto = Fila(campo).Defecto(c.EsSI())) PonDefecto(c, campo, *defecto);
+  if (const auto defecto = Fila(campo).EnBlanco(c.EsSI())) PonDefecto(c, campo, *defecto);
   switch (campo) {
     case Ed::edFck:
       CalculaFct(c);
       break;
     case Ed::edFyd:
-      PonDefecto(c, campo, FydDeFyk(c));
+      PonDefecto(c, campo, FydDeFyk(c.e.tramo.Fyk));
       break;
     case Ed::edSf:
-      PonDefecto(c, campo, SfDeSFck(c));
+      PonDefecto(c, campo, SfDeSFck(c.e.tramo.SFck));
       break;
     case Ed::edB0:
       if (!EnBlanco(c, Ed::edDi0)) RecalculaB0(c);
@@ -96,7 +87,7 @@ SalidaCampo SaleNumero(Captura& c, Ed campo) {
   const auto& fila = Fila(campo);
   if (fila.etiqueta == 0) return SalidaCampo::Pasa;
   const bool leido = LeeFila(c, campo);
-  const auto defecto = fila.Defecto(c.EsSI());
+  const auto defecto = fila.EnBlanco(c.EsSI());
   if (!leido && defecto) Variable(c, campo) = *defecto;
   if (leido || defecto) MuestraVariable(c, campo);
   return leido ? SalidaCampo::Pasa : SalidaCampo::Queda;
@@ -134,13 +125,13 @@ SalidaCampo SaleFck(Captura& c, Ed campo) {
 
 SalidaCampo SaleFyk(Captura& c, Ed campo) {
   if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  if (c.e.tramo.Fyk != c.FykAnterior) PonDefecto(c, Ed::edFyd, FydDeFyk(c));
+  if (c.e.tramo.Fyk != c.FykAnterior) PonDefecto(c, Ed::edFyd, FydDeFyk(c.e.tramo.Fyk));
   return SalidaCampo::Pasa;
 }
 
 SalidaCampo SaleFyd(Captura& c, Ed campo) {
   if (!LeeFila(c, campo)) {
-    PonDefecto(c, campo, FydDeFyk(c));
+    PonDefecto(c, campo, FydDeFyk(c.e.tramo.Fyk));
     return SalidaCampo::Queda;
   }
   MuestraVariable(c, campo);
@@ -149,13 +140,13 @@ SalidaCampo SaleFyd(Captura& c, Ed campo) {
 
 SalidaCampo SaleSFck(Captura& c, Ed campo) {
   if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  if (c.SFckEditado) PonDefecto(c, Ed::edSf, SfDeSFck(c));
+  if (c.SFckEditado) PonDefecto(c, Ed::edSf, SfDeSFck(c.e.tramo.SFck));
   return SalidaCampo::Pasa;
 }
 
 SalidaCampo SaleSf(Captura& c, Ed campo) {
   const bool leido = LeeFila(c, campo);
-  if (!leido) c.e.tramo.Sf = SfDeSFck(c);
+  if (!leido) c.e.tramo.Sf = SfDeSFck(c.e.tramo.SFck);
   MuestraVariable(c, campo);
   return leido ? SalidaCampo::Pasa : SalidaCampo::Queda;
 }
@@ -229,7 +220,7 @@ SalidaCampo SaleDi(Captura& c, Ed campo) {
 }
 
 SalidaCampo SaleDimension(Captura& c, Ed campo) {
-  if (campo == Ed::edReci0 && c.e.tramo.Tipologia == 2221) return SalidaCampo::Pasa;
+  if (campo == Ed::edReci0 && c.e.tramo.Tipologia == kRevestida) return SalidaCampo::Pasa;
   const double anterior = Variable(c, campo);
   const int codigo = campo == Ed::edEsp0    ? CompruebaEsp(c)
                      : campo == Ed::edReci0 ? CompruebaReci(c)
@@ -454,7 +445,7 @@ void Cambia(Captura& c, Ed campo, std::string texto) {
   // Neither the language nor the choice of a Tramo is a datum.
   if (campo == Ed::edIdioma || campo == Ed::edTramo) return;
   MarcaCambio(c, campo);
-  if (fila.registra && fila.clase == Clase::Numero) RegistraCambios(c);
+  if (fila.ficha->anulaAjustes && fila.clase == Clase::Numero) RegistraCambios(c);
   if (campo == Ed::edDi0) c.AnchoZanjaAuto = true;
   if (campo == Ed::edB0) c.AnchoZanjaAuto = false;
   if (campo == Ed::edSFck) c.SFckEditado = true;
@@ -487,7 +478,7 @@ void CambiaMarca(Captura& c, Ed marca, bool puesta) {
   }
   if (!cambia || c.LeyendoDatos) return;
   c.TramoEditado = true;
-  if (deArmado) RegistraCambios(c);
+  if (Fila(marca).ficha->anulaAjustes) RegistraCambios(c);
 }
 
 void EligeOpcion(Captura& c, Ed grupo, int opcion) {

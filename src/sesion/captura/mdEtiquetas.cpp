@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "base/textos.h"
-#include "core/mdUnidades.h"
 
 namespace zorbin {
 
@@ -48,7 +47,7 @@ std::string EtiquetaDe(const Captura& c, const FilaCampo& fila) {
 std::string GrupoDe(const Captura& c, const FilaCampo& fila) {
   if (fila.grupo == 0) return {};
   const std::string texto = Texto(c, fila.grupo);
-  if (!fila.escala) return texto;
+  if (!fila.ficha->Escala()) return texto;
   return texto + " " + Texto(c, c.EsSI() ? txt::UnidadMPa : txt::UnidadAt);
 }
 
@@ -79,19 +78,9 @@ void RenuevaOpciones(Captura& c) {
 
 // ---- Change of system
 
-// Masks of the change of system; the pressures and the load keep theirs.
+// The load loses its third decimal at a change of system.
 std::string_view MascaraUnidades(const FilaCampo& fila, bool si) {
-  switch (fila.id) {
-    case Ed::edEs:
-    case Ed::edEp:
-    case Ed::edSFck:
-    case Ed::edSf:
-      return "#####0";
-    case Ed::edQDato0:
-      return "#####0.00";
-    default:
-      return fila.grupo != 0 ? fila.mascara : si ? "#####0.0" : "#####0";
-  }
+  return fila.id == Ed::edQDato0 ? "#####0.00" : fila.ficha->Mascara(si);
 }
 
 struct Convertido {
@@ -103,11 +92,11 @@ struct Convertido {
 // Every field with units, converted; none when a text is no number.
 bool ConvierteTextos(Captura& c, bool aSI, std::vector<Convertido>& convertidos) {
   for (const auto& fila : TablaCampos()) {
-    if (!fila.escala) continue;
+    if (!fila.ficha->Escala()) continue;
     double valor = 0;
     if (!ValidaNumero(c, fila.id, -kMayorTecleado, valor, EtiquetaDe(c, fila))) return false;
-    const double factor = fila.id == Ed::edQDato0 ? kFactorCarga : kFactorTension;
-    convertidos.push_back({&fila, aSI ? valor / factor : valor * factor, EnBlanco(c, fila.id)});
+    const auto par = Pareja(valor, !aSI, fila.ficha->magnitud);
+    convertidos.push_back({&fila, aSI ? par.si : par.mks, EnBlanco(c, fila.id)});
   }
   return true;
 }

@@ -57,11 +57,7 @@ bool ListaFaltas::Vale(int posicion) const {
 }
 
 void PonComprobada(Obra& obra, const Obra& comprobada) {
-  for (const auto campo :
-       {&Obra::Prs1, &Obra::Prs2, &Obra::Prs3, &Obra::PrsM1, &Obra::PrsM2, &Obra::Alt1, &Obra::Alt2,
-        &Obra::Alt3, &Obra::Prs1SI, &Obra::Prs2SI, &Obra::Prs3SI, &Obra::PrsM1SI, &Obra::PrsM2SI}) {
-    obra.*campo = comprobada.*campo;
-  }
+  RecorreNumeros<Obra>([&](const Ficha&, double Obra::*campo) { obra.*campo = comprobada.*campo; });
 }
 
 ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& textos,

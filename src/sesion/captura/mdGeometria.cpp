@@ -14,7 +14,6 @@ constexpr double kMmPorCm = 10.0;
 constexpr double kTolerancia = 0.02;  // of the diameter, on the thickness
 constexpr double kRecubMin = 20.0;    // band of a cover [mm]
 constexpr double kRecubMax = 40.0;
-constexpr std::int16_t kRevestida = 2221;
 
 struct GrupoTipologia {
   int tipologia;

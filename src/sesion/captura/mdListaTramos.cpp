@@ -18,7 +18,7 @@ std::string SinMarca(std::string texto) {
 std::string TextoTipologia(const Captura& c, int tipologia) {
   const std::string armado = SinMarca(Texto(c, txt::PagArmado));
   if (tipologia < kPrimeraPostesada) return armado;
-  const int camisa = tipologia == 2221 ? txt::OpcionRevestida : txt::OpcionEmbebida;
+  const int camisa = tipologia == kRevestida ? txt::OpcionRevestida : txt::OpcionEmbebida;
   return SinMarca(Texto(c, txt::PagPostesado)) + ", " + Texto(c, camisa);
 }
 

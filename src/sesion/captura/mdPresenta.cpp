@@ -14,7 +14,7 @@ namespace {
 void MuestraNumeros(Captura& c, bool deObra) {
   for (const auto& fila : TablaCampos()) {
     if (fila.clase != Clase::Numero || (fila.obra != nullptr) != deObra) continue;
-    Escribe(c, fila.id, Variable(c, fila.id), fila.Lectura(c.EsSI()));
+    Escribe(c, fila.id, Variable(c, fila.id), fila.ficha->Mascara(c.EsSI()));
     // Less than its last digit is a zero too: what is shown is what a save keeps.
     if (fila.ceroEnBlanco && NumeroTexto(c[fila.id].texto) == 0.0) Escribe(c, fila.id, "");
   }
@@ -44,7 +44,7 @@ void MuestraMarca(Captura& c, Ed marca, Ed campo, bool puesta) {
 void MuestraOpciones(Captura& c) {
   const auto& t = c.e.tramo;
   c.pantalla.pagina.TabTipologia = t.EsArmado ? 0 : 1;
-  c[Ed::rdTipoCamisa].opcion = t.Tipologia == 2211 ? 0 : t.Tipologia == 2221 ? 1 : -1;
+  c[Ed::rdTipoCamisa].opcion = t.Tipologia == kEmbebida ? 0 : t.Tipologia == kRevestida ? 1 : -1;
   c[Ed::rdTipoColocacion].opcion = t.TipoColocacion;
   MuestraMarca(c, Ed::edIcontes0, Ed::edAdato, t.Icontes0);
   MuestraMarca(c, Ed::edIcontes1, Ed::edCoepre1, t.Icontes1);

@@ -7,9 +7,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kNadaBajoCero = -1e-10;
-constexpr double kAlgo = 1e-10;
-
 // The five pressures of the Obra or of the Tramo. The fields of the Tramo show nothing for a 0.
 struct Presiones {
   bool deTramo;

@@ -13,50 +13,13 @@ namespace zorbin {
 
 namespace {
 
-constexpr std::int16_t kArmada = 1210;
-constexpr std::int16_t kEmbebida = 2211;
-constexpr std::int16_t kRevestida = 2221;
-
-// A default with its value and mask in each system.
-struct Defecto {
-  Ed campo;
-  double mks;
-  double si;
-  std::string_view mascara;
-  std::string_view mascaraSI;
-};
-
 // clang-format off
-constexpr auto kDefectosArmado = std::to_array<Defecto>({
-    {Ed::edCamMax, 6.0, 6.0, "#####0.0", "#####0.0"},
-    {Ed::edGamaB, 1.5, 1.5, "#####0.00", "#####0.00"},
-    {Ed::edFck, 350.0, 35.0, "####0", "####0.0"},
-    {Ed::edFyk, 2100.0, 210.0, "#####0", "#####0.0"},
-    {Ed::edFyd, 1400.0, 140.0, "#####0", "#####0.0"},
-});
-
-constexpr auto kDefectosPostesado = std::to_array<Defecto>({
-    {Ed::edDelca, 1.5, 1.5, "#####0.00", "#####0.00"},
-    {Ed::edRel, 2.0, 2.0, "#####0.00", "#####0.00"},
-    {Ed::edFic, 1.5, 1.5, "#####0.000", "#####0.000"},
-    {Ed::edFir, 0.75, 0.75, "#####0.000", "#####0.000"},
-    {Ed::edEpsc, 0.0002, 0.0002, "######0.0000", "######0.0000"},
-    {Ed::edEpsr, 0.0003, 0.0003, "######0.0000", "######0.0000"},
-    {Ed::edFyk, 2100.0, 210.0, "#####0", "#####0.0"},
-    {Ed::edEs, 2100000.0, 210000.0, "######0", "######0"},
-    {Ed::edEp, 2000000.0, 200000.0, "######0", "######0"},
-    {Ed::edFckno, 300.0, 30.0, "#####0.00", "#####0.0"},
-    {Ed::edFckn, 400.0, 40.0, "#####0.00", "#####0.0"},
-    {Ed::edFckr, 350.0, 35.0, "#####0.00", "#####0.0"},
-    {Ed::edSFck, 17000.0, 1700.0, "#####0", "#####0"},
-    {Ed::edSf, 12750.0, 1275.0, "######0", "######0"},
-});
-
-constexpr auto kDefectosSeccion = std::to_array<Defecto>({
-    {Ed::edGc0, 2.5, 2.5, "#####0.00", "#####0.00"},
-    {Ed::edGr0, 1.8, 1.8, "#####0.00", "#####0.00"},
-    {Ed::edFi0, 30.0, 30.0, "#####0.00", "#####0.00"},
-});
+constexpr auto kDefectosArmado = std::to_array<Ed>({
+    Ed::edCamMax, Ed::edGamaB, Ed::edFck, Ed::edFyk});
+constexpr auto kDefectosPostesado = std::to_array<Ed>({
+    Ed::edDelca, Ed::edRel, Ed::edFic, Ed::edFir, Ed::edEpsc, Ed::edEpsr, Ed::edFyk, Ed::edEs,
+    Ed::edEp, Ed::edFckno, Ed::edFckn, Ed::edFckr, Ed::edSFck});
+constexpr auto kDefectosSeccion = std::to_array<Ed>({Ed::edGc0, Ed::edGr0, Ed::edFi0});
 
 // Numbers cleared at every depth. Fckr is apart: its text stays.
 constexpr auto kMateriales = std::to_array<Ed>({
@@ -70,11 +33,15 @@ constexpr auto kSeccion = std::to_array<Ed>({
     Ed::edHr0Delta, Ed::edB0, Ed::edQDato0, Ed::edHr1});
 // clang-format on
 
-void Aplica(Captura& c, std::span<const Defecto> defectos) {
-  for (const auto& d : defectos) {
-    Variable(c, d.campo) = c.EsSI() ? d.si : d.mks;
-    Escribe(c, d.campo, Variable(c, d.campo), c.EsSI() ? d.mascaraSI : d.mascara);
-  }
+// A default under SI shows as a value of the file does.
+void PonDefecto(Captura& c, Ed campo, double valor) {
+  const auto& ficha = *Fila(campo).ficha;
+  Variable(c, campo) = valor;
+  Escribe(c, campo, valor, c.EsSI() ? ficha.Mascara(true) : ficha.MascaraTecleada(false));
+}
+
+void Aplica(Captura& c, std::span<const Ed> campos) {
+  for (const Ed campo : campos) PonDefecto(c, campo, *Fila(campo).ficha->Defecto(c.EsSI()));
 }
 
 void Borra(Captura& c, std::span<const Ed> campos) {
@@ -190,6 +157,14 @@ void RellenaB0(Captura& c) {
 
 }  // namespace
 
+double FydDeFyk(double Fyk) {
+  return 2.0 * Fyk / 3.0;
+}
+
+double SfDeSFck(double SFck) {
+  return 0.75 * SFck;
+}
+
 void DefectosArmado(Captura& c) {
   auto& t = c.e.tramo;
   EligeEntrada(c, Ed::edTipoControl, 1);
@@ -199,6 +174,7 @@ void DefectosArmado(Captura& c) {
   t.GamaY = 1.1;
   t.GamaF = 1.5;
   Aplica(c, kDefectosArmado);
+  PonDefecto(c, Ed::edFyd, FydDeFyk(t.Fyk));
   t.Fct = FctDeFck(t.Fck) / (c.EsSI() ? kFactorTension : 1.0);
   MuestraVariable(c, Ed::edFct);
   OlvidaCambios(c);
@@ -206,6 +182,7 @@ void DefectosArmado(Captura& c) {
 
 void DefectosPostesado(Captura& c) {
   Aplica(c, kDefectosPostesado);
+  PonDefecto(c, Ed::edSf, SfDeSFck(c.e.tramo.SFck));
   RenuevaEtiquetas(c);
   OlvidaCambios(c);
 }

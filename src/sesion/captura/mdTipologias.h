@@ -6,6 +6,11 @@
 
 namespace zorbin {
 
+/// Design strength of the steel, and tensioning stress of the wire, of a field that is left blank,
+/// in the unit of what they follow from.
+double FydDeFyk(double Fyk);
+double SfDeSFck(double SFck);
+
 /// Defaults of materials of a reinforced Tramo. Fct under SI is a tenth of what every later
 /// recalculation gives, on purpose.
 void DefectosArmado(Captura& c);

@@ -7,8 +7,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kNadaBajoCero = -1e-10;
-constexpr double kAlgo = 1e-10;
 constexpr double kAlturaMinima = 1.0;       // [m]
 constexpr double kIncrementoMinimo = 0.01;  // of a pressure
 

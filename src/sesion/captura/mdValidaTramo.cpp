@@ -6,18 +6,16 @@
 #include "core/mdUnidades.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
+#include "sesion/captura/mdTipologias.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kNadaBajoCero = -1e-10;
-constexpr double kAlgo = 1e-10;
 constexpr double kMinimo = 0.001;
 constexpr double kMinimoRetraccion = 0.0001;
 constexpr double kLimiteFyd = 1400.0;   // [kp/cm2]
 constexpr double kAnguloMaximo = 90.0;  // [degrees]
-constexpr std::int16_t kRevestida = 2221;
 constexpr std::int16_t kTerraplen = 31;
 constexpr std::array<std::int16_t, 5> kCodigosRelleno{11, 12, 21, 22, 23};
 
@@ -120,7 +118,7 @@ class Validacion {
 
   bool Tipologia() {
     auto& t = c_.e.tramo;
-    if (t.Tipologia != 1210 && t.Tipologia != kPrimeraPostesada && t.Tipologia != kRevestida) {
+    if (t.Tipologia != kArmada && t.Tipologia != kEmbebida && t.Tipologia != kRevestida) {
       Rechaza(c_, Ed::edTipoControl, Texto(c_, txt::SinTipologia), Error());
       if (interactivo_) MuestraPagina(c_, {1, 0});
       return false;
@@ -224,7 +222,7 @@ class Validacion {
   bool Tesado() {
     auto& t = c_.e.tramo;
     if (!EnBlanco(c_, Ed::edSf)) return Numero(Ed::edSf, kAlgo, txt::TensionDeTesado);
-    t.Sf = 0.75 * t.SFck;
+    t.Sf = SfDeSFck(t.SFck);
     Escribe(c_, Ed::edSf, t.Sf, "#####0");
     return true;
   }

@@ -43,7 +43,7 @@ bool EsObligatorio(const FilaCampo& fila) {
     case Ed::edHr0:
       return false;
     default:
-      return fila.minimo >= 0.0001;
+      return fila.ficha->minimo >= 0.0001;
   }
 }
 

@@ -1,0 +1,59 @@
+#include "core/campos/mdDatos.h"
+
+#include <cmath>
+
+#include "core/campos/mdTablaDatos.h"
+
+namespace zorbin {
+
+namespace {
+
+template <class Bloque>
+Bloque DeSIAMks(Bloque bloque) {
+  RecorreNumeros<Bloque>([&](const Ficha& ficha, double Bloque::*campo) {
+    bloque.*campo = Pareja(bloque.*campo, true, ficha.magnitud).mks;
+  });
+  return bloque;
+}
+
+template <class Bloque>
+void Recupera(Bloque& bloque, const Bloque& antes) {
+  RecorreNumeros<Bloque>([&](const Ficha& ficha, double Bloque::*campo) {
+    if (ficha.Escala()) bloque.*campo = antes.*campo;
+  });
+}
+
+}  // namespace
+
+std::span<const Dato<Obra>> TablaDe(const Obra&) {
+  return kDatosObra;
+}
+
+std::span<const Dato<Tramo>> TablaDe(const Tramo&) {
+  return kDatosTramo;
+}
+
+double FctDeFck(double Fck) {
+  return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0);
+}
+
+Obra ObraEnCalculo(const Obra& obra) {
+  return obra.EsSI() ? DeSIAMks(obra) : obra;
+}
+
+Tramo TramoEnCalculo(const Tramo& tramo, bool si) {
+  if (!si) return tramo;
+  Tramo t = DeSIAMks(tramo);
+  t.Fct = FctDeFck(t.Fck);
+  return t;
+}
+
+void RecuperaUnidades(Obra& obra, const Obra& antes) {
+  Recupera(obra, antes);
+}
+
+void RecuperaUnidades(Tramo& tramo, const Tramo& antes) {
+  Recupera(tramo, antes);
+}
+
+}  // namespace zorbin
