@@ -209,17 +209,13 @@ class CorridaTramo {
 
 DatosTramo DatosDeCalculo(const Obra& obra, const Tramo& tramo, std::vector<EntradaAjuste> ajustes,
                           bool sinAjustes) {
-  EstadoCalculo e;
-  e.obra = obra;
-  e.tramo = tramo;
-  PreparaUnidades(e, "ParaCalculo");
-  auto& t = e.tramo;
+  Tramo t = TramoEnCalculo(tramo, obra.EsSI());
   t.Delca = t.Delca / 10.0;
   if (t.TipoCuna == kCuna120Captura) t.TipoCuna = kCuna120Corrida;
   t.Esp = t.Esp / 100.0;
   t.Reci = t.Reci / 100.0;
   t.Rece = t.Rece / 100.0;
-  return {e.obra, e.tramo, std::move(ajustes), sinAjustes};
+  return {ObraEnCalculo(obra), std::move(t), std::move(ajustes), sinAjustes};
 }
 
 ResultadoTramo CalculaTramo(const DatosTramo& datos, const Rango& rango, const SigueCorrida& sigue,
