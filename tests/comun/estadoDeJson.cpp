@@ -1,6 +1,7 @@
 #include "comun/estadoDeJson.h"
 
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <type_traits>
 

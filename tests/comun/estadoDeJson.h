@@ -1,7 +1,7 @@
 // A state from the data of a worked case.
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 
 #include "core/estado_calculo.h"

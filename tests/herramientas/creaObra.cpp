@@ -2,6 +2,7 @@
 // listing ("obra" and "tramos" with their fields by name; a field left out is 0).
 #include <filesystem>
 #include <iostream>
+#include <nlohmann/json.hpp>
 
 #include "base/mdCarpetas.h"
 #include "base/mdTextos.h"

@@ -8,6 +8,7 @@
 #include "base/textos.h"
 #include "base/textosListaAjustes.h"
 #include "persistencia/disco/mdDescriptor.h"
+#include "programas/zorbin-calc/mdAyudaLinea.h"
 #include "programas/zorbin-calc/mdCalcula.h"
 #include "programas/zorbin-calc/mdCalculadoras.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"

@@ -1,7 +1,6 @@
-// The words of the command line, in the language of the program: help, refusals, exit codes.
+// What the words of the command line stand for, and its exit codes.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -32,14 +31,5 @@ void PonIdiomaDeLinea(Catalogo& textos, std::string_view codigo);
 
 /// Decimal separator of "coma" or "punto"; that of the machine for an empty word.
 char SeparadorDeLinea(std::string_view palabra);
-
-/// Headings of the help in the language of the catalogue.
-void PonRotulosDeAyuda(CLI::App& app, const Catalogo& textos);
-
-/// What is wrong with the words, in one line.
-std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& textos);
-
-/// A validator that takes one of the values and tells the refused one as the catalogue says it.
-CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos, std::string opcion);
 
 }  // namespace zorbin

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "calculo/corrida/mdCorrida.h"
 #include "comun/estadoDeJson.h"
 #include "core/mdAjustes.h"

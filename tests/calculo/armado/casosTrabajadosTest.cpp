@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 
 #include "base/mdCarpetas.h"
 #include "calculo/corrida/mdCorrida.h"

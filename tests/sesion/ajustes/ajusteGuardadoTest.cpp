@@ -13,7 +13,7 @@
 #include "comun/listado.h"
 #include "listados/datos/mdJson.h"
 #include "listados/obra/mdResumen.h"
-#include "persistencia/zrb/mdZrb.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "sesion/ajustes/banco.h"
 #include "sesion/ajustes/mdAjuste.h"
 
@@ -149,16 +149,19 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   b.Directa("21,3", "4,4", "19,7");
   b.Pulsa(btAceptarAjuste);
 
+  const Proyecto proyecto = LeeProyecto(b.obra);
+  const auto pedido = TramosPedidos(proyecto, {1}).at(0);
   EstadoCalculo e;
-  const auto obra = AbreObra(e, b.obra);
-  const PeticionCalculo peticion{{1}, b.registros, {}, {}};
+  e.obra = proyecto.obra;
+  e.tramo = pedido.tramo;
+  e.corrida.ajustes = proyecto.ajustes;
+  const auto resultado = pruebas::ResultadoDe(e);
+  const std::map<int, Tramo> capturados{{1, e.tramo}};
   std::ostringstream json;
-  {
-    ListadoJson lector(json, "o.zrb", b.textos, {true, ','});
-    lector.EmpiezaObra(e);
-    CalculaObra(e, obra, peticion, lector);
-    lector.AcabaObra();
-  }
+  ListadoJson lector(json, "o.zrb", capturados, b.textos, {true, ','});
+  lector.EmpiezaObra(e.obra);
+  lector.Tramo(resultado, 1, "1", {});
+  lector.AcabaObra();
   const auto casos = nlohmann::json::parse(json.str())["tramos"][0]["casos"];
   int ajustados = 0;
   for (const auto& caso : casos) {
@@ -174,8 +177,6 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   EXPECT_EQ(ajustados, 1);
 
   // The same state through the listings on paper and the summary.
-  CargaTramo(e, obra.fichero, 1);
-  e.tramo.NumeroTramo = 1;
   const auto cuenta = [](const std::string& texto, const std::string& que) {
     int n = 0;
     for (auto i = texto.find(que); i != std::string::npos; i = texto.find(que, i + 1)) ++n;
