@@ -54,8 +54,10 @@ void LeeIdioma(const std::filesystem::path& ruta, int offset,
                std::unordered_map<int, std::string>& entradas) {
   const nlohmann::json textos = LeeJson(ruta);
   if (!textos.is_object()) throw Error(ruta, "not an object of texts");
-  for (const auto& [clave, texto] : textos.items()) {
+  for (const auto& [clave, entrada] : textos.items()) {
     const int n = NumeroEntrada(clave, ruta);
+    const auto& texto =
+        entrada.is_object() && entrada.contains("texto") ? entrada["texto"] : entrada;
     if (!texto.is_string()) {
       throw Error(ruta, "entry " + clave + " is not a text");
     }

@@ -1,6 +1,8 @@
 // The numbered catalogue of every text that a person sees, in the languages of the program.
 //
-// One file a language, recursos/textos/{es,en,ca,pt,fr}.json: base number to text, blanks kept.
+// One file a language, recursos/textos/{es,en,ca,pt,fr}.json: base number to text, blanks kept. In
+// Spanish the text is the "texto" of an object that also holds the name by which the code calls it,
+// of which the build makes base/textos.h.
 // In the catalogue the entry of a language has the base number plus 5000 for each language before
 // it, so that a number alone names a text in a language.
 #pragma once

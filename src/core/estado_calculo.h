@@ -37,6 +37,8 @@ struct Obra {
 
 /// First `Tipologia` of the post-tensioned branch.
 inline constexpr std::int16_t kPrimeraPostesada = 2211;
+/// `Tipologia` with the cylinder round the core, under the wire.
+inline constexpr std::int16_t kPostesadaRevestida = 2221;
 
 /// Data of one pipe section.
 struct Tramo {
@@ -134,9 +136,7 @@ struct Corrida : Cargas {
 };
 
 /// The Caso in hand of a run that is listened to.
-struct CasoEnCurso {
-  TerminosCaso MHip;
-  TerminosCaso NHip;
+struct CasoEnCurso : TerminosAnillo {
   std::vector<Aviso> avisos;
   ResultadoArmado armado;
   ResultadoPostesado postesado;

@@ -26,11 +26,11 @@ int BuscaCaso(const std::vector<EntradaAjuste>& entradas, double DP, int NumeroT
   return -libre;
 }
 
-std::optional<Ajuste> AjusteDelCaso(const EstadoCalculo& e) {
-  const auto& c = e.corrida;
-  const int posicion = BuscaCaso(c.ajustes, c.DP, e.tramo.NumeroTramo, c.Hr);
+std::optional<Ajuste> AjusteDelCaso(const std::vector<EntradaAjuste>& entradas, double DP,
+                                    int NumeroTramo, double Hr) {
+  const int posicion = BuscaCaso(entradas, DP, NumeroTramo, Hr);
   if (posicion <= 0) return std::nullopt;
-  return c.ajustes[static_cast<std::size_t>(posicion - 1)].areas;
+  return entradas[static_cast<std::size_t>(posicion - 1)].areas;
 }
 
 }  // namespace zorbin

@@ -13,7 +13,8 @@ namespace zorbin {
 /// [m] lie nearer than 0.05: 6.00 and 6.04 are the same Caso, 6.00 and 6.05 are not.
 int BuscaCaso(const std::vector<EntradaAjuste>& entradas, double DP, int NumeroTramo, double Hr);
 
-/// The adjustment of the Caso in hand, if it has one.
-std::optional<Ajuste> AjusteDelCaso(const EstadoCalculo& e);
+/// The areas that stand for a Caso, if it has an adjustment.
+std::optional<Ajuste> AjusteDelCaso(const std::vector<EntradaAjuste>& entradas, double DP,
+                                    int NumeroTramo, double Hr);
 
 }  // namespace zorbin

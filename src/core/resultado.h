@@ -47,10 +47,8 @@ struct CargasAltura {
 };
 
 /// What every reader wants of a Caso, and no more: a long range is kept whole in memory.
-struct FilaCaso {
+struct FilaCaso : PresionesCaso {
   double Hr = 0;                    // fill height [m]
-  double DP = 0, MDP = 0, STP = 0;  // pressures [at]
-  double PP = 0;                    // factory test pressure required [at]
   std::int32_t altura = 0;          // its entry in ResultadoTramo::alturas, from 0
   std::int16_t NumCaso = 0;         // restarts at 1 at every height
   std::int16_t HipotesisRige = 0;   // reinforced: the governing hypothesis
@@ -86,6 +84,7 @@ struct ResultadoTramo {
   bool hayCabecera = false;             // load table and 1-metre loads stand
   std::vector<CargasAltura> alturas;
   std::vector<FilaCaso> filas;
+  CuentaVueltas vueltas;              // of all its iterations
   std::optional<FalloCorrida> fallo;  // the rows are those before it
   bool cancelado = false;             // whoever was asked said no
 

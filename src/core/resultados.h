@@ -1,6 +1,6 @@
 // What a run leaves for its readers: the loads of a height, the ring's moments and axial forces,
-// the designed reinforcement of a Caso and the warnings met on the way. Calculation fills these
-// structures, listings read them; no routine writes a text into them.
+// the designed reinforcement of a Caso and the warnings met on the way. Calculation makes these
+// values, listings read them; no text is kept in them.
 #pragma once
 
 #include <cstdint>
@@ -8,13 +8,13 @@
 #include <variant>
 #include <vector>
 
+#include "base/mdRegistro.h"
 #include "base/tablas.h"
 #include "core/resultadoPostesado.h"
 
 namespace zorbin {
 
-/// Loads of one fill height. `CargasMarston` gives them per metre of pipe (t/m); its callers
-/// divide them by `De`, and from then on they are t/m2.
+/// Loads of one fill height, over the external diameter.
 struct Cargas {
   double Q = 0;                // adopted total vertical load [t/m2]
   double QTerraplen = 0;       // second load, origin of the lateral thrust [t/m2]
@@ -61,6 +61,21 @@ struct Aviso {
   Alambre alambre{};            // winding in hand, in the post-tensioned design
 };
 
+/// What a design tells on its way, beside its result.
+struct Marcha {
+  CuentaVueltas vueltas;         // of all the iterations of a run
+  std::vector<Aviso> avisos;     // of the Caso in hand, in the order in which they arose
+  Registro* registro = nullptr;  // debug log, none when null
+};
+
+/// Pressures of a Caso [at].
+struct PresionesCaso {
+  double DP = 0;   // design pressure
+  double MDP = 0;  // maximum design pressure, surge included
+  double STP = 0;  // system test pressure
+  double PP = 0;   // factory test pressure required
+};
+
 inline constexpr int kHipotesisArmado = 5;
 inline constexpr int kHipPPNeta = 1;  // the one of the factory test
 inline constexpr int kTerminosOval = 12;
@@ -89,6 +104,16 @@ struct Esfuerzos {
   Tabla<double, kHipotesisArmado, kSecciones> N;
 };
 
+/// Steel of both faces: a sheet and bars at the inner one, bars at the outer one.
+struct AceroArmado {
+  double CAMISA = 0;        // sheet thickness [mm]
+  double FIIN = 0;          // inner bar diameter [mm]
+  std::int16_t NESPIN = 0;  // inner spirals [1/m]
+  double FIEX = 0;          // outer bar diameter [mm]
+  std::int16_t NEXPEX = 0;  // outer spirals [1/m]
+  std::int16_t IESP = 0;    // above 0: wall too thin
+};
+
 /// Steel of a pipe without sheet as it stood before the cracking check.
 struct SinFisuracion {
   double FIIN = 0;          // [mm]
@@ -103,18 +128,12 @@ struct SinFisuracion {
 /// Reinforced design of one Caso. Nothing in it comes from the Caso before. Where hypothesis 1
 /// governs, bars and sheet are laid out for its areas; its row of `TablaHip` holds these areas as
 /// calculated, and never steel.
-struct ResultadoArmado {
+struct ResultadoArmado : AceroArmado {
   Esfuerzos esfuerzos;
   Lista<FilaHip, kHipotesisArmado> TablaHip;
   std::int16_t HipotesisRige = 0;
   Lista<double, kSecciones> MRige;  // moments of the governing hypothesis [m·t/m]
   Lista<double, kSecciones> NRige;  // its axial forces without the pressure term [t/m]
-  double CAMISA = 0;                // sheet thickness [mm]
-  double FIIN = 0;                  // inner bar diameter [mm]
-  std::int16_t NESPIN = 0;          // inner spirals [1/m]
-  double FIEX = 0;                  // outer bar diameter [mm]
-  std::int16_t NEXPEX = 0;          // outer spirals [1/m]
-  std::int16_t IESP = 0;            // above 0: wall too thin
   double AreaCamisa = 0;            // [cm2/m]
   double AreaEspiras = 0;           // [cm2/m]
   double AreaExterior = 0;          // [cm2/m]
@@ -136,10 +155,14 @@ struct ResultadoArmado {
 /// Moments or axial forces of the load terms.
 using TerminosCaso = Tabla<double, kTerminosOval, kSecciones>;
 
+/// The ring under each load term, from which both designs put their hypotheses together.
+struct TerminosAnillo {
+  TerminosCaso MHip;  // [m·t/m]
+  TerminosCaso NHip;  // [t/m]
+};
+
 /// Everything a reader may want of one Caso.
-struct ResultadoCaso {
-  TerminosCaso MHip;          // moments of the load terms [m·t/m]
-  TerminosCaso NHip;          // axial forces of the load terms [t/m]
+struct ResultadoCaso : TerminosAnillo {
   std::vector<Aviso> avisos;  // in the order in which they arose
   std::variant<ResultadoArmado, ResultadoPostesado> diseno;
 

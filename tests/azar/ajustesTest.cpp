@@ -7,7 +7,7 @@
 #include "azar/generador.h"
 #include "azar/oraculo.h"
 #include "base/mdTextos.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "persistencia/zrb/mdZrb.h"
 #include "sesion/ajustes/mdAjuste.h"
 #include "sesion/ajustes/mdPared.h"

@@ -137,9 +137,30 @@ void Reales(const EstadoCalculo& e, F f) {
 
 }  // namespace
 
-std::vector<Real> RealesDe(const EstadoCalculo& e) {
+std::vector<Real> RealesDe(const ResultadoTramo& x, const FilaCaso& fila,
+                           const ResultadoCaso& caso) {
   std::vector<Real> v;
-  Reales(e, [&v](const char* nombre, double x) { v.push_back({nombre, x}); });
+  const auto f = [&v](const char* nombre, double valor) { v.push_back({nombre, valor}); };
+  const auto& altura = x.Altura(fila);
+  for (const auto* q : {&altura.cargas, &x.unMetro}) {
+    f("Q", q->Q), f("QTerraplen", q->QTerraplen), f("QTierras", q->QTierras);
+    f("QMovil", q->QMovil), f("Impacto", q->Impacto);
+  }
+  f("Landa", altura.Landa), f("Hr", fila.Hr), f("DP", fila.DP), f("MDP", fila.MDP);
+  f("STP", fila.STP), f("PP", fila.PP), f("PPObtenida", fila.PPObtenida), f("AsInt", fila.AsInt);
+  f("AsExt", fila.AsExt), f("Total", fila.Total), f("CAMISA", fila.CAMISA), f("FIIN", fila.FIIN);
+  f("FIEX", fila.FIEX), f("NESPIN", fila.NESPIN), f("NEXPEX", fila.NEXPEX);
+  DeTabla("MHip", caso.MHip, f);
+  DeTabla("NHip", caso.NHip, f);
+  for (const auto& a : caso.avisos) {
+    if (a.valor) f("aviso", *a.valor);
+    f("aviso", a.alambre.NESP);
+  }
+  if (caso.EsArmado()) {
+    DeArmado(caso.Armado(), f);
+  } else {
+    DePostesado(caso.Postesado(), f);
+  }
   return v;
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "calculo/corrida/mdCorrida.h"
 #include "sesion/captura/mdCaptura.h"
 
@@ -18,8 +19,9 @@ struct Real {
   const char* nombre;
   double valor;
 };
-/// Every real that a Caso leaves in the state, but for the table of loads.
-std::vector<Real> RealesDe(const EstadoCalculo& e);
+/// Every real of a Caso, but for the table of loads.
+std::vector<Real> RealesDe(const ResultadoTramo& x, const FilaCaso& fila,
+                           const ResultadoCaso& caso);
 
 /// How a run ended.
 struct Final {

@@ -4,74 +4,52 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <set>
 
 #include "azar/generador.h"
 #include "azar/oraculo.h"
-#include "core/mdUnidades.h"
+#include "calculo/corrida/mdCalculaTramo.h"
+#include "comun/estadoDeJson.h"
 
 namespace zorbin::pruebas {
 namespace {
-
-using Valores = std::vector<double>;
 
 const Catalogo& Textos() {
   static const Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
   return textos;
 }
 
-// Of the loop, not of the Caso.
-bool DelBucle(const std::string& nombre) {
-  static const std::set<std::string> kBucle{"c.DPActual", "c.IncDP", "c.Hr0Actual",
-                                            "c.Hr0FinalActual"};
-  return kBucle.contains(nombre);
-}
-
 struct UnCaso {
-  double Hr = 0;
-  double DP = 0;
-  bool rigePP = false;
+  FilaCaso fila;
   std::vector<Real> reales;
   std::vector<int> enteros;
+
+  bool RigePP() const { return fila.HipotesisRige == kHipPPNeta; }
 };
 
-UnCaso Foto(const EstadoCalculo& e) {
-  const auto& a = e.caso.armado;
-  const auto& p = e.caso.postesado;
-  UnCaso c{e.corrida.Hr, e.corrida.DP, e.tramo.EsArmado && a.HipotesisRige == 1, {}, {}};
-  for (const auto& r : RealesDe(e)) {
-    if (!DelBucle(r.nombre)) c.reales.push_back(r);
-  }
-  if (e.tramo.EsArmado) {
-    c.enteros = {a.HipotesisRige, a.NESPIN, a.NEXPEX, a.IESP, a.ErrorPostesado, a.MomentoTope};
+UnCaso Foto(const ResultadoTramo& x, const FilaCaso& fila) {
+  const auto caso = CasoEntero(x, fila);
+  UnCaso c{fila, RealesDe(x, fila, caso), {fila.HipotesisRige, fila.ErrorPostesado}};
+  if (caso.EsArmado()) {
+    const auto& a = caso.Armado();
+    c.enteros.insert(c.enteros.end(), {a.NESPIN, a.NEXPEX, a.IESP, a.MomentoTope});
   } else {
-    c.enteros = {p.ErrorPostesado, static_cast<int>(p.fin), p.PPHipotesis};
+    const auto& p = caso.Postesado();
+    c.enteros.insert(c.enteros.end(), {static_cast<int>(p.fin), p.PPHipotesis});
   }
-  for (const auto& aviso : e.caso.avisos) {
-    for (const int x : {static_cast<int>(aviso.clase), aviso.hipotesis,
-                        static_cast<int>(aviso.fase), static_cast<int>(aviso.pantalla)}) {
-      c.enteros.push_back(x);
-    }
+  for (const auto& a : caso.avisos) {
+    c.enteros.insert(c.enteros.end(), {static_cast<int>(a.clase), a.hipotesis,
+                                       static_cast<int>(a.fase), static_cast<int>(a.pantalla)});
   }
   return c;
 }
 
-struct Apunta : OyenteCorrida {
-  std::vector<UnCaso> casos;
-  void Caso(const EstadoCalculo& e) override { casos.push_back(Foto(e)); }
-};
-
 // The Casos of a run; none where it fails.
-std::vector<UnCaso> Casos(EstadoCalculo& e, double Hr = kSinForzar, double DP = kSinForzar) {
-  Apunta apunta;
-  const std::array<OyenteCorrida*, 1> oyentes{&apunta};
-  const EnUnidadesDeCalculo unidades(e);
-  try {
-    CalculaCasos(e, Hr, DP, oyentes);
-  } catch (const ErrorCorrida&) {
-    return {};
-  }
-  return apunta.casos;
+std::vector<UnCaso> Casos(const DatosTramo& datos, const Rango& rango) {
+  const auto x = CalculaTramo(datos, rango);
+  std::vector<UnCaso> casos;
+  if (x.fallo) return casos;
+  for (const auto& fila : x.filas) casos.push_back(Foto(x, fila));
+  return casos;
 }
 
 // The first real in which two Casos differ by more than a fraction of it (0: by a bit); empty for
@@ -104,15 +82,12 @@ void PorPlausible(F f) {
 }
 
 // Whether a pressure falls on the very edge of the range, where the rounding of the units says if
-// it is still in: the method compares reals as they are.
-bool EnElBorde(const EstadoCalculo& e, const std::vector<UnCaso>& casos) {
-  const auto& t = e.tramo;
-  const double escala = e.obra.EsSI() ? kFactorTension : 1.0;
-  const double F = (t.TieneDPPropia() ? t.Prs2Tram : e.obra.Prs2) * escala;
-  const double paso = e.corrida.IncDP;
+// it is still in: reals are compared as they are.
+bool EnElBorde(const Rango& r, const std::vector<UnCaso>& casos) {
   return std::any_of(casos.begin(), casos.end(), [&](const UnCaso& c) {
-    return std::fabs(c.DP + paso - F - 0.2) < 1e-6 || std::fabs(c.DP - F + 0.1) < 1e-6 ||
-           std::fabs(c.DP - F - 0.2) < 1e-6;
+    const double resto = r.UltimaDP - c.fila.DP;
+    return std::fabs(resto - r.IncDP + 0.2) < 1e-6 || std::fabs(resto - 0.1) < 1e-6 ||
+           std::fabs(resto + 0.2) < 1e-6;
   });
 }
 
@@ -121,11 +96,11 @@ TEST(AzarPropiedades, TecleadoEnSIyEnMKSDaLoMismo) {
   int casos = 0;
   int bordes = 0;
   PorPlausible([&](int i) {
-    auto si = PlausibleEn(i, true);
-    auto mks = PlausibleEn(i, false);
-    const auto a = Casos(si);
-    const auto b = Casos(mks);
-    if (EnElBorde(si, a) || EnElBorde(mks, b)) {
+    const auto si = EnCalculo(PlausibleEn(i, true));
+    const auto mks = EnCalculo(PlausibleEn(i, false));
+    const auto a = Casos(si, RangoDe(si));
+    const auto b = Casos(mks, RangoDe(mks));
+    if (EnElBorde(RangoDe(si), a) || EnElBorde(RangoDe(mks), b)) {
       ++bordes;
       return;
     }
@@ -139,21 +114,19 @@ TEST(AzarPropiedades, TecleadoEnSIyEnMKSDaLoMismo) {
             << " Tramos con una presion en el borde\n";
 }
 
-// A Caso of a range is the Caso of its height and pressure alone, whichever hypothesis governs.
+// A Caso of a range is the Caso of its height and pressure alone, whichever hypothesis governs, and
+// what is calculated again of it is what its row says.
 TEST(AzarPropiedades, UnCasoNoDependeDeLosDemas) {
   int casos = 0;
   int conPP = 0;
   PorPlausible([&](int i) {
-    const auto e = EstadoAlAzar(Clase::Plausible, i);
-    auto entero = e;
-    const auto todos = Casos(entero);
-    for (const auto& c : todos) {
-      auto solo = e;
-      const auto uno = Casos(solo, c.Hr, c.DP);
-      ASSERT_EQ(uno.size(), 1U) << c.Hr << ' ' << c.DP;
-      EXPECT_EQ(Difiere(c, uno[0], 0), "") << c.Hr << ' ' << c.DP;
+    const auto datos = EnCalculo(EstadoAlAzar(Clase::Plausible, i));
+    for (const auto& c : Casos(datos, RangoDe(datos))) {
+      const auto uno = Casos(datos, RangoDeUnCaso(datos, c.fila.Hr, c.fila.DP));
+      ASSERT_EQ(uno.size(), 1U) << c.fila.Hr << ' ' << c.fila.DP;
+      EXPECT_EQ(Difiere(c, uno[0], 0), "") << c.fila.Hr << ' ' << c.fila.DP;
       ++casos;
-      if (c.rigePP) ++conPP;
+      if (c.RigePP()) ++conPP;
     }
   });
   if (Pocos() >= 100) {
@@ -163,28 +136,14 @@ TEST(AzarPropiedades, UnCasoNoDependeDeLosDemas) {
             << " con la prueba en fabrica\n";
 }
 
-// A Tramo gives the same after any other one, and the same bytes when the whole is done again.
-TEST(AzarPropiedades, ElOrdenDeLosTramosNoImportaYRepetirDaLosMismosBytes) {
-  int casos = 0;
-  EstadoCalculo seguido;
+// The whole done again gives the same bytes.
+TEST(AzarPropiedades, RepetirDaLosMismosBytes) {
   PorPlausible([&](int i) {
-    const auto e = EstadoAlAzar(Clase::Plausible, i);
-    auto limpio = e;
-    const auto a = Casos(limpio);
-    const CasoEnCurso anterior = seguido.caso;
-    seguido = e;
-    seguido.caso = anterior;
-    const auto b = Casos(seguido);
-    ASSERT_EQ(a.size(), b.size());
-    for (std::size_t k = 0; k < a.size(); ++k) {
-      EXPECT_EQ(Difiere(a[k], b[k], 0), "") << "Caso " << k;
-      ++casos;
-    }
     if (i % 10 != 0) return;
+    const auto e = EstadoAlAzar(Clase::Plausible, i);
     const auto otro = EstadoAlAzar(Clase::Plausible, i + 1);
     EXPECT_EQ(JsonDe({e, otro}, Textos()), JsonDe({e, otro}, Textos()));
   });
-  std::cout << "[ azar     ] tras otros Tramos: " << casos << " Casos iguales\n";
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <set>
 
 #include "base/mdTextos.h"
 
@@ -24,29 +23,14 @@ std::string Contenido(const fs::path& ruta) {
   return {std::istreambuf_iterator<char>(f), {}};
 }
 
-// The numbers stand in headers of named constants; everywhere else a text is called by its name.
-TEST(Catalogo, TodoNumeroQueUsaElCodigoExiste) {
-  const Catalogo textos = Lee();
-  int numeros = 0;
-  const std::regex numero(R"(\b([1-9]\d{2,3})\b)");
+// That every name has its entry is a matter of the build.
+TEST(Catalogo, NingunTextoSeLlamaPorSuNumero) {
   const std::regex suelto(R"((Texto|LoadRes|Compone)\(\d)");
   for (const auto& f : fs::recursive_directory_iterator(ZORBIN_FUENTES "src")) {
-    const std::string nombre = f.path().filename().string();
-    if (nombre.ends_with(".cpp") || nombre.ends_with(".h")) {
-      EXPECT_FALSE(std::regex_search(Contenido(f.path()), suelto)) << nombre;
-    }
-    if (!nombre.starts_with("textos") || !nombre.ends_with(".h")) continue;
-    std::istringstream lineas(Contenido(f.path()));
-    for (std::string linea; std::getline(lineas, linea);) {
-      if (linea.find("inline constexpr") == std::string::npos) continue;
-      const std::string valores = linea.substr(linea.find_first_of("={"));
-      for (std::sregex_iterator i(valores.begin(), valores.end(), numero), fin; i != fin; ++i) {
-        EXPECT_TRUE(textos.Existe(std::stoi(i->str(1)))) << nombre << ": " << linea;
-        ++numeros;
-      }
-    }
+    const std::string extension = f.path().extension().string();
+    if (extension != ".cpp" && extension != ".h") continue;
+    EXPECT_FALSE(std::regex_search(Contenido(f.path()), suelto)) << f.path();
   }
-  EXPECT_GT(numeros, 90);
 }
 
 TEST(Catalogo, UnaEntradaQueFaltaSeVeYNoPara) {
@@ -65,8 +49,9 @@ TEST(Catalogo, UnFicheroRotoSeRechazaPorSuNombre) {
   const auto carpeta = fs::temp_directory_path() / ("zorbin-textos-" + std::to_string(getpid()));
   fs::create_directories(carpeta);
   for (const char* malo :
-       {"", "{", "[]", R"({"x":"a"})", R"({"101":1})", R"({"9999":"a"})", "\xff\xfe",
-        R"({"+12":"a"})", R"({" 12":"a"})", R"({"012":"a"})", "{\"1\":\"\x1b[2J\\uzzzz\"}"}) {
+       {"", "{", "[]", R"({"x":"a"})", R"({"101":1})", R"({"101":{}})", R"({"101":{"texto":1}})",
+        R"({"9999":"a"})", "\xff\xfe", R"({"+12":"a"})", R"({" 12":"a"})", R"({"012":"a"})",
+        "{\"1\":\"\x1b[2J\\uzzzz\"}"}) {
     std::ofstream(carpeta / "es.json", std::ios::binary) << malo;
     try {
       Catalogo::Lee(carpeta);

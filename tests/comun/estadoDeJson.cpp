@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <type_traits>
 
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin::pruebas {
@@ -75,6 +76,10 @@ EstadoCalculo EstadoDeMuestra(int posicion) {
   RellenaObra(e, datos.at("obra"));
   RellenaTramo(e, datos.at("tramos").at(static_cast<std::size_t>(posicion - 1)));
   return e;
+}
+
+DatosTramo EnCalculo(const EstadoCalculo& e) {
+  return DatosDeCalculo(e.obra, e.tramo, e.corrida.ajustes, e.corrida.SinAjustes);
 }
 
 EstadoCalculo EnMks(EstadoCalculo e) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/estado_calculo.h"
+#include "core/resultado.h"
 
 namespace zorbin::pruebas {
 
@@ -25,6 +26,9 @@ EstadoCalculo EstadoDe(const nlohmann::json& entrada);
 
 /// The Tramo of the sample Obra at a position, from 1, with its Obra, in SI.
 EstadoCalculo EstadoDeMuestra(int posicion);
+
+/// What a run is given of a state in capture units.
+DatosTramo EnCalculo(const EstadoCalculo& e);
 
 /// The same data typed in the other unit system. Fct follows from Fck in each.
 EstadoCalculo EnMks(EstadoCalculo e);

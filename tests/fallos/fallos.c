@@ -1,5 +1,5 @@
 #define _GNU_SOURCE
-#include "fallos/fallos.h"
+#include "fallos.h"
 
 #include <dlfcn.h>
 #include <errno.h>

@@ -153,7 +153,8 @@ bool EsJson(std::string_view texto) {
 std::vector<std::pair<std::string, std::string>> TextosDeJson(std::string_view json) {
   std::vector<std::pair<std::string, std::string>> textos;
   const auto objeto = nlohmann::json::parse(json);
-  for (const auto& [clave, texto] : objeto.items()) {
+  for (const auto& [clave, entrada] : objeto.items()) {
+    const auto& texto = entrada.is_object() ? entrada.at("texto") : entrada;
     textos.emplace_back(clave, texto.get<std::string>());
   }
   return textos;

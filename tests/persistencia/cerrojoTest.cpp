@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <csignal>
 
-#include "base/textosGrabado.h"
+#include "base/textos.h"
 #include "comun/grabadoRoto.h"
 #include "persistencia/registros/mdRegistros.h"
 

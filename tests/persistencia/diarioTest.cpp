@@ -11,7 +11,6 @@
 #include <fstream>
 
 #include "base/textos.h"
-#include "base/textosGrabado.h"
 #include "comun/grabadoRoto.h"
 #include "comun/sinDerechos.h"
 #include "persistencia/registros/mdRegistros.h"

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <string>
 
-#include "base/textosTablas.h"
+#include "base/textos.h"
 
 namespace zorbin {
 namespace {

@@ -11,7 +11,7 @@
 #include <QTreeWidget>
 #include <QWindow>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "shell/ayuda/frAyuda.h"
 #include "shell/entornoPrueba.h"
 #include "shell/piezas/mdVisorHtml.h"

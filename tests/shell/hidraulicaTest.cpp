@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QRadioButton>
 
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdHidraulicaListado.h"
 #include "listados/calculadoras/mdHidraulicaPapel.h"
 #include "shell/pantallaCalculadora.h"

@@ -2,7 +2,7 @@
 #include <QCheckBox>
 #include <QTextBrowser>
 
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdMediosPapel.h"
 #include "shell/calculadoras/Protecciones.h"
 #include "shell/pantallaCalculadora.h"
@@ -87,7 +87,7 @@ TEST(PantallaMedios, SeImprimeLoQueSeAnaliza) {
 TEST(PantallaMedios, ElEjemploSeLeeYNoLleva) {
   Puesto p;
   auto& ejemplo = Pieza<QTextBrowser>(p.pantalla, "edEjemplo");
-  EXPECT_EQ(p.pedidos, std::vector<int>{txt::FicheroAguasPuras});
+  EXPECT_EQ(p.pedidos, std::vector<int>{txt::DocAguasPuras});
   EXPECT_EQ(ejemplo.toPlainText(), "Aguas puras");
   EXPECT_FALSE(ejemplo.openLinks());
   Protecciones sinEjemplo(p.entorno, [](int) { return QString{}; });

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "base/textosBorrador.h"
+#include "base/textos.h"
 #include "comun/grabadoRoto.h"
 #include "programas/zorbin/mdPrograma.h"
 #include "sesion/captura/mdCiclo.h"

@@ -3,15 +3,14 @@
 #include "calculo/armado/mdArmtub.h"
 #include "calculo/armado/mdCamisa.h"
 #include "calculo/armado/mdRetraccion.h"
-#include "core/mdAjustes.h"
 
 namespace zorbin {
 
 namespace {
 
 // Pressure of each hypothesis [at].
-Lista<double, kHipotesisArmado> Presiones(const Corrida& c) {
-  return {{c.PPNeta, 0.0, c.STP, c.DP, c.MDP}};
+Lista<double, kHipotesisArmado> Presiones(const PresionesCaso& p) {
+  return {{p.PP, 0.0, p.STP, p.DP, p.MDP}};
 }
 
 double TerminoPresion(double p, double R) {
@@ -45,65 +44,12 @@ void AnotaInicio(Registro* log, const Tramo& t, double R) {
   log->FinLinea();
 }
 
-FilaHip DisenaHipotesis(EstadoCalculo& e, int h) {
-  if (h == kHipPPNeta) {
-    const auto as = ArmPPNeta(e);
-    return {as.AsInt, as.AsExt, as.AsInt + as.AsExt};
-  }
-  const auto& r = e.caso.armado;
-  ArmTubo(e, h, h, FaseAviso::Busqueda);
-  const auto as = AreasDelAcero(r);
-  return {as.AsInt, as.AsExt, as.AsInt + as.AsExt, r.IESP, r.NESPIN, r.NEXPEX, r.CAMISA};
-}
-
-// The hypothesis with the largest total; on a tie the later one.
-void RecorreHipotesis(EstadoCalculo& e) {
-  auto& r = e.caso.armado;
-  r.HipotesisRige = 0;
-  double Max = 0;
-  for (int h = 1; h <= kHipotesisArmado; ++h) {
-    r.TablaHip(h) = DisenaHipotesis(e, h);
-    if (Max <= r.TablaHip(h).Total) {
-      Max = r.TablaHip(h).Total;
-      r.HipotesisRige = I16(h);
-    }
-  }
-}
-
 // Areas of the Caso: those of its steel, or those of its hand adjustment.
 void PonAreas(ResultadoArmado& r) {
   const auto as = r.ajuste ? AreasDelAjuste(*r.ajuste) : AreasDelAcero(r);
   r.AsInt = as.AsInt;
   r.AsExt = as.AsExt;
   r.Total = as.AsInt + as.AsExt;
-}
-
-// The factory test governs: steel for its areas, and the steel ratio of what is provided.
-void RigePPNeta(EstadoCalculo& e) {
-  auto& r = e.caso.armado;
-  const FilaHip& fila = r.TablaHip(kHipPPNeta);
-  DisponePPNeta(e, {fila.AsInt, fila.AsExt});
-  PonAreas(r);
-  if (r.CAMISA <= 0) return;
-  const double ASCR = Div(r.Total, e.tramo.Esp * 100.0 * 100.0);
-  const auto limite = LimiteLisas(e.tramo.Fck);
-  if (ASCR > limite.ASC) {
-    e.caso.avisos.push_back(
-        {ClaseAviso::RetraccionLisas, kHipPPNeta, FaseAviso::Final, ASCR, true});
-  } else if (e.corrida.registro != nullptr) {
-    *e.corrida.registro << limite.paso;
-    e.corrida.registro->FinLinea();
-  }
-}
-
-void EsfuerzosQueRigen(EstadoCalculo& e, double R) {
-  auto& r = e.caso.armado;
-  const int h = r.HipotesisRige;
-  const double presion = TerminoPresion(Presiones(e.corrida)(h), R);
-  for (int s = 1; s <= kSecciones; ++s) {
-    r.MRige(s) = r.esfuerzos.M(h, s);
-    r.NRige(s) = r.esfuerzos.N(h, s) - presion;
-  }
 }
 
 void AreasFinales(ResultadoArmado& r) {
@@ -120,14 +66,116 @@ void ExigeFinitas(const ResultadoArmado& r) {
   }
 }
 
+// One Caso.
+class Diseno {
+ public:
+  Diseno(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
+         const std::optional<Ajuste>& ajuste, Marcha& marcha)
+      : t_(t), p_(presiones), marcha_(marcha), R_(t.Di / 2.0) {
+    r_.ajuste = ajuste;
+    if (ajuste) r_.AreaExterior = ajuste->Exterior;
+    r_.BRAZO = BrazoEntreCapas(t);
+    AnotaInicio(marcha.registro, t, R_);
+    r_.esfuerzos = EsfuerzosArmado(terminos, presiones, R_);
+  }
+
+  ResultadoArmado Calcula() {
+    RecorreHipotesis();
+    AnotaAcero(marcha_.registro, t_, r_);
+    if (r_.HipotesisRige == kHipPPNeta) {
+      RigePPNeta();
+    } else {
+      Busca(r_.HipotesisRige, FaseAviso::Final);
+    }
+    EsfuerzosQueRigen();
+    AnotaAcero(marcha_.registro, t_, r_);
+    if (r_.IESP > 0) {
+      r_.ErrorPostesado = 1;
+      return r_;
+    }
+    AreasFinales(r_);
+    ExigeFinitas(r_);
+    return r_;
+  }
+
+ private:
+  const Tramo& t_;
+  const PresionesCaso& p_;
+  Marcha& marcha_;
+  const double R_;  // [m]
+  ResultadoArmado r_;
+
+  // A hypothesis all in compression finds no stress allowed: that of an earlier one stands.
+  void Busca(int h, FaseAviso fase) {
+    const auto x = ArmTubo(t_, r_.esfuerzos, h, fase, r_.ajuste, marcha_);
+    static_cast<AceroArmado&>(r_) = x;
+    r_.sinFisuracion = x.sinFisuracion;
+    r_.TensionMax = x.TensionMax;
+    if (x.TensionAdm) r_.TensionAdm = *x.TensionAdm;
+    r_.TensionAdmMin = x.TensionAdmMin;
+    r_.ErrorPostesado = x.ErrorPostesado;
+    if (x.MomentoTope) r_.MomentoTope = true;
+  }
+
+  FilaHip DisenaHipotesis(int h) {
+    if (h == kHipPPNeta) {
+      const auto as = ArmPPNeta(t_, p_.PP);
+      return {as.AsInt, as.AsExt, as.AsInt + as.AsExt};
+    }
+    Busca(h, FaseAviso::Busqueda);
+    const auto as = AreasDelAcero(r_);
+    return {as.AsInt, as.AsExt, as.AsInt + as.AsExt, r_.IESP, r_.NESPIN, r_.NEXPEX, r_.CAMISA};
+  }
+
+  // The hypothesis with the largest total; on a tie the later one.
+  void RecorreHipotesis() {
+    double Max = 0;
+    for (int h = 1; h <= kHipotesisArmado; ++h) {
+      r_.TablaHip(h) = DisenaHipotesis(h);
+      if (Max <= r_.TablaHip(h).Total) {
+        Max = r_.TablaHip(h).Total;
+        r_.HipotesisRige = I16(h);
+      }
+    }
+  }
+
+  // The factory test governs: steel for its areas, and the steel ratio of what is provided.
+  void RigePPNeta() {
+    const FilaHip& fila = r_.TablaHip(kHipPPNeta);
+    static_cast<AceroArmado&>(r_) =
+        DisponePPNeta(t_, {fila.AsInt, fila.AsExt}, r_.ajuste, marcha_.avisos);
+    PonAreas(r_);
+    if (r_.CAMISA <= 0) return;
+    const double ASCR = Div(r_.Total, t_.Esp * 100.0 * 100.0);
+    const auto limite = LimiteLisas(t_.Fck);
+    if (ASCR > limite.ASC) {
+      marcha_.avisos.push_back(
+          {ClaseAviso::RetraccionLisas, kHipPPNeta, FaseAviso::Final, ASCR, true});
+    } else if (marcha_.registro != nullptr) {
+      *marcha_.registro << limite.paso;
+      marcha_.registro->FinLinea();
+    }
+  }
+
+  void EsfuerzosQueRigen() {
+    const int h = r_.HipotesisRige;
+    const double presion = TerminoPresion(Presiones(p_)(h), R_);
+    for (int s = 1; s <= kSecciones; ++s) {
+      r_.MRige(s) = r_.esfuerzos.M(h, s);
+      r_.NRige(s) = r_.esfuerzos.N(h, s) - presion;
+    }
+  }
+};
+
 }  // namespace
 
-Esfuerzos EsfuerzosArmado(const EstadoCalculo& e, double R) {
-  const auto p = Presiones(e.corrida);
+Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& presiones,
+                          double R) {
+  const auto p = Presiones(presiones);
   Esfuerzos x;
   for (int s = 1; s <= kSecciones; ++s) {
-    const auto M = [&](int i) { return e.caso.MHip(i, s); };
-    const auto N = [&](int i) { return e.caso.NHip(i, s); };
+    const auto M = [&](int i) { return terminos.MHip(i, s); };
+    const auto N = [&](int i) { return terminos.NHip(i, s); };
     x.M(1, s) = 0;
     x.M(2, s) = M(3) + M(1) + M(4);
     x.M(3, s) = M(2) + M(1) + M(8);
@@ -148,31 +196,10 @@ Esfuerzos EsfuerzosArmado(const EstadoCalculo& e, double R) {
   return x;
 }
 
-void DisenoArmado(EstadoCalculo& e) {
-  auto& r = e.caso.armado;
-  const auto& t = e.tramo;
-  r = {};
-  r.ajuste = AjusteDelCaso(e);
-  if (r.ajuste) r.AreaExterior = r.ajuste->Exterior;
-
-  const double R = t.Di / 2.0;
-  AnotaInicio(e.corrida.registro, t, R);
-  r.esfuerzos = EsfuerzosArmado(e, R);
-  RecorreHipotesis(e);
-  AnotaAcero(e.corrida.registro, t, r);
-  if (r.HipotesisRige == kHipPPNeta) {
-    RigePPNeta(e);
-  } else {
-    ArmTubo(e, r.HipotesisRige, r.HipotesisRige, FaseAviso::Final);
-  }
-  EsfuerzosQueRigen(e, R);
-  AnotaAcero(e.corrida.registro, t, r);
-  if (r.IESP > 0) {
-    r.ErrorPostesado = 1;
-    return;
-  }
-  AreasFinales(r);
-  ExigeFinitas(r);
+ResultadoArmado DisenoArmado(const Tramo& t, const TerminosAnillo& terminos,
+                             const PresionesCaso& presiones, const std::optional<Ajuste>& ajuste,
+                             Marcha& marcha) {
+  return Diseno(t, terminos, presiones, ajuste, marcha).Calcula();
 }
 
 }  // namespace zorbin

@@ -22,67 +22,79 @@ constexpr double kAreaMinChapa = 15.0;  // a sheet of 1.5 mm [cm2/m]
 // The worst section in composite tension of one sign of moment.
 struct PeorTraccion {
   double clave = 0;  // BRAZO·N ± M [m·t/m]
-  int hipotesis = 0;
   int seccion = 0;
 
-  bool Hay() const { return hipotesis > 0; }
-  void Compara(double K, int h, int s) {
-    if (K > clave) *this = {K, h, s};
+  bool Hay() const { return seccion > 0; }
+  void Compara(double K, int s) {
+    if (K > clave) *this = {K, s};
   }
 };
 
-Reparto DisponeInterior(const Tramo& t, double Ai, ResultadoArmado& r) {
-  const auto p = ReparteArmadura(Ai, t.TipoCamisa, t.CamMax, r.HayAjuste(), r.AreaExterior);
-  r.CAMISA = p.CAMISA;
-  r.FIIN = p.DIA;
-  r.NESPIN = p.NESP;
-  r.IESP = p.IESP;
+Reparto Reparte(double A, std::int16_t TipoCamisa, double CamMax,
+                const std::optional<Ajuste>& ajuste) {
+  return ReparteArmadura(A, TipoCamisa, CamMax, ajuste.has_value(),
+                         ajuste ? ajuste->Exterior : 0.0);
+}
+
+Reparto DisponeInterior(const Tramo& t, double Ai, const std::optional<Ajuste>& ajuste,
+                        AceroArmado& acero) {
+  const auto p = Reparte(Ai, t.TipoCamisa, t.CamMax, ajuste);
+  acero.CAMISA = p.CAMISA;
+  acero.FIIN = p.DIA;
+  acero.NESPIN = p.NESP;
+  acero.IESP = p.IESP;
   return p;
 }
 
-Reparto DisponeExterior(const Tramo& t, double Ae, ResultadoArmado& r) {
-  const auto p = ReparteArmadura(Ae, 0, t.CamMax, r.HayAjuste(), r.AreaExterior);
-  r.FIEX = p.DIA;
-  r.NEXPEX = p.NESP;
-  r.IESP = p.IESP;
+Reparto DisponeExterior(const Tramo& t, double Ae, const std::optional<Ajuste>& ajuste,
+                        AceroArmado& acero) {
+  const auto p = Reparte(Ae, 0, t.CamMax, ajuste);
+  acero.FIEX = p.DIA;
+  acero.NEXPEX = p.NESP;
+  acero.IESP = p.IESP;
   return p;
 }
 
 // One call of ArmTubo.
 class Busqueda {
  public:
-  Busqueda(EstadoCalculo& e, int H1, int H2, FaseAviso fase)
-      : e_(e), t_(e.tramo), r_(e.caso.armado), H1_(H1), H2_(H2), fase_(fase) {
-    r_.ErrorPostesado = 0;
-    r_.BRAZO = t_.Esp - t_.Reci - t_.Rece;
-    topeActivo_ = t_.Icontes0;
-    seccion_ = {t_.Fck, t_.Fyk, t_.Fyd, t_.GamaB, t_.GamaY, t_.GamaF, t_.Esp, r_.BRAZO};
-  }
+  Busqueda(const Tramo& t, const Esfuerzos& esfuerzos, const std::optional<Ajuste>& ajuste,
+           int hipotesis, FaseAviso fase, Marcha& marcha)
+      : t_(t),
+        esfuerzos_(esfuerzos),
+        ajuste_(ajuste),
+        h_(hipotesis),
+        fase_(fase),
+        marcha_(marcha),
+        topeActivo_(t.Icontes0),
+        seccion_{t.Fck, t.Fyk, t.Fyd, t.GamaB, t.GamaY, t.GamaF, t.Esp, BrazoEntreCapas(t)} {}
 
-  void Corre() {
+  AceroBuscado Corre() {
     ClasificaSecciones();
     if (t_.Icontes0 && asFlexExt_ > t_.Adato) {
       Avisa(ClaseAviso::FlexionSobreTope);
       topeActivo_ = false;
     }
-    if (!EligeCaras()) return;  // the wall is too thin
+    if (!EligeCaras()) return r_;  // the wall is too thin
     if (t_.TipoCamisa > 0) {
       CompruebaRetraccion();
     } else {
-      r_.sinFisuracion = {r_.FIIN, r_.NESPIN, Ri_, r_.FIEX, r_.NEXPEX, Re_, e_.caso.avisos.size()};
+      r_.sinFisuracion = {r_.FIIN, r_.NESPIN, Ri_, r_.FIEX, r_.NEXPEX, Re_, marcha_.avisos.size()};
       CompruebaFisuracion();
     }
+    return r_;
   }
 
  private:
-  EstadoCalculo& e_;
   const Tramo& t_;
-  ResultadoArmado& r_;
-  const int H1_;
-  const int H2_;
+  const Esfuerzos& esfuerzos_;
+  const std::optional<Ajuste>& ajuste_;
+  const int h_;
   const FaseAviso fase_;
-  bool topeActivo_ = false;
-  DatosSeccion seccion_;
+  Marcha& marcha_;
+  bool topeActivo_;
+  const DatosSeccion seccion_;
+  AceroBuscado r_;
   double asFlexInt_ = 0;  // largest inner area by flexure, M > 0 [cm2/m]
   double asFlexExt_ = 0;  // largest outer area by flexure, M <= 0 [cm2/m]
   PeorTraccion pos_;      // composite tension, M > 0
@@ -92,32 +104,30 @@ class Busqueda {
   double Re_ = 0;         // provided outer area [cm2/m]
   unsigned dados_ = 0;    // warnings of this call, a bit a class
 
-  double M(int h, int s) const { return r_.esfuerzos.M(h, s); }
-  double N(int h, int s) const { return r_.esfuerzos.N(h, s); }
+  double M(int s) const { return esfuerzos_.M(h_, s); }
+  double N(int s) const { return esfuerzos_.N(h_, s); }
 
   void Avisa(ClaseAviso clase, std::optional<double> valor = {}) {
     const unsigned bit = 1u << static_cast<unsigned>(clase);
     if ((dados_ & bit) != 0) return;
     dados_ |= bit;
     const bool pantalla = clase != ClaseAviso::MomentoTope;
-    e_.caso.avisos.push_back({clase, H1_, fase_, valor, pantalla});
+    marcha_.avisos.push_back({clase, h_, fase_, valor, pantalla});
   }
 
   void ClasificaSecciones() {
-    for (int h = H1_; h <= H2_; ++h) {
-      for (int s = 1; s <= kSecciones; ++s) ClasificaSeccion(h, s);
-    }
+    for (int s = 1; s <= kSecciones; ++s) ClasificaSeccion(s);
   }
 
-  void ClasificaSeccion(int h, int s) {
-    const double m = M(h, s);
-    const double n = N(h, s);
+  void ClasificaSeccion(int s) {
+    const double m = M(s);
+    const double n = N(s);
     const double excentricidad = Div(std::fabs(m), n);
-    if (n > 0 && excentricidad <= r_.BRAZO / 2.0) {
+    if (n > 0 && excentricidad <= seccion_.BRAZO / 2.0) {
       if (m > 0) {
-        pos_.Compara(r_.BRAZO * n + m, h, s);
+        pos_.Compara(seccion_.BRAZO * n + m, s);
       } else {
-        neg_.Compara(r_.BRAZO * n - m, h, s);
+        neg_.Compara(seccion_.BRAZO * n - m, s);
       }
     } else if (m > 0) {
       asFlexInt_ = std::max(asFlexInt_, Flexion(m, n, t_.Reci));
@@ -138,18 +148,15 @@ class Busqueda {
     return A_;
   }
 
-  double TraccionPos(double Aotra) const {
-    return TraccionCompuesta(seccion_, M(pos_.hipotesis, pos_.seccion),
-                             N(pos_.hipotesis, pos_.seccion), Aotra, e_.corrida.vueltas);
+  double Traccion(const PeorTraccion& peor, double Aotra) {
+    return TraccionCompuesta(seccion_, M(peor.seccion), N(peor.seccion), Aotra, marcha_.vueltas);
   }
-  double TraccionNeg(double Aotra) const {
-    return TraccionCompuesta(seccion_, M(neg_.hipotesis, neg_.seccion),
-                             N(neg_.hipotesis, neg_.seccion), Aotra, e_.corrida.vueltas);
-  }
+  double TraccionPos(double Aotra) { return Traccion(pos_, Aotra); }
+  double TraccionNeg(double Aotra) { return Traccion(neg_, Aotra); }
 
   // Real steel for the inner face. @return whether the wall takes it.
   bool ReparteInterior(double Ai) {
-    const auto p = DisponeInterior(t_, Ai, r_);
+    const auto p = DisponeInterior(t_, Ai, ajuste_, r_);
     Ri_ = p.AREA;
     if (p.VariasCapas) Avisa(ClaseAviso::CapasInterior);
     return r_.IESP <= 0;
@@ -157,7 +164,7 @@ class Busqueda {
 
   // Real steel for the outer face, which never has a sheet.
   bool ReparteExterior(double Ae) {
-    const auto p = DisponeExterior(t_, Ae, r_);
+    const auto p = DisponeExterior(t_, Ae, ajuste_, r_);
     Re_ = p.AREA;
     if (p.VariasCapas) Avisa(ClaseAviso::CapasExterior);
     return r_.IESP <= 0;
@@ -236,21 +243,24 @@ class Busqueda {
   }
 
   void CompruebaFisuracion() {
-    Fisuracion f(t_, r_.esfuerzos, H1_, H2_, e_.corrida.vueltas);
+    Fisuracion f(t_, esfuerzos_, h_, marcha_.vueltas);
     f.Comprueba(Ri_, Re_);
     if (ReparteInterior(Ri_) && ReparteExterior(Re_)) f.Comprueba(Ri_, Re_);
     r_.TensionMax = f.TensionMax();
-    if (f.HayTension()) r_.TensionAdm = f.TensionAdm();
+    r_.TensionAdm = f.TensionAdm();
     r_.TensionAdmMin = f.TensionAdmMin();
   }
 };
 
 }  // namespace
 
-AreasCaras ArmPPNeta(const EstadoCalculo& e) {
-  const Tramo& t = e.tramo;
+double BrazoEntreCapas(const Tramo& t) {
+  return t.Esp - t.Reci - t.Rece;
+}
+
+AreasCaras ArmPPNeta(const Tramo& t, double PP) {
   const double R = t.Di / 2.0;
-  const double At = Div(e.corrida.PP * R, t.Fyd) * 10000.0;
+  const double At = Div(PP * R, t.Fyd) * 10000.0;
   const bool conTope = t.Adato > 0 && t.Icontes0;
   if (!conTope && t.CamMax <= 0) return {At / 2.0, At / 2.0};
   const bool soloCamisa = t.TipoCamisa == 2;
@@ -270,24 +280,26 @@ AreasCaras ArmPPNeta(const EstadoCalculo& e) {
   return {Finito(AsInt), Finito(At - AsInt)};
 }
 
-void DisponePPNeta(EstadoCalculo& e, const AreasCaras& as) {
-  auto& r = e.caso.armado;
+AceroArmado DisponePPNeta(const Tramo& t, const AreasCaras& as, const std::optional<Ajuste>& ajuste,
+                          std::vector<Aviso>& avisos) {
+  AceroArmado acero;
   const auto avisa = [&](ClaseAviso clase, bool variasCapas) {
     if (variasCapas) {
-      e.caso.avisos.push_back({clase, kHipPPNeta, FaseAviso::Final, std::nullopt, true});
+      avisos.push_back({clase, kHipPPNeta, FaseAviso::Final, std::nullopt, true});
     }
   };
-  const auto interior = DisponeInterior(e.tramo, as.AsInt, r);
+  const auto interior = DisponeInterior(t, as.AsInt, ajuste, acero);
   avisa(ClaseAviso::CapasInterior, interior.VariasCapas);
-  if (r.IESP > 0) return;
-  const auto exterior = DisponeExterior(e.tramo, as.AsExt, r);
+  if (acero.IESP > 0) return acero;
+  const auto exterior = DisponeExterior(t, as.AsExt, ajuste, acero);
   // An adjusted Caso is built with its adjusted area, whatever the bars of the calculated one.
-  avisa(ClaseAviso::CapasExterior,
-        r.ajuste ? r.ajuste->Exterior > kAreaUnaCapa : exterior.VariasCapas);
+  avisa(ClaseAviso::CapasExterior, ajuste ? ajuste->Exterior > kAreaUnaCapa : exterior.VariasCapas);
+  return acero;
 }
 
-void ArmTubo(EstadoCalculo& e, int H1, int H2, FaseAviso fase) {
-  Busqueda(e, H1, H2, fase).Corre();
+AceroBuscado ArmTubo(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, FaseAviso fase,
+                     const std::optional<Ajuste>& ajuste, Marcha& marcha) {
+  return Busqueda(t, esfuerzos, ajuste, hipotesis, fase, marcha).Corre();
 }
 
 }  // namespace zorbin

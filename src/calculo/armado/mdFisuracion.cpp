@@ -22,12 +22,11 @@ double CoefGradiente(double Sm, double Sn) {
 
 }  // namespace
 
-Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int H1, int H2,
+Fisuracion::Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis,
                        CuentaVueltas& vueltas)
     : esfuerzos_(esfuerzos),
       vueltas_(vueltas),
-      H1_(H1),
-      H2_(H2),
+      h_(hipotesis),
       Fct_(t.Fct),
       e_(t.Esp * 100.0),
       ri_(t.Reci * 100.0),
@@ -67,7 +66,6 @@ bool Fisuracion::Pasa(const Homogenea& h, double M, double N) {
   if (Sx > tensionMax_) {
     tensionMax_ = Sx;
     tensionAdm_ = Sa;
-    hayTension_ = true;
   }
   return !(Sx > Sa);
 }
@@ -75,14 +73,12 @@ bool Fisuracion::Pasa(const Homogenea& h, double M, double N) {
 // Grows the steel at the first section that does not pass.
 bool Fisuracion::PasanTodas(double& Ri, double& Re) {
   const Homogenea homogenea = SeccionHomogenea(Ri, Re);
-  for (int h = H1_; h <= H2_; ++h) {
-    for (int s = 1; s <= kSecciones; ++s) {
-      const double M = esfuerzos_.M(h, s);
-      if (Pasa(homogenea, M, esfuerzos_.N(h, s))) continue;
-      if (M >= 0) Ri = Ri + kPasoAcero;
-      if (M <= 0) Re = Re + kPasoAcero;
-      return false;
-    }
+  for (int s = 1; s <= kSecciones; ++s) {
+    const double M = esfuerzos_.M(h_, s);
+    if (Pasa(homogenea, M, esfuerzos_.N(h_, s))) continue;
+    if (M >= 0) Ri = Ri + kPasoAcero;
+    if (M <= 0) Re = Re + kPasoAcero;
+    return false;
   }
   return true;
 }

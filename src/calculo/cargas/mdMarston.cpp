@@ -7,9 +7,8 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kGrado = kPi / 180.0;     // [rad]
-constexpr double kRazonComparacion = 0.5;  // settlement ratio of the comparison load [-]
-constexpr double kTolNewton = 0.00001;     // [-]
+constexpr double kGrado = kPi / 180.0;  // [rad]
+constexpr double kTolNewton = 0.00001;  // [-]
 
 double Exp(double x) {
   return Finito(std::exp(x));
@@ -37,14 +36,6 @@ Suelo TerminosSuelo(double Fi) {
   return {Ka, Mu, (Ka + Ka) * Mu};
 }
 
-// Settlement coefficient of the negative projection by the projection ratio p.
-double CoefAsentamiento(double p) {
-  if (p < 0.5) return -0.1;
-  if (p < 1.5) return (0.5 - p) * 0.4 - 0.1;
-  if (p < 2.0) return 1.0 - p;
-  return -1.0;
-}
-
 // The load that governs of the laying's own one (q.Q so far) and the embankment load Qt.
 void Adopta(Cargas& q, double Qt, double prisma) {
   q.TerraplenRige = q.Q >= Qt;
@@ -70,13 +61,12 @@ void SumaMovil(Cargas& q, std::int16_t ICarga, double H, double De) {
   q.QMovil = q.Q - antes;
 }
 
-void CargasZanja(const Tramo& t, const Suelo& s, double H, double& Hr1, Cargas& q) {
+void CargasZanja(const Tramo& t, const Suelo& s, double H, Cargas& q) {
   const double C = CoefZanja(CoefRelleno(t.TipoRelleno), H, t.B0);
   if (t.TipoApoyo == 11) q.Q = C * t.Gr * H * t.B0;
   if (t.TipoApoyo == 12) q.Q = C * t.Gr * H * t.De;
   q.QTerraplen = C * t.Gr * H * t.De;
-  Hr1 = t.De;
-  Adopta(q, CargaTerraplen(t, s, kRazonComparacion, Hr1, H), H * t.Gr * t.De);
+  Adopta(q, CargaTerraplen(t, s, kRazonComparacion, t.De, H), H * t.Gr * t.De);
 }
 
 void CargasZanjaTerraplenada(const Tramo& t, const Suelo& s, double H, Cargas& q) {
@@ -96,6 +86,12 @@ void ExigeFinitas(const Cargas& q) {
 double TanGrados(double grados) {
   const double r = grados * kGrado;
   return Div(std::sin(r), std::cos(r));
+}
+
+double EmpujeActivo(double Fi) {
+  const double a = kPi / 4.0 - Fi * kPi / 360.0;
+  const double tangente = Div(std::sin(a), std::cos(a));
+  return tangente * tangente;
 }
 
 double ResuelveEcua(double c, double x0) {
@@ -118,6 +114,13 @@ double CoefRelleno(std::int16_t TipoRelleno) {
 
 double RazonAsentamiento(std::int16_t IAs) {
   return kAsentamiento(IAs);
+}
+
+double CoefAsentamiento(double p) {
+  if (p < 0.5) return -0.1;
+  if (p < 1.5) return (0.5 - p) * 0.4 - 0.1;
+  if (p < 2.0) return 1.0 - p;
+  return -1.0;
 }
 
 double CoefZanja(double Kmu, double H, double B) {
@@ -177,16 +180,28 @@ double CoefImpacto(double H) {
   return H >= 3.0 ? 1.0 : 1.0 + Div(0.3, H);
 }
 
-void CargasMarston(EstadoCalculo& e, double H, std::int16_t ICarga) {
-  const Tramo& t = e.tramo;
+Cargas CargasDadas(const Tramo& t, double Hr0) {
+  Cargas q;
+  q.Q = t.QDato;
+  switch (t.TipoApoyo) {
+    case 11:
+      q.QTerraplen = t.IndCar == 1 ? 0.0 : Div(t.De * t.QDato, t.B0);
+      break;
+    case 12:
+      q.QTerraplen = t.QDato;
+      break;
+    default:
+      q.QTerraplen = t.Gr * Hr0;
+      break;
+  }
+  return q;
+}
+
+Cargas CargasMarston(const Tramo& t, double H, std::int16_t ICarga, const Cargas& dadas) {
   const Suelo s = TerminosSuelo(t.Fi);
-  Cargas q = e.corrida;
-  double Hr1 = t.Hr1;
-  q.TerraplenRige = false;
-  q.Impacto = 0;
-  q.QMovil = 0;
+  Cargas q = dadas;
   if (t.TipoApoyo < 20) {
-    CargasZanja(t, s, H, Hr1, q);
+    CargasZanja(t, s, H, q);
   } else if (t.TipoApoyo < 30) {
     CargasZanjaTerraplenada(t, s, H, q);
   } else if (t.TipoApoyo > 30) {
@@ -195,14 +210,8 @@ void CargasMarston(EstadoCalculo& e, double H, std::int16_t ICarga) {
   }
   if (ICarga != 0) SumaMovil(q, ICarga, H, t.De);
   ExigeFinitas(q);
-  static_cast<Cargas&>(e.corrida) = q;
-  e.tramo.Hr1 = Hr1;
-}
-
-void DivideCargas(EstadoCalculo& e) {
-  const double De = e.tramo.De;
-  auto& c = e.corrida;
-  for (double* q : {&c.Q, &c.QTerraplen, &c.QMovil, &c.QTierras}) *q = Div(*q, De);
+  for (double* x : {&q.Q, &q.QTerraplen, &q.QMovil, &q.QTierras}) *x = Div(*x, t.De);
+  return q;
 }
 
 }  // namespace zorbin

@@ -1,21 +1,22 @@
 // The vertical load table of a Tramo, and the loads of 1 m of earth without concentrated load.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include <vector>
+
+#include "core/resultado.h"
 
 namespace zorbin {
 
-/// Rows of the vertical load table: 1 m without concentrated load, then the heights of the range.
-/// Reads  the data of `CargasMarston`, tramo.ICar, tramo.Hr0Delta, corrida.Hr0Actual and
-///        Hr0FinalActual [m].
-/// Writes corrida.TablaCargas [t/m2]; loads and Hr1 are left as they were.
-/// A height that cannot be calculated ends the table: the run meets it in its turn.
-void TablaCargas(EstadoCalculo& e);
+/// Rows of the vertical load table [t/m2]: 1 m without concentrated load, then the heights of the
+/// range. A height that cannot be calculated ends the table: the run meets it in its turn.
+/// @param t      what `CargasMarston` reads, and ICar
+/// @param r      Hr0, Hr0Final, Hr0Delta [m]
+/// @param dadas  as `CargasMarston` takes them
+std::vector<FilaCargas> TablaCargas(const Tramo& t, const Rango& r, const Cargas& dadas = {});
 
-/// Loads of 1 m of earth without concentrated load.
-/// Writes corrida.Q1m, QTerraplen1m, QTierras1m, QMovil1m [t/m2] and, as every call of
-/// `CargasMarston`, tramo.Hr1; the loads of the height are left as they were.
+/// Loads of 1 m of earth without concentrated load [t/m2], those of the system test.
+/// @param dadas  as `CargasMarston` takes them
 /// @throws ErrorEjecucion as `CargasMarston`
-void CargasUnMetro(EstadoCalculo& e);
+Cargas CargasUnMetro(const Tramo& t, const Cargas& dadas = {});
 
 }  // namespace zorbin

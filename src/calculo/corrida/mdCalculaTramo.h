@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "base/mdRegistro.h"
+#include "calculo/corrida/mdRango.h"
 #include "core/resultado.h"
 
 namespace zorbin {
@@ -19,14 +20,10 @@ struct AvanceCorrida {
 using SigueCorrida = std::function<bool(const AvanceCorrida&)>;
 
 /// Data of a Tramo as captured, in the units of the Obra, taken to calculation units.
+/// @param ajustes     adjusted Casos of the project: DP [at], height [m], areas [cm2/m]
+/// @param sinAjustes  their file was refused
 DatosTramo DatosDeCalculo(const Obra& obra, const Tramo& tramo,
                           std::vector<EntradaAjuste> ajustes = {}, bool sinAjustes = false);
-
-/// The range that the data ask for: the Tramo's own heights and pressures, or the Obra's.
-Rango RangoDe(const DatosTramo& datos);
-
-/// The same with one height [m] and one pressure [at] in place of its ranges.
-Rango RangoDeUnCaso(const DatosTramo& datos, double Hr, double DP);
 
 /// Runs a Tramo through its Casos, fill heights outside and pressures inside. An arithmetic failure
 /// ends it and is told in the result; the rows before it stand.

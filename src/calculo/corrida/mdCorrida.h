@@ -59,7 +59,8 @@ inline constexpr double kSinForzar = -1.0;
 /// Runs the Tramo in the state, which holds calculation units (EnUnidadesDeCalculo).
 /// With a height [m] and a pressure [at] given (above -0.5) it calculates that one Caso; the
 /// caller gives both or none.
-/// Writes corrida and caso, which starts clean. At the end the captured values stand again, but for tramo.Hr1, which
+/// Writes corrida and caso, which starts clean. At the end the captured values stand again, but for
+/// tramo.Hr1, which
 ///        a trench laying leaves at De, and tramo.Hr0Delta, which the Obra's heights replace.
 /// @throws ErrorCorrida; obra and tramo are then as they were on entry
 void CalculaCasos(EstadoCalculo& e, double hrForzada, double prsForzada, Oyentes oyentes);

@@ -1,6 +1,7 @@
 #include "calculo/hidraulica/mdHidraulica.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace zorbin {
 
@@ -22,6 +23,10 @@ constexpr double kReRugosa = 560.0;  // times D / ks
 
 constexpr int kVueltasFriccion = 2000;
 constexpr int kVueltasHolgura = 15;  // from here on a step of 10 % will do
+
+constexpr int kVueltasColebrook = 100;
+constexpr double kTolColebrook = 1e-14;                     // of 1/sqrt(f) [-]
+constexpr double k2PorLog10e = 2.0 * std::numbers::log10e;  // derivative of 2 log10(x), times x
 
 constexpr double kHazen = 0.849;
 constexpr double kExpV = 0.54;
@@ -150,6 +155,31 @@ double Calcula_CLANDA(const Diametro& d, double VLlena, double ks) {
   const double viscosa = Div(Div(Div(k251Visc, VLlena), d.DiamM), std::sqrt(L0));
   const double T = 2.0 * MenosLogDeSuma(rugosa, viscosa);
   return Div(Div(1.0, T), T);
+}
+
+double FactorColebrook(double Re, double ks, double D) {
+  ExigeNoNegativa(ks);
+  const double rugosa = Div(ks / 3.7, D);
+  const double viscosa = Div(2.51, Re);
+  const auto inversa = [=](double x) { return 2.0 * MenosLogDeSuma(rugosa, viscosa * x); };
+  // x = 1/sqrt(f). The right-hand side falls with x: this start is below the root, and from below
+  // the tangents of x - inversa(x), which is concave, climb to it without passing it.
+  double x = inversa(std::fmax(1.0, inversa(1.0)));
+  for (int vuelta = 0; vuelta < kVueltasColebrook; ++vuelta) {
+    const double pendiente = 1.0 + k2PorLog10e * viscosa / (rugosa + viscosa * x);
+    const double paso = (inversa(x) - x) / pendiente;
+    x += paso;
+    if (std::fabs(paso) <= kTolColebrook * x) return Div(1.0, x * x);
+  }
+  throw ErrorEjecucion(CausaError::SinConvergencia, "FactorColebrook");
+}
+
+double PendienteColebrook(double D, double V, double ks) {
+  return Finito(Div(FactorColebrook(Reynolds(D, V), ks, D) * V * V, D) / k2g);
+}
+
+double PendienteColebrookCaudal(double D, double Q, double ks) {
+  return PendienteColebrook(D, Div(Q, std::numbers::pi * D * D / 4.0), ks);
 }
 
 Friccion CalculaF(double J, double ks, double D, double V0) {

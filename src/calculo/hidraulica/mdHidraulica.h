@@ -92,6 +92,22 @@ double PendienteHazen(double R, double V, double Cwh);
 /// @throws ErrorHidraulico where the logarithm would not be negative
 double Calcula_CLANDA(const Diametro& d, double VLlena, double ks);
 
+/// Friction factor of Colebrook [-], the root of 1/sqrt(f) = -2 log10(ks/3.7/D + 2.51/Re/sqrt(f)),
+/// to the last digits. Meant for turbulent flow, Re above 4000; below it is the root still.
+/// @param Re  Reynolds number [-]
+/// @param ks  roughness [m]
+/// @param D   diameter [m]
+/// @throws ErrorHidraulico where no root is above 0: ks of 3.7 D, Re of some units
+double FactorColebrook(double Re, double ks, double D);
+
+/// Slope of a full pipe by the exact equation, J = f V²/(2 g D) [m/m], for a velocity [m/s]: the
+/// inverse of VelocidadPrandtl. The operations of a given flow have approximations of their own.
+/// @throws ErrorHidraulico as FactorColebrook
+double PendienteColebrook(double D, double V, double ks);
+
+/// The same for a flow Q [m3/s].
+double PendienteColebrookCaudal(double D, double Q, double ks);
+
 struct Friccion {
   double V = 0;   // [m/s]
   double Re = 0;  // [-]

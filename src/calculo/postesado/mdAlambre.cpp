@@ -1,11 +1,12 @@
 #include "calculo/postesado/mdAlambre.h"
 
+#include "core/estado_calculo.h"
+
 namespace zorbin {
 
 namespace {
 
 constexpr double kPiFuerza = 3.14159265;     // π of the force of a wire; its section has another
-constexpr std::int16_t kRevestida = 2221;    // Tipologia with lined cylinder
 constexpr double kFraccionPerdonada = 0.02;  // of a spiral [1/m]
 constexpr int kAlambre5mm = 2;               // the thinnest that is wound
 constexpr double kReserva = 0.9;             // on the greatest force of the second and third wire
@@ -52,7 +53,7 @@ double EspMinimo(int i) {
 
 Alambre AlambreMasAbierto(int i, std::int16_t Tipologia) {
   const auto& f = kTabla(i);
-  const double espMax = Tipologia == kRevestida ? f.EspMaxRevestida : f.EspMax;
+  const double espMax = Tipologia == kPostesadaRevestida ? f.EspMaxRevestida : f.EspMax;
   return {f.Diametro / 10.0, EspirasPorMetro(f.Diametro, espMax / 10.0)};
 }
 
@@ -66,7 +67,7 @@ RangosFuerza CalculaRangos(double SFck) {
   r.FuerzaMin(3) = r.FuerzaMax(2);
   r.FuerzaMax(3) = kReserva * Fa(3) * EspirasMaximas(3);
   r.FuerzaMin(4) = r.FuerzaMax(3);
-  r.FuerzaMax(4) = EspirasMaximas(4) * Fa(4);  // without the reserve, on purpose
+  r.FuerzaMax(4) = EspirasMaximas(4) * Fa(4);  // the last wire has no other to follow it
   return r;
 }
 

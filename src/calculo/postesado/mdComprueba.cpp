@@ -8,8 +8,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr std::int16_t kRevestida = 2221;        // Tipologia with lined cylinder
-constexpr double kEscalaChapa = 1000.0;          // of the stress of the cylinder, as told
+constexpr double kEscalaChapa = 1000.0;          // of the stress of the cylinder
 constexpr int kHipotesisHormigon = 6;            // the one whose concrete is checked
 constexpr double kFraccionHormigon = 0.6;        // of the strength in compression [-]
 constexpr double kCompresionPrueba = -5.0;       // that the factory test leaves [kp/cm2]
@@ -19,7 +18,7 @@ constexpr double kNoLimita = 999999.0;           // [at]
 }  // namespace
 
 double CompruebaChapa(const Tramo& t, double RatioChapa, const TensionesHipotesis& x) {
-  if (t.Tipologia == kRevestida) return Finito(Max3(x.TotPE) * RatioChapa * kEscalaChapa);
+  if (t.Tipologia == kPostesadaRevestida) return Finito(Max3(x.TotPE) * RatioChapa * kEscalaChapa);
   Lista<double, kSecciones> v;
   for (int s = 1; s <= kSecciones; ++s) {
     v(s) = Div((x.TotPE(s) - x.TotPI(s)) * t.Reci, t.Esp - t.Rece) + x.TotPI(s);
@@ -42,7 +41,7 @@ double PresionLimite(double PresTension, double Base, double Limite, double MDP)
   return Div((Limite - Base) * MDP, PresTension);
 }
 
-double PruebaFabrica(const TensionesHipotesis& x, double Fctr, double MDP) {
+double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP) {
   double PP = kPPSinLimite;
   const auto limita = [&PP, MDP](double PresTension, const Lista<double, kSecciones>& Base,
                                  double Limite) {

@@ -40,19 +40,19 @@ double SumaTerminos(const TerminosCaso& terminos, int h, int s) {
 
 }  // namespace
 
-EsfuerzosPostesado EsfuerzosHipotesis(const TerminosCaso& MHip, const TerminosCaso& NHip) {
+EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos) {
   EsfuerzosPostesado x;
   for (int h = 1; h <= kHipotesisPostesado; ++h) {
     for (int s = 1; s <= kSecciones; ++s) {
-      x.TablaMom(h, s) = SumaTerminos(MHip, h, s);
-      x.TablaAxil(h, s) = SumaTerminos(NHip, h, s);
+      x.TablaMom(h, s) = SumaTerminos(terminos.MHip, h, s);
+      x.TablaAxil(h, s) = SumaTerminos(terminos.NHip, h, s);
     }
   }
   return x;
 }
 
-Lista<double, kHipotesisPostesado> PresionesHipotesis(const Corrida& c) {
-  return {{c.DP, c.MDP + kSobrepresion, c.DP, c.MDP, c.STP, 0.0}};
+Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p) {
+  return {{p.DP, p.MDP + kSobrepresion, p.DP, p.MDP, p.STP, 0.0}};
 }
 
 Lista<double, kHipotesisPostesado> LimitesPrimario(double Fctn) {

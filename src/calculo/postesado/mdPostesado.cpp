@@ -22,13 +22,20 @@ constexpr std::int16_t kErrorEspesor = 5;
 constexpr std::int16_t kErrorZunchado = 6;
 constexpr std::int16_t kErrorCambio = 91;
 
-// One Caso.
+// One Caso. The result is built in place of the caller's: it is the larger part of the work area.
 class Analisis {
  public:
-  explicit Analisis(EstadoCalculo& e) : e_(e), t_(e.tramo), r_(e.caso.postesado) {
-    r_ = {};
-    PreparaPostesado(e);
-    r_.PP = e.corrida.PP;
+  Analisis(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
+           Marcha& marcha, ResultadoPostesado& r)
+      : t_(t),
+        caso_(presiones),
+        marcha_(marcha),
+        r_(r),
+        esfuerzos_(EsfuerzosHipotesis(terminos)),
+        presiones_(PresionesHipotesis(presiones)) {
+    r_.radios = Radios(t);
+    r_.materiales = Materiales(t);
+    r_.PP = caso_.PP;
     r_.LimiteChapa = kFraccionChapa * t_.FYKPost;
     for (int h = 1; h <= kHipotesisPostesado; ++h) Carga(r_.hipotesis(h), h);
   }
@@ -45,11 +52,12 @@ class Analisis {
   }
 
  private:
-  EstadoCalculo& e_;
   const Tramo& t_;
+  const PresionesCaso& caso_;
+  Marcha& marcha_;
   ResultadoPostesado& r_;
-  const EsfuerzosPostesado esfuerzos_ = EsfuerzosHipotesis(e_.caso.MHip, e_.caso.NHip);
-  const Lista<double, kHipotesisPostesado> presiones_ = PresionesHipotesis(e_.corrida);
+  const EsfuerzosPostesado esfuerzos_;
+  const Lista<double, kHipotesisPostesado> presiones_;
   FaseAviso fase_ = FaseAviso::Final;
   Alambre alambre_;             // of the pass in hand
   int IdxAlambre_ = 0;          // its position; the search, MDP and verification share it
@@ -58,7 +66,7 @@ class Analisis {
 
   void Avisa(int h, ClaseAviso clase, std::optional<double> valor = {}) {
     r_.MensajePostesado = clase;
-    e_.caso.avisos.push_back({clase, h, fase_, valor, fase_ == FaseAviso::Final, alambre_});
+    marcha_.avisos.push_back({clase, h, fase_, valor, fase_ == FaseAviso::Final, alambre_});
   }
 
   void Falla(HipotesisPostesada& p, std::int16_t error, ClaseAviso clase,
@@ -81,7 +89,7 @@ class Analisis {
   }
 
   bool EligePrimero() {
-    const double FuerzaAnillo = Finito(e_.corrida.DP * 10.0 * r_.radios.RadioNuc / 100.0);
+    const double FuerzaAnillo = Finito(caso_.DP * 10.0 * r_.radios.RadioNuc / 100.0);
     const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia);
     if (!primero) {
       r_.ErrorPostesado = kErrorEspesor;
@@ -108,7 +116,8 @@ class Analisis {
 
   Alambre Final() const { return {r_.FIPRDEFI, r_.NESPDEFI}; }
 
-  // The wire goes back to the final one; its position in the tables does not, as told.
+  // The wire goes back to the final one; its position in the tables does not, so spirals are
+  // spaced as those of the last wire tried, and the next wire is the one after it.
   void PasadaConFinal(HipotesisPostesada& p) {
     alambre_ = Final();
     r_.ErrorPostesado = 0;
@@ -122,11 +131,10 @@ class Analisis {
     if (alambre_ != Final()) {
       r_.PP = kPPAlambreCambia;
     } else {
-      r_.PP = PruebaFabrica(ultimas_, r_.materiales.Fctr, e_.corrida.MDP);
+      r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP);
       r_.PPHipotesis = ultimaHipotesis_;
       r_.PPConAlambreFinal = p.error == 0;
     }
-    e_.corrida.PP = r_.PP;
   }
 
   FinPostesado Verifica() {
@@ -151,7 +159,7 @@ class Analisis {
   void Pasada(HipotesisPostesada& p) {
     for (int vuelta = 0; vuelta < kMaxVueltas; ++vuelta) {
       ++r_.Vueltas;
-      e_.corrida.vueltas.Suma(kVueltasDePasada);
+      marcha_.vueltas.Suma(kVueltasDePasada);
       if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
       alambre_.NESP = EspirasEnteras(alambre_.NESP);
       const Intento x = Intenta(p);
@@ -201,7 +209,7 @@ class Analisis {
   }
 
   bool Aceptado(const HipotesisPostesada& p, const Intento& x) const {
-    const bool nucleo = !t_.Icontes1 || e_.corrida.DP * t_.Coepre1 <= x.perdidas.PresPrimario;
+    const bool nucleo = !t_.Icontes1 || caso_.DP * t_.Coepre1 <= x.perdidas.PresPrimario;
     return nucleo && p.PresHip <= x.limites.PresLimite;
   }
 
@@ -223,14 +231,11 @@ class Analisis {
 
 }  // namespace
 
-void PreparaPostesado(EstadoCalculo& e) {
-  auto& r = e.caso.postesado;
-  r.radios = Radios(e.tramo);
-  r.materiales = Materiales(e.tramo);
-}
-
-void CalculaPostesado(EstadoCalculo& e) {
-  Analisis(e).Corre();
+ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
+                                    const PresionesCaso& presiones, Marcha& marcha) {
+  ResultadoPostesado r;
+  Analisis(t, terminos, presiones, marcha, r).Corre();
+  return r;
 }
 
 }  // namespace zorbin

@@ -11,22 +11,20 @@
 
 namespace zorbin {
 
-/// What the heading of a post-tensioned Tramo shows before any Caso is designed.
-/// Reads  the Tramo in calculation units.
-/// Writes caso.postesado.radios, caso.postesado.materiales.
-/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-void PreparaPostesado(EstadoCalculo& e);
-
-/// Designs the Caso in hand. A hypothesis that cannot be met is no failure: its code, 5 (no wire
-/// is left), 6 (core too weak at winding), 9 to 12 (concrete) or 91 (the verification needs
-/// another winding), stands in the result, and the search goes on as the method tells.
-/// Reads  the Tramo in calculation units; corrida: DP, MDP, STP, PP [at]; caso.MHip, caso.NHip.
-/// Writes caso.postesado, in full; caso.avisos, the search's for no listing; corrida.PP, unless no
-///        wire takes the ring force. The Tramo stays as it is.
+/// Designs a Caso. A hypothesis that cannot be met is no failure: its code, 5 (no wire is left), 6
+/// (core too weak at winding), 9 to 12 (concrete) or 91 (the verification needs another winding),
+/// stands in the result, and the search goes on with the next hypothesis.
 /// Where the pass under MDP fails, PP rests on what the last completed pass left, of whatever
-/// hypothesis and winding: caso.postesado.PPHipotesis and PPConAlambreFinal tell.
-/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; SinConvergencia for a search that does
-///         not end
-void CalculaPostesado(EstadoCalculo& e);
+/// hypothesis and winding: PPHipotesis and PPConAlambreFinal of the result tell. Where no wire
+/// takes the ring force, PP stays the pressure required.
+/// @param t          the Tramo, in calculation units
+/// @param terminos   of the ring [m·t/m, t/m]
+/// @param presiones  [at]
+/// @param marcha     rounds and warnings are added, those of the search for no listing
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; SinConvergencia and DemasiadasVueltas
+/// for
+///         a search that does not end
+ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
+                                    const PresionesCaso& presiones, Marcha& marcha);
 
 }  // namespace zorbin

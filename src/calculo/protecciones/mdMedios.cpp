@@ -93,7 +93,7 @@ void Exige(ResultadoMedios& r, const Requisito& requisito) {
 void Aguas(ResultadoMedios& r) {
   const std::int16_t Nivel = NivelAguas(r.muestra);
   if (Nivel > 0) Exige(r, Nivel == 1 ? kDebil : kFuerte);
-  if (Nivel == 3) r.Adicional = txt::AdicionalSi;
+  if (Nivel == 3) r.Adicional = txt::RespuestaSi;
 }
 
 // The whole band, cement included, depends on the cement content so far.
@@ -102,7 +102,7 @@ std::int16_t SulfatosExteriores(ResultadoMedios& r) {
   if (b == nullptr || r.Dosificacion > b->dosisTope) return 0;
   Exige(r, b->requisito);
   if (b->SR) r.TipoCemento = txt::CementoSR;
-  if (b->adicional) r.Adicional = txt::AdicionalSi;
+  if (b->adicional) r.Adicional = txt::RespuestaSi;
   return b->Nivel;
 }
 
@@ -113,7 +113,7 @@ void SulfatosInteriores(ResultadoMedios& r, std::int16_t Nivel) {
   if (b == nullptr || Nivel > b->Nivel) return;
   if (r.Dosificacion <= b->dosisTope) Exige(r, b->requisito);
   r.TipoCemento = txt::CementoSR;
-  if (b->adicional) r.Adicional = txt::AdicionalSi;
+  if (b->adicional) r.Adicional = txt::RespuestaSi;
 }
 
 void SulfatosDelSuelo(ResultadoMedios& r) {
@@ -121,7 +121,7 @@ void SulfatosDelSuelo(ResultadoMedios& r) {
   if (b == nullptr || r.Dosificacion > b->dosisTope) return;
   Exige(r, b->requisito);
   if (b->SR) r.TipoCemento = txt::CementoSR;
-  if (b->adicional && r.muestra.ciclos) r.Adicional = txt::AdicionalSi;
+  if (b->adicional && r.muestra.ciclos) r.Adicional = txt::RespuestaSi;
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 #include <array>
 #include <cstdint>
 
-#include "base/textosMedios.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -52,14 +52,14 @@ struct MuestraMedios {
 
 struct ResultadoMedios {
   MuestraMedios muestra;
-  double Dosificacion = 0;               // cement content [kg/m3]; 0 without requirement
-  double RelacionAC = 0;                 // water/cement ratio [-]
-  int TipoCemento = txt::CementoNormal;  // entry: normal, or resistant to sulphates
-  int Adicional = txt::AdicionalNo;      // entry: whether additional protection is needed
-  bool AislarTuberia = false;            // resistivity above 0 and below 15
-  bool HayCorriente = false;             // stray current above 0
-  bool ControlarCorriente = false;       // stray current above 200
-  bool HayMedida = false;                // any measure at all
+  double Dosificacion = 0;           // cement content [kg/m3]; 0 without requirement
+  double RelacionAC = 0;             // water/cement ratio [-]
+  int TipoCemento = txt::Normal;     // entry: normal, or resistant to sulphates
+  int Adicional = txt::RespuestaNo;  // entry: whether additional protection is needed
+  bool AislarTuberia = false;        // resistivity above 0 and below 15
+  bool HayCorriente = false;         // stray current above 0
+  bool ControlarCorriente = false;   // stray current above 200
+  bool HayMedida = false;            // any measure at all
 };
 
 /// @throws ErrorEjecucion Desbordamiento for a value that is infinite or no number

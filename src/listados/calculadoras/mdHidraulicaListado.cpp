@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/mdTextos.h"
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 
 namespace zorbin {
 

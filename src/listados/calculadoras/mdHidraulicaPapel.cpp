@@ -3,7 +3,7 @@
 #include <array>
 
 #include "base/mdTextos.h"
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdHidraulicaListado.h"
 
 namespace zorbin {

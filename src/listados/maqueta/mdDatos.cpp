@@ -8,12 +8,15 @@
 #include <functional>
 #include <numbers>
 
+#include "base/mdNumeros.h"
 #include "listados/maqueta/mdError.h"
 #include "listados/maqueta/mdFormula.h"
 
 namespace zorbin::memoria {
 
 namespace {
+
+const QString kCifra = QStringLiteral("data-cifra");
 
 using Argumentos = std::vector<double>;
 
@@ -55,6 +58,12 @@ const QHash<QString, Funcion>& Funciones() {
 }
 
 using Nombres = QHash<QString, QJsonValue>;
+
+Nombres NombresDe(const QJsonObject& datos) {
+  Nombres nombres;
+  for (auto d = datos.begin(); d != datos.end(); ++d) nombres.insert(d.key(), d.value());
+  return nombres;
+}
 
 // Evaluates one expression by recursive descent.
 class Evaluador {
@@ -237,9 +246,7 @@ void Recoge(const Elemento& e, std::vector<Dato>& datos) {
 class Comprobador {
  public:
   Comprobador(const QString& fichero, const QJsonObject& datos, Comprobacion& r)
-      : fichero_(fichero), r_(r) {
-    for (auto d = datos.begin(); d != datos.end(); ++d) nombres_.insert(d.key(), d.value());
-  }
+      : fichero_(fichero), r_(r), nombres_(NombresDe(datos)) {}
 
   void Comprueba(const Dato& d) {
     try {
@@ -274,7 +281,38 @@ class Comprobador {
   }
 };
 
+// As a page of the report shows it, with a comma and a true minus.
+QString TextoDeCifra(const Elemento& e, const Nombres& nombres) {
+  const QString expresion = e.Atributo(kCifra);
+  const QJsonValue v = Evaluador(expresion, nombres, e.linea).Evalua();
+  bool bien = false;
+  const int decimales = e.Atributo(QStringLiteral("decimales")).toInt(&bien);
+  if (!v.isDouble() || !std::isfinite(v.toDouble()) || !bien) {
+    throw ErrorFuente(e.linea, QStringLiteral("not a number with its decimals: ") + expresion);
+  }
+  QString s = QString::fromStdString(TextoDecimal(v.toDouble(), decimales, ','));
+  const bool nada = s.count('0') + s.count(',') == s.size();
+  if (!e.Atributo(QStringLiteral("signo")).isEmpty() && !nada && v.toDouble() > 0) s.prepend('+');
+  return s.replace('-', QChar(0x2212));
+}
+
+void PonCifrasEn(Elemento& e, const Nombres& nombres) {
+  if (!e.Atributo(kCifra).isEmpty()) {
+    if (!e.hijos.empty()) throw ErrorFuente(e.linea, QStringLiteral("a number of its own"));
+    Elemento texto;
+    texto.linea = e.linea;
+    texto.texto = TextoDeCifra(e, nombres);
+    e.hijos.push_back(std::move(texto));
+    return;
+  }
+  for (auto& hijo : e.hijos) PonCifrasEn(hijo, nombres);
+}
+
 }  // namespace
+
+void PonCifras(Elemento& capitulo, const QJsonObject& datos) {
+  PonCifrasEn(capitulo, NombresDe(datos));
+}
 
 void CompruebaCapitulo(const QString& fichero, const Elemento& capitulo, const QJsonObject& datos,
                        Comprobacion& resultado) {

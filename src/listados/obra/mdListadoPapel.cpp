@@ -6,7 +6,6 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosDpe.h"
 #include "listados/obra/mdAvisos.h"
 
 namespace zorbin {

@@ -2,7 +2,6 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosDpe.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdRotulos.h"
 

@@ -9,7 +9,6 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosGrabado.h"
 #include "persistencia/disco/mdRecupera.h"
 
 namespace zorbin {

@@ -9,7 +9,6 @@
 #include <thread>
 
 #include "base/textos.h"
-#include "base/textosGrabado.h"
 #include "persistencia/disco/mdCerrojo.h"
 #include "persistencia/disco/mdDiario.h"
 

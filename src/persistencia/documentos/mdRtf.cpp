@@ -6,7 +6,7 @@
 
 #include "base/mdAnsi.h"
 #include "base/mdContenido.h"
-#include "base/textosRtf.h"
+#include "base/textos.h"
 #include "persistencia/documentos/mdRtfFichas.h"
 #include "persistencia/documentos/mdRtfPalabras.h"
 
@@ -198,8 +198,7 @@ class LectorRtf {
 };
 
 ErrorRtf NoSeAbre(const fs::path& ruta, int causa) {
-  return ErrorRtf(
-      {txt::DocumentoNoSeAbre, {ruta.string(), std::generic_category().message(causa)}});
+  return ErrorRtf({txt::NoSeAbre, {ruta.string(), std::generic_category().message(causa)}});
 }
 
 }  // namespace

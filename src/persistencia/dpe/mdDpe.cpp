@@ -8,7 +8,6 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosDpe.h"
 #include "core/mdAjustes.h"
 
 namespace zorbin {

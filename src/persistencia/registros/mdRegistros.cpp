@@ -8,7 +8,6 @@
 #include "base/mdAnsi.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosGrabado.h"
 #include "persistencia/disco/mdRecupera.h"
 
 namespace zorbin {

@@ -10,7 +10,7 @@
 
 #include "base/mdContenido.h"
 #include "base/mdTextos.h"
-#include "base/textosTablas.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -106,8 +106,7 @@ std::optional<FilaDimensiones> FilaDe(std::string_view linea) {
 void LeeDimensiones(TablasCatalogo& t, const fs::path& carpeta) {
   const fs::path ruta = RutaTabla(carpeta, "TUB#GM");
   if (ruta.empty()) {
-    throw ErrorFichero(
-        {txt::TablaQueFalta, {(carpeta / "TUB#GM").string()}, txt::NoExisteElFichero});
+    throw ErrorFichero({txt::TablaQueFalta, {(carpeta / "TUB#GM").string()}, txt::NoExisteFichero});
   }
   CadaLinea(ruta, [&](std::string_view linea, int n) {
     if (n <= kLineasCabecera) return;

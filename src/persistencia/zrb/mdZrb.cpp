@@ -374,7 +374,8 @@ void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos&
   std::vector<Registro128> r{
       {1, "Version", std::string(kVersionFichero)},
       {2, "Idioma",
-       "IDIOMA : " + TextoEntero(o.Idioma) + " " + textos.Texto(txt::NombreIdioma1 + o.Idioma - 1)},
+       "IDIOMA : " + TextoEntero(o.Idioma) + " " +
+           textos.Texto(txt::NombresIdioma[0] + o.Idioma - 1)},
       {3, "SisUnid", "SisUnid: " + o.SisUnid + std::string(27, ' ')},
       {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)},
       {5, "NombreObra", o.NombreObra},

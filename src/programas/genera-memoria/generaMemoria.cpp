@@ -5,18 +5,21 @@
 //
 // CAPITULOS is the folder of a language, with portada.html and the chapters in the order of their
 // names; FIGURAS holds the pictures. A check binds every JSON file to a name that the expressions
-// of the chapters begin with. Needs no display. Ends with 0, with 1 on a fault of the sources,
-// which is told with file and line, or when a number is wrong, with 2 on a wrong call.
+// of the chapters begin with; `v` is bound already, to the published examples. Needs no display.
+// Ends with 0, with 1 on a fault of the sources, which is told with file and line, or when a number
+// is wrong, with 2 on a wrong call.
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <iostream>
 
+#include "calculo/verificacion/mdEjemplos.h"
 #include "listados/maqueta/mdDatos.h"
 #include "listados/maqueta/mdError.h"
 #include "listados/maqueta/mdMaqueta.h"
@@ -49,6 +52,37 @@ std::vector<Capitulo> LeeCapitulos(const QDir& carpeta, QString& fichero) {
   return capitulos;
 }
 
+QJsonObject JsonDe(const Rango& r) {
+  return {{"min", r.min}, {"max", r.max}};
+}
+
+QJsonArray JsonDe(const std::vector<ExcesoDelMetodo>& filas) {
+  QJsonArray v;
+  for (const auto& f : filas) {
+    QJsonArray dif;
+    for (const double d : f.dif) dif.append(d);
+    v.append(QJsonObject{{"rsdp", f.rsdp}, {"dif", dif}, {"usual", JsonDe(f.usual)}});
+  }
+  return v;
+}
+
+// What the chapters call by `v`: the published examples by their keys, and how far the simplified
+// formulas of the method lie from the full ones.
+QJsonObject Verificacion() {
+  QJsonObject v;
+  for (const auto& x : EjemplosPublicados()) {
+    v.insert(
+        QString::fromUtf8(x.clave.data(), static_cast<qsizetype>(x.clave.size())),
+        QJsonObject{{"publicado", x.publicado}, {"zorbin", x.zorbin}, {"dif", x.Diferencia()}});
+  }
+  v.insert("terraplen", JsonDe(ExcesosTerraplen()));
+  v.insert("negativa", JsonDe(ExcesosNegativa()));
+  const auto pendiente = CalculaExcesosDePendiente();
+  v.insert("prandtl", JsonDe(pendiente.prandtl));
+  v.insert("darcy", JsonDe(pendiente.darcy));
+  return {{"v", v}};
+}
+
 // The document in memory: the PDF writer does not tell what became of its bytes.
 QByteArray Pdf(const std::vector<Caja>& paginas, const QString& titulo) {
   QByteArray bytes;
@@ -76,6 +110,11 @@ int Genera(const QDir& carpeta, const QDir& figuras, const QString& salida) {
     const auto portada = LeeHtml(QString::fromUtf8(Lee(carpeta.filePath(fichero))));
     const Rotulos rotulos = LeeRotulos(portada);
     auto capitulos = LeeCapitulos(carpeta, fichero);
+    const QJsonObject datos = Verificacion();
+    for (auto& c : capitulos) {
+      fichero = c.fichero;
+      PonCifras(c.raiz, datos);
+    }
     const auto paginas = Maqueta(tipografia, rotulos, portada, capitulos, figuras, fichero);
     QDir().mkpath(QFileInfo(salida).path());
     QSaveFile f(salida);
@@ -94,7 +133,7 @@ int Genera(const QDir& carpeta, const QDir& figuras, const QString& salida) {
 int Comprueba(const QDir& carpeta, const QStringList& ficheros) {
   QString fichero;
   try {
-    QJsonObject datos;
+    QJsonObject datos = Verificacion();
     for (const auto& palabra : ficheros) {
       const auto igual = palabra.indexOf('=');
       fichero = palabra.mid(igual + 1);

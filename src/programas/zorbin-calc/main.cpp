@@ -6,7 +6,6 @@
 
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
-#include "base/textosListaAjustes.h"
 #include "persistencia/disco/mdDescriptor.h"
 #include "programas/zorbin-calc/mdAyudaLinea.h"
 #include "programas/zorbin-calc/mdCalcula.h"

@@ -6,7 +6,6 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosDpe.h"
 #include "listados/datos/mdJson.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/obra/mdResumen.h"

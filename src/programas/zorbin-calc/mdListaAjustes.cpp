@@ -7,7 +7,6 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "base/textosListaAjustes.h"
 #include "listados/papel/mdFormato.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "persistencia/proyecto/mdProyecto.h"

@@ -23,7 +23,7 @@ void EscribePdf(const std::filesystem::path& fichero, const std::string& titulo,
                    << '\n';
     salida.Cierra();
   } catch (const ErrorFuente& error) {
-    throw ErrorSalida(fichero.string(), textos.Compone(txt::FaltaFuente, {error.what()}));
+    throw ErrorSalida(fichero.string(), textos.Compone(txt::SinLetra, {error.what()}));
   } catch (const ErrorPintor& error) {
     throw ErrorSalida(fichero.string(), error.what());
   }

@@ -12,7 +12,7 @@
 
 #include "base/mdCarpetas.h"
 #include "base/mdNumeros.h"
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "shell/ajustes/frAjustes.h"
 #include "shell/ayuda/frAcercaDe.h"
@@ -161,7 +161,7 @@ void Programa::MuestraAdvertencia(int modo) {
 
 void Programa::Memoria() {
   MemoriaTecnica memoria;
-  memoria.ruta = RutaDocumento(textos_.Texto(txt::NombreMemoria));
+  memoria.ruta = RutaDocumento(textos_.Texto(txt::FicheroMemoria));
   memoria.carpetas = CarpetasDeLaSesion([](const char* v) { return std::getenv(v); });
   memoria.documento = documentos_;
   MuestraMemoria(entorno_, memoria, ventana_.get());

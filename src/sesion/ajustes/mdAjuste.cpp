@@ -4,8 +4,7 @@
 #include <utility>
 
 #include "base/mdTextos.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "calculo/corrida/mdCorrida.h"
 #include "core/mdUnidades.h"
 #include "sesion/ajustes/mdFilas.h"

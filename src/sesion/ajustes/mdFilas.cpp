@@ -4,7 +4,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosAjustes.h"
+#include "base/textos.h"
 #include "core/mdAjustes.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
@@ -17,7 +17,7 @@ namespace zorbin {
 namespace {
 
 void MuestraFallo(Ajustes& a, const std::string& texto) {
-  a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::AjErrorEnEjecucion))));
+  a.c.voz.Muestra(texto, std::string(Recorta(Texto(a, txt::ErrorEnEjecucion))));
 }
 
 DatosDelCaso Datos(const Ajustes& a) {

@@ -6,8 +6,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
 
@@ -23,7 +22,7 @@ struct TextoDeBoton {
 };
 constexpr auto kTextosBotones = std::to_array<TextoDeBoton>({
     {BotonAjuste::btAceptarAjuste, txt::BtAceptarAjuste},
-    {BotonAjuste::btSalir, txt::BtSalirAjuste},
+    {BotonAjuste::btSalir, txt::BotonSalir},
     {BotonAjuste::btGuardar, txt::BtGuardarAjuste},
     {BotonAjuste::btSubirValorMedio, txt::BtSubirMedio},
     {BotonAjuste::btBajarValorMedio, txt::BtBajarMedio},
@@ -69,9 +68,8 @@ std::string EnTotal(double valor, char separador) {
 }
 
 int RotuloDeLinea(const Comprobacion& c, int j) {
-  constexpr std::array<int, 3> kTraccion{txt::AjLineaExterior, txt::AjLineaInterior,
-                                         txt::AjLineaTotal};
-  return c.traccionPura ? kTraccion[static_cast<std::size_t>(j)] : txt::AjClave + j;
+  constexpr std::array<int, 3> kTraccion{txt::Exterior, txt::Interior, txt::AjLineaTotal};
+  return c.traccionPura ? kTraccion[static_cast<std::size_t>(j)] : txt::AjSecciones[0] + j;
 }
 
 // Areas of a row before they are shown.
@@ -137,7 +135,7 @@ void MuestraRotulos(Ajustes& a) {
   p.rotuloRecubrimientos = Texto(a, txt::AjRecubrimientos);
   p.rotuloRecInterior = Texto(a, txt::AjRecInterior);
   p.rotuloRecExterior = Texto(a, txt::AjRecExterior);
-  p.tbAviso = Texto(a, txt::AjDocumentoAviso);
+  p.tbAviso = Texto(a, txt::DocAvisoRecubrimientos);
   p.edAvisoCaldera = Texto(a, txt::AjAvisoCaldera);
 }
 

@@ -1,8 +1,7 @@
 #include "sesion/ajustes/mdRecubrimientos.h"
 
 #include "base/mdNumeros.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/ajustes/mdFilas.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
 #include "sesion/captura/mdGeometria.h"

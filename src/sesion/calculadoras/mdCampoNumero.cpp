@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/mdNumeros.h"
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -53,9 +53,9 @@ char FiltraTecla(char tecla, std::string_view texto, char SeparadorDecimal) {
 std::optional<AvisoCampo> ValidaNumero(double minimo, std::string_view texto, double& destino,
                                        int etiqueta) {
   const auto valor = NumeroTexto(texto);
-  if (!valor) return AvisoCampo{{txt::SeleccioneValorNumerico}, etiqueta};
+  if (!valor) return AvisoCampo{{txt::NoEsValorNumerico}, etiqueta};
   destino = *valor;
-  if (!(*valor >= minimo)) return AvisoCampo{{txt::ValorPorDebajoDelMinimo}, etiqueta};
+  if (!(*valor >= minimo)) return AvisoCampo{{txt::ValorIncorrecto}, etiqueta};
   return std::nullopt;
 }
 

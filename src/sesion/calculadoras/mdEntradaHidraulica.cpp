@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/mdNumeros.h"
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -191,8 +191,7 @@ std::optional<AvisoCampo> Calcula(EntradaHidraulica& e) {
     return AvisoDe(e, falta.falta());
   } catch (const ErrorEjecucion& error) {
     const bool cero = error.causa() == CausaError::DivisionPorCero;
-    return AvisoCampo{{cero ? txt::CalculoDivididoPorCero : txt::CalculoDesbordado},
-                      txt::ErrorEnEjecucion};
+    return AvisoCampo{{cero ? txt::DivisionPorCero : txt::Desbordamiento}, txt::ErrorEnEjecucion};
   }
   PoneBotones(e, true);
   return std::nullopt;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/textosDpe.h"
+#include "base/textos.h"
 #include "persistencia/dpe/mdDpe.h"
 
 namespace zorbin {

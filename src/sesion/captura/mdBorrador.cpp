@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "base/mdNumeros.h"
-#include "base/textosCaptura.h"
-#include "base/textosGrabado.h"
+#include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdOrdenes.h"
@@ -161,7 +160,7 @@ std::string Valor(const Captura& c, Ed campo) {
   const auto& control = c[campo];
   switch (Fila(campo).clase) {
     case Clase::Marca:
-      return Texto(c, control.opcion == 1 ? txt::OpcionSi : txt::OpcionNo);
+      return Texto(c, control.opcion == 1 ? txt::Si : txt::No);
     case Clase::Opcion: {
       const auto i = static_cast<std::size_t>(control.opcion);
       return control.opcion >= 0 && i < control.entradas.size() ? control.entradas[i]

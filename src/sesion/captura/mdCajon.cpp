@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "base/textosBorrador.h"
+#include "base/textos.h"
 #include "persistencia/disco/mdDescriptor.h"
 #include "persistencia/disco/mdLog.h"
 

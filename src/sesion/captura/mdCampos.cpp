@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -30,7 +30,7 @@ constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 constexpr std::array<FilaCampo, kCamposCaptura> kCampos{{
     {.id = Ed::edObra, .nombre = "edObra", .clase = Clase::Texto, .rotulo = txt::RotObra, .consejo = txt::TipObra},
     {.id = Ed::edCliente, .nombre = "edCliente", .clase = Clase::Texto, .rotulo = txt::RotCliente, .consejo = txt::TipCliente},
-    {.id = Ed::edIdioma, .nombre = "edIdioma", .clase = Clase::Lista, .etiqueta = txt::RotIdioma, .rotulo = txt::RotIdioma, .consejo = txt::TipIdioma, .entrada = txt::EntradaIdioma, .entradas = 5, .entradaDefecto = 1},
+    {.id = Ed::edIdioma, .nombre = "edIdioma", .clase = Clase::Lista, .etiqueta = txt::RotIdioma, .rotulo = txt::RotIdioma, .consejo = txt::TipIdioma, .entrada = txt::NombresIdioma[0], .entradas = 5, .entradaDefecto = 1},
     {.id = Ed::rdSistemaUnidades, .nombre = "rdSistemaUnidades", .clase = Clase::Opcion, .rotulo = txt::RotSistema, .consejo = txt::TipSistema},
     {.id = Ed::rdGolpeAriete, .nombre = "rdGolpeAriete", .clase = Clase::Opcion, .rotulo = txt::RotGolpe, .consejo = txt::TipGolpe},
     {.id = Ed::edPrs1, .nombre = "edPrs1", .obra = &Obra::Prs1, .minimo = kNadaBajoCero, .etiqueta = txt::EtPrs1Edicion, .filtra = true, .escala = true, .ceroEnBlanco = true, .rotulo = txt::RotInicial, .grupo = txt::RotDP, .consejo = txt::TipPrs1},
@@ -50,8 +50,8 @@ constexpr std::array<FilaCampo, kCamposCaptura> kCampos{{
     {.id = Ed::edPrsM2Tram, .nombre = "edPrsM2Tram", .pagina = kPaginaTramo, .tramo = &Tramo::PrsM2Tram, .minimo = kNadaBajoCero, .etiqueta = txt::EtPrsM2, .filtra = true, .escala = true, .ceroEnBlanco = true, .rotulo = txt::RotFinal, .grupo = txt::RotMDP, .consejo = txt::TipPrsM2Tram},
     {.id = Ed::edIcontes0, .nombre = "edIcontes0", .clase = Clase::Marca, .pagina = kPaginaArmado, .registra = true, .rotulo = txt::RotIcontes0, .consejo = txt::TipIcontes0},
     {.id = Ed::edAdato, .nombre = "edAdato", .pagina = kPaginaArmado, .tramo = &Tramo::Adato, .minimo = 0.001, .etiqueta = txt::EtAdato, .mascara = "#####0.000", .registra = true, .ceroEnBlanco = true, .rotulo = txt::RotAdato, .consejo = txt::TipAdato},
-    {.id = Ed::edTipoControl, .nombre = "edTipoControl", .clase = Clase::Lista, .pagina = kPaginaArmado, .codigo = &Tramo::TipoControl, .etiqueta = txt::EtTipoControl, .registra = true, .rotulo = txt::EtTipoControl, .consejo = txt::TipTipoControl, .entrada = txt::EntradaControl, .entradas = 2, .entradaDefecto = 1},
-    {.id = Ed::edTipoCamisa, .nombre = "edTipoCamisa", .clase = Clase::Lista, .pagina = kPaginaArmado, .codigo = &Tramo::TipoCamisa, .etiqueta = txt::EtTipoCamisa, .registra = true, .rotulo = txt::EtTipoCamisa, .consejo = txt::TipTipoCamisa, .entrada = txt::EntradaCamisa, .entradas = 2, .entradaDefecto = 2},
+    {.id = Ed::edTipoControl, .nombre = "edTipoControl", .clase = Clase::Lista, .pagina = kPaginaArmado, .codigo = &Tramo::TipoControl, .etiqueta = txt::EtTipoControl, .registra = true, .rotulo = txt::EtTipoControl, .consejo = txt::TipTipoControl, .entrada = txt::ControlIntenso, .entradas = 2, .entradaDefecto = 1},
+    {.id = Ed::edTipoCamisa, .nombre = "edTipoCamisa", .clase = Clase::Lista, .pagina = kPaginaArmado, .codigo = &Tramo::TipoCamisa, .etiqueta = txt::EtTipoCamisa, .registra = true, .rotulo = txt::EtTipoCamisa, .consejo = txt::TipTipoCamisa, .entrada = txt::TiposDeCamisa[0], .entradas = 2, .entradaDefecto = 2},
     {.id = Ed::edCamMax, .nombre = "edCamMax", .pagina = kPaginaArmado, .tramo = &Tramo::CamMax, .minimo = 0.0, .etiqueta = txt::EtCamMax, .defecto = 6.0, .mascara = "#####0.0", .filtra = true, .registra = true, .rotulo = txt::EtCamMax, .consejo = txt::TipCamMax},
     {.id = Ed::edFck, .nombre = "edFck", .pagina = kPaginaArmado, .tramo = &Tramo::Fck, .minimo = 0.001, .etiqueta = txt::EtFck, .defecto = 350.0, .defectoSI = 35.0, .mascara = "####0", .mascaraSI = "####0.0", .lectura = "#####0", .lecturaSI = "#####0.0", .filtra = true, .registra = true, .escala = true, .ceroEnBlanco = true, .rotulo = txt::RotFckMKS, .rotuloSI = txt::RotFckSI, .consejo = txt::TipFck},
     {.id = Ed::edFct, .nombre = "edFct", .pagina = kPaginaArmado, .tramo = &Tramo::Fct, .mascara = "#####0", .mascaraSI = "#####0.0", .filtra = true, .escala = true, .ceroEnBlanco = true, .rotulo = txt::RotFctMKS, .rotuloSI = txt::RotFctSI, .consejo = txt::TipFct},
@@ -84,20 +84,20 @@ constexpr std::array<FilaCampo, kCamposCaptura> kCampos{{
     {.id = Ed::edDe0, .nombre = "edDe0", .pagina = kPaginaTubo, .tramo = &Tramo::De, .minimo = 0.0, .etiqueta = txt::EtDe, .mascara = "#####0.000", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::EtDe, .consejo = txt::TipDe},
     {.id = Ed::edReci0, .nombre = "edReci0", .pagina = kPaginaTubo, .tramo = &Tramo::Reci, .minimo = 0.0, .etiqueta = txt::EtReci, .mascara = "#####0.0", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::EtReci, .consejo = txt::TipReci},
     {.id = Ed::edRece0, .nombre = "edRece0", .pagina = kPaginaTubo, .tramo = &Tramo::Rece, .minimo = 0.0, .etiqueta = txt::EtRece, .mascara = "#####0.0", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::EtRece, .consejo = txt::TipRece},
-    {.id = Ed::edGc0, .nombre = "edGc0", .pagina = kPaginaTubo, .tramo = &Tramo::Gc, .minimo = 0.001, .etiqueta = txt::EtGcEdicion, .defecto = 2.5, .mascara = "#####0.00", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::EtGc, .consejo = txt::TipGc},
-    {.id = Ed::edTipoCuna0, .nombre = "edTipoCuna0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoCuna, .etiqueta = txt::EtTipoCuna, .registra = true, .rotulo = txt::EtTipoCuna, .consejo = txt::TipTipoCuna, .entrada = txt::EntradaCuna, .entradas = 2, .entradaDefecto = 1},
-    {.id = Ed::edTipoApoyo0, .nombre = "edTipoApoyo0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoApoyo, .etiqueta = txt::EtTipoApoyo, .registra = true, .rotulo = txt::EtTipoApoyo, .consejo = txt::TipTipoApoyo, .entrada = txt::EntradaApoyo, .entradas = 2, .entradaDefecto = 2},
+    {.id = Ed::edGc0, .nombre = "edGc0", .pagina = kPaginaTubo, .tramo = &Tramo::Gc, .minimo = 0.001, .etiqueta = txt::DensidadTubo, .defecto = 2.5, .mascara = "#####0.00", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::EtGc, .consejo = txt::TipGc},
+    {.id = Ed::edTipoCuna0, .nombre = "edTipoCuna0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoCuna, .etiqueta = txt::EtTipoCuna, .registra = true, .rotulo = txt::EtTipoCuna, .consejo = txt::TipTipoCuna, .entrada = txt::CunaGranular, .entradas = 2, .entradaDefecto = 1},
+    {.id = Ed::edTipoApoyo0, .nombre = "edTipoApoyo0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoApoyo, .etiqueta = txt::EtTipoApoyo, .registra = true, .rotulo = txt::EtTipoApoyo, .consejo = txt::TipTipoApoyo, .entrada = txt::TiposDeApoyo[0], .entradas = 2, .entradaDefecto = 2},
     {.id = Ed::edHr0, .nombre = "edHr0", .pagina = kPaginaRelleno, .tramo = &Tramo::Hr0Tramo, .minimo = 0.0, .etiqueta = txt::EtAlt1, .mascara = "#####0.00", .filtra = true, .registra = true, .ceroEnBlanco = true, .rotulo = txt::RotInicial, .consejo = txt::TipHr0},
     {.id = Ed::edHr0Final, .nombre = "edHr0Final", .pagina = kPaginaRelleno, .tramo = &Tramo::Hr0Final, .minimo = kNadaBajoCero, .etiqueta = txt::EtAlt2, .mascara = "#####0.00", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::RotFinal, .consejo = txt::TipHr0Final},
     {.id = Ed::edHr0Delta, .nombre = "edHr0Delta", .pagina = kPaginaRelleno, .tramo = &Tramo::Hr0Delta, .minimo = 0.0, .etiqueta = txt::EtAlt3, .mascara = "#####0.00", .filtra = true, .ceroEnBlanco = true, .rotulo = txt::RotIncrementoAltura, .consejo = txt::TipHr0Delta},
     {.id = Ed::edB0, .nombre = "edB0", .pagina = kPaginaRelleno, .tramo = &Tramo::B0, .minimo = 0.0, .etiqueta = txt::EtAnchuraZanja, .mascara = "#####0.000", .filtra = true, .registra = true, .ceroEnBlanco = true, .rotulo = txt::EtB0, .consejo = txt::TipB0},
     {.id = Ed::edGr0, .nombre = "edGr0", .pagina = kPaginaRelleno, .tramo = &Tramo::Gr, .minimo = 0.001, .etiqueta = txt::EtGr, .defecto = 1.8, .mascara = "#####0.00", .filtra = true, .registra = true, .ceroEnBlanco = true, .rotulo = txt::RotGr, .consejo = txt::TipGr},
     {.id = Ed::edFi0, .nombre = "edFi0", .pagina = kPaginaRelleno, .tramo = &Tramo::Fi, .minimo = 0.0, .etiqueta = txt::EtFi, .defecto = 30.0, .mascara = "#####0.00", .filtra = true, .registra = true, .rotulo = txt::RotFi, .consejo = txt::TipFi},
-    {.id = Ed::edTipoRelleno0, .nombre = "edTipoRelleno0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoRelleno, .etiqueta = txt::EtTipoRelleno, .registra = true, .rotulo = txt::EtTipoRelleno, .consejo = txt::TipTipoRelleno, .entrada = txt::EntradaRelleno, .entradas = 5, .entradaDefecto = 3},
+    {.id = Ed::edTipoRelleno0, .nombre = "edTipoRelleno0", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::TipoRelleno, .etiqueta = txt::EtTipoRelleno, .registra = true, .rotulo = txt::EtTipoRelleno, .consejo = txt::TipTipoRelleno, .entrada = txt::RocasMachacadas, .entradas = 5, .entradaDefecto = 3},
     {.id = Ed::edHr1, .nombre = "edHr1", .pagina = kPaginaRelleno, .tramo = &Tramo::Hr1, .minimo = 0.001, .etiqueta = txt::EtHr1, .mascara = "#####0.000", .filtra = true, .registra = true, .ceroEnBlanco = true, .rotulo = txt::RotHr1, .consejo = txt::TipHr1},
-    {.id = Ed::edIAs, .nombre = "edIAs", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::IAs, .etiqueta = txt::EtIAs, .registra = true, .rotulo = txt::EtIAs, .consejo = txt::TipIAs, .entrada = txt::EntradaAsentamiento, .entradas = 3, .entradaDefecto = 2},
+    {.id = Ed::edIAs, .nombre = "edIAs", .clase = Clase::Lista, .pagina = kPaginaRelleno, .codigo = &Tramo::IAs, .etiqueta = txt::EtIAs, .registra = true, .rotulo = txt::EtIAs, .consejo = txt::TipIAs, .entrada = txt::RocaNoAsentable, .entradas = 3, .entradaDefecto = 2},
     {.id = Ed::edQDato0, .nombre = "edQDato0", .pagina = kPaginaCargas, .tramo = &Tramo::QDato, .etiqueta = txt::EtQDato, .defecto = 0.0, .mascara = "#####0.000", .filtra = true, .registra = true, .escala = true, .rotulo = txt::RotQDatoMKS, .rotuloSI = txt::RotQDatoSI, .consejo = txt::TipQDato},
-    {.id = Ed::edICar0, .nombre = "edICar0", .clase = Clase::Lista, .pagina = kPaginaCargas, .codigo = &Tramo::ICar, .etiqueta = txt::EtICar, .registra = true, .rotulo = txt::EtICar, .consejo = txt::TipICar, .entrada = txt::EntradaCarga, .entradas = 5, .entradaDefecto = 3},
+    {.id = Ed::edICar0, .nombre = "edICar0", .clase = Clase::Lista, .pagina = kPaginaCargas, .codigo = &Tramo::ICar, .etiqueta = txt::EtICar, .registra = true, .rotulo = txt::EtICar, .consejo = txt::TipICar, .entrada = txt::TiposDeCarga[0], .entradas = 5, .entradaDefecto = 3},
 }};
 // clang-format on
 

@@ -5,7 +5,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
 
 namespace zorbin {

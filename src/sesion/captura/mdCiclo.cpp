@@ -6,8 +6,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosCaptura.h"
-#include "base/textosGrabado.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "sesion/calculadoras/mdCampoNumero.h"
 #include "sesion/captura/mdAjustesTramo.h"

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin {
@@ -71,7 +71,7 @@ void RenuevaLista(Captura& c, const FilaCampo& fila) {
 
 void RenuevaOpciones(Captura& c) {
   c[Ed::rdSistemaUnidades].entradas = Entradas(c, {txt::RotSI, txt::RotMKS});
-  c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::OpcionSi, txt::OpcionNo});
+  c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::Si, txt::No});
   c[Ed::rdTipoCamisa].entradas = Entradas(c, {txt::OpcionEmbebida, txt::OpcionRevestida});
   c[Ed::rdTipoColocacion].entradas =
       Entradas(c, {txt::OpcionZanja, txt::OpcionZanjaTerraplenada, txt::OpcionTerraplen});

@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
 
 namespace zorbin {

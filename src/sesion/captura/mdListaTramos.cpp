@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
 
@@ -16,10 +16,10 @@ std::string SinMarca(std::string texto) {
 }
 
 std::string TextoTipologia(const Captura& c, int tipologia) {
-  const std::string armado = SinMarca(Texto(c, txt::PaginaArmado));
+  const std::string armado = SinMarca(Texto(c, txt::PagArmado));
   if (tipologia < kPrimeraPostesada) return armado;
   const int camisa = tipologia == 2221 ? txt::OpcionRevestida : txt::OpcionEmbebida;
-  return SinMarca(Texto(c, txt::PaginaPostesado)) + ", " + Texto(c, camisa);
+  return SinMarca(Texto(c, txt::PagPostesado)) + ", " + Texto(c, camisa);
 }
 
 RenglonTramo Renglon(const Captura& c, const std::string& numero, const Tramo& t) {

@@ -1,7 +1,7 @@
 #include "sesion/captura/mdPresenta.h"
 
 #include "base/mdNumeros.h"
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdOrdenes.h"

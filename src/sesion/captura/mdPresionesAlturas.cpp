@@ -1,6 +1,6 @@
 #include "sesion/captura/mdPresionesAlturas.h"
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -316,12 +316,13 @@ void AplicaTipologia(Captura& c) {
 
 void RenuevaFiguras(Captura& c) {
   const auto& t = c.e.tramo;
-  const int primera = t.TipoCuna == 2 ? txt::FigColocacionHormigon : txt::FigColocacionGranular;
+  const int primera =
+      t.TipoCuna == 2 ? txt::FigurasColocacionHormigon[0] : txt::FigurasColocacionGranular[0];
   c.pantalla.figuraColocacion = Texto(c, primera + t.TipoColocacion);
   const int opcion = c[Ed::rdTipoCamisa].opcion;
-  c.pantalla.figuraTubo = Texto(c, opcion == 0   ? txt::FigTubo2211
-                                   : opcion == 1 ? txt::FigTubo2221
-                                                 : txt::FigTubo2110);
+  c.pantalla.figuraTubo = Texto(c, opcion == 0   ? txt::FiguraTubo2211
+                                   : opcion == 1 ? txt::FiguraTubo2221
+                                                 : txt::FiguraTubo2110);
 }
 
 void BloqueosObra(Captura& c) {

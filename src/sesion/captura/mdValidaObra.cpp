@@ -1,6 +1,6 @@
 #include "sesion/captura/mdValidaObra.h"
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 
 namespace zorbin {

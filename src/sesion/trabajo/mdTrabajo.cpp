@@ -8,8 +8,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosCaptura.h"
-#include "base/textosTrabajo.h"
+#include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdResumen.h"

@@ -16,10 +16,7 @@
 #include <cmath>
 
 #include "base/mdNumeros.h"
-#include "base/textosAjustes.h"
-#include "base/textosCaptura.h"
-#include "base/textosPantallaAjustes.h"
-#include "base/textosPiezas.h"
+#include "base/textos.h"
 #include "sesion/ajustes/mdPared.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
 #include "shell/ajustes/mdDibujoAjustes.h"
@@ -302,7 +299,7 @@ QLayout* frAjustes::FilaDeSalida() {
   filas->addWidget(lbAviso_);
   auto* fila = new QHBoxLayout;
   lbSinGrabar_ = Etiqueta("lbSinGrabar", this);
-  lbSinGrabar_->setText(Rotulo(T(txt::AjCambiosSinGrabar)));
+  lbSinGrabar_->setText(Rotulo(T(txt::SinGuardar)));
   EnNegrita(*lbSinGrabar_, true);
   fila->addWidget(lbSinGrabar_);
   fila->addStretch(1);
@@ -327,9 +324,9 @@ void frAjustes::PonPistas() {
 }
 
 void frAjustes::MuestraDocumento(const DocumentoAjustes& documentoHtml) {
-  const QString html = documentoHtml(txt::AjDocumentoAviso);
+  const QString html = documentoHtml(txt::DocAvisoRecubrimientos);
   if (html.isEmpty()) {
-    tbAviso_->setPlainText(Q(T(txt::AjFicheroNoEncontrado) + a_.t.pantalla.tbAviso));
+    tbAviso_->setPlainText(Q(T(txt::FaltaArchivo) + a_.t.pantalla.tbAviso));
   } else {
     tbAviso_->setHtml(html);
   }
@@ -450,8 +447,8 @@ void frAjustes::MuestraPared() {
     return Formato(a_, v, v == std::floor(v) ? "####0" : "####0.0");
   };
   DibujoPared::Rotulos r;
-  r.exterior = Rotulo(T(txt::AjLineaExterior));
-  r.interior = Rotulo(T(txt::AjLineaInterior));
+  r.exterior = Rotulo(T(txt::Exterior));
+  r.interior = Rotulo(T(txt::Interior));
   frPared_->setTitle(Rotulo(T(txt::AjPared)));
   if (!c.traccionPura) {
     const int rige = c.LineaQueRige();

@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "persistencia/zrb/mdZrb.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"

@@ -12,7 +12,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "shell/ayuda/mdGuia.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdVisorHtml.h"
@@ -285,9 +285,9 @@ void frAyuda::PonTextos() {
   adelante_->setText(rotulo(txt::Adelante));
   dice(atras_, rotulo(txt::Atras));
   dice(adelante_, rotulo(txt::Adelante));
-  dice(reduce_, rotulo(txt::Reducir));
+  dice(reduce_, rotulo(txt::ReducirLetra));
   dice(normal_, rotulo(txt::TamanoNormal));
-  dice(amplia_, rotulo(txt::Ampliar));
+  dice(amplia_, rotulo(txt::AmpliarLetra));
   guia_->RenuevaTextos();
 }
 

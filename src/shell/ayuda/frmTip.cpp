@@ -8,8 +8,7 @@
 #include <QShowEvent>
 #include <QVBoxLayout>
 
-#include "base/textosAyuda.h"
-#include "base/textosPiezas.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdVisorHtml.h"
 
@@ -25,11 +24,11 @@ struct Aviso {
 };
 
 const Aviso& De(ModoAviso modo) {
-  static const Aviso derecho{txt::DocumentoDerecho,
+  static const Aviso derecho{txt::DocDerechoDeUso,
                              "Mostrar sugerencias al iniciar",
                              {txt::FaltaDerecho1, txt::FaltaDerecho2, txt::FaltaDerecho3, 0}};
-  static const Aviso visor{txt::DocumentoLector, nullptr, {txt::FaltaArchivo, 0, txt::FaltaLector}};
-  static const Aviso memoria{txt::DocumentoMemoria,
+  static const Aviso visor{txt::DocVisorPdf, nullptr, {txt::FaltaArchivo, 0, txt::FaltaLector}};
+  static const Aviso memoria{txt::DocMemoria,
                              "Mostrar sugerencias al iniciar II",
                              {txt::FaltaArchivo, 0, txt::FaltaMemoria}};
   if (modo == ModoAviso::InstalarVisor) return visor;

@@ -11,7 +11,7 @@
 #include <array>
 #include <map>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
@@ -126,9 +126,9 @@ QWidget* GuiaAyuda::PaginaBusqueda() {
 
 void GuiaAyuda::RenuevaTextos() {
   const auto rotulo = [this](int n) { return Rotulo(textos_.Texto(n)); };
-  const std::array<int, 3> titulos{txt::PestanaContenido, txt::PestanaIndice, txt::PestanaBuscar};
+  const std::array<int, 3> titulos{txt::MenuContenido, txt::PestanaIndice, txt::PestanaBuscar};
   for (int i = 0; i < count(); ++i) setTabText(i, rotulo(titulos[static_cast<std::size_t>(i)]));
-  arbol_->setAccessibleName(rotulo(txt::PestanaContenido));
+  arbol_->setAccessibleName(rotulo(txt::MenuContenido));
   for (auto* w : {static_cast<QWidget*>(filtro_), static_cast<QWidget*>(indice_)}) {
     w->setAccessibleName(rotulo(txt::PestanaIndice));
   }

@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "base/textosAyuda.h"
+#include "base/textos.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -39,8 +39,8 @@ bool SePuedeLeer(const Entorno& entorno, const std::filesystem::path& ruta, QWid
     Avisa(padre, entorno.textos, nombre + ' ' + texto(txt::NoExisteFichero));
   } else {
     Avisa(padre, entorno.textos,
-          texto(txt::ErrorNumero) + QString::number(error) + '\n' + texto(txt::AlAbrir) + ' ' +
-              nombre);
+          texto(txt::ErrorConNumero) + QString::number(error) + '\n' +
+              texto(txt::AlAbrirElFichero) + ' ' + nombre);
   }
   return false;
 }

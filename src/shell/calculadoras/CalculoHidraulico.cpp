@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <array>
 
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdHidraulicaListado.h"
 #include "listados/calculadoras/mdHidraulicaPapel.h"
 #include "shell/piezas/mdQt.h"

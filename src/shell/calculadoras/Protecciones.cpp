@@ -9,7 +9,7 @@
 #include <algorithm>
 
 #include "base/mdNumeros.h"
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdMediosPapel.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTeclasRapidas.h"
@@ -209,9 +209,9 @@ void Protecciones::AlineaCampos() {
 }
 
 void Protecciones::RenuevaEjemplo() {
-  const QString html = documentoHtml_(txt::FicheroAguasPuras);
+  const QString html = documentoHtml_(txt::DocAguasPuras);
   if (html.isEmpty()) {
-    edEjemplo_->setPlainText(Q(T(txt::FicheroNoEncontrado) + T(txt::FicheroAguasPuras)));
+    edEjemplo_->setPlainText(Q(T(txt::FaltaArchivo) + T(txt::DocAguasPuras)));
   } else {
     edEjemplo_->setHtml(html);
   }

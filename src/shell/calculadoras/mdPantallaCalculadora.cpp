@@ -6,8 +6,7 @@
 #include <QScreen>
 #include <QShortcut>
 
-#include "base/textosHidraulica.h"
-#include "base/textosPiezas.h"
+#include "base/textos.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -87,8 +86,8 @@ QLayout* PantallaCalculadora::FilaDeBotones(std::initializer_list<QPushButton*> 
 
 void PantallaCalculadora::RenuevaResultado(const QString& calcula) {
   area_->setPlaceholderText(Q(entorno_.textos.Compone(txt::EscribaLosDatos, {S(calcula)})));
-  lbAtrasado_->setText(Q(entorno_.textos.Compone(txt::DatosCambiados, {S(calcula)})));
-  btCerrar_->setText(Rotulo(T(txt::BotonCerrarCalculadora)));
+  lbAtrasado_->setText(Q(entorno_.textos.Compone(txt::ResultadoAtrasado, {S(calcula)})));
+  btCerrar_->setText(Rotulo(T(txt::BotonCerrar)));
 }
 
 void PantallaCalculadora::MuestraResultado(const std::string& texto) {

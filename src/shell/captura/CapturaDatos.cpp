@@ -12,8 +12,7 @@
 #include <QVBoxLayout>
 
 #include "base/mdCarpetas.h"
-#include "base/textosPiezas.h"
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdTipologias.h"
@@ -74,7 +73,7 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
   TabPrincipal_->Anade(CreaPaginaColocacion());
   for (int n = 0; n < 3; ++n) {
     rotulados_.push_back(
-        {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PagObra + n});
+        {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
   }
   filas->addWidget(TabPrincipal_, 1);
   filas->addWidget(CreaBotones());
@@ -155,7 +154,7 @@ QWidget* CapturaDatos::CreaBotones() {
   CreaBoton(*barraObra_, Orden::btCerrarObra, txt::BtCerrarObra);
   CreaBoton(*barraTramo_, Orden::btNuevoTramo, txt::BtNuevoTramo);
   CreaBoton(*barraTramo_, Orden::btGrabar, txt::BtGrabar);
-  CreaBoton(*barraTramo_, Orden::btCancelar, txt::BtCancelar);
+  CreaBoton(*barraTramo_, Orden::btCancelar, txt::BotonCancelar);
   CreaBoton(*barraTramo_, Orden::btCalcular, txt::BtCalcular);
   CreaBoton(*barraTramo_, Orden::btAjustar, txt::BtAjustar);
   for (const auto& boton : botones_) {

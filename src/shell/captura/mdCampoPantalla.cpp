@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "shell/piezas/mdCasillaNumero.h"
 #include "shell/piezas/mdIconos.h"
 #include "shell/piezas/mdQt.h"

@@ -10,7 +10,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "sesion/captura/mdListaTramos.h"
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/frFiguras.h"
@@ -132,7 +132,7 @@ QWidget* CapturaDatos::CreaTramos() {
       {[this](const QString& t) { tramos_->setAccessibleName(t); }, txt::MenuTramos});
   int columna = 0;
   for (const int texto :
-       {txt::ColTramo, txt::ColDescripcion, txt::ColTipologia, txt::ColDi, txt::ColColocacion}) {
+       {txt::RotTramo, txt::RotDescriTramo, txt::ColTipologia, txt::EtDi, txt::ColColocacion}) {
     rotulados_.push_back(
         {[this, columna](const QString& t) { tramos_->headerItem()->setText(columna, t); }, texto});
     ++columna;
@@ -193,7 +193,7 @@ QWidget* CapturaDatos::CreaPaginaObra() {
 QWidget* CapturaDatos::CreaPaginaArmado() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
-  auto* limite = CreaGrupo(txt::GrArmaduraExterior);
+  auto* limite = CreaGrupo(txt::RotIcontes0);
   auto* rejilla = new QGridLayout(limite);
   PonFilas(*rejilla, {Ed::edIcontes0, Ed::edAdato});
   filas->addWidget(limite);
@@ -208,7 +208,7 @@ QWidget* CapturaDatos::CreaPaginaPostesado() {
   auto* filas = new QVBoxLayout(pagina);
   campo(Ed::rdTipoCamisa).etiqueta().hide();
   filas->addWidget(&campo(Ed::rdTipoCamisa).widget());
-  auto* prueba = CreaGrupo(txt::GrPruebaPrimario);
+  auto* prueba = CreaGrupo(txt::RotIcontes1);
   auto* rejilla = new QGridLayout(prueba);
   PonFilas(*rejilla, {Ed::edIcontes1, Ed::edCoepre1});
   filas->addWidget(prueba);
@@ -272,7 +272,7 @@ QWidget* CapturaDatos::CreaPaginaTubo() {
 QWidget* CapturaDatos::CreaPaginaRelleno() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
-  auto* alturas = CreaGrupo(txt::GrAlturasTramo);
+  auto* alturas = CreaGrupo(txt::EtAlturas);
   auto* fila = new QHBoxLayout(alturas);
   for (const Ed id : {Ed::edHr0, Ed::edHr0Final, Ed::edHr0Delta}) {
     fila->addWidget(&campo(id).etiqueta());

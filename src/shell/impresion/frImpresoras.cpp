@@ -11,8 +11,7 @@
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
-#include "base/textosImpresion.h"
-#include "base/textosPiezas.h"
+#include "base/textos.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -34,7 +33,7 @@ frImpresoras::frImpresoras(const Catalogo& textos, Preferencias& preferencias,
       impresora_(impresora),
       lista_(new QListWidget(this)),
       tbCopias_(new QLineEdit(this)) {
-  setWindowTitle(Tx(txt::SeleccionarImpresora));
+  setWindowTitle(Tx(txt::MenuImpresora));
   lista_->setObjectName(QStringLiteral("Impresoras"));
   tbCopias_->setObjectName(QStringLiteral("tbCopias"));
   tbCopias_->setMaxLength(9);
@@ -47,7 +46,7 @@ frImpresoras::frImpresoras(const Catalogo& textos, Preferencias& preferencias,
   auto* acepta = new QPushButton(Tx(txt::BotonAceptar), this);
   acepta->setObjectName(QStringLiteral("btAceptar"));
   acepta->setDefault(true);
-  auto* cancela = new QPushButton(Tx(txt::BotonCancelarImpresion), this);
+  auto* cancela = new QPushButton(Tx(txt::BotonCancelar), this);
 
   auto* copias = new QHBoxLayout;
   copias->addWidget(rotuloCopias);
@@ -115,14 +114,14 @@ bool frImpresoras::ValidarNumeroCopias(int& copias) {
   };
   const std::string texto = S(tbCopias_->text());
   const auto valor = NumeroTexto(texto);
-  if (Recorta(texto).empty() || !valor) return rechaza(txt::CopiasNoNumero);
+  if (Recorta(texto).empty() || !valor) return rechaza(txt::NoEsValorNumerico);
   if (*valor != std::floor(*valor) || *valor > kMasCopias) return rechaza(txt::CopiasNoEntero);
   if (*valor < 1) return rechaza(txt::CopiasMenosDeUna);
   copias = static_cast<int>(*valor);
   return copias == 1 || Pregunta(this, textos_,
                                  Q(textos_.Texto(txt::QuiereImprimir) + std::to_string(copias) +
                                    textos_.Texto(txt::QuiereCopias)),
-                                 Tx(txt::TituloAvisoImpresion));
+                                 Tx(txt::TituloAviso));
 }
 
 bool frImpresoras::Establecer(const QString& nombre, int copias) {

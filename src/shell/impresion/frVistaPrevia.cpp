@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/textosImpresion.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {

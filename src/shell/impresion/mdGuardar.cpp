@@ -5,7 +5,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include "base/textosImpresion.h"
+#include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
 #include "persistencia/disco/mdFicheroSalida.h"
 #include "shell/impresion/mdColaImpresion.h"
@@ -61,7 +61,7 @@ QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& 
     preferencias.PonValor(kCarpeta, QFileInfo(ruta).absolutePath());
     if (!QFileInfo::exists(ruta) ||
         Pregunta(padre, textos, Frase(textos, txt::YaExiste, QDir::toNativeSeparators(ruta)),
-                 Rotulo(textos.Texto(txt::TituloAvisoImpresion)))) {
+                 Rotulo(textos.Texto(txt::TituloAviso)))) {
       return ruta;
     }
   }

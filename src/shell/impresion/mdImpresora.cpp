@@ -8,7 +8,7 @@
 #include <functional>
 #include <thread>
 
-#include "base/textosImpresion.h"
+#include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
 #include "shell/impresion/frVistaPrevia.h"
 #include "shell/impresion/mdGuardar.h"

@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <new>
 
-#include "base/textosPiezas.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
@@ -43,8 +43,8 @@ bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, cons
   QMessageBox caja(padre);
   Prepara(caja, texto, titulo);
   caja.setIcon(QMessageBox::Question);
-  auto* si = caja.addButton('&' + Rotulo(textos.Texto(txt::BotonSi)), QMessageBox::YesRole);
-  auto* no = caja.addButton('&' + Rotulo(textos.Texto(txt::BotonNo)), QMessageBox::NoRole);
+  auto* si = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaSi)), QMessageBox::YesRole);
+  auto* no = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaNo)), QMessageBox::NoRole);
   caja.setDefaultButton(si);
   caja.setEscapeButton(no);
   caja.exec();

@@ -16,9 +16,7 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "base/textosBorrador.h"
-#include "base/textosCaptura.h"
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -42,9 +40,9 @@ constexpr int kSinRuta = 0;
 QString LetrasDePestanas(const Catalogo& textos) {
   QString letras;
   for (const int entrada :
-       {txt::PagObra, txt::PagObra + 1, txt::PagObra + 2, txt::PagArmado, txt::PagPostesado,
-        txt::PagModulos, txt::PagResistencias, txt::PagTensiones, txt::PagCoeficientes,
-        txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
+       {txt::PaginasObra[0], txt::PaginasObra[1], txt::PaginasObra[2], txt::PagArmado,
+        txt::PagPostesado, txt::PagModulos, txt::PagResistencias, txt::PagTensiones,
+        txt::PagCoeficientes, txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
     const QString texto = Q(textos.Texto(entrada));
     const auto marca = texto.indexOf(QLatin1Char('&'));
     if (marca >= 0 && marca + 1 < texto.size()) letras += texto[marca + 1].toUpper();
@@ -292,7 +290,7 @@ void FormaPrincipal::Actualiza() {
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
-  return Q(c_.textos.Texto(txt::EntradaIdioma + c_.textos.IdiomaOffset() / kPasoIdioma));
+  return Q(c_.textos.Texto(txt::NombresIdioma[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
 }
 
 QString FormaPrincipal::NombreDeObra() const {

@@ -1,6 +1,6 @@
 #include "shell/principal/mdArranque.h"
 
-#include "base/textosShell.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -34,7 +34,7 @@ int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos,
     IdiomaPropio(preferencias, "GRABALO", idioma, idioma);
   }
   // A language beyond the catalogue has no manual either.
-  if (!hayManual(textos.LoadRes(txt::NombreAyuda + (idioma - 1) * kPasoIdioma))) idioma = kEspanol;
+  if (!hayManual(textos.LoadRes(txt::NombreManual + (idioma - 1) * kPasoIdioma))) idioma = kEspanol;
   return textos.PonIdioma(static_cast<std::int16_t>(idioma));
 }
 

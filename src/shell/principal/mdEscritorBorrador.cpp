@@ -1,6 +1,6 @@
 #include "shell/principal/mdEscritorBorrador.h"
 
-#include "base/textosBorrador.h"
+#include "base/textos.h"
 
 namespace zorbin {
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "base/mdCarpetas.h"
-#include "base/textosShell.h"
+#include "base/textos.h"
 #include "shell/captura/frFiguras.h"
 #include "shell/piezas/mdQt.h"
 

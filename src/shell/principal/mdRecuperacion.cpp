@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "base/mdTextos.h"
-#include "base/textosBorrador.h"
+#include "base/textos.h"
 #include "persistencia/disco/mdDescriptor.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"

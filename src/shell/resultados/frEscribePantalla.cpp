@@ -16,8 +16,9 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
+#include <array>
 
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "shell/impresion/mdGuardar.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdBuscador.h"
@@ -31,6 +32,8 @@ constexpr int kMenorCuerpo = 6;             // [pt]
 constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;
+constexpr std::array<int, kTiposListado> kRotulosListado{txt::Normal, txt::ListadoTabular,
+                                                         txt::ListadoPantalla, txt::ListadoLame};
 constexpr int kAireBoton = 18;  // round its text [pixels]
 const QString kVentana = QStringLiteral("frEscribePantalla");
 const QString kCuerpo = QStringLiteral("Resumen/Cuerpo");
@@ -115,7 +118,7 @@ void frEscribePantalla::CreaOpciones(QVBoxLayout& columna) {
   grupo->setObjectName(QStringLiteral("rdTipoListado"));
   auto* filas = new QVBoxLayout(grupo);
   for (int tipo = 0; tipo < kTiposListado; ++tipo) {
-    auto* opcion = new QRadioButton(Tx(txt::TiposDeListado[static_cast<std::size_t>(tipo)]), grupo);
+    auto* opcion = new QRadioButton(Tx(kRotulosListado[static_cast<std::size_t>(tipo)]), grupo);
     rdTipoListado_->addButton(opcion, tipo);
     filas->addWidget(opcion);
   }
@@ -140,8 +143,8 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
   };
   auto& textos = entorno_.textos;
   auto& preferencias = entorno_.preferencias;
-  boton("btImprimeTramo", txt::ResumenImprimir, [this] { Imprime(); });
-  boton("btVistaPrevia", txt::ResumenVistaPrevia,
+  boton("btImprimeTramo", txt::BotonImprimir, [this] { Imprime(); });
+  boton("btVistaPrevia", txt::VistaPrevia,
         [this] { entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento()); });
   boton("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
     GuardaPdf(this, textos, preferencias, NombreDocumento(), ElDocumento());
@@ -153,7 +156,7 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
   boton("btCopiar", txt::ResumenCopiar, [this] { Copia(); });
   boton("btBuscar", txt::ResumenBuscar, [this] { buscador_->Abre(); });
   columna.addStretch();
-  boton("btSalir", txt::ResumenSalir, [this] { reject(); });
+  boton("btSalir", txt::BotonSalir, [this] { reject(); });
 }
 
 void frEscribePantalla::CreaTeclas() {

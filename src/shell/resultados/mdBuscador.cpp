@@ -10,7 +10,7 @@
 #include <QTextBlock>
 #include <QToolButton>
 
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {

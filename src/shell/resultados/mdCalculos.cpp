@@ -3,8 +3,7 @@
 #include <filesystem>
 
 #include "base/mdTextos.h"
-#include "base/textosResumen.h"
-#include "base/textosTrabajo.h"
+#include "base/textos.h"
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "base/mdTextos.h"
-#include "base/textosResumen.h"
+#include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
@@ -26,7 +26,7 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, QWidget* padre)
       textos_(textos),
       texto_(new QLabel(this)),
       barra_(new QProgressBar(this)),
-      cancela_(new QPushButton(Rotulo(textos.Texto(txt::CancelarCalculo)), this)),
+      cancela_(new QPushButton(Rotulo(textos.Texto(txt::BotonCancelar)), this)),
       siguiente_(kPaciencia) {
   setWindowTitle(Rotulo(textos.Texto(txt::CalculoEnCurso)));
   setWindowModality(Qt::WindowModal);

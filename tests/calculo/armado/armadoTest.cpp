@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
 #include "core/mdAjustes.h"
 #include "core/mdUnidades.h"
@@ -13,23 +13,23 @@
 namespace zorbin {
 namespace {
 
+using pruebas::EnCalculo;
 using pruebas::EstadoDeMuestra;
 
-struct Ultimo : OyenteCorrida {
+struct Corrida {
   std::vector<ResultadoArmado> casos;
   std::vector<std::vector<Aviso>> avisos;
-  void Caso(const EstadoCalculo& e) override {
-    casos.push_back(e.caso.armado);
-    avisos.push_back(e.caso.avisos);
-  }
 };
 
-Ultimo Corre(EstadoCalculo& e) {
-  Ultimo u;
-  const std::array<OyenteCorrida*, 1> oyentes{&u};
-  const EnUnidadesDeCalculo unidades(e);
-  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-  return u;
+Corrida Corre(const DatosTramo& datos) {
+  Corrida c;
+  const auto x = CalculaTramo(datos, RangoDe(datos));
+  for (const auto& fila : x.filas) {
+    const auto caso = CasoEntero(x, fila);
+    c.casos.push_back(caso.Armado());
+    c.avisos.push_back(caso.avisos);
+  }
+  return c;
 }
 
 bool Hay(const std::vector<Aviso>& avisos, ClaseAviso clase) {
@@ -59,31 +59,25 @@ TEST(Armado, UnTramoEnteroAMano) {
   t.Di = 1.0, t.De = 1.2, t.Esp = 10, t.Reci = 2, t.Rece = 2, t.Gc = 2.5;
   t.TipoCuna = 1, t.TipoApoyo = 12, t.TipoRelleno = 12, t.B0 = 2, t.Gr = 1.8, t.Fi = 30;
   t.QDato = 6, t.IndCar = 0;
-  EstadoCalculo visto;
-  struct Guarda : OyenteCorrida {
-    EstadoCalculo* destino;
-    void Caso(const EstadoCalculo& x) override { *destino = x; }
-  } guarda;
-  guarda.destino = &visto;
-  const std::array<OyenteCorrida*, 1> oyentes{&guarda};
-  const EnUnidadesDeCalculo unidades(e);
-  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-  const auto& c = visto.corrida;
-  const auto& r = visto.caso.armado;
+  const auto datos = EnCalculo(e);
+  const auto x = CalculaTramo(datos, RangoDe(datos));
+  const auto& fila = x.filas.at(0);
+  const auto visto = CasoEntero(x, fila);
+  const auto& r = visto.Armado();
 
   // Pressures: PP the greater of 1.2·5 and 5 + 2, STP 5 + 1.
-  EXPECT_DOUBLE_EQ(c.PP, 7);
-  EXPECT_DOUBLE_EQ(c.STP, 6);
+  EXPECT_DOUBLE_EQ(fila.PP, 7);
+  EXPECT_DOUBLE_EQ(fila.STP, 6);
   // Loads: the given one is also the second; 1 m of earth is x = 2·0.165·1/2 = 0.165,
   // C = 0.921856, C·1.8·1 = 1.659341 t/m2, below the embankment load 2.546618/1.2.
-  EXPECT_DOUBLE_EQ(c.QTerraplen, 6);
-  EXPECT_NEAR(c.Landa, 1.0 / 3, 1e-12);
-  EXPECT_NEAR(c.Q1m, 1.659341, 1e-6);
+  EXPECT_DOUBLE_EQ(x.Altura(fila).cargas.QTerraplen, 6);
+  EXPECT_NEAR(x.Altura(fila).Landa, 1.0 / 3, 1e-12);
+  EXPECT_NEAR(x.unMetro.Q, 1.659341, 1e-6);
   // Ring: Dm 1.1, Wp 0.863938, Wf 0.785398, Wt 0.278124, Wq 7.2, Wl 0.72, h 3.333333; crown:
   // own 0.02994, water 0.02722, spandrels 0.00995, vertical 0.49802, lateral -0.17126.
-  EXPECT_NEAR(visto.caso.MHip(11, CLAVE), 0.49802, 1e-5);
-  EXPECT_NEAR(visto.caso.MHip(10, CLAVE), -0.17126, 1e-5);
-  EXPECT_NEAR(visto.caso.NHip(10, SOLERA), -1.03938, 1e-5);
+  EXPECT_NEAR(visto.MHip(11, CLAVE), 0.49802, 1e-5);
+  EXPECT_NEAR(visto.MHip(10, CLAVE), -0.17126, 1e-5);
+  EXPECT_NEAR(visto.NHip(10, SOLERA), -1.03938, 1e-5);
   // Hypotheses: M5 = 0.02722 + 0.02994 + 0.49802 + 0.00995 - 0.17126 at the crown;
   // N5 there = 0.16068 + 0.03924 + 0.20553 + 0.02389 - 1.32384 + 5·10·0.5.
   EXPECT_NEAR(r.esfuerzos.M(5, CLAVE), 0.39387, 1e-5);
@@ -107,16 +101,15 @@ TEST(Armado, UnTramoEnteroAMano) {
   EXPECT_EQ(r.FIEX, 10);
   EXPECT_EQ(r.NEXPEX, 15);
   EXPECT_NEAR(r.NRige(CLAVE), 24.10549 - 25, 1e-5);
-  EXPECT_TRUE(visto.caso.avisos.empty());  // (15 + 11.78)/1000 is well below 0.096
+  EXPECT_TRUE(visto.avisos.empty());  // (15 + 11.78)/1000 is well below 0.096
 }
 
 TEST(Armado, ElAjusteSustituyeLasAreasDeSuCasoYDeNingunOtro) {
-  auto e = EstadoDeMuestra(1);
-  e.tramo.NumeroTramo = 4;
-  e.corrida.ajustes = {{}, {5.04, 4, 3.0, {20, 3, 19}}, {5.0, 3, 3.0, {1, 1, 1}}};
-  const auto con = Corre(e);
-  e.corrida.ajustes.clear();
-  const auto sin = Corre(e);
+  auto datos = EnCalculo(EstadoDeMuestra(1));
+  datos.tramo.NumeroTramo = 4;
+  const auto sin = Corre(datos);
+  datos.ajustes = {{}, {5.04, 4, 3.0, {20, 3, 19}}, {5.0, 3, 3.0, {1, 1, 1}}};
+  const auto con = Corre(datos);
   ASSERT_EQ(con.casos.size(), 9u);
   for (std::size_t i = 0; i < con.casos.size(); ++i) {
     const auto& r = con.casos[i];
@@ -147,12 +140,13 @@ struct PruebaQueRige {
   int NEXPEX;
 };
 
-EstadoCalculo ConPruebaQueRige(std::int16_t tipoCamisa, double CamMax) {
+DatosTramo ConPruebaQueRige(std::int16_t tipoCamisa, double CamMax) {
   auto e = pruebas::EstadoDe(pruebas::LeeJson(pruebas::Datos("casos/10.json")).at("entrada"));
   e.tramo.TipoCamisa = tipoCamisa;
   e.tramo.CamMax = CamMax;
-  e.tramo.Fct = 1000;  // no steel for cracking
-  return e;
+  auto datos = EnCalculo(e);
+  datos.tramo.Fct = 1000;  // no steel for cracking
+  return datos;
 }
 
 TEST(Armado, CuandoRigePPSeDisponenSusAreas) {
@@ -162,8 +156,7 @@ TEST(Armado, CuandoRigePPSeDisponenSusAreas) {
        {PruebaQueRige{0, 6, 0, 12, 43, 12, 43}, PruebaQueRige{1, 0, 0, 12, 43, 12, 43},
         PruebaQueRige{1, 6, 4.5, 8, 7, 12, 43}, PruebaQueRige{2, 6, 5, 0, 0, 12, 42}}) {
     SCOPED_TRACE(testing::Message() << c.tipoCamisa << ' ' << c.CamMax);
-    auto e = ConPruebaQueRige(c.tipoCamisa, c.CamMax);
-    const auto u = Corre(e);
+    const auto u = Corre(ConPruebaQueRige(c.tipoCamisa, c.CamMax));
     const auto& r = u.casos.front();
     ASSERT_EQ(r.HipotesisRige, 1);
     EXPECT_NEAR(r.TablaHip(1).Total, 10.8 * 1.25 / 1400 * 10000, 1e-9);
@@ -188,9 +181,9 @@ TEST(Armado, CuandoRigePPSeDisponenSusAreas) {
 
 TEST(Armado, CuandoRigePPElAjusteQueda) {
   for (const double exterior : {35.0, 36.0}) {
-    auto e = ConPruebaQueRige(0, 0);
-    e.corrida.ajustes = {{9.0, 20, 7.2, {30, 20, exterior}}};
-    const auto u = Corre(e);
+    auto datos = ConPruebaQueRige(0, 0);
+    datos.ajustes = {{9.0, 20, 7.2, {30, 20, exterior}}};
+    const auto u = Corre(datos);
     const auto& r = u.casos.front();
     ASSERT_EQ(r.HipotesisRige, 1);
     ASSERT_TRUE(r.HayAjuste());
@@ -202,39 +195,56 @@ TEST(Armado, CuandoRigePPElAjusteQueda) {
   }
 }
 
+// A wall of 12 cm with hardly any load, under pressures of its own.
+struct Diseno {
+  Marcha marcha;
+  ResultadoArmado r;
+};
+
+Diseno DisenaSinCarga(std::int16_t tipoCamisa, const PresionesCaso& p) {
+  auto t = EstadoDeMuestra(1).tramo;
+  t.TipoCamisa = tipoCamisa, t.CamMax = 6;
+  t.Esp = 0.12, t.Reci = 0.025, t.Rece = 0.025;
+  t.Fck = 350, t.Fct = 22, t.Fyk = 2100, t.Fyd = 1400;
+  TerminosAnillo anillo;
+  anillo.MHip.filas(1) = {{0.01, 0.01, 0.01}};
+  anillo.NHip.filas(1) = {{-0.1, -0.1, -0.1}};
+  Diseno d;
+  d.r = DisenoArmado(t, anillo, p, {}, d.marcha);
+  return d;
+}
+
 // The steel ratio of the factory test is that of what is laid out, where there is a sheet.
 TEST(Armado, CuandoRigePPLaRetraccionMiraLaChapaPuesta) {
   for (const std::int16_t tipo : std::initializer_list<std::int16_t>{0, 1}) {
-    EstadoCalculo e = EstadoDeMuestra(1);
-    e.tramo.TipoCamisa = tipo, e.tramo.CamMax = 6;
-    e.tramo.Esp = 0.12, e.tramo.Reci = 0.025, e.tramo.Rece = 0.025;
-    e.tramo.Fck = 350, e.tramo.Fct = 22, e.tramo.Fyk = 2100, e.tramo.Fyd = 1400;
-    e.corrida.PP = 40;
-    e.corrida.STP = e.corrida.DP = e.corrida.MDP = 0.5;
-    e.caso.MHip(1, 1) = e.caso.MHip(1, 2) = e.caso.MHip(1, 3) = 0.01;
-    e.caso.NHip(1, 1) = e.caso.NHip(1, 2) = e.caso.NHip(1, 3) = -0.1;
-    e.caso.armado.CAMISA = 3;  // of another Caso
-    DisenoArmado(e);
-    const auto& r = e.caso.armado;
-    ASSERT_EQ(r.HipotesisRige, 1);
-    ASSERT_GT(r.Total / 1200, 0.096);
-    EXPECT_EQ(r.CAMISA, tipo == 0 ? 0 : 6);
-    ASSERT_EQ(HayFinal(e.caso.avisos, ClaseAviso::RetraccionLisas), tipo == 1);
+    const auto d = DisenaSinCarga(tipo, {0.5, 0.5, 0.5, 40});
+    ASSERT_EQ(d.r.HipotesisRige, 1);
+    ASSERT_GT(d.r.Total / 1200, 0.096);
+    EXPECT_EQ(d.r.CAMISA, tipo == 0 ? 0 : 6);
+    ASSERT_EQ(HayFinal(d.marcha.avisos, ClaseAviso::RetraccionLisas), tipo == 1);
     if (tipo == 1) {
-      EXPECT_DOUBLE_EQ(e.caso.avisos.back().valor.value(), r.Total / 1200);
+      EXPECT_DOUBLE_EQ(d.marcha.avisos.back().valor.value(), d.r.Total / 1200);
     }
   }
+}
+
+// Of two equal totals the later hypothesis governs: with no load at all, and the same pressure in
+// every one, hypotheses 3, 4 and 5 come out alike.
+TEST(Armado, EnUnEmpateRigeLaHipotesisPosterior) {
+  const auto d = DisenaSinCarga(1, {9, 9, 9, 0.1});
+  EXPECT_EQ(d.r.TablaHip(3).Total, d.r.TablaHip(5).Total);
+  EXPECT_EQ(d.r.HipotesisRige, 5);
 }
 
 TEST(Armado, AvisosYCodigos) {
   auto e = EstadoDeMuestra(3);
   e.tramo.Adato = 8;  // below what flexure alone needs
-  auto u = Corre(e);
+  auto u = Corre(EnCalculo(e));
   EXPECT_TRUE(Hay(u.avisos[0], ClaseAviso::FlexionSobreTope));
 
   e = EstadoDeMuestra(4);
   e.tramo.Hr0Tramo = e.tramo.Hr0Final = 40;  // crushing
-  u = Corre(e);
+  u = Corre(EnCalculo(e));
   EXPECT_TRUE(u.casos[0].MomentoTope);
   EXPECT_TRUE(Hay(u.avisos[0], ClaseAviso::MomentoTope));
   for (const auto& a : u.avisos[0]) EXPECT_EQ(a.pantalla, a.clase != ClaseAviso::MomentoTope);
@@ -242,34 +252,17 @@ TEST(Armado, AvisosYCodigos) {
   e = EstadoDeMuestra(1);
   e.tramo.TipoCamisa = 0;
   e.obra.Prs1 = e.obra.Prs2 = 0.1, e.obra.PrsM1 = e.obra.PrsM2 = 0.15;
-  u = Corre(e);
+  u = Corre(EnCalculo(e));
   EXPECT_GT(u.casos[0].TensionMax, 0);
   EXPECT_EQ(u.casos[0].CAMISA, 0);
   EXPECT_FALSE(Hay(u.avisos[0], ClaseAviso::RetraccionLisas));
 
-  // Nothing of its cracking check stands beside the pipe with a sheet that comes after it.
   ASSERT_GT(u.casos[0].sinFisuracion.FIIN, 0);
-  e.tramo.TipoCamisa = 1;
-  u = Corre(e);
+
+  e.tramo.TipoCamisa = 1;  // the cracking check is that of a pipe without sheet
+  u = Corre(EnCalculo(e));
   EXPECT_EQ(u.casos[0].sinFisuracion.FIIN, 0);
   EXPECT_EQ(u.casos[0].TensionMax, 0);
-}
-
-// Of two equal totals the later hypothesis governs: with no load at all, and the same pressure in
-// every one, hypotheses 3, 4 and 5 come out alike.
-TEST(Armado, EnUnEmpateRigeLaHipotesisPosterior) {
-  EstadoCalculo e = EstadoDeMuestra(1);
-  e.tramo.Esp = 0.12, e.tramo.Reci = 0.025, e.tramo.Rece = 0.025;
-  e.tramo.Fck = 350, e.tramo.Fct = 22, e.tramo.Fyk = 2100, e.tramo.Fyd = 1400;
-  e.corrida.PP = 0.1;
-  e.corrida.STP = e.corrida.DP = e.corrida.MDP = 9;
-  for (int s = 1; s <= 3; ++s) {
-    e.caso.MHip(1, s) = 0.01;
-    e.caso.NHip(1, s) = -0.1;
-  }
-  DisenoArmado(e);
-  EXPECT_EQ(e.caso.armado.TablaHip(3).Total, e.caso.armado.TablaHip(5).Total);
-  EXPECT_EQ(e.caso.armado.HipotesisRige, 5);
 }
 
 }  // namespace

@@ -7,9 +7,8 @@
 #include <nlohmann/json.hpp>
 
 #include "base/mdCarpetas.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
 
 namespace zorbin {
@@ -38,49 +37,45 @@ void Cerca(const json& esperado, const Tabla<double, N, M>& hay, const std::stri
   }
 }
 
-class Comparador : public OyenteCorrida {
+class Comparador {
  public:
-  Comparador(const json& casos, const Catalogo& textos) : casos_(casos), textos_(textos) {}
-  std::size_t vistos() const { return vistos_; }
+  explicit Comparador(const Catalogo& textos) : textos_(textos) {}
 
-  void Caso(const EstadoCalculo& e) override {
-    ASSERT_LT(vistos_, casos_.size());
-    const json& x = casos_.at(vistos_++);
-    SCOPED_TRACE("Caso " + std::to_string(vistos_));
-    Carga(e, x);
-    Armado(e.caso.armado, x);
-    Avisos(e.caso.avisos, x.at("avisos"));
+  void Compara(const ResultadoTramo& r, const FilaCaso& fila, const json& x) const {
+    const auto caso = CasoEntero(r, fila);
+    Carga(r, fila, x);
+    Cerca(x.at("MHip"), caso.MHip, "MHip");
+    Cerca(x.at("NHip"), caso.NHip, "NHip");
+    Armado(caso.Armado(), x);
+    Avisos(caso.avisos, x.at("avisos"));
   }
 
  private:
-  const json& casos_;
   const Catalogo& textos_;
-  std::size_t vistos_ = 0;
 
-  static void Carga(const EstadoCalculo& e, const json& x) {
-    const auto& c = e.corrida;
+  static void Carga(const ResultadoTramo& r, const FilaCaso& f, const json& x) {
+    const auto& q = r.Altura(f).cargas;
+    const auto& u = r.unMetro;
     const std::initializer_list<std::pair<const char*, double>> pares{
-        {"Hr", c.Hr},
-        {"NumCaso", c.NumCaso},
-        {"DP", c.DP},
-        {"MDP", c.MDP},
-        {"STP", c.STP},
-        {"PP", c.PP},
-        {"PPNeta", c.PPNeta},
-        {"Landa", c.Landa},
-        {"Q", c.Q},
-        {"QTerraplen", c.QTerraplen},
-        {"QTierras", c.QTierras},
-        {"QMovil", c.QMovil},
-        {"Impacto", c.Impacto},
-        {"TerraplenRige", c.TerraplenRige ? -1.0 : 0.0},
-        {"Q1m", c.Q1m},
-        {"QTerraplen1m", c.QTerraplen1m},
-        {"QTierras1m", c.QTierras1m},
-        {"QMovil1m", c.QMovil1m}};
+        {"Hr", f.Hr},
+        {"NumCaso", f.NumCaso},
+        {"DP", f.DP},
+        {"MDP", f.MDP},
+        {"STP", f.STP},
+        {"PP", f.PP},
+        {"PPNeta", f.PP},
+        {"Landa", r.Altura(f).Landa},
+        {"Q", q.Q},
+        {"QTerraplen", q.QTerraplen},
+        {"QTierras", q.QTierras},
+        {"QMovil", q.QMovil},
+        {"Impacto", q.Impacto},
+        {"TerraplenRige", q.TerraplenRige ? -1.0 : 0.0},
+        {"Q1m", u.Q},
+        {"QTerraplen1m", u.QTerraplen},
+        {"QTierras1m", u.QTierras},
+        {"QMovil1m", u.QMovil}};
     for (const auto& [nombre, valor] : pares) Cerca(x.at(nombre), valor, nombre);
-    Cerca(x.at("MHip"), e.caso.MHip, "MHip");
-    Cerca(x.at("NHip"), e.caso.NHip, "NHip");
   }
 
   static void Armado(const ResultadoArmado& r, const json& x) {
@@ -153,12 +148,13 @@ class CasosTrabajados : public testing::TestWithParam<std::string> {};
 TEST_P(CasosTrabajados, DanLosMismosResultados) {
   const json caso = pruebas::LeeJson(Datos("casos/" + GetParam()));
   const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
-  EstadoCalculo e = pruebas::EstadoDe(caso.at("entrada"));
-  Comparador comparador(caso.at("casos"), textos);
-  const std::array<OyenteCorrida*, 1> oyentes{&comparador};
-  const EnUnidadesDeCalculo unidades(e);
-  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-  EXPECT_EQ(comparador.vistos(), caso.at("casos").size());
+  const auto datos = pruebas::EnCalculo(pruebas::EstadoDe(caso.at("entrada")));
+  const auto r = CalculaTramo(datos, RangoDe(datos));
+  ASSERT_EQ(r.filas.size(), caso.at("casos").size());
+  for (std::size_t i = 0; i < r.filas.size(); ++i) {
+    SCOPED_TRACE("Caso " + std::to_string(i + 1));
+    Comparador(textos).Compara(r, r.filas[i], caso.at("casos")[i]);
+  }
 }
 
 std::vector<std::string> Ficheros() {

@@ -30,36 +30,13 @@ TEST(Marston, ZanjaReproduceElEjemploPublicado) {
   EXPECT_NEAR(ancha * 120.0 * 3.6 * 3.6, 3140.0, 0.5);
 }
 
-// Height of equal settlement by the full equation of Marston and Spangler, in external diameters,
-// solved here by bisection; K is K·mu, rsdp the settlement ratio times the projection.
-double CcCompleta(double K, double rsdp, double H) {
-  const double k = 2 * K;
-  const auto f = [&](double he) {
-    const double E = std::exp(k * he);
-    return (1 / k + (H - he) + rsdp / 3) * (E - 1) / k + he * he / 2 + rsdp / 3 * (H - he) * E -
-           he / k - H * he - rsdp * H;
-  };
-  const double he = Raiz(f, 1e-9, H);
-  const double E = std::exp(k * he);
-  return (E - 1) / k + (H - he) * E;
-}
-
-// ASCE Manual of practice 37, positive projection with rsd·p 0.5 and K·mu 0.19: the printed line
-// is Cc = 1.50 H/Bc - 0.07. The method of the program simplifies the plane of equal settlement and
-// stays above, on the safe side.
-TEST(Marston, TerraplenQuedaPorEncimaDelEjemploPublicado) {
-  struct Ejemplo {
-    double H, Bc, Cc;
-  };
-  for (const auto& x : {Ejemplo{14.0, 1.25, 16.74}, Ejemplo{3.6, 1.2, 4.424}}) {
-    EXPECT_NEAR(CcCompleta(0.19, 0.5, x.H / x.Bc), x.Cc, 0.005);
-    EXPECT_NEAR(1.50 * x.H / x.Bc - 0.07, x.Cc, 0.015);
-    const double Cc = CoefTerraplen(0.38, 0.5, x.Bc, x.Bc, x.H) * x.H / x.Bc;
-    EXPECT_GT(Cc, x.Cc);
-    EXPECT_LT(Cc, 1.15 * x.Cc);
-    // The equation of the program itself, solved by another road.
-    const double h = Raiz([](double v) { return std::exp(v) - v - 1.19; }, 0.1, 2.0);
-    EXPECT_NEAR(Cc, (std::exp(h) - 1) / 0.38 + (x.H / x.Bc - h / 0.38) * std::exp(h), 1e-4);
+// The equation of the program itself, solved by another road; the published line is below
+// (ejemplosTest.cpp).
+TEST(Marston, TerraplenPorOtroCamino) {
+  const double h = Raiz([](double v) { return std::exp(v) - v - 1.19; }, 0.1, 2.0);
+  for (const double H : {3.0, 11.2}) {
+    const double Cc = (std::exp(h) - 1) / 0.38 + (H - h / 0.38) * std::exp(h);
+    EXPECT_NEAR(CoefTerraplen(0.38, 0.5, 1.25, 1.25, 1.25 * H) * H, Cc, 1e-4);
   }
 }
 
@@ -109,53 +86,51 @@ TEST(Marston, CargasMovilesEnSusLimites) {
   EXPECT_NEAR(CoefImpacto(2.0), 1.15, 1e-12);
 }
 
-EstadoCalculo Zanja(std::int16_t TipoApoyo, double B0) {
-  EstadoCalculo e;
-  e.tramo.TipoApoyo = TipoApoyo;
-  e.tramo.TipoRelleno = 11;
-  e.tramo.IAs = 2;
-  e.tramo.B0 = B0;
-  e.tramo.De = 1.2;
-  e.tramo.Gr = 1.8;
-  e.tramo.Fi = 30;
-  e.tramo.Hr1 = 0.7;
-  return e;
+// Pipe of 1.2 m, fill of 1.8 t/m3 and 30 degrees, crown 0.7 m below the natural ground.
+Tramo Zanja(std::int16_t TipoApoyo, double B0) {
+  Tramo t;
+  t.TipoApoyo = TipoApoyo;
+  t.TipoRelleno = 11;
+  t.IAs = 2;
+  t.B0 = B0;
+  t.De = 1.2;
+  t.Gr = 1.8;
+  t.Fi = 30;
+  t.Hr1 = 0.7;
+  return t;
 }
 
 // Trench of 2 m, H 3 m: x = 2·0.192·3/2 = 0.576, C = (1 - e^-0.576)/0.576 = 0.760169;
 // Q = C·1.8·3·2 = 8.209829 t/m. Embankment: M2 = 2/3·tan 30 = 0.384900, c = 1.192450,
 // x = 0.562361, He = 1.753270, C = 1.513682; C·1.8·3·1.2 = 9.80866 t/m, so the trench governs.
 TEST(Marston, ZanjaPasoAPaso) {
-  auto e = Zanja(11, 2.0);
-  CargasMarston(e, 3.0, 0);
-  const auto& c = e.corrida;
-  EXPECT_NEAR(c.Q, 8.209829, 1e-5);
-  EXPECT_NEAR(c.QTerraplen, 8.209829 * 1.2 / 2.0, 1e-5);  // width De, also for laying 11
-  EXPECT_NEAR(c.QTierras, 9.80866, 1e-4);
-  EXPECT_FALSE(c.TerraplenRige);
-  EXPECT_EQ(c.Impacto, 0.0);
-  EXPECT_EQ(c.QMovil, 0.0);
-  EXPECT_EQ(e.tramo.Hr1, 1.2);
+  const auto q = CargasMarston(Zanja(11, 2.0), 3.0, 0);
+  EXPECT_NEAR(q.Q, 8.209829 / 1.2, 1e-5);
+  EXPECT_NEAR(q.QTerraplen, 8.209829 / 2.0, 1e-5);  // width De, also for laying 11
+  EXPECT_NEAR(q.QTierras, 9.80866 / 1.2, 1e-4);
+  EXPECT_FALSE(q.TerraplenRige);
+  EXPECT_EQ(q.Impacto, 0.0);
+  EXPECT_EQ(q.QMovil, 0.0);
 
-  e = Zanja(11, 3.0);  // wider: the embankment load governs, and the prism gives the thrust
-  CargasMarston(e, 3.0, 2);
-  const double movil = PresionMovil(2, 3.0) * 1.2;
-  EXPECT_TRUE(e.corrida.TerraplenRige);
-  EXPECT_NEAR(e.corrida.Q, 9.80866 + movil, 1e-4);
-  EXPECT_NEAR(e.corrida.QTerraplen, 3.0 * 1.8 * 1.2 + movil, 1e-12);
-  EXPECT_NEAR(e.corrida.QMovil, movil, 1e-12);
-  EXPECT_EQ(e.corrida.Impacto, 1.0);
+  // Wider: the embankment load governs, and the prism gives the thrust.
+  const auto ancha = CargasMarston(Zanja(11, 3.0), 3.0, 2);
+  const double movil = PresionMovil(2, 3.0);
+  EXPECT_TRUE(ancha.TerraplenRige);
+  EXPECT_NEAR(ancha.Q, 9.80866 / 1.2 + movil, 1e-4);
+  EXPECT_NEAR(ancha.QTerraplen, 3.0 * 1.8 + movil, 1e-12);
+  EXPECT_NEAR(ancha.QMovil, movil, 1e-12);
+  EXPECT_EQ(ancha.Impacto, 1.0);
 }
 
-TEST(Marston, LaColocacion30ConservaSusCargasYLosFallosDejanElEstado) {
-  auto e = Zanja(30, 2.0);
-  e.corrida.Q = 5;
-  e.corrida.QTerraplen = 4;
-  CargasMarston(e, 3.0, 2);
-  const double movil = PresionMovil(2, 3.0) * 1.2;
-  EXPECT_NEAR(e.corrida.Q, 5 + movil, 1e-12);
-  EXPECT_NEAR(e.corrida.QTerraplen, 4 + movil, 1e-12);
+TEST(Marston, ElTerraplenMideSuSalienteDesdeElTerreno) {
+  // r 0.5 and Hp 0.7: c = M2·0.5·0.7/1.2 + 1, a load below that of the whole diameter.
+  const auto q = CargasMarston(Zanja(31, 0), 3.0, 0);
+  EXPECT_NEAR(q.Q, CoefTerraplen(0.3849001795, 0.5, 0.7, 1.2, 3.0) * 1.8 * 3.0, 1e-9);
+  EXPECT_LT(q.Q, 9.80866 / 1.2);
+  EXPECT_EQ(q.QTerraplen, 3.0 * 1.8);
+}
 
+TEST(Marston, LosDatosSinCargaFallanConNombre) {
   struct Malo {
     std::int16_t apoyo, relleno, ias;
     double Fi, Hr1, H;
@@ -166,64 +141,55 @@ TEST(Marston, LaColocacion30ConservaSusCargasYLosFallosDejanElEstado) {
                         Malo{31, 0, 2, 30, 0, 3, CausaError::DivisionPorCero},
                         Malo{31, 0, 2, 0, 1, 3, CausaError::DivisionPorCero},
                         Malo{31, 0, 2, 30, 1, 0, CausaError::DivisionPorCero}}) {
-    e = Zanja(m.apoyo, 2.0);
-    e.tramo.TipoRelleno = m.relleno;
-    e.tramo.IAs = m.ias;
-    e.tramo.Fi = m.Fi;
-    e.tramo.Hr1 = m.Hr1;
-    e.corrida.Q = 7;
+    auto t = Zanja(m.apoyo, 2.0);
+    t.TipoRelleno = m.relleno, t.IAs = m.ias, t.Fi = m.Fi, t.Hr1 = m.Hr1;
     try {
-      CargasMarston(e, m.H, 0);
+      CargasMarston(t, m.H, 0);
       ADD_FAILURE() << "no failure for laying " << m.apoyo;
     } catch (const ErrorEjecucion& error) {
       EXPECT_EQ(error.causa(), m.causa) << m.apoyo << " " << m.relleno << " " << m.Fi;
     }
-    EXPECT_EQ(e.corrida.Q, 7);
-    EXPECT_EQ(e.tramo.Hr1, m.Hr1);
   }
+}
+
+Rango Alturas(double desde, double hasta, double paso) {
+  Rango r;
+  r.Hr0 = desde, r.Hr0Final = hasta, r.Hr0Delta = paso;
+  return r;
 }
 
 TEST(TablaCargas, AlturasDeLasFilas) {
-  struct Rango {
+  struct Caso {
     double desde, hasta, paso;
     std::vector<double> filas;
   };
-  for (const auto& r : {Rango{2, 5, 1.5, {1, 2, 3.5, 5}}, Rango{2, 5, 2, {1, 2, 4}},
-                        Rango{2, 4.995, 1.5, {1, 2, 3.5, 4.995}}, Rango{1, 9, 0, {1, 1}},
-                        Rango{2, 2.018, 0.005, {1, 2, 2.005, 2.018}}}) {
-    auto e = Zanja(12, 2.0);
-    e.corrida.Hr0Actual = r.desde;
-    e.corrida.Hr0FinalActual = r.hasta;
-    e.tramo.Hr0Delta = r.paso;
-    e.corrida.Q = 3;
-    TablaCargas(e);
-    ASSERT_EQ(e.corrida.TablaCargas.size(), r.filas.size()) << r.hasta;
-    for (std::size_t i = 0; i < r.filas.size(); ++i) {
-      EXPECT_NEAR(e.corrida.TablaCargas[i].H, r.filas[i], 1e-12);
-    }
-    EXPECT_EQ(e.corrida.Q, 3);  // the loads in hand and the natural ground stay
-    EXPECT_EQ(e.tramo.Hr1, 0.7);
+  for (const auto& c : {Caso{2, 5, 1.5, {1, 2, 3.5, 5}}, Caso{2, 5, 2, {1, 2, 4}},
+                        Caso{2, 4.995, 1.5, {1, 2, 3.5, 4.995}}, Caso{1, 9, 0, {1, 1}},
+                        Caso{2, 2.018, 0.005, {1, 2, 2.005, 2.018}}}) {
+    const auto filas = TablaCargas(Zanja(12, 2.0), Alturas(c.desde, c.hasta, c.paso));
+    ASSERT_EQ(filas.size(), c.filas.size()) << c.hasta;
+    for (std::size_t i = 0; i < filas.size(); ++i) EXPECT_NEAR(filas[i].H, c.filas[i], 1e-12);
   }
+  // A height that cannot be calculated ends the table.
+  EXPECT_EQ(TablaCargas(Zanja(12, 2.0), Alturas(-1, 2, 1)).size(), 2u);
 }
 
 TEST(TablaCargas, ColumnasPorColocacion) {
-  auto e = Zanja(11, 3.0);
-  e.tramo.ICar = 2;
-  e.corrida.Hr0Actual = e.corrida.Hr0FinalActual = 3.0;
-  TablaCargas(e);
-  const auto& rige = e.corrida.TablaCargas.at(1);  // the embankment governs
+  auto t = Zanja(11, 3.0);
+  t.ICar = 2;
+  auto filas = TablaCargas(t, Alturas(3, 3, 0));
+  const auto& rige = filas.at(1);  // the embankment governs
   EXPECT_GT(*rige.Zanja, *rige.Terraplen);
   EXPECT_NEAR(*rige.Adoptada, *rige.Terraplen, 1e-12);
   EXPECT_NEAR(rige.Total, *rige.Adoptada + *rige.Moviles, 1e-12);
-  EXPECT_EQ(*e.corrida.TablaCargas[0].Moviles, 0.0);  // 1 m has no concentrated load
+  EXPECT_EQ(*filas[0].Moviles, 0.0);  // 1 m has no concentrated load
 
-  e.tramo.TipoApoyo = 31;
-  TablaCargas(e);
-  EXPECT_FALSE(e.corrida.TablaCargas[1].Zanja || e.corrida.TablaCargas[1].Adoptada);
-  EXPECT_TRUE(e.corrida.TablaCargas[1].Moviles);
-  e.tramo.ICar = 0;
-  TablaCargas(e);
-  EXPECT_FALSE(e.corrida.TablaCargas[1].Moviles);
+  t.TipoApoyo = 31;
+  filas = TablaCargas(t, Alturas(3, 3, 0));
+  EXPECT_FALSE(filas[1].Zanja || filas[1].Adoptada);
+  EXPECT_TRUE(filas[1].Moviles);
+  t.ICar = 0;
+  EXPECT_FALSE(TablaCargas(t, Alturas(3, 3, 0))[1].Moviles);
 }
 
 }  // namespace

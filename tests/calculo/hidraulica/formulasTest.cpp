@@ -44,7 +44,7 @@ double VelocidadColebrook(double D, double J, double k) {
 }
 
 // Slope for a velocity, with the 3.71 that the method has in this place.
-double PendienteColebrook(double D, double V, double k) {
+double PendienteCon371(double D, double V, double k) {
   const double f = Raiz(1e-3, 1.0, [=](double x) { return Colebrook(x, V * D / kNu, k, D, 3.71); });
   return f * V * V / (2 * kG * D);
 }
@@ -104,6 +104,52 @@ TEST(PrandtlColebrook, PendienteSegunLaEcuacionImplicita) {
   }
 }
 
+// The root against the equation itself, there and back with the velocity for a slope, and two
+// published rows: 434.1 l/s in 0.6 m at 1/250, 2.363 m/s in 1.2 m at 1/250, with waters that are
+// less viscous than this one.
+TEST(ColebrookExacto, CumpleLaEcuacionYEsInversoDeLaVelocidad) {
+  for (const double ks : {0.0, 5e-5, 6e-4, 1e-2}) {
+    for (const double D : {0.05, 0.6, 2.0}) {
+      for (const double Re : {300.0, 4e3, 1e5, 1e7, 1e10}) {
+        const double f = FactorColebrook(Re, ks, D);
+        EXPECT_NEAR(Colebrook(f, Re, ks, D) * std::sqrt(f), 0.0, 1e-13) << ks << " " << Re;
+      }
+      for (const double J : {1e-4, 4e-3, 0.1}) {
+        const double V = VelocidadPrandtl(D / 4, J, ks);
+        EXPECT_NEAR(PendienteColebrook(D, V, ks), J, 1e-12 * J);
+        EXPECT_NEAR(PendienteColebrookCaudal(D, V * Circulo(D), ks), J, 1e-12 * J);
+      }
+    }
+  }
+  EXPECT_NEAR(PendienteColebrookCaudal(0.6, 0.4341, 6e-4), 1.0 / 250, 0.006 / 250);
+  EXPECT_NEAR(PendienteColebrook(1.2, 2.363, 6e-4), 1.0 / 250, 0.006 / 250);
+}
+
+TEST(ColebrookExacto, FueraDeSuRangoEsUnErrorYNuncaUnNumeroFalso) {
+  EXPECT_THROW(FactorColebrook(1e5, -1e-6, 0.6), ErrorHidraulico);
+  EXPECT_THROW(FactorColebrook(1e5, 3.7 * 0.6, 0.6), ErrorHidraulico);
+  EXPECT_THROW(FactorColebrook(2.0, 1e-4, 0.6), ErrorHidraulico);
+  EXPECT_THROW(PendienteColebrook(0.6, 0.0, 1e-4), ErrorEjecucion);
+  EXPECT_THROW(PendienteColebrook(0.6, -1.0, 1e-4), ErrorHidraulico);
+  EXPECT_THROW(PendienteColebrookCaudal(0.0, 1.0, 1e-4), ErrorEjecucion);
+  std::mt19937 azar(11);
+  std::uniform_real_distribution<double> exponente(-9, 9);
+  int pendientes = 0;
+  for (int i = 0; i < 20'000; ++i) {
+    const auto n = [&] { return std::pow(10.0, exponente(azar)); };
+    const double D = n(), V = n(), ks = n();
+    try {
+      const double J = PendienteColebrook(D, V, ks);
+      ++pendientes;
+      ASSERT_TRUE(std::isfinite(J) && J > 0) << D << " " << V << " " << ks;
+      ASSERT_NEAR(VelocidadPrandtl(D / 4, J, ks) / V, 1.0, 1e-9) << D << " " << V << " " << ks;
+    } catch (const ErrorHidraulico&) {
+      ASSERT_GE(ks / 3.7 / D + 2.51 * kNu / D / V, 1.0 - 1e-12);
+    }
+  }
+  EXPECT_GT(pendientes, 5'000);
+}
+
 // The friction coefficient is one evaluation from a start value. Worked apart with 30 digits for
 // Q = 0.5 m3/s, k = 0.06 mm; at 2,000 mm it stays 2.5 % off the converged one.
 TEST(PrandtlColebrook, CaudalConUnaSolaEvaluacion) {
@@ -114,7 +160,7 @@ TEST(PrandtlColebrook, CaudalConUnaSolaEvaluacion) {
   for (const auto& f : r.filas) {
     const double D = f.DiamMM / 1000;
     EXPECT_NEAR(f.VLlena * Circulo(D), 0.5, 1e-9);
-    EXPECT_NEAR(f.JLlena.value() / PendienteColebrook(D, f.VLlena, 6e-5), 1.0, 0.03);
+    EXPECT_NEAR(f.JLlena.value() / PendienteCon371(D, f.VLlena, 6e-5), 1.0, 0.03);
     EXPECT_FALSE(f.QLlena || f.VParcial || f.QParcial || f.JParcial || f.ReLlena || f.Cwh);
   }
 }

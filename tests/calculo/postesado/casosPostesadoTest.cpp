@@ -9,9 +9,8 @@
 #include <nlohmann/json.hpp>
 
 #include "base/mdCarpetas.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
 
 namespace zorbin {
@@ -30,7 +29,7 @@ void Cerca(const json& esperado, double hay, const std::string& que) {
 using Valores = std::map<std::string, double>;
 
 // Every name of the worked object must be among the values, and agree.
-void Compara(const json& esperado, const Valores& hay) {
+void ComparaTodos(const json& esperado, const Valores& hay) {
   for (const auto& [nombre, x] : esperado.items()) {
     if (x.is_array()) {
       for (std::size_t s = 0; s < x.size(); ++s) {
@@ -72,40 +71,34 @@ Valores DeHipotesis(const HipotesisPostesada& p, double LimiteChapa) {
   return v;
 }
 
-class Comparador : public OyenteCorrida {
+class Comparador {
  public:
-  Comparador(const json& casos, const Catalogo& textos) : casos_(casos), textos_(textos) {}
-  std::size_t vistos() const { return vistos_; }
+  explicit Comparador(const Catalogo& textos) : textos_(textos) {}
 
-  void Caso(const EstadoCalculo& e) override {
-    ASSERT_LT(vistos_, casos_.size());
-    const json& x = casos_.at(vistos_++);
-    SCOPED_TRACE("Caso " + std::to_string(vistos_));
-    Corrida(e, x);
-    Resultado(e.caso.postesado, x);
-    Avisos(e.caso.avisos, x.at("avisos"));
+  void Compara(const ResultadoTramo& r, const FilaCaso& fila, const json& x) const {
+    const auto caso = CasoEntero(r, fila);
+    Fila(fila, x);
+    Resultado(caso.Postesado(), x);
+    Avisos(caso.avisos, x.at("avisos"));
     for (std::size_t h = 0; h < 6; ++h) {
       SCOPED_TRACE("hipotesis " + std::to_string(h + 1));
-      const auto& p = e.caso.postesado.hipotesis(static_cast<int>(h) + 1);
+      const auto& p = caso.Postesado().hipotesis(static_cast<int>(h) + 1);
       EXPECT_EQ(p.Impresa(), x.at("hipotesis")[h].at("error") == 0);
-      Compara(x.at("hipotesis")[h], DeHipotesis(p, e.caso.postesado.LimiteChapa));
+      ComparaTodos(x.at("hipotesis")[h], DeHipotesis(p, caso.Postesado().LimiteChapa));
     }
   }
 
  private:
-  const json& casos_;
   const Catalogo& textos_;
-  std::size_t vistos_ = 0;
 
   std::string Texto(const std::optional<ClaseAviso>& clase) const {
     return clase ? TextoAviso(*clase, textos_) : std::string{};
   }
 
-  static void Corrida(const EstadoCalculo& e, const json& x) {
-    const auto& c = e.corrida;
+  static void Fila(const FilaCaso& f, const json& x) {
     const std::initializer_list<std::pair<const char*, double>> pares{
-        {"Hr", c.Hr},   {"NumCaso", c.NumCaso}, {"DP", c.DP},        {"MDP", c.MDP},
-        {"STP", c.STP}, {"PP", c.PP},           {"PPNeta", c.PPNeta}};
+        {"Hr", f.Hr},   {"NumCaso", f.NumCaso}, {"DP", f.DP},    {"MDP", f.MDP},
+        {"STP", f.STP}, {"PP", f.PPObtenida},   {"PPNeta", f.PP}};
     for (const auto& [nombre, valor] : pares) Cerca(x.at(nombre), valor, nombre);
   }
 
@@ -123,7 +116,7 @@ class Comparador : public OyenteCorrida {
         {"ErrorPostesado", r.ErrorPostesado},
         {"Vueltas", r.Vueltas}};
     for (const auto& [nombre, valor] : pares) Cerca(x.at(nombre), valor, nombre);
-    Compara(x.at("prueba"), {{"FIPR", r.fila.FIPR}, {"NESP", r.fila.NESP}});
+    ComparaTodos(x.at("prueba"), {{"FIPR", r.fila.FIPR}, {"NESP", r.fila.NESP}});
     EXPECT_EQ(x.at("fin") == "completo", r.fin == FinPostesado::Completo);
     EXPECT_EQ(x.at("MensajePostesado"), Texto(r.MensajePostesado));
     EXPECT_EQ(x.at("MensajeBusqueda"), Texto(r.fila.MensajePostesado));
@@ -134,17 +127,17 @@ class Comparador : public OyenteCorrida {
     EXPECT_EQ(origen == "paso 8", r.PPConAlambreFinal);
     EXPECT_EQ(origen == "paso 8" ? 4 : origen.at(1).get<int>(), r.PPHipotesis);
     const auto& m = r.materiales;
-    Compara(x.at("constantes"), {{"Ecno", m.Ecno},
-                                 {"Ecn", m.Ecn},
-                                 {"Ecr", m.Ecr},
-                                 {"Fctn", m.Fctn},
-                                 {"Fctr", m.Fctr},
-                                 {"ni", m.ni},
-                                 {"n", m.n},
-                                 {"n1", m.n1},
-                                 {"n2", m.n2},
-                                 {"nc", m.nc},
-                                 {"RatioChapa", m.RatioChapa}});
+    ComparaTodos(x.at("constantes"), {{"Ecno", m.Ecno},
+                                      {"Ecn", m.Ecn},
+                                      {"Ecr", m.Ecr},
+                                      {"Fctn", m.Fctn},
+                                      {"Fctr", m.Fctr},
+                                      {"ni", m.ni},
+                                      {"n", m.n},
+                                      {"n1", m.n1},
+                                      {"n2", m.n2},
+                                      {"nc", m.nc},
+                                      {"RatioChapa", m.RatioChapa}});
   }
 
   void Avisos(const std::vector<Aviso>& avisos, const json& x) const {
@@ -165,18 +158,13 @@ class CasosPostesados : public testing::TestWithParam<std::string> {};
 TEST_P(CasosPostesados, DanLosMismosResultados) {
   const json caso = pruebas::LeeJson(Datos("casosPostesado/" + GetParam()));
   const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
-  EstadoCalculo e = pruebas::EstadoDe(caso.at("entrada"));
-  const Tramo antes = e.tramo;
-  Comparador comparador(caso.at("casos"), textos);
-  const std::array<OyenteCorrida*, 1> oyentes{&comparador};
-  {
-    const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+  const auto datos = pruebas::EnCalculo(pruebas::EstadoDe(caso.at("entrada")));
+  const auto r = CalculaTramo(datos, RangoDe(datos));
+  ASSERT_EQ(r.filas.size(), caso.at("casos").size());
+  for (std::size_t i = 0; i < r.filas.size(); ++i) {
+    SCOPED_TRACE("Caso " + std::to_string(i + 1));
+    Comparador(textos).Compara(r, r.filas[i], caso.at("casos")[i]);
   }
-  EXPECT_EQ(comparador.vistos(), caso.at("casos").size());
-  EXPECT_EQ(e.tramo.Epsc, antes.Epsc);
-  EXPECT_EQ(e.tramo.Epsr, antes.Epsr);
-  EXPECT_EQ(e.tramo.Delca, antes.Delca);
 }
 
 std::vector<std::string> Ficheros() {

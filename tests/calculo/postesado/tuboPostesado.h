@@ -5,9 +5,16 @@
 
 namespace zorbin::pruebas {
 
+/// A Caso before its design.
+struct Tubo {
+  Tramo tramo;
+  TerminosAnillo anillo;
+  PresionesCaso presiones;
+};
+
 /// The pipe of the worked figures: core of 50 to 60 cm radius, coating of 2.5 cm.
-inline EstadoCalculo TuboDeMuestra() {
-  EstadoCalculo e;
+inline Tubo TuboDeMuestra() {
+  Tubo e;
   auto& t = e.tramo;
   t.Tipologia = 2211;
   t.EsArmado = false;
@@ -34,8 +41,8 @@ inline EstadoCalculo TuboDeMuestra() {
 }
 
 /// A pipe of 2 m with a core that stands every winding.
-inline EstadoCalculo TuboFuerte(std::int16_t Tipologia, double DP) {
-  EstadoCalculo e = TuboDeMuestra();
+inline Tubo TuboFuerte(std::int16_t Tipologia, double DP) {
+  Tubo e = TuboDeMuestra();
   auto& t = e.tramo;
   t.Tipologia = Tipologia;
   t.Di = 2.0;
@@ -46,17 +53,15 @@ inline EstadoCalculo TuboFuerte(std::int16_t Tipologia, double DP) {
   t.Delca = 0.2;
   t.Fckno = t.Fckn = 600;
   t.Fckr = 400;
-  e.corrida.DP = DP;
-  e.corrida.MDP = 1.1 * DP;
-  e.corrida.STP = e.corrida.MDP + 1.0;
-  e.corrida.PP = e.corrida.MDP + 2.0;
+  const double MDP = 1.1 * DP;
+  e.presiones = {DP, MDP, MDP + 1.0, MDP + 2.0};
   return e;
 }
 
 /// A thin-walled pipe whose concretes hardly creep and shrink much: steel takes compression from
 /// its coating, so more spirals may undo what fewer had passed.
-inline EstadoCalculo TuboDePocaFluencia() {
-  EstadoCalculo e = TuboDeMuestra();
+inline Tubo TuboDePocaFluencia() {
+  Tubo e = TuboDeMuestra();
   auto& t = e.tramo;
   t.Fckn = 540;
   t.SFck = 14'000;
@@ -66,15 +71,15 @@ inline EstadoCalculo TuboDePocaFluencia() {
 }
 
 /// One load term, one value for each section [m·t/m, t/m].
-inline void PonTermino(EstadoCalculo& e, int termino, Lista<double, kSecciones> M,
+inline void PonTermino(Tubo& e, int termino, Lista<double, kSecciones> M,
                        Lista<double, kSecciones> N) {
-  e.caso.MHip.filas(termino) = M;
-  e.caso.NHip.filas(termino) = N;
+  e.anillo.MHip.filas(termino) = M;
+  e.anillo.NHip.filas(termino) = N;
 }
 
 /// Earth of moment m at crown and invert and -m at the haunches, 0.3 m of it by 1 m of earth, and
 /// `conMovil` times m with the moving load; compression goes with each.
-inline void PonTierras(EstadoCalculo& e, double m, double conMovil = 1.2) {
+inline void PonTierras(Tubo& e, double m, double conMovil = 1.2) {
   PonTermino(e, 11, {{m, -m, m}}, {{-5 * m, -5 * m, -5 * m}});
   PonTermino(e, 8, {{0.3 * m, -0.3 * m, 0.3 * m}}, {{-1.5 * m, -1.5 * m, -1.5 * m}});
   const double x = conMovil * m;

@@ -29,7 +29,7 @@ std::string Hormigon(const MuestraMedios& m) {
   EXPECT_EQ(r.RelacionAC, r.Dosificacion == 0 ? 0 : r.Dosificacion == 350 ? 0.5 : 0.45);
   return std::to_string(std::lround(r.Dosificacion)) +
          (r.TipoCemento == txt::CementoSR ? " SR" : " Normal") +
-         (r.Adicional == txt::AdicionalSi ? " Si" : " No");
+         (r.Adicional == txt::RespuestaSi ? " Si" : " No");
 }
 
 struct Caso {

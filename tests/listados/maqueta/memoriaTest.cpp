@@ -12,7 +12,9 @@
 #include <regex>
 
 #include "base/aritmetica.h"
+#include "base/mdNumeros.h"
 #include "calculo/cargas/mdOval.h"
+#include "calculo/verificacion/mdEjemplos.h"
 
 namespace zorbin {
 namespace {
@@ -143,10 +145,42 @@ TEST_F(Memoria, UnaCifraFalsaSeDice) {
       Copia("15-ejemplo-postesado.html", "h5.PerdFluRet}{1180,97}", "h5.PerdFluRet}{1180,98}"));
   EXPECT_EQ(r.codigo, 1);
   EXPECT_NE(r.texto.find("15-ejemplo-postesado.html:"), std::string::npos) << r.texto;
+  // In the text of a chapter, a figure that the published examples give.
+  r = Comprueba(Copia("17-particularidades.html", "[4].usual.max\">31<", "[4].usual.max\">30<"));
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_NE(r.texto.find("says 30, but v.terraplen[4].usual.max gives 30.8"), std::string::npos)
+      << r.texto;
   // What the program does not give is a fault too.
   r = Comprueba(Copia("14-ejemplo-armado.html", "a.Total\">", "a.Totales\">"));
   EXPECT_EQ(r.codigo, 1);
   EXPECT_NE(r.texto.find("there is no 'Totales'"), std::string::npos) << r.texto;
+}
+
+// Row by row, the three figures that the expressions of a row name stand in the pages.
+TEST_F(Memoria, LaVerificacionTraeTodosLosEjemplosConSusCifras) {
+  const std::string pdf = Llano(Orden("pdftotext -layout " ZORBIN_MEMORIA " -").texto);
+  const std::string s = Lee(kCapitulos / "18-verificacion.html");
+  const auto celda = [](const std::string& clave, const char* que) {
+    return "<td><span data-cifra=\"v\\." + clave + "\\." + que + "\" decimales=\"(\\d)\"";
+  };
+  for (const auto& x : EjemplosPublicados()) {
+    const std::string clave(x.clave);
+    std::smatch m;
+    ASSERT_TRUE(std::regex_search(
+        s, m,
+        std::regex(celda(clave, "publicado") + "/></td>" + celda(clave, "zorbin") + "/></td>" +
+                   celda(clave, "dif") + " signo=\"1\"/></td>")))
+        << clave;
+    std::string dif = TextoDecimal(x.Diferencia(), std::stoi(m[3]), ',');
+    if (dif[0] == '-') {
+      dif.replace(0, 1, "−");
+    } else if (dif.find_first_not_of("0,") != std::string::npos) {
+      dif.insert(0, "+");
+    }
+    const std::string cifras = TextoDecimal(x.publicado, std::stoi(m[1]), ',') + " " +
+                               TextoDecimal(x.zorbin, std::stoi(m[2]), ',') + " " + dif;
+    EXPECT_NE(pdf.find(cifras), std::string::npos) << clave << ": " << cifras;
+  }
 }
 
 TEST_F(Memoria, UnaFaltaDeLasFuentesDetieneLaComposicionEnSuLinea) {
@@ -163,8 +197,13 @@ TEST_F(Memoria, UnaFaltaDeLasFuentesDetieneLaComposicionEnSuLinea) {
       {"ZanjaT1a.bmp", "ZanjaT9a.bmp", "no picture ZanjaT9a.bmp"},
       {"<caption>Regla de adopción</caption>", "<leyenda>x</leyenda>", "unknown tag <leyenda>"},
   };
+  auto r = Genera(Copia("18-verificacion.html", "v.zanja1.zorbin", "v.zanja7.zorbin"));
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_TRUE(std::regex_search(
+      r.texto, std::regex("18-verificacion\\.html:\\d+: in 'v\\.zanja7.*no 'zanja7'")))
+      << r.texto;
   for (const auto& f : kFaltas) {
-    const auto r = Genera(Copia("04-tierras.html", f.viejo, f.nuevo));
+    r = Genera(Copia("04-tierras.html", f.viejo, f.nuevo));
     EXPECT_EQ(r.codigo, 1) << f.dice;
     EXPECT_NE(r.texto.find(f.dice), std::string::npos) << r.texto;
     EXPECT_TRUE(std::regex_search(r.texto, std::regex("\\.html:[1-9]\\d*: "))) << r.texto;

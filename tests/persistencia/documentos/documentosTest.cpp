@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "base/mdCarpetas.h"
-#include "base/textosRtf.h"
+#include "base/textos.h"
 #include "listados/calculadoras/mdMediosListado.h"
 #include "persistencia/documentos/mdRtf.h"
 
@@ -123,7 +123,7 @@ TEST_P(Documentos, LasVariantesDelEjemploTambien) {
       << linea(110);
   EXPECT_NE(linea(4.2).find(dosis(acida)), std::string::npos) << linea(4.2);
   EXPECT_NE(linea(4.2).find(relacion(acida)), std::string::npos) << linea(4.2);
-  EXPECT_EQ(acida.Adicional, txt::AdicionalNo);  // "nothing more"
+  EXPECT_EQ(acida.Adicional, txt::RespuestaNo);  // "nothing more"
 }
 
 INSTANTIATE_TEST_SUITE_P(Idioma, Documentos, testing::Values(1, 2, 3, 4, 5));

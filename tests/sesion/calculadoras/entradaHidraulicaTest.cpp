@@ -3,7 +3,7 @@
 
 #include <limits>
 
-#include "base/textosHidraulica.h"
+#include "base/textos.h"
 #include "listados/calculadoras/textoDorado.h"
 #include "sesion/calculadoras/mdEntradaHidraulica.h"
 

@@ -50,7 +50,7 @@ TEST(EntradaMedios, UnCampoVacioGuardaElValorLeidoAntes) {
   Cambia(e, kPH, "");  // the first one reads 0: the most acid water
   EXPECT_FALSE(Analiza(e));
   EXPECT_EQ(e.resultado->muestra.valor[kPH], 0);
-  EXPECT_EQ(e.resultado->Adicional, txt::AdicionalSi);
+  EXPECT_EQ(e.resultado->Adicional, txt::RespuestaSi);
 
   // The reading order is 0 1 2 3 4 8 5 6 7.
   e = CargaProtecciones(',');

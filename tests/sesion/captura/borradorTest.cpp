@@ -8,7 +8,7 @@
 #include <functional>
 #include <sstream>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdCajon.h"
 #include "sesion/captura/mdEtiquetas.h"

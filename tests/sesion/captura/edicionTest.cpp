@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdTipologias.h"
 #include "sesion/captura/mdValidaObra.h"

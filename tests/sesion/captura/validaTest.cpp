@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdTipologias.h"

@@ -8,7 +8,7 @@
 #include <map>
 #include <sstream>
 
-#include "base/textosCaptura.h"
+#include "base/textos.h"
 #include "comun/comparaFichero.h"
 #include "listados/obra/mdFlujo.h"
 #include "listados/obra/mdResumen.h"
