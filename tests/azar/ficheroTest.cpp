@@ -51,31 +51,43 @@ bool Escribe(const std::filesystem::path& ruta, const Catalogo& textos, int nume
   return true;
 }
 
-class Recuento : public ListadoJson {
- public:
-  Recuento(std::ostream& salida, const Catalogo& textos, bool si, Cuenta& cuenta)
-      : ListadoJson(salida, "azar.zrb", textos, {si, ','}), cuenta_(cuenta) {}
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    ListadoJson::AcabaTramo(e, fallo);
-    cuenta_.Suma(fallo != nullptr ? "fallos con nombre" : "calculados");
-    ++tramos;
-  }
-  int tramos = 0;
-
- private:
-  Cuenta& cuenta_;
-};
-
-void Calcula(const std::filesystem::path& ruta, const PeticionCalculo& peticion,
-             const Catalogo& textos, const ListaFaltas* lista, Cuenta& cuenta) {
-  EstadoCalculo e;
-  const auto obra = AbreObra(e, ruta);
-  if (lista != nullptr) PonComprobada(e.obra, lista->obra);
+void Calcula(const Obra& obra, const std::vector<TramoPedido>& pedidos, const Catalogo& textos,
+             Cuenta& cuenta) {
+  std::map<int, Tramo> capturados;
+  for (const auto& p : pedidos) capturados[p.posicion] = p.tramo;
   std::ostringstream salida;
-  Recuento recuento(salida, textos, e.obra.EsSI(), cuenta);
-  CalculaObra(e, obra, peticion, recuento);
-  EXPECT_EQ(recuento.tramos + static_cast<int>(peticion.omitidas.size()), kTramosPorObra);
+  ListadoJson json(salida, "azar.zrb", capturados, textos, {obra.EsSI(), ','});
+  json.EmpiezaObra(obra);
+  for (const auto& p : pedidos) {
+    const auto datos = DatosDeCalculo(obra, p.tramo);
+    const auto resultado = CalculaTramo(datos, RangoDe(datos));
+    json.Tramo(resultado, p.posicion, p.numero, {});
+    cuenta.Suma(resultado.fallo ? "fallos con nombre" : "calculados");
+  }
+  json.AcabaObra();
   EXPECT_EQ(HuecoDeJson(salida.str()), "");
+}
+
+// The Tramos that the rules take, with what they complete.
+std::vector<TramoPedido> Comprobados(const Proyecto& proyecto, const ListaFaltas& lista,
+                                     Cuenta& cuenta) {
+  auto pedidos = TramosPedidos(proyecto);
+  EXPECT_EQ(pedidos.size(), std::size_t{kTramosPorObra});
+  const auto rechazados =
+      std::erase_if(pedidos, [&](const TramoPedido& p) { return !lista.Vale(p.posicion); });
+  for (auto& p : pedidos) p.tramo = lista.tramos.at(p.posicion);
+  for (std::size_t i = 0; i < rechazados; ++i) cuenta.Suma("rechazados");
+  return pedidos;
+}
+
+std::optional<Proyecto> Abre(const std::filesystem::path& ruta, const Catalogo& textos, int n) {
+  try {
+    return LeeProyecto(ruta);
+  } catch (const ErrorFichero& error) {
+    EXPECT_FALSE(textos.Compone(error.mensaje()).empty());
+    EXPECT_TRUE(n % 4 == 3 || n % 3 == 0) << textos.Compone(error.mensaje());
+    return std::nullopt;
+  }
 }
 
 TEST(AzarPorFichero, SeGuardanSeCompruebanYSeCalculan) {
@@ -90,26 +102,18 @@ TEST(AzarPorFichero, SeGuardanSeCompruebanYSeCalculan) {
     const auto ruta = carpeta / ("o" + std::to_string(n) + ".zrb");
     if (!Escribe(ruta, textos, n, cuenta)) continue;
     const auto antes = Bytes(ruta);
-    try {
-      EstadoCalculo e;
-      AbreObra(e, ruta);
-    } catch (const ErrorFichero& error) {
-      EXPECT_FALSE(textos.Compone(error.mensaje()).empty());
-      EXPECT_TRUE(n % 4 == 3 || n % 3 == 0) << textos.Compone(error.mensaje());
+    const auto proyecto = Abre(ruta, textos, n);
+    if (!proyecto) {
       cuenta.Suma("Obras que se rechazan al abrirlas");
       continue;
     }
-    const auto lista = ValidaObraEnFichero(ruta, textos, tablas, {});
-    PeticionCalculo peticion{{}, carpeta / "registros", {}, lista.tramos};
-    for (int i = 1; i <= kTramosPorObra; ++i) {
-      if (!lista.Vale(i)) peticion.omitidas.push_back(i);
-    }
+    const auto lista = ValidaProyecto(*proyecto, textos, tablas, {});
     for (const auto& falta : lista.faltas) EXPECT_FALSE(falta.mensaje.empty());
-    Calcula(ruta, peticion, textos, &lista, cuenta);
-    for (std::size_t i = 0; i < peticion.omitidas.size(); ++i) cuenta.Suma("rechazados");
-    Calcula(ruta, {{}, carpeta / "registros", {}, {}}, textos, nullptr, cuenta);
+    Obra comprobada = proyecto->obra;
+    PonComprobada(comprobada, lista.obra);
+    Calcula(comprobada, Comprobados(*proyecto, lista, cuenta), textos, cuenta);
+    Calcula(proyecto->obra, TramosPedidos(*proyecto), textos, cuenta);
     EXPECT_EQ(Bytes(ruta), antes);
-    std::filesystem::remove_all(carpeta / "registros");
   }
   cuenta.Imprime(std::to_string(ficheros) + " Obras en fichero, validadas y sin validar");
 }

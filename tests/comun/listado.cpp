@@ -1,11 +1,9 @@
 #include "comun/listado.h"
 
-#include <array>
 #include <memory>
 #include <sstream>
 
 #include "base/mdCarpetas.h"
-#include "core/mdUnidades.h"
 #include "listados/obra/mdListadoNormal.h"
 #include "listados/obra/mdListadoPantalla.h"
 #include "listados/obra/mdListadoTabular.h"
@@ -15,7 +13,7 @@ namespace zorbin::pruebas {
 
 namespace {
 
-std::unique_ptr<OyenteObra> Crea(const std::string& clase, const MediosPapel& medios) {
+std::unique_ptr<Listado> Crea(const std::string& clase, const MediosPapel& medios) {
   if (clase == "tabular") return std::make_unique<ListadoTabular>(medios);
   if (clase == "pantalla") return std::make_unique<ListadoPantalla>(medios);
   return std::make_unique<ListadoNormal>(medios, clase == "lame");
@@ -33,23 +31,19 @@ void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const 
   Papel papel(hojas, clase == "tabular" ? Orientacion::Apaisada : Orientacion::Vertical);
   const EstiloNumeros estilo{tramos.at(0).obra.EsSI(), separador};
   const auto listado = Crea(clase, {papel, textos, estilo, {"21/11/2026", "09:30:00"}});
-  const std::array<OyenteCorrida*, 1> oyentes{listado.get()};
-  EstadoCalculo e;
-  for (const auto& t : tramos) {
-    e = t;
-    const EnUnidadesDeCalculo unidades(e);
-    listado->EmpiezaTramo(e, e.tramo.NumeroTramo, std::to_string(e.tramo.NumeroTramo));
-    try {
-      CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-      listado->AcabaTramo(e, nullptr);
-    } catch (const ErrorCorrida& fallo) {
-      listado->AcabaTramo(e, &fallo);
-    }
+  for (const auto& e : tramos) {
+    const auto numero = e.tramo.NumeroTramo;
+    listado->Tramo(ResultadoDe(e), numero, std::to_string(numero), {});
   }
   papel.FinDocumento();
 }
 
 }  // namespace
+
+ResultadoTramo ResultadoDe(const EstadoCalculo& e) {
+  const auto datos = DatosDeCalculo(e.obra, e.tramo, e.corrida.ajustes, e.corrida.SinAjustes);
+  return CalculaTramo(datos, RangoDe(datos));
+}
 
 std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
                       std::int16_t idioma, char separador) {

@@ -1,13 +1,16 @@
-// A listing on text pages, for golden files.
+// Runs, and listings of them on text pages for golden files.
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "core/estado_calculo.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/papel/mdPapel.h"
 
 namespace zorbin::pruebas {
+
+/// The run of the Tramo of a state, which holds capture units, with the adjustments of the state.
+ResultadoTramo ResultadoDe(const EstadoCalculo& e);
 
 /// Runs the states one after another, as the Tramos of one document, and prints them.
 /// @param clase   "normal", "tabular", "pantalla" or "lame"

@@ -28,7 +28,8 @@ void ExigeTablas(const TablasCatalogo& t) {
 
 void Usa(const TablasCatalogo& t) {
   Catalogo& textos = TextosParaCambiar();
-  const auto faltas = ValidaObraEnFichero(ZORBIN_FUENTES "muestras/acequia.zrb", textos, t, {});
+  static const Proyecto proyecto = LeeProyecto(ZORBIN_FUENTES "muestras/acequia.zrb");
+  const auto faltas = ValidaProyecto(proyecto, textos, t, {});
   for (const auto& p : faltas.preguntas) Exige(EsTextoLimpio(p.texto), "a question is clean text");
   for (const auto& [posicion, tramo] : faltas.tramos) {
     for (const double v : {tramo.Esp, tramo.Reci, tramo.Rece, tramo.De, tramo.B0}) {

@@ -32,58 +32,30 @@ void ExigeFinitos(const Bloque& b) {
 
 // ---- The run
 
-struct Basta {};
-
 // The JSON of some Casos; every number of it must be one.
-class Lector : public OyenteObra {
- public:
-  explicit Lector(const fs::path& ruta) : json_(flujo_, ruta.string(), Textos(), {true, ','}) {}
-  void EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) override {
-    json_.EmpiezaObra(e);
-    json_.EmpiezaTramo(e, posicion, numero);
-  }
-  void Caso(const EstadoCalculo& e) override {
-    json_.Caso(e);
-    if (++casos_ == kMaxCasos) throw Basta{};
-  }
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    json_.AcabaTramo(e, fallo);
-    json_.AcabaObra();
-    Exige(EsJson(flujo_.str()), "results are numbers", flujo_.str());
-  }
-
- private:
-  std::ostringstream flujo_;
-  ListadoJson json_;
-  int casos_ = 0;
-};
-
-void Corre(EstadoCalculo e, const fs::path& ruta, int posicion, const std::string& numero) {
-  Lector lector(ruta);
-  const std::array<OyenteCorrida*, 1> oyentes{&lector};
-  lector.EmpiezaTramo(e, posicion, numero);
-  try {
-    const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-  } catch (const ErrorCorrida& fallo) {
-    return lector.AcabaTramo(e, &fallo);
-  } catch (const Basta&) {
-  }
-  lector.AcabaTramo(e, nullptr);
+void Corre(const Obra& obra, const TramoPedido& p, const fs::path& ruta) {
+  const std::map<int, Tramo> capturados{{p.posicion, p.tramo}};
+  std::ostringstream flujo;
+  ListadoJson json(flujo, ruta.string(), capturados, Textos(), {true, ','});
+  const auto datos = DatosDeCalculo(obra, p.tramo);
+  const auto resultado = CalculaTramo(
+      datos, RangoDe(datos), [](const AvanceCorrida& avance) { return avance.caso <= kMaxCasos; });
+  json.EmpiezaObra(obra);
+  json.Tramo(resultado, p.posicion, p.numero, {});
+  json.AcabaObra();
+  Exige(EsJson(flujo.str()), "results are numbers", flujo.str());
 }
 
 // ---- The rules
 
-void CorreValidados(const EstadoCalculo& e, const ObraEnFichero& obra, const ListaFaltas& lista,
-                    const fs::path& ruta) {
+void CorreValidados(const Proyecto& proyecto, const ListaFaltas& lista, const fs::path& ruta) {
+  Obra obra = proyecto.obra;
+  PonComprobada(obra, lista.obra);
   std::size_t usados = 0;
   for (const auto& [posicion, tramo] : lista.tramos) {
     ExigeFinitos(tramo);
     if (!lista.Vale(posicion) || ++usados > kMaxTramosUsados) continue;
-    EstadoCalculo x = e;
-    PonComprobada(x.obra, lista.obra);
-    x.tramo = tramo;
-    Corre(std::move(x), ruta, posicion, obra.lista[static_cast<std::size_t>(posicion - 1)]);
+    Corre(obra, {posicion, proyecto.lista[static_cast<std::size_t>(posicion - 1)], tramo}, ruta);
   }
 }
 
@@ -94,12 +66,12 @@ void ExigeFaltasClaras(const ListaFaltas& lista) {
   }
 }
 
-void Valida(const EstadoCalculo& e, const ObraEnFichero& obra, const fs::path& ruta) {
+void Valida(const Proyecto& proyecto, const fs::path& ruta) {
   Catalogo& textos = TextosParaCambiar();
-  const auto lista = ValidaObraEnFichero(ruta, textos, Tablas(), {});
+  const auto lista = ValidaProyecto(proyecto, textos, Tablas(), {});
   ExigeFaltasClaras(lista);
   ExigeFinitos(lista.obra);
-  CorreValidados(e, obra, lista, ruta);
+  CorreValidados(proyecto, lista, ruta);
 }
 
 // ---- The capture
@@ -146,8 +118,7 @@ void Graba(const fs::path& ruta, const std::string& numero) {
     return;
   }
   try {
-    EstadoCalculo e;
-    AbreObra(e, ruta);
+    LeeProyecto(ruta);
   } catch (const ErrorFichero& error) {
     Exige(false, "what was saved can be read", Textos().Compone(error.mensaje()));
   }
@@ -162,21 +133,18 @@ void Graba(const fs::path& ruta, const std::string& numero) {
 // ---------------------------------------------------------------------------------------------
 
 void PruebaObra(const fs::path& ruta, const std::string& bytes) {
-  EstadoCalculo e;
-  const ObraEnFichero obra = AbreObra(e, ruta);
-  ExigeFinitos(e.obra);
+  const Proyecto proyecto = LeeProyecto(ruta);
+  ExigeFinitos(proyecto.obra);
   std::size_t usados = 0;
-  for (std::size_t i = 0; i < obra.lista.size(); ++i) {
-    if (obra.lista[i].empty() || ++usados > kMaxTramosUsados) continue;
-    EstadoCalculo x = e;
-    CargaTramo(x, obra.fichero, static_cast<int>(i) + 1);
-    ExigeFinitos(x.tramo);
-    Corre(x, ruta, static_cast<int>(i) + 1, obra.lista[i]);
+  for (const auto& pedido : TramosPedidos(proyecto)) {
+    if (++usados > kMaxTramosUsados) break;
+    ExigeFinitos(pedido.tramo);
+    Corre(proyecto.obra, pedido, ruta);
   }
-  Valida(e, obra, ruta);
+  Valida(proyecto, ruta);
   Exige(Bytes(ruta) == bytes, "reading writes nothing");
   usados = 0;
-  for (const auto& numero : obra.lista) {
+  for (const auto& numero : proyecto.lista) {
     if (!numero.empty() && ++usados <= kMaxTramosUsados) Graba(ruta, numero);
   }
 }

@@ -9,11 +9,12 @@
 #include "base/mdCarpetas.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/campos.h"
 #include "comun/carpeta.h"
 #include "comun/estadoDeJson.h"
 #include "core/mdUnidades.h"
-#include "listados/obra/mdFlujo.h"
+#include "persistencia/proyecto/mdProyecto.h"
 
 namespace zorbin {
 namespace {
@@ -54,9 +55,8 @@ class Zrb : public testing::Test {
 
   // The refusal of the file, as "entry number|data".
   std::string Rechazo() {
-    EstadoCalculo e;
     try {
-      AbreObra(e, ruta);
+      LeeProyecto(ruta);
     } catch (const ErrorFichero& error) {
       EXPECT_EQ(textos.Compone(error.mensaje()).find("Falta Recurso"), std::string::npos);
       const auto& m = error.mensaje();
@@ -80,8 +80,9 @@ TEST_F(Zrb, IdaYVueltaEnLosDosSistemasYConLosDosSeparadores) {
       }
       tramos[0].obra.Cliente = "Señor Núñez – «Aguas» 50 €";
       Escribe(tramos, lista, separador);
+      const Proyecto obra = LeeProyecto(ruta);
       EstadoCalculo e;
-      const auto obra = AbreObra(e, ruta);
+      e.obra = obra.obra;
       EXPECT_EQ(obra.lista, lista);
       EXPECT_EQ(e.obra.Cliente, tramos[0].obra.Cliente);
       EXPECT_EQ(e.obra.NombreObra, tramos[0].obra.NombreObra);
@@ -193,9 +194,8 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
 TEST_F(Zrb, LosCaracteresDeControlQueSeCitanSeVen) {
   Escribe({EstadoDeMuestra(1)}, {"1"}, ',');
   Estropea(52, Registro("1,2\x1b]0;x\a"));
-  EstadoCalculo e;
   try {
-    AbreObra(e, ruta);
+    LeeProyecto(ruta);
     FAIL();
   } catch (const ErrorFichero& error) {
     const std::string queja = textos.Compone(error.mensaje());
@@ -210,11 +210,10 @@ TEST_F(Zrb, UnFicheroDeAjustesDanadoNoSeLlevaLaObra) {
         {Registro("9") + Registro("x") + std::string(6 * 128, '\0'), 1153},
         {Registro("nueve"), 1302}}) {
     pruebas::PonBytes(carpeta / "obra.dpe", contenido);
-    EstadoCalculo e;
-    const auto obra = AbreObra(e, ruta);
+    const auto obra = LeeProyecto(ruta);
     ASSERT_EQ(obra.avisos.size(), 1u);
     EXPECT_EQ(obra.avisos[0].texto, aviso);
-    EXPECT_TRUE(e.corrida.SinAjustes);
+    EXPECT_TRUE(obra.SinAjustes);
     EXPECT_EQ(obra.lista.size(), 1u);
   }
 }
@@ -253,34 +252,38 @@ TEST_F(Zrb, LoQueElFormatoDejaEnBlancoSeLee) {
   Estropea(7, Registro("4.00"));          // no SI half: derived
   Estropea(8, Registro("6,00 // "));      // an empty half is 0
   Estropea(82, Registro(""));             // the description is blank, not that of Tramo 1
-  Estropea(114, Registro(""));            // De of Tramo 2: the field stays as it was
+  Estropea(114, Registro(""));            // De of Tramo 2: that of the Tramo read before it
   fs::resize_file(ruta, fs::file_size(ruta) + 1000);
-  EstadoCalculo e;
-  const auto obra = AbreObra(e, ruta);
-  ASSERT_EQ(obra.avisos.size(), 1u);
-  EXPECT_EQ(obra.avisos[0].texto, txt::IdiomaNoReconocido);
-  EXPECT_EQ(e.obra.Idioma, 1);
-  EXPECT_FALSE(e.obra.GolpeCalculado);
-  EXPECT_DOUBLE_EQ(e.obra.Prs1, 0.4);
-  EXPECT_EQ(e.obra.Prs2, 0);
-  CargaTramo(e, obra.fichero, 1);
-  const double De = e.tramo.De;
-  CargaTramo(e, obra.fichero, 2);
-  EXPECT_EQ(e.tramo.DescriTramo, "");
-  EXPECT_EQ(e.tramo.De, De);
+  const auto proyecto = LeeProyecto(ruta);
+  ASSERT_EQ(proyecto.avisos.size(), 1u);
+  EXPECT_EQ(proyecto.avisos[0].texto, txt::IdiomaNoReconocido);
+  EXPECT_EQ(proyecto.obra.Idioma, 1);
+  EXPECT_FALSE(proyecto.obra.GolpeCalculado);
+  EXPECT_DOUBLE_EQ(proyecto.obra.Prs1, 0.4);
+  EXPECT_EQ(proyecto.obra.Prs2, 0);
+  const auto todos = TramosPedidos(proyecto);
+  ASSERT_EQ(todos.size(), 2u);
+  EXPECT_GT(todos[0].tramo.De, 0);
+  EXPECT_EQ(todos[1].tramo.DescriTramo, "");
+  EXPECT_EQ(todos[1].tramo.De, todos[0].tramo.De);
+  EXPECT_EQ(TramosPedidos(proyecto, {2})[0].tramo.De, 0);  // none was read before
 }
 
 TEST_F(Zrb, LaListaLlegaHastaLaCuentaYConservaLosHuecos) {
   Escribe({EstadoDeMuestra(1), EstadoDeMuestra(2), EstadoDeMuestra(3)}, {"1", "2", "5"}, ',');
   Estropea(20, Registro("2"));
-  EstadoCalculo e;
-  EXPECT_EQ(AbreObra(e, ruta).lista, (ListaTramos{"1", "2"}));
+  EXPECT_EQ(LeeProyecto(ruta).lista, (ListaTramos{"1", "2"}));
   Estropea(20, Registro("3"));
   Estropea(81, Registro("  "));
-  const auto lista = AbreObra(e, ruta).lista;
+  const auto proyecto = LeeProyecto(ruta);
+  const auto& lista = proyecto.lista;
   EXPECT_EQ(lista, (ListaTramos{"1", "", "5"}));
   EXPECT_EQ(PosicionDe(lista, 5), 3);
   EXPECT_EQ(PosicionDe(lista, 2), 0);
+  const auto todos = TramosPedidos(proyecto);  // numbered by their places
+  ASSERT_EQ(todos.size(), 2u);
+  EXPECT_EQ(todos[1].tramo.NumeroTramo, 3);
+  EXPECT_EQ(TramosPedidos(proyecto, {3})[0].tramo.NumeroTramo, 5);
 }
 
 TEST_F(Zrb, NadaSeEscribeSiUnCampoNoCabe) {
@@ -336,19 +339,19 @@ TEST_F(Zrb, Los545TramosSeCarganYCalculan) {
   for (int i = 1; i <= 545; ++i) lista.push_back(std::to_string(i));
   Escribe(tramos, lista, '.');
   EXPECT_EQ(fs::file_size(ruta), (544u * 60u + 80u) * 128u);
-  struct Cuenta : OyenteObra {
-    int tramos = 0, casos = 0, fallos = 0;
-    void EmpiezaTramo(const EstadoCalculo&, int, const std::string&) override { ++tramos; }
-    void Caso(const EstadoCalculo&) override { ++casos; }
-    void AcabaTramo(const EstadoCalculo&, const ErrorCorrida* f) override {
-      fallos += f != nullptr;
-    }
-  } cuenta;
-  EstadoCalculo e;
-  CalculaObra(e, AbreObra(e, ruta), {{}, carpeta.ruta()}, cuenta);
-  EXPECT_EQ(cuenta.tramos, 545);
-  EXPECT_EQ(cuenta.casos, 545 * 3);
-  EXPECT_EQ(cuenta.fallos, 0);
+  const auto proyecto = LeeProyecto(ruta);
+  std::size_t casos = 0;
+  int fallos = 0;
+  const auto pedidos = TramosPedidos(proyecto);
+  for (const auto& p : pedidos) {
+    const auto datos = DatosDeCalculo(proyecto.obra, p.tramo);
+    const auto resultado = CalculaTramo(datos, RangoDe(datos));
+    casos += resultado.filas.size();
+    fallos += resultado.fallo.has_value();
+  }
+  EXPECT_EQ(pedidos.size(), 545u);
+  EXPECT_EQ(casos, 545u * 3u);
+  EXPECT_EQ(fallos, 0);
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "listados/datos/mdJson.h"
 
-#include <nlohmann/json.hpp>
-
 #include "base/mdNumeros.h"
 #include "core/campos/mdDatos.h"
 #include "listados/obra/mdAvisos.h"
@@ -10,221 +8,232 @@ namespace zorbin {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-std::string Texto(const Json& j) {
-  return j.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-template <int N>
-Json DeLista(const Lista<double, N>& l) {
-  return Json(l.v);
-}
-
-template <int N, int M>
-Json DeTabla(const Tabla<double, N, M>& t) {
-  Json filas = Json::array();
-  for (const auto& fila : t.filas.v) filas.push_back(DeLista(fila));
-  return filas;
-}
-
 // Every datum of an Obra or of a Tramo that the results repeat.
 template <class Bloque>
-Json DeDatos(const Bloque& bloque) {
-  Json j;
+void DeDatos(EscritorJson& j, const Bloque& bloque) {
   RecorreDatos(bloque, [&](const Ficha& ficha, const auto& dato) {
-    if (ficha.enResultados) j[ficha.nombre] = dato;
+    if (ficha.enResultados) j.Campo(ficha.nombre, dato);
   });
-  return j;
 }
 
-Json DeAjuste(const std::optional<Ajuste>& a) {
-  if (!a) return nullptr;
-  return {{"Camisa", a->Camisa}, {"Espiras", a->Espiras}, {"Exterior", a->Exterior}};
+void DeAjuste(EscritorJson& j, const std::optional<Ajuste>& a) {
+  if (!a) return j.Valor(std::nullopt);
+  j.Abre('{');
+  j.Campo("Camisa", a->Camisa);
+  j.Campo("Espiras", a->Espiras);
+  j.Campo("Exterior", a->Exterior);
+  j.Cierra('}');
 }
 
-Json DeArmado(const ResultadoArmado& r) {
-  Json tablaHip = Json::array();
-  for (const auto& f : r.TablaHip.v) {
-    tablaHip.push_back({f.AsInt, f.AsExt, f.Total, f.IESP, f.NESPIN, f.NEXPEX, f.CAMISA});
-  }
-  return {{"TablaHip", std::move(tablaHip)},
-          {"HipotesisRige", r.HipotesisRige},
-          {"MRige", DeLista(r.MRige)},
-          {"NRige", DeLista(r.NRige)},
-          {"M", DeTabla(r.esfuerzos.M)},
-          {"N", DeTabla(r.esfuerzos.N)},
-          {"CAMISA", r.CAMISA},
-          {"FIIN", r.FIIN},
-          {"NESPIN", r.NESPIN},
-          {"FIEX", r.FIEX},
-          {"NEXPEX", r.NEXPEX},
-          {"AreaCamisa", r.AreaCamisa},
-          {"AreaEspiras", r.AreaEspiras},
-          {"AreaExterior", r.AreaExterior},
-          {"AsInt", r.AsInt},
-          {"AsExt", r.AsExt},
-          {"Total", r.Total},
-          {"TensionMax", r.TensionMax},
-          {"TensionAdm", r.TensionAdm},
-          {"ErrorPostesado", r.ErrorPostesado},
-          {"MomentoTope", r.MomentoTope},
-          {"HayAjuste", r.HayAjuste()},
-          {"ajuste", DeAjuste(r.ajuste)}};
+void DeFila(EscritorJson& j, const FilaHip& f) {
+  j.Abre('[');
+  for (const double area : {f.AsInt, f.AsExt, f.Total}) j.Valor(area);
+  for (const int n : {f.IESP, f.NESPIN, f.NEXPEX}) j.Valor(n);
+  j.Valor(f.CAMISA);
+  j.Cierra(']');
 }
 
-Json DeMensaje(const std::optional<ClaseAviso>& mensaje, const Catalogo& textos) {
+void DeArmado(EscritorJson& j, const ResultadoArmado& r) {
+  j.Clave("TablaHip");
+  j.Abre('[');
+  for (const auto& f : r.TablaHip.v) DeFila(j, f);
+  j.Cierra(']');
+  j.Campo("HipotesisRige", r.HipotesisRige);
+  j.Campo("MRige", r.MRige);
+  j.Campo("NRige", r.NRige);
+  j.Campo("M", r.esfuerzos.M);
+  j.Campo("N", r.esfuerzos.N);
+  j.Campo("CAMISA", r.CAMISA);
+  j.Campo("FIIN", r.FIIN);
+  j.Campo("NESPIN", r.NESPIN);
+  j.Campo("FIEX", r.FIEX);
+  j.Campo("NEXPEX", r.NEXPEX);
+  j.Campo("AreaCamisa", r.AreaCamisa);
+  j.Campo("AreaEspiras", r.AreaEspiras);
+  j.Campo("AreaExterior", r.AreaExterior);
+  j.Campo("AsInt", r.AsInt);
+  j.Campo("AsExt", r.AsExt);
+  j.Campo("Total", r.Total);
+  j.Campo("TensionMax", r.TensionMax);
+  j.Campo("TensionAdm", r.TensionAdm);
+  j.Campo("ErrorPostesado", r.ErrorPostesado);
+  j.Campo("MomentoTope", r.MomentoTope);
+  j.Campo("HayAjuste", r.HayAjuste());
+  j.Clave("ajuste");
+  DeAjuste(j, r.ajuste);
+}
+
+std::string DeMensaje(const std::optional<ClaseAviso>& mensaje, const Catalogo& textos) {
   return mensaje ? TextoAviso(*mensaje, textos) : std::string{};
 }
 
-Json DeHipotesis(const HipotesisPostesada& h, const ResultadoPostesado& r, const Catalogo& textos) {
+void DeHipotesis(EscritorJson& j, const HipotesisPostesada& h, const ResultadoPostesado& r,
+                 const Catalogo& textos) {
   const auto& m = r.materiales;
-  return {{"h", h.h},
-          {"hecha", h.hecha},
-          {"error", h.error},
-          {"texto", DeMensaje(h.texto, textos)},
-          {"MomHip", DeLista(h.MomHip)},
-          {"AxilHip", DeLista(h.AxilHip)},
-          {"PerdElastica", h.PerdElastica},
-          {"PerdRelaj", h.PerdRelaj},
-          {"PerdFluRet", h.PerdFluRet},
-          {"SigRes", h.SigRes},
-          {"SigIniInt", h.SigIniInt},
-          {"SigIniExt", h.SigIniExt},
-          {"SigPI", h.SigPI},
-          {"SigPE", h.SigPE},
-          {"SigRI", h.SigRI},
-          {"SigRE", h.SigRE},
-          {"ni", m.ni},
-          {"n", m.n},
-          {"n1", m.n1},
-          {"n2", m.n2},
-          {"A", h.A},
-          {"B", h.B},
-          {"C", h.C},
-          {"Ar", h.Ar},
-          {"Br", h.Br},
-          {"Cr", h.Cr},
-          {"k", h.k},
-          {"D", h.D},
-          {"sro", h.sro},
-          {"yi", h.yi},
-          {"ye", h.ye},
-          {"yr", h.yr},
-          {"Io", h.Io},
-          {"rco", h.rco},
-          {"rro", h.rro},
-          {"OvPI", DeLista(h.OvPI)},
-          {"OvPE", DeLista(h.OvPE)},
-          {"OvRI", DeLista(h.OvRI)},
-          {"OvRE", DeLista(h.OvRE)},
-          {"OvAc", DeLista(h.OvAc)},
-          {"PrPI", h.PrPI},
-          {"PrPE", h.PrPE},
-          {"PrRI", h.PrRI},
-          {"PrRE", h.PrRE},
-          {"PrAc", h.PrAc},
-          {"SinPI", DeLista(h.SinPI)},
-          {"SinPE", DeLista(h.SinPE)},
-          {"SinRI", DeLista(h.SinRI)},
-          {"SinRE", DeLista(h.SinRE)},
-          {"SinAc", DeLista(h.SinAc)},
-          {"TotPI", DeLista(h.TotPI)},
-          {"TotPE", DeLista(h.TotPE)},
-          {"TotRI", DeLista(h.TotRI)},
-          {"TotRE", DeLista(h.TotRE)},
-          {"TotAc", DeLista(h.TotAc)},
-          {"LimPI", h.LimPI},
-          {"LimPE", h.LimPE},
-          {"LimRI", h.LimRI},
-          {"LimRE", h.LimRE},
-          {"PresLimite", h.PresLimite}};
+  j.Abre('{');
+  j.Campo("h", h.h);
+  j.Campo("hecha", h.hecha);
+  j.Campo("error", h.error);
+  j.Campo("texto", DeMensaje(h.texto, textos));
+  j.Campo("MomHip", h.MomHip);
+  j.Campo("AxilHip", h.AxilHip);
+  j.Campo("PerdElastica", h.PerdElastica);
+  j.Campo("PerdRelaj", h.PerdRelaj);
+  j.Campo("PerdFluRet", h.PerdFluRet);
+  j.Campo("SigRes", h.SigRes);
+  j.Campo("SigIniInt", h.SigIniInt);
+  j.Campo("SigIniExt", h.SigIniExt);
+  j.Campo("SigPI", h.SigPI);
+  j.Campo("SigPE", h.SigPE);
+  j.Campo("SigRI", h.SigRI);
+  j.Campo("SigRE", h.SigRE);
+  j.Campo("ni", m.ni);
+  j.Campo("n", m.n);
+  j.Campo("n1", m.n1);
+  j.Campo("n2", m.n2);
+  j.Campo("A", h.A);
+  j.Campo("B", h.B);
+  j.Campo("C", h.C);
+  j.Campo("Ar", h.Ar);
+  j.Campo("Br", h.Br);
+  j.Campo("Cr", h.Cr);
+  j.Campo("k", h.k);
+  j.Campo("D", h.D);
+  j.Campo("sro", h.sro);
+  j.Campo("yi", h.yi);
+  j.Campo("ye", h.ye);
+  j.Campo("yr", h.yr);
+  j.Campo("Io", h.Io);
+  j.Campo("rco", h.rco);
+  j.Campo("rro", h.rro);
+  j.Campo("OvPI", h.OvPI);
+  j.Campo("OvPE", h.OvPE);
+  j.Campo("OvRI", h.OvRI);
+  j.Campo("OvRE", h.OvRE);
+  j.Campo("OvAc", h.OvAc);
+  j.Campo("PrPI", h.PrPI);
+  j.Campo("PrPE", h.PrPE);
+  j.Campo("PrRI", h.PrRI);
+  j.Campo("PrRE", h.PrRE);
+  j.Campo("PrAc", h.PrAc);
+  j.Campo("SinPI", h.SinPI);
+  j.Campo("SinPE", h.SinPE);
+  j.Campo("SinRI", h.SinRI);
+  j.Campo("SinRE", h.SinRE);
+  j.Campo("SinAc", h.SinAc);
+  j.Campo("TotPI", h.TotPI);
+  j.Campo("TotPE", h.TotPE);
+  j.Campo("TotRI", h.TotRI);
+  j.Campo("TotRE", h.TotRE);
+  j.Campo("TotAc", h.TotAc);
+  j.Campo("LimPI", h.LimPI);
+  j.Campo("LimPE", h.LimPE);
+  j.Campo("LimRI", h.LimRI);
+  j.Campo("LimRE", h.LimRE);
+  j.Campo("PresLimite", h.PresLimite);
+  j.Cierra('}');
 }
 
-Json DePostesado(const EstadoCalculo& e, const Catalogo& textos) {
-  const auto& r = e.caso.postesado;
-  Json hipotesis = Json::array();
-  for (int h = 1; h <= kHipotesisPostesado; ++h) {
-    hipotesis.push_back(DeHipotesis(r.hipotesis(h), r, textos));
-  }
-  return {{"FIPRDEFI", r.FIPRDEFI},
-          {"NESPDEFI", r.NESPDEFI},
-          {"PP", e.corrida.PP},
-          {"PPHipotesis", r.PPHipotesis},
-          {"PPConAlambreFinal", r.PPConAlambreFinal},
-          {"ErrorPostesado", r.ErrorPostesado},
-          {"MensajePostesado", DeMensaje(r.MensajePostesado, textos)},
-          {"Fctn", r.materiales.Fctn},
-          {"Fctr", r.materiales.Fctr},
-          {"TensionChapa", r.TensionChapa},
-          {"LimiteChapa", r.LimiteChapa},
-          {"hipotesis", std::move(hipotesis)}};
+void DePostesado(EscritorJson& j, const ResultadoPostesado& r, const Catalogo& textos) {
+  j.Campo("FIPRDEFI", r.FIPRDEFI);
+  j.Campo("NESPDEFI", r.NESPDEFI);
+  j.Campo("PP", r.PP);
+  j.Campo("PPHipotesis", r.PPHipotesis);
+  j.Campo("PPConAlambreFinal", r.PPConAlambreFinal);
+  j.Campo("ErrorPostesado", r.ErrorPostesado);
+  j.Campo("MensajePostesado", DeMensaje(r.MensajePostesado, textos));
+  j.Campo("Fctn", r.materiales.Fctn);
+  j.Campo("Fctr", r.materiales.Fctr);
+  j.Campo("TensionChapa", r.TensionChapa);
+  j.Campo("LimiteChapa", r.LimiteChapa);
+  j.Clave("hipotesis");
+  j.Abre('[');
+  for (const auto& h : r.hipotesis.v) DeHipotesis(j, h, r, textos);
+  j.Cierra(']');
 }
 
-Json DeCaso(const EstadoCalculo& e, const Catalogo& textos) {
-  const auto& c = e.corrida;
-  Json avisos = Json::array();
-  for (const auto& aviso : e.caso.avisos) avisos.push_back(TextoAviso(aviso, textos));
-  Json caso{{"Hr", c.Hr},
-            {"NumCaso", c.NumCaso},
-            {"DP", c.DP},
-            {"MDP", c.MDP},
-            {"STP", c.STP},
-            {"PP", c.PP},
-            {"PPNeta", c.PPNeta},
-            {"Landa", c.Landa},
-            {"Q", c.Q},
-            {"QTerraplen", c.QTerraplen},
-            {"QTierras", c.QTierras},
-            {"QMovil", c.QMovil},
-            {"Impacto", c.Impacto},
-            {"TerraplenRige", c.TerraplenRige},
-            {"Q1m", c.Q1m},
-            {"QTerraplen1m", c.QTerraplen1m},
-            {"QTierras1m", c.QTierras1m},
-            {"QMovil1m", c.QMovil1m},
-            {"MHip", DeTabla(e.caso.MHip)},
-            {"NHip", DeTabla(e.caso.NHip)},
-            {"avisos", std::move(avisos)}};
-  if (e.tramo.EsArmado) {
-    caso["armado"] = DeArmado(e.caso.armado);
-  } else {
-    caso["postesado"] = DePostesado(e, textos);
-  }
-  return caso;
+void DeCargas(EscritorJson& j, const CargasAltura& altura, const Cargas& unMetro) {
+  const auto& q = altura.cargas;
+  j.Campo("Landa", altura.Landa);
+  j.Campo("Q", q.Q);
+  j.Campo("QTerraplen", q.QTerraplen);
+  j.Campo("QTierras", q.QTierras);
+  j.Campo("QMovil", q.QMovil);
+  j.Campo("Impacto", q.Impacto);
+  j.Campo("TerraplenRige", q.TerraplenRige);
+  j.Campo("Q1m", unMetro.Q);
+  j.Campo("QTerraplen1m", unMetro.QTerraplen);
+  j.Campo("QTierras1m", unMetro.QTierras);
+  j.Campo("QMovil1m", unMetro.QMovil);
+}
+
+void DeCaso(EscritorJson& j, const VistaCaso& v, const Catalogo& textos) {
+  const auto& f = v.fila;
+  const bool armado = v.Datos().EsArmado;
+  j.FinLinea();
+  j.Abre('{');
+  j.Campo("Hr", f.Hr);
+  j.Campo("NumCaso", f.NumCaso);
+  j.Campo("DP", f.DP);
+  j.Campo("MDP", f.MDP);
+  j.Campo("STP", f.STP);
+  j.Campo("PP", armado ? f.PP : v.Postesado().PP);
+  j.Campo("PPNeta", f.PP);
+  DeCargas(j, v.altura, v.tramo.unMetro);
+  j.Campo("MHip", v.caso.MHip);
+  j.Campo("NHip", v.caso.NHip);
+  j.Clave("avisos");
+  j.Abre('[');
+  for (const auto& aviso : v.caso.avisos) j.Valor(TextoAviso(aviso, textos));
+  j.Cierra(']');
+  j.Clave(armado ? "armado" : "postesado");
+  j.Abre('{');
+  armado ? DeArmado(j, v.Armado()) : DePostesado(j, v.Postesado(), textos);
+  j.Cierra('}');
+  j.Cierra('}');
 }
 
 }  // namespace
 
-void ListadoJson::EmpiezaObra(const EstadoCalculo& e) {
-  salida_ << "{\"obra\":" << Texto(DeDatos(e.obra)) << ",\n\"tramos\":[";
+void ListadoJson::EmpiezaObra(const Obra& obra) {
+  j_.Abre('{');
+  j_.Clave("obra");
+  j_.Abre('{');
+  DeDatos(j_, obra);
+  j_.Cierra('}');
+  j_.FinLinea();
+  j_.Clave("tramos");
+  j_.Abre('[');
 }
 
 void ListadoJson::AcabaObra() {
-  salida_ << "\n]}\n";
+  j_.FinLinea();
+  j_.Cierra(']');
+  j_.Cierra('}');
+  j_.Acaba();
 }
 
-void ListadoJson::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
-  Json tramo{{"posicion", posicion}, {"NumeroTramo", I16(NumeroTexto(numero).value_or(0.0))}};
-  tramo.update(DeDatos(e.tramo));
-  std::string abierto = Texto(tramo);
-  abierto.pop_back();  // the object goes on with its Casos
-  salida_ << (hayTramo_ ? ",\n" : "\n") << abierto << ",\"casos\":[";
-  hayTramo_ = true;
-  tramo_ = numero;
-  hayCaso_ = false;
-}
-
-void ListadoJson::Caso(const EstadoCalculo& e) {
-  salida_ << (hayCaso_ ? ",\n" : "\n") << Texto(DeCaso(e, textos_));
-  hayCaso_ = true;
-}
-
-void ListadoJson::AcabaTramo(const EstadoCalculo&, const ErrorCorrida* fallo) {
-  const Json error = fallo == nullptr
-                         ? Json(nullptr)
-                         : Json(TextoFallo(*fallo, fichero_, tramo_, textos_, estilo_));
-  salida_ << "],\"error\":" << Texto(error) << "}";
+bool ListadoJson::Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
+                        const SigueListado& sigue) {
+  j_.FinLinea();
+  j_.Abre('{');
+  j_.Campo("posicion", posicion);
+  j_.Campo("NumeroTramo", I16(NumeroTexto(numero).value_or(0.0)));
+  DeDatos(j_, capturados_.at(posicion));
+  j_.Clave("casos");
+  j_.Abre('[');
+  const auto deCaso = [this](const VistaCaso& v) { DeCaso(j_, v, textos_); };
+  if (!RecorreCasos(resultado, sigue, deCaso)) return false;
+  j_.Cierra(']');
+  j_.Clave("error");
+  if (resultado.fallo) {
+    j_.Valor(TextoFallo(*resultado.fallo, fichero_, numero, textos_, estilo_));
+  } else {
+    j_.Valor(std::nullopt);
+  }
+  j_.Cierra('}');
+  j_.Vuelca();
+  return true;
 }
 
 }  // namespace zorbin

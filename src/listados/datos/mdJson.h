@@ -1,38 +1,45 @@
-// The results of an Obra as JSON, one object, written as the run goes: nothing is held back, and
+// The results of an Obra as JSON, one object, written as they are read: nothing is held back, and
 // each Caso stands on a line of its own. Numbers read back to the same double. Data are in the
 // units of the Obra's system as captured; results are in calculation units (t, m, kp/cm2, at,
 // cm2/m).
 #pragma once
 
+#include <map>
 #include <ostream>
 
 #include "base/mdCatalogo.h"
-#include "listados/obra/mdFlujo.h"
+#include "listados/datos/mdEscritorJson.h"
+#include "listados/obra/mdListado.h"
 #include "listados/papel/mdFormato.h"
 
 namespace zorbin {
 
-class ListadoJson : public OyenteObra {
+class ListadoJson : public Listado {
  public:
-  ListadoJson(std::ostream& salida, const std::string& fichero, const Catalogo& textos,
+  /// @param fichero     the Obra, as a failure names it
+  /// @param capturados  Tramos by position, in the units of their Obra; they outlive the listing
+  ListadoJson(std::ostream& salida, std::string fichero,
+              const std::map<int, zorbin::Tramo>& capturados, const Catalogo& textos,
               EstiloNumeros estilo)
-      : salida_(salida), fichero_(fichero), textos_(textos), estilo_(estilo) {}
+      : j_(salida),
+        fichero_(std::move(fichero)),
+        capturados_(capturados),
+        textos_(textos),
+        estilo_(estilo) {}
 
-  void EmpiezaObra(const EstadoCalculo& e);
+  void EmpiezaObra(const Obra& obra);
   void AcabaObra();
 
-  void EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) override;
-  void Caso(const EstadoCalculo& e) override;
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override;
+  /// @throws std::out_of_range for a position that was not captured
+  bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
+             const SigueListado& sigue) override;
 
  private:
-  std::ostream& salida_;
+  EscritorJson j_;
   std::string fichero_;
+  const std::map<int, zorbin::Tramo>& capturados_;
   const Catalogo& textos_;
   EstiloNumeros estilo_;
-  bool hayTramo_ = false;
-  bool hayCaso_ = false;
-  std::string tramo_;  // number of the one in hand
 };
 
 }  // namespace zorbin

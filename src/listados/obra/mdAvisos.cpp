@@ -71,15 +71,15 @@ std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {
   return {};
 }
 
-std::string TextoFallo(const ErrorCorrida& fallo, const std::string& fichero,
+std::string TextoFallo(const FalloCorrida& fallo, const std::string& fichero,
                        const std::string& tramo, const Catalogo& textos,
                        const EstiloNumeros& estilo) {
-  const std::string causa = TextoCausa(fallo.error(), textos);
-  if (fallo.numCaso() == 0) return textos.Compone(txt::FalloAntesDelCaso, {fichero, tramo, causa});
-  const std::string altura = estilo.FormatoNumero(fallo.Hr(), 0, 2);
-  const std::string presion = estilo.FormatoNumero(fallo.DP(), 0, 1, "at->MPa", true);
+  const std::string causa = TextoCausa(fallo.error, textos);
+  if (fallo.numCaso == 0) return textos.Compone(txt::FalloAntesDelCaso, {fichero, tramo, causa});
+  const std::string altura = estilo.FormatoNumero(fallo.Hr, 0, 2);
+  const std::string presion = estilo.FormatoNumero(fallo.DP, 0, 1, "at->MPa", true);
   return textos.Compone(txt::FalloEnCaso,
-                        {fichero, tramo, TextoEntero(fallo.numCaso()), altura, presion, causa});
+                        {fichero, tramo, TextoEntero(fallo.numCaso), altura, presion, causa});
 }
 
 }  // namespace zorbin

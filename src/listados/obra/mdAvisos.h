@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/mdCatalogo.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "core/resultado.h"
 #include "listados/papel/mdFormato.h"
 
 namespace zorbin {
@@ -17,7 +17,7 @@ std::string TextoAviso(const Aviso& aviso, const Catalogo& textos);
 std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos);
 
 /// The failure in one line: file, number of the Tramo in the list, Caso, height, pressure, cause.
-std::string TextoFallo(const ErrorCorrida& fallo, const std::string& fichero,
+std::string TextoFallo(const FalloCorrida& fallo, const std::string& fichero,
                        const std::string& tramo, const Catalogo& textos,
                        const EstiloNumeros& estilo);
 

@@ -17,6 +17,10 @@ struct VistaCaso {
   bool primero;       // of the Tramo
   bool abreAltura;    // first pressure of a height
   bool cierraAltura;  // last pressure of a height
+
+  const Tramo& Datos() const { return tramo.datos.tramo; }
+  const ResultadoArmado& Armado() const { return caso.Armado(); }
+  const ResultadoPostesado& Postesado() const { return caso.Postesado(); }
 };
 
 /// Asked now and then whether to go on; false ends the work.
@@ -30,5 +34,13 @@ class Listado {
   virtual bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
                      const SigueListado& sigue) = 0;
 };
+
+/// Shows the Casos of a result one after another, each calculated again whole, and asks before each
+/// whether to go on. @return false where whoever was asked said no
+bool RecorreCasos(const ResultadoTramo& resultado, const SigueListado& sigue,
+                  const std::function<void(const VistaCaso&)>& lee);
+
+/// What stands of the Caso that broke off a run, where one had begun; null where none had.
+const FalloCorrida* CasoRoto(const ResultadoTramo& resultado);
 
 }  // namespace zorbin

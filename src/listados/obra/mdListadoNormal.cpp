@@ -5,7 +5,6 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "calculo/armado/mdCamisa.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/papel/mdFiguras.h"
@@ -39,33 +38,43 @@ constexpr std::array<Cola, 3> kAsientos{{{1, txt::RocaNoAsentable, "1,0 - "},
 // ---------------------------------------------------------------------------------------------
 // Page heads
 
-void ListadoNormal::CabeceraPagina(const EstadoCalculo& e, bool miraCargas, bool conObra) {
+void ListadoNormal::NumeraPagina() {
+  ++Pagina;
   EnBlanco(2);
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(6, Blancos(32 + 11) + Texto(txt::Pag) + FormatoEntero(Pagina, 5));
   papel_.Cuerpo(kCuerpoNormal);
-  if (conObra) BloqueObra(e.obra);
+}
+
+// The first pages of the document have the Obra, and no more.
+void ListadoNormal::RotulaPagina(const zorbin::Tramo& t, double Hr, const FilaCaso* caso) {
   EnBlanco(2);
-  if (Pagina <= 2 || (Pagina == 3 && e.tramo.EsArmado)) return;
+  if (Pagina <= 2 || (Pagina == 3 && t.EsArmado)) return;
   papel_.Negrita(true);
-  if (e.tramo.IndCar == 1) {
-    Linea(8, FormatoTexto(e.tramo.DescriTramo, 40) + Blancos(24) + Texto(txt::HR) +
-                 Numero(e.corrida.Hr, 6, 3) + " m");
-  } else if (miraCargas) {
-    Linea(8, FormatoTexto(e.tramo.DescriTramo, 40));
+  if (t.IndCar == 1) {
+    Linea(8,
+          FormatoTexto(t.DescriTramo, 40) + Blancos(24) + Texto(txt::HR) + Numero(Hr, 6, 3) + " m");
+  } else if (caso == nullptr) {
+    Linea(8, FormatoTexto(t.DescriTramo, 40));
   }
-  if (!miraCargas) {
-    Linea(8, RotuloCaso(e) + " " + Texto(txt::DP) +
-                 NumeroSolo(e.corrida.DP, 6, 1, "at->MPa", true) + " " + Texto(txt::MDP) +
-                 NumeroSolo(e.corrida.MDP, 6, 1, "at->MPa", true));
+  if (caso != nullptr) {
+    Linea(8, RotuloCaso(caso->NumCaso, t) + " " + Texto(txt::DP) +
+                 NumeroSolo(caso->DP, 6, 1, "at->MPa", true) + " " + Texto(txt::MDP) +
+                 NumeroSolo(caso->MDP, 6, 1, "at->MPa", true));
   }
   papel_.Negrita(false);
 }
 
-void ListadoNormal::PaginaNueva(const EstadoCalculo& e, bool miraCargas) {
-  ++Pagina;
+void ListadoNormal::PaginaDeAltura(const zorbin::Tramo& t, double Hr) {
   papel_.NuevaPagina();
-  CabeceraPagina(e, miraCargas, false);
+  NumeraPagina();
+  RotulaPagina(t, Hr, nullptr);
+}
+
+void ListadoNormal::PaginaDeCaso(const VistaCaso& v) {
+  papel_.NuevaPagina();
+  NumeraPagina();
+  RotulaPagina(v.Datos(), v.fila.Hr, &v.fila);
 }
 
 void ListadoNormal::Titulo(int texto) {
@@ -76,21 +85,24 @@ void ListadoNormal::Titulo(int texto) {
 // ---------------------------------------------------------------------------------------------
 // Heading of the Tramo
 
-void ListadoNormal::Cabecera(const EstadoCalculo& e) {
+void ListadoNormal::Cabecera(const ResultadoTramo& r) {
+  const auto& t = r.datos.tramo;
+  const double Hr = r.alturas.front().Hr;
   if (Pagina > 0) papel_.NuevaPagina();
-  ++Pagina;
-  CabeceraPagina(e, true, true);
-  if (e.tramo.EsArmado) Materiales(e);
-  Tubo(e);
-  Colocacion(e);
-  PaginaNueva(e, true);
-  Relleno(e);
-  Hipotesis(e);
-  if (!e.tramo.EsArmado) DatosPostesado(e);
+  NumeraPagina();
+  BloqueObra(r.datos.obra);
+  RotulaPagina(t, Hr, nullptr);
+  if (t.EsArmado) Materiales(r.datos);
+  Tubo(t);
+  Colocacion(t);
+  PaginaDeAltura(t, Hr);
+  Relleno(t);
+  Hipotesis(r);
+  if (!t.EsArmado) DatosPostesado(r);
 }
 
-void ListadoNormal::Materiales(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoNormal::Materiales(const DatosTramo& d) {
+  const auto& t = d.tramo;
   const auto resistencia = [this](int rotulo, double valor) {
     Linea(8, Texto(rotulo) + Numero(valor, 9, 0, "Kp/cm2->MPa", true));
   };
@@ -105,11 +117,10 @@ void ListadoNormal::Materiales(const EstadoCalculo& e) {
   const int control = t.TipoControl == 1 ? txt::ControlIntenso : txt::ControlNormal;
   Linea(8, Texto(txt::NivelDeControl) + FormatoTexto(Texto(control), 14) +
                Texto(txt::GolpeDeAriete) +
-               FormatoTexto(Texto(e.obra.GolpeCalculado ? txt::Calculado : txt::Estimado), 15));
+               FormatoTexto(Texto(d.obra.GolpeCalculado ? txt::Calculado : txt::Estimado), 15));
 }
 
-void ListadoNormal::Tubo(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoNormal::Tubo(const zorbin::Tramo& t) {
   const double y = papel_.Y();
   Linea(8, Texto(txt::TipoDeTubo) + FormatoTexto(TextoTipologia(t.Tipologia), 53));
   papel_.Figura(Texto(FiguraTubo(t.Tipologia)), 138, y, 55, 55);
@@ -131,8 +142,7 @@ void ListadoNormal::Tubo(const EstadoCalculo& e) {
   EnBlanco(2);
 }
 
-void ListadoNormal::Colocacion(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoNormal::Colocacion(const zorbin::Tramo& t) {
   Titulo(txt::DatosRelleno);
   Linea(8, Texto(txt::CabTipoDeCuna) + TextoCuna(t.TipoCuna));
   Linea(8,
@@ -143,8 +153,7 @@ void ListadoNormal::Colocacion(const EstadoCalculo& e) {
   papel_.Figura(Texto(FiguraColocacion(t.TipoCuna, t.TipoColocacion)), 81, y, 100, 55);
 }
 
-void ListadoNormal::Relleno(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoNormal::Relleno(const zorbin::Tramo& t) {
   Titulo(txt::DatosRellenoContinuacion);
   Linea(8, Texto(txt::DensidadRelleno) + Numero(t.Gr, 7, 3) + " t/m3");
   Linea(8, Texto(txt::AnguloRozamiento) + Numero(t.Fi, 3, 0) + "º");
@@ -171,41 +180,42 @@ void ListadoNormal::Relleno(const EstadoCalculo& e) {
   }
 }
 
-void ListadoNormal::Hipotesis(const EstadoCalculo& e) {
+void ListadoNormal::Hipotesis(const ResultadoTramo& r) {
   EnBlanco(2);
   Titulo(txt::DatosHipotesis);
-  if (e.tramo.IndCar == 1) TablaDeCargas(e);
-  const double Q = e.corrida.Q;
+  if (r.datos.tramo.IndCar == 1) TablaDeCargas(r);
+  const double Q = r.alturas.front().cargas.Q;
   Linea(8, Texto(txt::CargaVerticalAdoptada) + Numero(Q, 7, 3) + " t/m2 -" +
-               Numero(Q * e.tramo.De, 7, 3) + " t/m");
+               Numero(Q * r.datos.tramo.De, 7, 3) + " t/m");
 }
 
-void ListadoNormal::TablaDeCargas(const EstadoCalculo& e) {
-  const int carga = txt::TiposDeCarga[static_cast<std::size_t>(
-      e.tramo.ICar >= 0 && e.tramo.ICar <= 4 ? e.tramo.ICar : 0)];
+void ListadoNormal::TablaDeCargas(const ResultadoTramo& r) {
+  const auto& t = r.datos.tramo;
+  const bool si = r.datos.obra.EsSI();
+  const int carga =
+      txt::TiposDeCarga[static_cast<std::size_t>(t.ICar >= 0 && t.ICar <= 4 ? t.ICar : 0)];
   Linea(8, Texto(txt::TablaCarga) + "  " + FormatoTexto(Texto(carga), 21));
-  Linea(8, Texto(txt::TablaImpacto) + Numero(e.corrida.Impacto, 6, 2));
+  Linea(8, Texto(txt::TablaImpacto) + Numero(r.alturas.front().cargas.Impacto, 6, 2));
   EnBlanco(1);
-  for (const int n :
-       {txt::TablaCabeza1, txt::TablaCabeza2, txt::TablaRayas,
-        e.obra.EsSI() ? txt::TablaUnidadesSI : txt::TablaUnidadesMKS, txt::TablaRayas}) {
+  for (const int n : {txt::TablaCabeza1, txt::TablaCabeza2, txt::TablaRayas,
+                      si ? txt::TablaUnidadesSI : txt::TablaUnidadesMKS, txt::TablaRayas}) {
     Linea(8, Texto(n));
   }
-  for (const auto& fila : e.corrida.TablaCargas) {
-    Linea(8, FilaDeCargas(e, fila));
+  for (const auto& fila : r.TablaCargas) {
+    Linea(8, FilaDeCargas(si, t.De, fila));
     EnBlanco(1);
   }
 }
 
-std::string ListadoNormal::FilaDeCargas(const EstadoCalculo& e, const FilaCargas& fila) const {
-  const double factor = e.obra.EsSI() ? kFactorFuerza : 1.0;
+std::string ListadoNormal::FilaDeCargas(bool si, double De, const FilaCargas& fila) const {
+  const double factor = si ? kFactorFuerza : 1.0;
   const auto pareja = [&](std::optional<double> carga, bool porMetro = true) {
     if (!carga) return Blancos(15);
     const double q = *carga * factor;
-    return Numero(q, 7, 1) + " " + (porMetro ? Numero(q * e.tramo.De, 7, 1) : Blancos(7));
+    return Numero(q, 7, 1) + " " + (porMetro ? Numero(q * De, 7, 1) : Blancos(7));
   };
   // Where the embankment governs, the moving load per metre is left out under SI.
-  const bool movilPorMetro = !(e.obra.EsSI() && fila.TerraplenRige);
+  const bool movilPorMetro = !(si && fila.TerraplenRige);
   return Numero(fila.H, 5, 2) + " " + pareja(fila.Zanja) + " " + pareja(fila.Terraplen) + " " +
          pareja(fila.Adoptada) + " " + pareja(fila.Moviles, movilPorMetro) + " " +
          pareja(fila.Total);
@@ -214,74 +224,77 @@ std::string ListadoNormal::FilaDeCargas(const EstadoCalculo& e, const FilaCargas
 // ---------------------------------------------------------------------------------------------
 // Ovalisation
 
-void ListadoNormal::Caso(const EstadoCalculo& e) {
-  if (e.corrida.NumCaso == 1) Ovalizacion(e);
-  if (e.tramo.EsArmado) {
-    DisenoArmado(e);
-  } else {
-    Postesado(e);
-  }
+void ListadoNormal::CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida&) {
+  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado);
 }
 
-void ListadoNormal::Ovalizacion(const EstadoCalculo& e) {
-  PaginaNueva(e, true);
-  DatosOvalizacion(e);
-  for (const int h : kOvalizacionImpresa[0]) BloqueOvalizacion(e, h);
-  PaginaNueva(e, true);
-  for (const int h : kOvalizacionImpresa[1]) BloqueOvalizacion(e, h);
+void ListadoNormal::Caso(const VistaCaso& v) {
+  if (v.primero) Cabecera(v.tramo);
+  if (v.abreAltura) Ovalizacion(v);
+  v.Datos().EsArmado ? DisenoArmado(v) : Postesado(v);
 }
 
-void ListadoNormal::DatosOvalizacion(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoNormal::Ovalizacion(const VistaCaso& v) {
+  PaginaDeAltura(v.Datos(), v.fila.Hr);
+  DatosOvalizacion(v);
+  for (const int h : kOvalizacionImpresa[0]) BloqueOvalizacion(v, h);
+  PaginaDeAltura(v.Datos(), v.fila.Hr);
+  for (const int h : kOvalizacionImpresa[1]) BloqueOvalizacion(v, h);
+}
+
+void ListadoNormal::DatosOvalizacion(const VistaCaso& v) {
+  const auto& t = v.Datos();
   Linea(9, Texto(txt::OvalCabeza));
-  Linea(9, Texto(e.obra.EsSI() ? txt::OvalUnidadesSI : txt::OvalUnidadesMKS));
+  Linea(9, Texto(v.tramo.datos.obra.EsSI() ? txt::OvalUnidadesSI : txt::OvalUnidadesMKS));
   papel_.Regla(18, 165, 2);
   EnBlanco(1);
   const int palabra = t.TipoCuna == 1                      ? txt::OvalGranular
                       : t.TipoCuna == 2 || t.TipoCuna == 3 ? txt::OvalHormigon
                                                            : txt::OvalMenorDe;
   Linea(5, Numero(t.Di * 1000.0, 10, 0) + Numero(t.De * 1000.0, 10, 0) + Numero(t.Gc, 10, 3) +
-               Numero(t.Gr, 10, 3) + Numero(e.corrida.Landa, 7, 3) +
-               Numero(e.corrida.Q, 10, 3, "T/M2->kN/M2") + " " + FormatoTexto(Texto(palabra), 8) +
-               FormatoEntero(t.TipoCuna == 3 ? 120 : 90, 4) + "º");
+               Numero(t.Gr, 10, 3) + Numero(v.altura.Landa, 7, 3) +
+               Numero(v.altura.cargas.Q, 10, 3, "T/M2->kN/M2") + " " +
+               FormatoTexto(Texto(palabra), 8) + FormatoEntero(t.TipoCuna == 3 ? 120 : 90, 4) +
+               "º");
 }
 
-void ListadoNormal::BloqueOvalizacion(const EstadoCalculo& e, int hipotesis) {
+void ListadoNormal::BloqueOvalizacion(const VistaCaso& v, int hipotesis) {
   EnBlanco(2);
   const int nombre = txt::HipotesisOval[static_cast<std::size_t>(hipotesis - 1)];
   EnNegrita(15, Texto(txt::HipotesisRotulo) + FormatoTexto(Texto(nombre), 60));
   EnBlanco(1);
   papel_.Subrayado(true);
-  Linea(20, Texto(e.obra.EsSI() ? txt::SeccionSI : txt::SeccionMKS));
+  Linea(20, Texto(v.tramo.datos.obra.EsSI() ? txt::SeccionSI : txt::SeccionMKS));
   papel_.Subrayado(false);
   for (int s = 1; s <= kSecciones; ++s) {
     Linea(20, FormatoTexto(Texto(txt::Secciones[static_cast<std::size_t>(s - 1)]), 8) + Blancos(4) +
-                  Numero(e.caso.MHip(hipotesis, s), 10, 3, "mT->mkN") + Blancos(7) +
-                  Numero(e.caso.NHip(hipotesis, s), 10, 3, "T->kN"));
+                  Numero(v.caso.MHip(hipotesis, s), 10, 3, "mT->mkN") + Blancos(7) +
+                  Numero(v.caso.NHip(hipotesis, s), 10, 3, "T->kN"));
   }
 }
 
 // ---------------------------------------------------------------------------------------------
 // Reinforced design
 
-void ListadoNormal::DisenoArmado(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
-  PaginaNueva(e, false);
+void ListadoNormal::DisenoArmado(const VistaCaso& v) {
+  const auto& t = v.Datos();
+  PaginaDeCaso(v);
   Linea(17, Texto(txt::DisenoCabeza));
   papel_.Regla(32, 155, 2);
   EnBlanco(1);
   Linea(10, Numero(t.Fck, 10, 0, "Kp/cm2->MPa") + Numero(t.Fct, 10, 1, "Kp/cm2->MPa") +
                 Numero(t.Fyd, 10, 0, "Kp/cm2->MPa") + Numero(t.Esp, 10, 3) + Numero(t.Reci, 10, 3) +
                 Numero(t.Rece, 10, 3));
-  EsfuerzosDeDiseno(e);
-  ArmaduraPorHipotesis(e);
+  EsfuerzosDeDiseno(v);
+  ArmaduraPorHipotesis(v);
   EnBlanco(1);
-  CalculoQueRige(e);
-  Resultado(e);
+  CalculoQueRige(v);
+  Resultado(v);
 }
 
-void ListadoNormal::EsfuerzosDeDiseno(const EstadoCalculo& e) {
-  const auto& c = e.corrida;
+void ListadoNormal::EsfuerzosDeDiseno(const VistaCaso& v) {
+  const auto& c = v.fila;
+  const auto& x = v.Armado().esfuerzos;
   EnBlanco(2);
   const std::array<std::pair<int, double>, 4> presiones{{{txt::DisenoDP, c.DP},
                                                          {txt::DisenoMDP, c.MDP},
@@ -296,33 +309,32 @@ void ListadoNormal::EsfuerzosDeDiseno(const EstadoCalculo& e) {
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]);
     for (int s = 1; s <= kSecciones; ++s) {
-      linea += Numero(e.caso.armado.esfuerzos.M(h, s), 10, 3, "mT->mkN") +
-               Numero(e.caso.armado.esfuerzos.N(h, s), 10, 3, "T->kN");
+      linea += Numero(x.M(h, s), 10, 3, "mT->mkN") + Numero(x.N(h, s), 10, 3, "T->kN");
     }
     Linea(7, linea);
   }
 }
 
-void ListadoNormal::ArmaduraPorHipotesis(const EstadoCalculo& e) {
+void ListadoNormal::ArmaduraPorHipotesis(const VistaCaso& v) {
   EnBlanco(2);
   for (const int n : txt::ArmaduraCabeza) Linea(19, Texto(n));
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     // The only warning that the first pass brings to paper.
-    for (const auto& aviso : e.caso.avisos) {
+    for (const auto& aviso : v.caso.avisos) {
       if (aviso.fase == FaseAviso::Busqueda && aviso.hipotesis == h &&
           aviso.clase == ClaseAviso::MomentoTope) {
         UnAviso(aviso);
       }
     }
     Linea(19, Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]) + Blancos(3) +
-                  Numero(e.caso.armado.TablaHip(h).Total, 6, 1));
+                  Numero(v.Armado().TablaHip(h).Total, 6, 1));
   }
 }
 
-void ListadoNormal::CalculoQueRige(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
-  const bool bloque = e.tramo.TipoCamisa == 0 && r.HipotesisRige > 1;
-  const std::span<const Aviso> avisos(e.caso.avisos);
+void ListadoNormal::CalculoQueRige(const VistaCaso& v) {
+  const auto& r = v.Armado();
+  const bool bloque = v.Datos().TipoCamisa == 0 && r.HipotesisRige > 1;
+  const std::span<const Aviso> avisos(v.caso.avisos);
   for (std::size_t i = 0; i < avisos.size(); ++i) {
     if (bloque && i == r.sinFisuracion.avisos) SinFisuracionBloque(r.sinFisuracion);
     if (avisos[i].fase == FaseAviso::Final) UnAviso(avisos[i]);
@@ -365,8 +377,8 @@ void ListadoNormal::UnAviso(const Aviso& aviso) {
   }
 }
 
-void ListadoNormal::Resultado(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
+void ListadoNormal::Resultado(const VistaCaso& v) {
+  const auto& r = v.Armado();
   if (r.IESP > 0) {
     papel_.Cuerpo(kCuerpoTitulo);
     EnNegrita(9, Texto(txt::EspesorInsuficientePapel));
@@ -383,7 +395,7 @@ void ListadoNormal::Resultado(const EstadoCalculo& e) {
     EnBlanco(1);
     area(txt::TotalArmadura, r.Total);
   }
-  if (e.tramo.TipoCamisa == 0) {
+  if (v.Datos().TipoCamisa == 0) {
     EnBlanco(2);
     EnNegrita(8, Texto(txt::Fisuracion));
     EnBlanco(1);

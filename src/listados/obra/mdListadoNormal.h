@@ -11,49 +11,53 @@ class ListadoNormal : public ListadoPapel {
   explicit ListadoNormal(const MediosPapel& medios, bool conCoefLame = false)
       : ListadoPapel(medios), conCoefLame_(conCoefLame) {}
 
-  void Cabecera(const EstadoCalculo& e) override;
-  void Caso(const EstadoCalculo& e) override;
-
  private:
   bool conCoefLame_;
 
+  void Caso(const VistaCaso& v) override;
+  void CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) override;
+
   // Page heads
-  void CabeceraPagina(const EstadoCalculo& e, bool miraCargas, bool conObra);
-  void PaginaNueva(const EstadoCalculo& e, bool miraCargas);
+  void NumeraPagina();
+  /// @param caso  null on a page of its height
+  void RotulaPagina(const zorbin::Tramo& t, double Hr, const FilaCaso* caso);
+  void PaginaDeAltura(const zorbin::Tramo& t, double Hr);
+  void PaginaDeCaso(const VistaCaso& v);
   void Titulo(int texto);
 
   // Heading of the Tramo
-  void Materiales(const EstadoCalculo& e);
-  void Tubo(const EstadoCalculo& e);
-  void Colocacion(const EstadoCalculo& e);
-  void Relleno(const EstadoCalculo& e);
-  void Hipotesis(const EstadoCalculo& e);
-  void TablaDeCargas(const EstadoCalculo& e);
-  std::string FilaDeCargas(const EstadoCalculo& e, const FilaCargas& fila) const;
+  void Cabecera(const ResultadoTramo& r);
+  void Materiales(const DatosTramo& d);
+  void Tubo(const zorbin::Tramo& t);
+  void Colocacion(const zorbin::Tramo& t);
+  void Relleno(const zorbin::Tramo& t);
+  void Hipotesis(const ResultadoTramo& r);
+  void TablaDeCargas(const ResultadoTramo& r);
+  std::string FilaDeCargas(bool si, double De, const FilaCargas& fila) const;
 
   // Ovalisation, at the first pressure of a height
-  void Ovalizacion(const EstadoCalculo& e);
-  void DatosOvalizacion(const EstadoCalculo& e);
-  void BloqueOvalizacion(const EstadoCalculo& e, int hipotesis);
+  void Ovalizacion(const VistaCaso& v);
+  void DatosOvalizacion(const VistaCaso& v);
+  void BloqueOvalizacion(const VistaCaso& v, int hipotesis);
 
   // Reinforced design
-  void DisenoArmado(const EstadoCalculo& e);
-  void EsfuerzosDeDiseno(const EstadoCalculo& e);
-  void ArmaduraPorHipotesis(const EstadoCalculo& e);
-  void CalculoQueRige(const EstadoCalculo& e);
+  void DisenoArmado(const VistaCaso& v);
+  void EsfuerzosDeDiseno(const VistaCaso& v);
+  void ArmaduraPorHipotesis(const VistaCaso& v);
+  void CalculoQueRige(const VistaCaso& v);
   void SinFisuracionBloque(const SinFisuracion& s);
-  void Resultado(const EstadoCalculo& e);
+  void Resultado(const VistaCaso& v);
   void UnAviso(const Aviso& aviso);
 
   // Post-tensioned design (mdListadoNormalPostesado.cpp)
-  void DatosPostesado(const EstadoCalculo& e);
-  void Postesado(const EstadoCalculo& e);
-  void CabeceraHipotesis(const EstadoCalculo& e, const Alambre& alambre, int hipotesis);
-  void AvisoPostesado(const EstadoCalculo& e, const Aviso& aviso);
-  void ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h);
-  void PerdidasYTensiones(const EstadoCalculo& e, const HipotesisPostesada& h);
-  void CoeficientesLame(const EstadoCalculo& e, const HipotesisPostesada& h);
-  void TablasDeTensiones(const EstadoCalculo& e, const HipotesisPostesada& h);
+  void DatosPostesado(const ResultadoTramo& resultado);
+  void Postesado(const VistaCaso& v);
+  void CabeceraHipotesis(const VistaCaso& v, const Alambre& alambre, int hipotesis);
+  void AvisoPostesado(const VistaCaso& v, const Aviso& aviso);
+  void ListadoHipotesis(const VistaCaso& v, const HipotesisPostesada& h);
+  void PerdidasYTensiones(const VistaCaso& v, const HipotesisPostesada& h);
+  void CoeficientesLame(const VistaCaso& v, const HipotesisPostesada& h);
+  void TablasDeTensiones(bool si, const HipotesisPostesada& h);
   void Encabezado(int texto, std::string_view detras = {});
 };
 

@@ -35,10 +35,10 @@ void ListadoNormal::Encabezado(int texto, std::string_view detras) {
   EnBlanco(1);
 }
 
-void ListadoNormal::DatosPostesado(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
-  const auto& r = e.caso.postesado.radios;
-  const auto& m = e.caso.postesado.materiales;
+void ListadoNormal::DatosPostesado(const ResultadoTramo& resultado) {
+  const auto& t = resultado.datos.tramo;
+  const auto& r = resultado.radios;
+  const auto& m = resultado.materiales;
   const auto dato = [this](int rotulo, const std::string& valor) {
     Linea(8, FormatoTexto(Texto(rotulo), 45) + Blancos(5) + valor);
   };
@@ -53,7 +53,7 @@ void ListadoNormal::DatosPostesado(const EstadoCalculo& e) {
   };
   const bool conChapa = t.PostFlag == 1;
 
-  PaginaNueva(e, true);
+  PaginaDeAltura(t, resultado.alturas.front().Hr);
   EnBlanco(3 + 1);
   Titulo(txt::CaracteristicasPostesado);
   longitud(txt::RadioInterior, r.RadioInt);
@@ -79,28 +79,27 @@ void ListadoNormal::DatosPostesado(const EstadoCalculo& e) {
   tension(txt::TensionTesado, t.Sf, 2);
 }
 
-void ListadoNormal::Postesado(const EstadoCalculo& e) {
+void ListadoNormal::Postesado(const VistaCaso& v) {
   const auto avisosDe = [&](int h) {
-    for (const auto& aviso : e.caso.avisos) {
-      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) AvisoPostesado(e, aviso);
+    for (const auto& aviso : v.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) AvisoPostesado(v, aviso);
     }
   };
   avisosDe(0);
-  for (const auto& h : e.caso.postesado.hipotesis.v) {
+  for (const auto& h : v.Postesado().hipotesis.v) {
     if (!h.hecha) break;
     avisosDe(h.h);
-    if (h.Impresa()) ListadoHipotesis(e, h);
+    if (h.Impresa()) ListadoHipotesis(v, h);
   }
 }
 
-void ListadoNormal::CabeceraHipotesis(const EstadoCalculo& e, const Alambre& alambre,
-                                      int hipotesis) {
+void ListadoNormal::CabeceraHipotesis(const VistaCaso& v, const Alambre& alambre, int hipotesis) {
   const auto presion = [this](double p) { return NumeroSolo(p, 7, 1, "at->MPa", true); };
   std::string stp = Texto(txt::DisenoSTP);
   stp.erase(stp.find('='), 1);
   papel_.Negrita(true);
-  Linea(8, Texto(txt::PresionNetaPrueba) + " " + presion(e.corrida.PP) + Blancos(5) +
-               std::string(Recorta(stp)) + ": " + presion(e.corrida.STP));
+  Linea(8, Texto(txt::PresionNetaPrueba) + " " + presion(v.Postesado().PP) + Blancos(5) +
+               std::string(Recorta(stp)) + ": " + presion(v.fila.STP));
   Linea(8, Texto(txt::DiametroAlambre) + " " + Numero(alambre.FIPR * 10.0, 10, 1) + " mm" +
                Blancos(6) + Texto(txt::EspirasPorMetro) + " " + Numero(alambre.NESP, 4, 0));
   if (hipotesis > 0) {
@@ -113,24 +112,24 @@ void ListadoNormal::CabeceraHipotesis(const EstadoCalculo& e, const Alambre& ala
   EnBlanco(1);
 }
 
-void ListadoNormal::AvisoPostesado(const EstadoCalculo& e, const Aviso& aviso) {
-  PaginaNueva(e, false);
-  CabeceraHipotesis(e, aviso.alambre, aviso.hipotesis);
+void ListadoNormal::AvisoPostesado(const VistaCaso& v, const Aviso& aviso) {
+  PaginaDeCaso(v);
+  CabeceraHipotesis(v, aviso.alambre, aviso.hipotesis);
   papel_.Cuerpo(kCuerpoAviso);
   EnNegrita(8, TextoAviso(aviso, textos_));
   papel_.Cuerpo(kCuerpoNormal);
 }
 
-void ListadoNormal::ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h) {
-  PaginaNueva(e, false);
-  CabeceraHipotesis(e, h, h.h);
-  PerdidasYTensiones(e, h);
-  if (conCoefLame_) CoeficientesLame(e, h);
+void ListadoNormal::ListadoHipotesis(const VistaCaso& v, const HipotesisPostesada& h) {
+  PaginaDeCaso(v);
+  CabeceraHipotesis(v, h, h.h);
+  PerdidasYTensiones(v, h);
+  if (conCoefLame_) CoeficientesLame(v, h);
   EnBlanco(1);
-  TablasDeTensiones(e, h);
+  TablasDeTensiones(v.tramo.datos.obra.EsSI(), h);
 }
 
-void ListadoNormal::PerdidasYTensiones(const EstadoCalculo& e, const HipotesisPostesada& h) {
+void ListadoNormal::PerdidasYTensiones(const VistaCaso& v, const HipotesisPostesada& h) {
   const auto tension = [this](int rotulo, int hueco, double valor) {
     Linea(8, Texto(rotulo) + Blancos(hueco) + Numero(valor, 10, 2, kTension, true));
   };
@@ -143,14 +142,14 @@ void ListadoNormal::PerdidasYTensiones(const EstadoCalculo& e, const HipotesisPo
   Encabezado(txt::TensionesIniciales);
   tension(txt::CaraInterior, 6, h.SigIniInt);
   tension(txt::CaraExterior, 6, h.SigIniExt);
-  tension(txt::LimiteZunchado, 41, -kLimiteZunchado * e.tramo.Fckno);
+  tension(txt::LimiteZunchado, 41, -kLimiteZunchado * v.Datos().Fckno);
   Encabezado(txt::TensionesFinales);
   tension(txt::LugaresTension[0], 33, h.SigPI);
   tension(txt::LugaresTension[1], 33, h.SigPE);
   tension(txt::LugaresTension[2], 28, h.SigRI);
   tension(txt::LugaresTension[3], 28, h.SigRE);
 
-  const bool si = e.obra.EsSI();
+  const bool si = v.tramo.datos.obra.EsSI();
   Encabezado(txt::EsfuerzosOvalizacion);
   Linea(33, Texto(txt::SeccionesAnchas));
   std::string momentos = "M " + FormatoTexto(UnidadMomento(si), 13);
@@ -163,9 +162,9 @@ void ListadoNormal::PerdidasYTensiones(const EstadoCalculo& e, const HipotesisPo
   Linea(8, axiles);
 }
 
-void ListadoNormal::CoeficientesLame(const EstadoCalculo& e, const HipotesisPostesada& h) {
-  const auto& m = e.caso.postesado.materiales;
-  const auto& r = e.caso.postesado.radios;
+void ListadoNormal::CoeficientesLame(const VistaCaso& v, const HipotesisPostesada& h) {
+  const auto& m = v.Postesado().materiales;
+  const auto& r = v.Postesado().radios;
   const auto coeficiente = [this](int rotulo, int hueco, double valor) {
     Linea(8, Texto(rotulo) + Blancos(hueco) + Numero(valor, 10, 3));
   };
@@ -173,8 +172,8 @@ void ListadoNormal::CoeficientesLame(const EstadoCalculo& e, const HipotesisPost
     Linea(8, Texto(rotulo[0]));
     coeficiente(rotulo[1], hueco, valor);
   };
-  PaginaNueva(e, false);
-  CabeceraHipotesis(e, h, h.h);
+  PaginaDeCaso(v);
+  CabeceraHipotesis(v, h, h.h);
   Encabezado(txt::CoeficientesEquivalencia);
   const std::array<double, 4> equivalencia{m.ni, m.n, m.n1, m.n2};
   for (std::size_t i = 0; i < equivalencia.size(); ++i) {
@@ -195,9 +194,9 @@ void ListadoNormal::CoeficientesLame(const EstadoCalculo& e, const HipotesisPost
   enDosLineas(txt::RadioRevestido, 2, chapa + r.RadioRev);
 }
 
-void ListadoNormal::TablasDeTensiones(const EstadoCalculo& e, const HipotesisPostesada& h) {
+void ListadoNormal::TablasDeTensiones(bool si, const HipotesisPostesada& h) {
   const auto numero = [this](double valor, int ancho) { return Numero(valor, ancho, 2, kTension); };
-  const std::string unidad = UnidadTension(e.obra.EsSI());
+  const std::string unidad = UnidadTension(si);
   const auto lugar = [this](std::size_t i) { return Texto(txt::LugaresTension[i]); };
 
   EnNegrita(14, Texto(txt::Tensiones) + "  " + FormatoTexto(unidad, 8));

@@ -17,7 +17,7 @@ constexpr int kTrasUnCaso = 60;   // sends the next Caso to a new page
 
 }  // namespace
 
-void ListadoPantalla::SaltoSiHaceFalta(const EstadoCalculo& e, int lineas) {
+void ListadoPantalla::SaltoSiHaceFalta(const VistaCaso& v, int lineas) {
   if (LineasPagina + lineas <= kLineasPagina) {
     LineasPagina += lineas;
     return;
@@ -25,13 +25,13 @@ void ListadoPantalla::SaltoSiHaceFalta(const EstadoCalculo& e, int lineas) {
   papel_.NuevaPagina();
   EnBlanco(2);
   // The label is the entry numbered by the pressure: a placeholder for most of them.
-  const int rotulo = textos_.IdiomaOffset() + static_cast<int>(std::nearbyint(e.corrida.DP));
-  Linea(9, RotuloCaso(e) + Blancos(7) + textos_.LoadRes(rotulo) +
-               Numero(e.corrida.DP, 6, 2, "at->MPa", true));
+  const int rotulo = textos_.IdiomaOffset() + static_cast<int>(std::nearbyint(v.fila.DP));
+  Linea(9, RotuloCaso(v.fila.NumCaso, v.Datos()) + Blancos(7) + textos_.LoadRes(rotulo) +
+               Numero(v.fila.DP, 6, 2, "at->MPa", true));
   LineasPagina = lineas;
 }
 
-void ListadoPantalla::Progreso(const EstadoCalculo& e) {
+void ListadoPantalla::CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP) {
   if (LineasPagina + kLineasCaso > kLineasPagina) {
     papel_.NuevaPagina();
     LineasPagina = kLineasCabeza;
@@ -39,52 +39,57 @@ void ListadoPantalla::Progreso(const EstadoCalculo& e) {
     LineasPagina += kLineasCabeza;
   }
   EnBlanco(3);
-  EnNegrita(9, RotuloCaso(e));
+  EnNegrita(9, RotuloCaso(NumCaso, t));
   const auto presion = [this](double p) { return NumeroSolo(p, 6, 1, "at->MPa", true); };
-  EnNegrita(31, Texto(txt::DP) + " " + presion(e.corrida.DP) + Blancos(6) + Texto(txt::MDP) + " " +
-                    presion(e.corrida.MDP));
+  EnNegrita(31,
+            Texto(txt::DP) + " " + presion(DP) + Blancos(6) + Texto(txt::MDP) + " " + presion(MDP));
 }
 
-void ListadoPantalla::Caso(const EstadoCalculo& e) {
-  if (e.tramo.EsArmado) {
-    for (const auto& aviso : e.caso.avisos) {
-      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(e, aviso);
+void ListadoPantalla::CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) {
+  CabezaCaso(resultado.datos.tramo, roto.numCaso, roto.DP, roto.MDP);
+}
+
+void ListadoPantalla::Caso(const VistaCaso& v) {
+  CabezaCaso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP);
+  if (v.Datos().EsArmado) {
+    for (const auto& aviso : v.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(v, aviso);
     }
-    DatosCaso(e);
-    TablaHipotesis(e);
-    Armadura(e);
+    DatosCaso(v);
+    TablaHipotesis(v);
+    Armadura(v);
   } else {
-    DatosCaso(e);
-    Postesado(e);
+    DatosCaso(v);
+    Postesado(v);
   }
   LineasPagina = kTrasUnCaso;
   papel_.Regla(18, 190, 3);
   EnBlanco(1);
 }
 
-void ListadoPantalla::Aviso(const EstadoCalculo& e, const zorbin::Aviso& aviso) {
+void ListadoPantalla::Aviso(const VistaCaso& v, const zorbin::Aviso& aviso) {
   const bool retraccion = aviso.clase == ClaseAviso::RetraccionLisas;
   const bool capas =
       aviso.clase == ClaseAviso::CapasInterior || aviso.clase == ClaseAviso::CapasExterior;
-  SaltoSiHaceFalta(e, retraccion ? 4 : capas ? 3 : 2);
+  SaltoSiHaceFalta(v, retraccion ? 4 : capas ? 3 : 2);
   EnBlanco(1);
   if (retraccion) {
     EnNegrita(9, Texto(txt::RetraccionPantalla));
     Linea(9, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
-  } else if (e.tramo.EsArmado) {
+  } else if (v.Datos().EsArmado) {
     EnNegrita(9, TextoAviso(aviso, textos_));
   } else {
     EnNegrita(9, "** " + TextoAviso(aviso, textos_) + " **");
   }
 }
 
-void ListadoPantalla::DatosCaso(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoPantalla::DatosCaso(const VistaCaso& v) {
+  const auto& t = v.Datos();
   const auto texto = [this](int n, int ancho) { return FormatoTexto(Texto(n), ancho); };
   const auto milimetros = [this](int rotulo, double metros) {
     return Texto(rotulo) + Numero(metros * 1000.0, 5, 0) + " " + Texto(txt::Milimetros);
   };
-  SaltoSiHaceFalta(e, 5);
+  SaltoSiHaceFalta(v, 5);
   Linea(9, Texto(txt::Tipo) + texto(t.EsArmado ? txt::HormigonArmado : txt::HormigonPostesado, 19) +
                Blancos(3) + milimetros(txt::DiametroInterior, t.Di));
   Linea(17, FormatoTexto(TextoDeCamisa(t.Tipologia, textos_), 16) + Blancos(6) +
@@ -93,67 +98,69 @@ void ListadoPantalla::DatosCaso(const EstadoCalculo& e) {
   Linea(39, milimetros(txt::RecubExterior, t.Rece));
   Linea(4, Texto(txt::Cuna) + FormatoTexto(TextoDeCuna(t.TipoCuna, textos_), 13) +
                Texto(txt::Colocacion) + FormatoTexto(TextoDeColocacion(t.TipoApoyo, textos_), 41));
-  Linea(4, Texto(txt::AlturaDelRelleno) + Numero(e.corrida.Hr, 7, 2) + " m");
-  Linea(4, Texto(txt::PresionInterior) + Numero(e.corrida.DP, 7, 2, "at->MPa", true));
+  Linea(4, Texto(txt::AlturaDelRelleno) + Numero(v.fila.Hr, 7, 2) + " m");
+  Linea(4, Texto(txt::PresionInterior) + Numero(v.fila.DP, 7, 2, "at->MPa", true));
   Linea(4, Texto(txt::CargaConcentrada) + FormatoTexto(TextoDeCarga(t.ICar, textos_), 21));
-  SaltoSiHaceFalta(e, 10);
+  SaltoSiHaceFalta(v, 10);
 }
 
-void ListadoPantalla::TablaHipotesis(const EstadoCalculo& e) {
+void ListadoPantalla::TablaHipotesis(const VistaCaso& v) {
+  const auto& x = v.Armado().esfuerzos;
   Linea(42, Texto(txt::PantallaSecciones));
   Linea(18 + 4 + 17, Texto(txt::PantallaMN));
-  Linea(11, Texto(e.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  Linea(11, Texto(v.tramo.datos.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
   const std::string seccion = "  " + std::string(18, '-');
   Linea(6, std::string(26, '-') + seccion + seccion + seccion);
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = FormatoTexto(TextoDeHipotesis(h, textos_), 26);
     for (int s = 1; s <= kSecciones; ++s) {
-      linea += Numero(e.caso.armado.esfuerzos.M(h, s), 10, 3, "mT->mkN") +
-               Numero(e.caso.armado.esfuerzos.N(h, s), 10, 3, "T->kN");
+      linea += Numero(x.M(h, s), 10, 3, "mT->mkN") + Numero(x.N(h, s), 10, 3, "T->kN");
     }
     Linea(4, linea);
   }
 }
 
-void ListadoPantalla::Armadura(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
+void ListadoPantalla::Armadura(const VistaCaso& v) {
+  const auto& r = v.Armado();
   if (r.IESP > 0) {
-    SaltoSiHaceFalta(e, 2);
+    SaltoSiHaceFalta(v, 2);
     EnNegrita(9, Texto(txt::EspesorInsuficientePantalla));
     return;
   }
-  const auto resistencia = [this](double v) { return Numero(v, 7, 2, "Kp/cm2->MPa", true); };
-  Linea(19, Texto(txt::FckResumen) + resistencia(e.tramo.Fck) + Texto(txt::FydResumen) +
-                resistencia(e.tramo.Fyd));
-  const auto area = [this](int rotulo, double v) {
-    Linea(14, Texto(rotulo) + "  " + Numero(v, 10, 2) + Texto(txt::Cm2PorM));
+  const auto resistencia = [this](double f) { return Numero(f, 7, 2, "Kp/cm2->MPa", true); };
+  Linea(19, Texto(txt::FckResumen) + resistencia(v.Datos().Fck) + Texto(txt::FydResumen) +
+                resistencia(v.Datos().Fyd));
+  const auto area = [this](int rotulo, double as) {
+    Linea(14, Texto(rotulo) + "  " + Numero(as, 10, 2) + Texto(txt::Cm2PorM));
   };
   area(txt::ArmaduraInterior, r.AsInt);
   area(txt::ArmaduraExterior, r.AsExt);
   area(txt::TotalArmadura, r.Total);
 }
 
-void ListadoPantalla::Postesado(const EstadoCalculo& e) {
+void ListadoPantalla::Postesado(const VistaCaso& v) {
   const auto avisosDe = [&](int h) {
-    for (const auto& aviso : e.caso.avisos) {
-      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) Aviso(e, aviso);
+    for (const auto& aviso : v.caso.avisos) {
+      if (aviso.fase == FaseAviso::Final && aviso.hipotesis == h) Aviso(v, aviso);
     }
   };
   avisosDe(0);
-  for (const auto& h : e.caso.postesado.hipotesis.v) {
+  for (const auto& h : v.Postesado().hipotesis.v) {
     if (!h.hecha) break;
     avisosDe(h.h);
     if (!h.Impresa()) continue;
-    if (h.h == 1) CabezaPostesado(e);
+    if (h.h == 1) CabezaPostesado(v.tramo.datos.obra.EsSI());
     FilaHipotesis(h);
   }
-  if (e.caso.postesado.fin == FinPostesado::Completo) ListadoAlambre(e);
+  if (v.Postesado().fin != FinPostesado::Completo) return;
+  SaltoSiHaceFalta(v, 6);
+  ListadoAlambre(v.Postesado());
 }
 
-void ListadoPantalla::CabezaPostesado(const EstadoCalculo& e) {
+void ListadoPantalla::CabezaPostesado(bool si) {
   Linea(47, Texto(txt::PantallaSecciones));
   Linea(23 + 4 + 17, Texto(txt::PantallaMN));
-  Linea(16, Texto(e.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  Linea(16, Texto(si ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
   const std::string seccion = "  " + std::string(18, '-');
   Linea(11, std::string(26, '-') + seccion + seccion + seccion);
 }
@@ -168,14 +175,11 @@ void ListadoPantalla::FilaHipotesis(const HipotesisPostesada& h) {
   Linea(11, linea);
 }
 
-void ListadoPantalla::ListadoAlambre(const EstadoCalculo& e) {
-  const auto& r = e.caso.postesado;
-  SaltoSiHaceFalta(e, 6);
+void ListadoPantalla::ListadoAlambre(const ResultadoPostesado& r) {
   EnBlanco(1);
   Linea(14, Texto(txt::ResumenDiametro) + Blancos(5) + Numero(r.FIPRDEFI * 10.0, 5, 1) + "  mm");
   Linea(14, Texto(txt::ResumenEspiras) + Blancos(5) + Numero(r.NESPDEFI, 5, 0));
-  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) +
-                Numero(e.corrida.PP, 7, 2, "Kp/cm2->MPa", true));
+  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) + Numero(r.PP, 7, 2, "Kp/cm2->MPa", true));
 }
 
 }  // namespace zorbin

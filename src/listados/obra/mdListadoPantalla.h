@@ -9,24 +9,23 @@ class ListadoPantalla : public ListadoPapel {
  public:
   using ListadoPapel::ListadoPapel;
 
-  void Progreso(const EstadoCalculo& e) override;
-  void Caso(const EstadoCalculo& e) override;
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    LineasPagina += Cierre(e, fallo);
-  }
-
  private:
   int LineasPagina = 0;  // lines used on the page, of 72
 
-  void SaltoSiHaceFalta(const EstadoCalculo& e, int lineas);
-  void Aviso(const EstadoCalculo& e, const zorbin::Aviso& aviso);
-  void DatosCaso(const EstadoCalculo& e);
-  void TablaHipotesis(const EstadoCalculo& e);
-  void Armadura(const EstadoCalculo& e);
-  void Postesado(const EstadoCalculo& e);
-  void CabezaPostesado(const EstadoCalculo& e);
+  void Caso(const VistaCaso& v) override;
+  void CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) override;
+  void Ocupa(int lineas) override { LineasPagina += lineas; }
+
+  void CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP);
+  void SaltoSiHaceFalta(const VistaCaso& v, int lineas);
+  void Aviso(const VistaCaso& v, const zorbin::Aviso& aviso);
+  void DatosCaso(const VistaCaso& v);
+  void TablaHipotesis(const VistaCaso& v);
+  void Armadura(const VistaCaso& v);
+  void Postesado(const VistaCaso& v);
+  void CabezaPostesado(bool si);
   void FilaHipotesis(const HipotesisPostesada& h);
-  void ListadoAlambre(const EstadoCalculo& e);
+  void ListadoAlambre(const ResultadoPostesado& r);
 };
 
 }  // namespace zorbin

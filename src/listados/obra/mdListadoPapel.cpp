@@ -44,6 +44,14 @@ Fecha Ahora() {
   return {dia.data(), hora.data()};
 }
 
+bool ListadoPapel::Tramo(const ResultadoTramo& resultado, int /*posicion*/,
+                         const std::string& numero, const SigueListado& sigue) {
+  if (!RecorreCasos(resultado, sigue, [this](const VistaCaso& v) { Caso(v); })) return false;
+  if (const auto* roto = CasoRoto(resultado)) CasoSinAcabar(resultado, *roto);
+  Ocupa(Cierre(resultado, numero));
+  return true;
+}
+
 std::string ListadoPapel::NumeroSolo(double valor, int ancho, int decimales,
                                      std::string_view conversion, bool conUnidad) const {
   return std::string(Recorta(Numero(valor, ancho, decimales, conversion, conUnidad)));
@@ -74,13 +82,15 @@ int ListadoPapel::BloqueObra(const Obra& obra) {
   return lineas;
 }
 
-int ListadoPapel::Cierre(const EstadoCalculo& e, const ErrorCorrida* fallo) {
+// @return lines printed
+int ListadoPapel::Cierre(const ResultadoTramo& resultado, const std::string& numero) {
+  const auto& datos = resultado.datos;
   int lineas = 0;
-  if (fallo != nullptr) {
-    lineas += Advierte(TextoFallo(*fallo, std::string(Recorta(e.tramo.DescriTramo)), numeroEnLista_,
-                                  textos_, estilo_));
+  if (resultado.fallo) {
+    const std::string descripcion(Recorta(datos.tramo.DescriTramo));
+    lineas += Advierte(TextoFallo(*resultado.fallo, descripcion, numero, textos_, estilo_));
   }
-  if (e.corrida.SinAjustes && e.tramo.EsArmado) lineas += Advierte(Texto(txt::AjustesSinLeer));
+  if (datos.SinAjustes && datos.tramo.EsArmado) lineas += Advierte(Texto(txt::AjustesSinLeer));
   return lineas;
 }
 
@@ -98,9 +108,9 @@ int ListadoPapel::Advierte(const std::string& texto) {
   return lineas;
 }
 
-std::string ListadoPapel::RotuloCaso(const EstadoCalculo& e) const {
-  return Texto(txt::CasoNumero) + ": " + TextoEntero(e.corrida.NumCaso) + "/" +
-         FormatoEntero(e.tramo.NumeroTramo, 4) + " : " + FormatoTexto(e.tramo.DescriTramo, 40);
+std::string ListadoPapel::RotuloCaso(int NumCaso, const zorbin::Tramo& t) const {
+  return Texto(txt::CasoNumero) + ": " + TextoEntero(NumCaso) + "/" +
+         FormatoEntero(t.NumeroTramo, 4) + " : " + FormatoTexto(t.DescriTramo, 40);
 }
 
 std::string ListadoPapel::TextoTipologia(std::int16_t Tipologia) const {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "base/mdCatalogo.h"
-#include "listados/obra/mdFlujo.h"
+#include "listados/obra/mdListado.h"
 #include "listados/papel/mdFormato.h"
 #include "listados/papel/mdPapel.h"
 
@@ -31,7 +31,7 @@ struct MediosPapel {
 inline constexpr int kLineasPagina = 72;   // of a portrait page
 inline constexpr int kLineasTabular = 50;  // of a landscape page
 
-class ListadoPapel : public OyenteObra {
+class ListadoPapel : public Listado {
  public:
   explicit ListadoPapel(const MediosPapel& medios)
       : papel_(medios.papel),
@@ -39,20 +39,23 @@ class ListadoPapel : public OyenteObra {
         estilo_(medios.estilo),
         fecha_(medios.fecha) {}
 
-  void EmpiezaTramo(const EstadoCalculo&, int, const std::string& numero) override {
-    numeroEnLista_ = numero;
-  }
-  /// Says where and why a Tramo broke off, and that its hand adjustments could not be read: nobody
-  /// takes the pages before it for the whole.
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override { Cierre(e, fallo); }
+  /// Behind its Casos a Tramo says where and why it broke off, and that its hand adjustments could
+  /// not be read: nobody takes the pages before it for the whole.
+  bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
+             const SigueListado& sigue) final;
 
  protected:
+  virtual void Caso(const VistaCaso& v) = 0;
+  /// A Caso had begun when the run broke off; its pressures stand, and no more.
+  virtual void CasoSinAcabar(const ResultadoTramo&, const FalloCorrida&) {}
+  /// The end of the Tramo took some lines of the page.
+  virtual void Ocupa(int) {}
+
   Papel& papel_;
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   Fecha fecha_;
-  std::string numeroEnLista_;  // of the Tramo in hand
-  int Pagina = 0;              // 0 before the first page
+  int Pagina = 0;  // 0 before the first page
 
   const std::string& Texto(int n) const { return textos_.Texto(n); }
   std::string Numero(double valor, int ancho, int decimales, std::string_view conversion = {},
@@ -70,17 +73,15 @@ class ListadoPapel : public OyenteObra {
   /// Obra, client, date and time, with the rule under them. @return lines of the description
   int BloqueObra(const Obra& obra);
 
-  /// What AcabaTramo says. @return lines printed
-  int Cierre(const EstadoCalculo& e, const ErrorCorrida* fallo);
-
   /// "CASO NUMERO: n/Tramo : description".
-  std::string RotuloCaso(const EstadoCalculo& e) const;
+  std::string RotuloCaso(int NumCaso, const zorbin::Tramo& t) const;
 
   std::string TextoTipologia(std::int16_t Tipologia) const;
   std::string TextoCuna(std::int16_t TipoCuna) const;  // value of the run
   std::string TextoColocacionCabecera(std::int16_t TipoApoyo) const;
 
  private:
+  int Cierre(const ResultadoTramo& resultado, const std::string& numero);
   int Advierte(const std::string& texto);
 };
 

@@ -39,35 +39,34 @@ std::string ValorRelleno(std::int16_t TipoRelleno) {
 
 }  // namespace
 
-void ListadoTabular::CabeceraPagina(const EstadoCalculo& e) {
+void ListadoTabular::CabeceraPagina(const Obra& obra) {
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(4, Blancos(12 + 64) + Texto(txt::PagTabular) + ":" + FormatoEntero(Pagina, 5));
   papel_.Cuerpo(kCuerpoNormal);
-  const int masLineas = BloqueObra(e.obra) - 1;  // the head counts one of the description
+  const int masLineas = BloqueObra(obra) - 1;  // the head counts one of the description
   LineasResto = std::max(kLineasFilas, kLineasTabular - kCabezaPagina - masLineas);
 }
 
-void ListadoTabular::PaginaNueva(const EstadoCalculo& e) {
+void ListadoTabular::PaginaNueva(const Obra& obra) {
   ++Pagina;
   papel_.NuevaPagina();
-  CabeceraPagina(e);
+  CabeceraPagina(obra);
 }
 
-void ListadoTabular::Cabecera(const EstadoCalculo& e) {
+void ListadoTabular::Cabecera(const DatosTramo& d) {
   HrAnterior = -1;
-  const int bloque = e.tramo.EsArmado ? kBloqueArmado : kBloquePostesado;
+  const int bloque = d.tramo.EsArmado ? kBloqueArmado : kBloquePostesado;
   if (Pagina == 0) {
     Pagina = 1;
-    CabeceraPagina(e);
+    CabeceraPagina(d.obra);
   } else if (LineasResto < bloque + 1) {
-    PaginaNueva(e);
+    PaginaNueva(d.obra);
   }
-  FilaTramo(e);
-  if (e.tramo.EsArmado) ResumenTabular(e);
+  FilaTramo(d.tramo);
+  if (d.tramo.EsArmado) ResumenTabular(d.obra.EsSI());
 }
 
-void ListadoTabular::FilaTramo(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
   const auto milimetros = [this](double metros) { return Numero(metros * 1000.0, 7, 0); };
   EnNegrita(5, Texto(txt::TipoDeTubo) + FormatoTexto(TextoTipologia(t.Tipologia), 53));
   EnBlanco(1);
@@ -86,82 +85,84 @@ void ListadoTabular::FilaTramo(const EstadoCalculo& e) {
   LineasResto -= kFilaTramo;
 }
 
-void ListadoTabular::ResumenTabular(const EstadoCalculo& e) {
+void ListadoTabular::ResumenTabular(bool si) {
   for (const int n : txt::ResumenTabular) Linea(5, Texto(n));
-  Linea(5, Texto(e.obra.EsSI() ? txt::ResumenTabularSI : txt::ResumenTabularMKS));
+  Linea(5, Texto(si ? txt::ResumenTabularSI : txt::ResumenTabularMKS));
   Linea(5, Texto(txt::ResumenTabularRaya));
   LineasResto -= kCabezaTabla;
 }
 
-void ListadoTabular::Caso(const EstadoCalculo& e) {
-  if (!e.tramo.EsArmado && e.corrida.PrimerCaso) {
-    DatosPostesado(e);
-    CabeceraTabularPostesado(e);
+void ListadoTabular::CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida&) {
+  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado.datos);
+}
+
+void ListadoTabular::Caso(const VistaCaso& v) {
+  const bool armado = v.Datos().EsArmado;
+  const Obra& obra = v.tramo.datos.obra;
+  if (v.primero) {
+    Cabecera(v.tramo.datos);
+    if (!armado) {
+      DatosPostesado(v);
+      CabeceraTabularPostesado(obra.EsSI());
+    }
   }
   --LineasResto;
   if (LineasResto <= 0) {
-    PaginaNueva(e);
-    if (e.tramo.EsArmado) {
-      ResumenTabular(e);
-    } else {
-      CabeceraTabularPostesado(e);
-    }
+    PaginaNueva(obra);
+    armado ? ResumenTabular(obra.EsSI()) : CabeceraTabularPostesado(obra.EsSI());
   }
-  if (e.tramo.EsArmado) {
-    FilaArmado(e);
-  } else {
-    FilaTabular(e);
-  }
+  armado ? FilaArmado(v) : FilaTabular(v);
+  if (v.cierraAltura) FinAltura();
 }
 
-void ListadoTabular::DatosPostesado(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
-  const auto tension = [this](double v, int decimales = 0) {
-    return Numero(v, 10, decimales, "Kp/cm2->MPa");
+void ListadoTabular::DatosPostesado(const VistaCaso& v) {
+  const auto& t = v.Datos();
+  const auto tension = [this](double f, int decimales = 0) {
+    return Numero(f, 10, decimales, "Kp/cm2->MPa");
   };
   papel_.Negrita(true);
   for (const int n : txt::DatosTabular) Linea(5 + 7, Texto(n));
-  Linea(5 + 7, Texto(e.obra.EsSI() ? txt::DatosTabularSI : txt::DatosTabularMKS));
+  Linea(5 + 7, Texto(v.tramo.datos.obra.EsSI() ? txt::DatosTabularSI : txt::DatosTabularMKS));
   Linea(5 + 7, std::string(96, '-'));
   papel_.Negrita(false);
   const bool revestida = t.Tipologia == 2221 || t.Tipologia == 2222;
   Linea(9, tension(t.Fckno) + " " + tension(t.Fckn) + tension(t.Fckr) + " " +
-               tension(e.caso.postesado.materiales.Fctr, 2) + Blancos(3) + tension(t.Ep) + " " +
+               tension(v.Postesado().materiales.Fctr, 2) + Blancos(3) + tension(t.Ep) + " " +
                tension(t.SFck) + Blancos(2) + tension(t.Sf) + Numero(t.Delca * 10.0, 9, 2) +
                Blancos(2) + FormatoTexto(Texto(revestida ? txt::Revestida : txt::Embebida), 10));
   EnBlanco(1);
   LineasResto -= kDatosPostesado;
 }
 
-void ListadoTabular::CabeceraTabularPostesado(const EstadoCalculo& e) {
+void ListadoTabular::CabeceraTabularPostesado(bool si) {
   papel_.Negrita(true);
   for (const int n : txt::CabeceraPostesado) Linea(32, Texto(n));
-  Linea(32, Texto(e.obra.EsSI() ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
+  Linea(32, Texto(si ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
   Linea(32, Texto(txt::CabeceraPostesadoRaya));
   papel_.Negrita(false);
   LineasResto -= kCabezaPostesado;
 }
 
 // The Caso as it stood before the verification.
-void ListadoTabular::FilaTabular(const EstadoCalculo& e) {
-  const auto& f = e.caso.postesado.fila;
-  const std::string altura = CampoAltura(e);
+void ListadoTabular::FilaTabular(const VistaCaso& v) {
+  const auto& f = v.Postesado().fila;
+  const std::string altura = CampoAltura(v.fila.Hr);
   const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
-  Linea(32, altura + Blancos(3) + Numero(e.corrida.DP, 6, 2, "at->MPa") + Blancos(5) +
+  Linea(32, altura + Blancos(3) + Numero(v.fila.DP, 6, 2, "at->MPa") + Blancos(5) +
                 Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) + Blancos(8) +
                 Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
 }
 
-std::string ListadoTabular::CampoAltura(const EstadoCalculo& e) {
-  if (e.corrida.Hr == HrAnterior) return Blancos(6);
-  HrAnterior = e.corrida.Hr;
-  return Numero(e.corrida.Hr, 6, 2);
+std::string ListadoTabular::CampoAltura(double Hr) {
+  if (Hr == HrAnterior) return Blancos(6);
+  HrAnterior = Hr;
+  return Numero(Hr, 6, 2);
 }
 
-void ListadoTabular::FilaArmado(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
-  const std::string altura = CampoAltura(e) + Blancos(2);
-  const double DP = e.corrida.DP;
+void ListadoTabular::FilaArmado(const VistaCaso& v) {
+  const auto& r = v.Armado();
+  const std::string altura = CampoAltura(v.fila.Hr) + Blancos(2);
+  const double DP = v.fila.DP;
   if (r.ajuste) {
     const auto& a = *r.ajuste;
     Linea(5, altura + Numero(DP, 6, 2, "at->MPa") + Blancos(5) + Numero(a.Camisa, 6, 1) +
@@ -176,7 +177,7 @@ void ListadoTabular::FilaArmado(const EstadoCalculo& e) {
                Numero(r.Total, 6, 1));
 }
 
-void ListadoTabular::FinAltura(const EstadoCalculo&) {
+void ListadoTabular::FinAltura() {
   if (LineasResto < 2) return;
   EnBlanco(2);
   LineasResto -= 2;

@@ -9,26 +9,25 @@ class ListadoTabular : public ListadoPapel {
  public:
   using ListadoPapel::ListadoPapel;
 
-  void Cabecera(const EstadoCalculo& e) override;
-  void Caso(const EstadoCalculo& e) override;
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override {
-    LineasResto -= Cierre(e, fallo);
-  }
-  void FinAltura(const EstadoCalculo& e) override;
-
  private:
   int LineasResto = 0;     // lines left on the page
-  double HrAnterior = -1;  // height of the row before; a run shows each height once [m]
+  double HrAnterior = -1;  // height of the row before; a Tramo shows each height once [m]
 
-  void CabeceraPagina(const EstadoCalculo& e);
-  void PaginaNueva(const EstadoCalculo& e);
-  void FilaTramo(const EstadoCalculo& e);
-  void ResumenTabular(const EstadoCalculo& e);
-  std::string CampoAltura(const EstadoCalculo& e);
-  void FilaArmado(const EstadoCalculo& e);
-  void DatosPostesado(const EstadoCalculo& e);
-  void CabeceraTabularPostesado(const EstadoCalculo& e);
-  void FilaTabular(const EstadoCalculo& e);
+  void Caso(const VistaCaso& v) override;
+  void CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) override;
+  void Ocupa(int lineas) override { LineasResto -= lineas; }
+
+  void Cabecera(const DatosTramo& d);
+  void CabeceraPagina(const Obra& obra);
+  void PaginaNueva(const Obra& obra);
+  void FilaTramo(const zorbin::Tramo& t);
+  void ResumenTabular(bool si);
+  std::string CampoAltura(double Hr);
+  void FilaArmado(const VistaCaso& v);
+  void DatosPostesado(const VistaCaso& v);
+  void CabeceraTabularPostesado(bool si);
+  void FilaTabular(const VistaCaso& v);
+  void FinAltura();
 };
 
 }  // namespace zorbin

@@ -7,32 +7,38 @@
 
 namespace zorbin {
 
-void Resumen::Progreso(const EstadoCalculo& e) {
-  const auto& c = e.corrida;
-  if (c.PrimerCaso && c.SinAjustes && e.tramo.EsArmado) {
+bool Resumen::Tramo(const ResultadoTramo& resultado, int /*posicion*/,
+                    const std::string& /*numero*/, const SigueListado& sigue) {
+  const auto& datos = resultado.datos;
+  const auto* roto = CasoRoto(resultado);
+  const bool hayCasos = roto != nullptr || !resultado.filas.empty();
+  if (hayCasos && datos.SinAjustes && datos.tramo.EsArmado) {
     pantalla_.EscribePantalla(0, "** " + textos_.Texto(txt::AjustesSinLeer) + " **", 2);
   }
+  if (!RecorreCasos(resultado, sigue, [this](const VistaCaso& v) { Caso(v); })) return false;
+  if (roto != nullptr) Progreso(datos.tramo, roto->numCaso, roto->DP, roto->MDP);
+  return true;
+}
+
+void Resumen::Progreso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP) {
   const auto presion = [this](double p) {
     return std::string(Recorta(estilo_.FormatoNumero(p, 6, 1, "at->MPa", true)));
   };
-  Linea("  " + textos_.Texto(txt::CalculandoElCaso) + " : " + TextoEntero(c.NumCaso) + "/" +
-        FormatoEntero(e.tramo.NumeroTramo, 4) + "  " + textos_.Texto(txt::DP) + " " +
-        presion(c.DP) + Blancos(6) + textos_.Texto(txt::MDP) + " " + presion(c.MDP));
+  Linea("  " + textos_.Texto(txt::CalculandoElCaso) + " : " + TextoEntero(NumCaso) + "/" +
+        FormatoEntero(t.NumeroTramo, 4) + "  " + textos_.Texto(txt::DP) + " " + presion(DP) +
+        Blancos(6) + textos_.Texto(txt::MDP) + " " + presion(MDP));
 }
 
-void Resumen::Caso(const EstadoCalculo& e) {
-  if (e.tramo.EsArmado) Avisos(e);
-  ListaCasoArmado(e);
-  if (e.tramo.EsArmado) {
-    Armadura(e);
-  } else {
-    Postesado(e);
-  }
+void Resumen::Caso(const VistaCaso& v) {
+  Progreso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP);
+  if (v.Datos().EsArmado) Avisos(v);
+  ListaCasoArmado(v);
+  v.Datos().EsArmado ? Armadura(v) : Postesado(v);
   pantalla_.EscribePantalla(0, std::string(70, '='), 2);
 }
 
-void Resumen::Avisos(const EstadoCalculo& e) {
-  for (const auto& aviso : e.caso.avisos) {
+void Resumen::Avisos(const VistaCaso& v) {
+  for (const auto& aviso : v.caso.avisos) {
     if (!aviso.pantalla) continue;
     switch (aviso.clase) {
       case ClaseAviso::RetraccionLisas:
@@ -54,8 +60,8 @@ std::string Resumen::DatoEnMm(int rotulo, double metros, int decimales) const {
          textos_.Texto(txt::Milimetros);
 }
 
-void Resumen::ListaCasoArmado(const EstadoCalculo& e) {
-  const auto& t = e.tramo;
+void Resumen::ListaCasoArmado(const VistaCaso& v) {
+  const auto& t = v.Datos();
   const auto texto = [this](int n, int ancho) { return FormatoTexto(textos_.Texto(n), ancho); };
   const int material = t.EsArmado ? txt::HormigonArmado : txt::HormigonPostesado;
   Linea("  " + textos_.Texto(txt::Tipo) + texto(material, 19) + Blancos(3) +
@@ -70,20 +76,20 @@ void Resumen::ListaCasoArmado(const EstadoCalculo& e) {
                                 textos_.Texto(txt::Colocacion) +
                                 FormatoTexto(TextoDeColocacion(t.TipoApoyo, textos_), 41),
                             1);
-  Linea(textos_.Texto(txt::AlturaDelRelleno) + estilo_.FormatoNumero(e.corrida.Hr, 7, 2) + " m");
+  Linea(textos_.Texto(txt::AlturaDelRelleno) + estilo_.FormatoNumero(v.fila.Hr, 7, 2) + " m");
   Linea(textos_.Texto(txt::PresionInterior) +
-        estilo_.FormatoNumero(e.corrida.DP, 7, 2, "at->MPa", true));
+        estilo_.FormatoNumero(v.fila.DP, 7, 2, "at->MPa", true));
   Linea(textos_.Texto(txt::CargaConcentrada) + FormatoTexto(TextoDeCarga(t.ICar, textos_), 21));
-  if (t.EsArmado) TablaHipotesis(e);
+  if (t.EsArmado) TablaHipotesis(v);
 }
 
-void Resumen::TablaHipotesis(const EstadoCalculo& e) {
+void Resumen::TablaHipotesis(const VistaCaso& v) {
   const std::string raya = " " + std::string(17, '-');
   pantalla_.EscribePantalla(1, textos_.Texto(txt::Hipotesis), 1);
   Linea(textos_.Texto(txt::CabezaSecciones));
   Linea(textos_.Texto(txt::CabezaMN));
   Linea(raya + raya + raya);
-  const auto& x = e.caso.armado.esfuerzos;
+  const auto& x = v.Armado().esfuerzos;
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea;
     for (int s = 1; s <= kSecciones; ++s) {
@@ -94,19 +100,19 @@ void Resumen::TablaHipotesis(const EstadoCalculo& e) {
   }
 }
 
-void Resumen::Armadura(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
+void Resumen::Armadura(const VistaCaso& v) {
+  const auto& r = v.Armado();
   if (r.IESP > 0) {
     Linea("  " + textos_.Texto(txt::EspesorInsuficientePantalla));
     return;
   }
-  const auto resistencia = [this](double v) {
-    return estilo_.FormatoNumero(v, 7, 2, "Kp/cm2->MPa", true);
+  const auto resistencia = [this](double f) {
+    return estilo_.FormatoNumero(f, 7, 2, "Kp/cm2->MPa", true);
   };
-  Linea(Blancos(19) + textos_.Texto(txt::FckResumen) + resistencia(e.tramo.Fck) +
-        textos_.Texto(txt::FydResumen) + resistencia(e.tramo.Fyd));
-  const auto area = [this](int rotulo, double v) {
-    Linea(Blancos(14) + textos_.Texto(rotulo) + "  " + estilo_.FormatoNumero(v, 10, 2) +
+  Linea(Blancos(19) + textos_.Texto(txt::FckResumen) + resistencia(v.Datos().Fck) +
+        textos_.Texto(txt::FydResumen) + resistencia(v.Datos().Fyd));
+  const auto area = [this](int rotulo, double as) {
+    Linea(Blancos(14) + textos_.Texto(rotulo) + "  " + estilo_.FormatoNumero(as, 10, 2) +
           textos_.Texto(txt::Cm2PorM));
   };
   area(txt::ArmaduraInterior, r.AsInt);
@@ -114,29 +120,29 @@ void Resumen::Armadura(const EstadoCalculo& e) {
   area(txt::TotalArmadura, r.Total);
 }
 
-void Resumen::Postesado(const EstadoCalculo& e) {
+void Resumen::Postesado(const VistaCaso& v) {
   const auto avisosDe = [&](int h) {
-    for (const auto& aviso : e.caso.avisos) {
+    for (const auto& aviso : v.caso.avisos) {
       if (aviso.fase != FaseAviso::Final || aviso.hipotesis != h) continue;
       pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
     }
   };
   avisosDe(0);
-  for (const auto& h : e.caso.postesado.hipotesis.v) {
+  for (const auto& h : v.Postesado().hipotesis.v) {
     if (!h.hecha) break;
     avisosDe(h.h);
-    if (h.Impresa()) ListadoHipotesis(e, h);
+    if (h.Impresa()) ListadoHipotesis(v.tramo.datos.obra.EsSI(), h);
   }
-  if (e.caso.postesado.fin == FinPostesado::Completo) ListadoAlambre(e);
+  if (v.Postesado().fin == FinPostesado::Completo) ListadoAlambre(v.Postesado());
 }
 
-void Resumen::ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h) {
+void Resumen::ListadoHipotesis(bool si, const HipotesisPostesada& h) {
   const std::string raya = " " + std::string(17, '-');
   const int nombre = txt::HipotesisPostesado[static_cast<std::size_t>(h.h - 1)];
   pantalla_.EscribePantalla(1, textos_.Texto(txt::Hipotesis) + textos_.Texto(nombre), 1);
   Linea(textos_.Texto(txt::CabezaSecciones));
   Linea(textos_.Texto(txt::CabezaMN));
-  Linea(textos_.Texto(e.obra.EsSI() ? txt::ResumenUnidadesSI : txt::ResumenUnidadesMKS));
+  Linea(textos_.Texto(si ? txt::ResumenUnidadesSI : txt::ResumenUnidadesMKS));
   Linea(raya + raya + raya);
   std::string linea;
   for (int s = 1; s <= kSecciones; ++s) {
@@ -146,14 +152,13 @@ void Resumen::ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada&
   Linea(linea);
 }
 
-void Resumen::ListadoAlambre(const EstadoCalculo& e) {
-  const auto& r = e.caso.postesado;
+void Resumen::ListadoAlambre(const ResultadoPostesado& r) {
   Linea(Blancos(14) + textos_.Texto(txt::ResumenDiametro) +
         estilo_.FormatoNumero(r.FIPRDEFI * 10.0, 5, 1) + "  " + textos_.Texto(txt::Milimetros));
   Linea(Blancos(14) + textos_.Texto(txt::ResumenEspiras) + estilo_.FormatoNumero(r.NESPDEFI, 5, 0));
   pantalla_.EscribePantalla(1,
                             Blancos(14) + textos_.Texto(txt::PresionNetaPrueba) + Blancos(5) +
-                                estilo_.FormatoNumero(e.corrida.PP, 7, 2, "Kp/cm2->MPa", true),
+                                estilo_.FormatoNumero(r.PP, 7, 2, "Kp/cm2->MPa", true),
                             1);
 }
 

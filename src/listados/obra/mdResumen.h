@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/mdCatalogo.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "listados/obra/mdListado.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/papel/mdFormato.h"
 
@@ -10,13 +10,13 @@ namespace zorbin {
 
 /// Writes a block for each Caso: progress line, warnings, data, moments and axial forces of the
 /// hypotheses, reinforcement.
-class Resumen : public OyenteCorrida {
+class Resumen : public Listado {
  public:
   Resumen(Pantalla& pantalla, const Catalogo& textos, EstiloNumeros estilo)
       : pantalla_(pantalla), textos_(textos), estilo_(estilo) {}
 
-  void Progreso(const EstadoCalculo& e) override;
-  void Caso(const EstadoCalculo& e) override;
+  bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
+             const SigueListado& sigue) override;
 
  private:
   Pantalla& pantalla_;
@@ -24,13 +24,15 @@ class Resumen : public OyenteCorrida {
   EstiloNumeros estilo_;
 
   void Linea(std::string_view texto) { pantalla_.EscribePantalla(0, texto, 1); }
-  void Avisos(const EstadoCalculo& e);
-  void ListaCasoArmado(const EstadoCalculo& e);
-  void TablaHipotesis(const EstadoCalculo& e);
-  void Armadura(const EstadoCalculo& e);
-  void Postesado(const EstadoCalculo& e);
-  void ListadoHipotesis(const EstadoCalculo& e, const HipotesisPostesada& h);
-  void ListadoAlambre(const EstadoCalculo& e);
+  void Progreso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP);
+  void Caso(const VistaCaso& v);
+  void Avisos(const VistaCaso& v);
+  void ListaCasoArmado(const VistaCaso& v);
+  void TablaHipotesis(const VistaCaso& v);
+  void Armadura(const VistaCaso& v);
+  void Postesado(const VistaCaso& v);
+  void ListadoHipotesis(bool si, const HipotesisPostesada& h);
+  void ListadoAlambre(const ResultadoPostesado& r);
   std::string DatoEnMm(int rotulo, double metros, int decimales) const;
 };
 

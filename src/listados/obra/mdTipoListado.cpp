@@ -6,7 +6,7 @@
 
 namespace zorbin {
 
-std::unique_ptr<OyenteObra> CreaListado(TipoListado tipo, const MediosPapel& medios) {
+std::unique_ptr<Listado> CreaListado(TipoListado tipo, const MediosPapel& medios) {
   switch (tipo) {
     case TipoListado::Tabular:
       return std::make_unique<ListadoTabular>(medios);

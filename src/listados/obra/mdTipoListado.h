@@ -17,6 +17,6 @@ constexpr Orientacion OrientacionDe(TipoListado tipo) {
 }
 
 /// A listing that writes one document from its first page on.
-std::unique_ptr<OyenteObra> CreaListado(TipoListado tipo, const MediosPapel& medios);
+std::unique_ptr<Listado> CreaListado(TipoListado tipo, const MediosPapel& medios);
 
 }  // namespace zorbin

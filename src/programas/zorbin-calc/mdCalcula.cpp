@@ -1,20 +1,19 @@
 #include "programas/zorbin-calc/mdCalcula.h"
 
 #include <algorithm>
-#include <array>
-#include <iostream>
+#include <map>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/datos/mdJson.h"
-#include "listados/obra/mdFlujo.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/obra/mdResumen.h"
 #include "listados/obra/mdTipoListado.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdSalidaPdf.h"
@@ -25,19 +24,10 @@ namespace zorbin {
 
 namespace {
 
-// Writes the summary of an Obra.
-class SalidaResumen : public OyenteObra {
- public:
-  SalidaResumen(std::ostream& flujo, const Catalogo& textos, EstiloNumeros estilo)
-      : pantalla_(flujo), resumen_(pantalla_, textos, estilo) {}
-  void EmpiezaTramo(const EstadoCalculo&, int, const std::string&) override {}
-  void AcabaTramo(const EstadoCalculo&, const ErrorCorrida*) override {}
-  void Progreso(const EstadoCalculo& e) override { resumen_.Progreso(e); }
-  void Caso(const EstadoCalculo& e) override { resumen_.Caso(e); }
-
- private:
-  Pantalla pantalla_;
-  Resumen resumen_;
+// What is calculated: an Obra, and the Tramos of it that were asked for.
+struct Encargo {
+  Obra obra;
+  std::vector<TramoPedido> tramos;
 };
 
 // Whether an output would be written over the project or its adjustments.
@@ -51,10 +41,6 @@ TipoListado TipoDeLinea(const std::string& listado) {
   if (listado == "tabular") return TipoListado::Tabular;
   if (listado == "pantalla") return TipoListado::Pantalla;
   return listado == "lame" ? TipoListado::Lame : TipoListado::Normal;
-}
-
-EstiloNumeros Estilo(const EstadoCalculo& e, const OpcionesCalcula& opciones) {
-  return {e.obra.EsSI(), SeparadorDeLinea(opciones.separador)};
 }
 
 // What is wrong with options that do not go together, or nothing.
@@ -75,60 +61,63 @@ std::string NoVanJuntas(const OpcionesCalcula& o, const Catalogo& textos) {
   return "";
 }
 
-std::size_t CuentaTramos(const ListaTramos& lista) {
-  return static_cast<std::size_t>(
-      std::count_if(lista.begin(), lista.end(), [](const auto& n) { return !n.empty(); }));
-}
-
-// Completes Obra and Tramos of a request by the rules of their capture, and leaves out the Tramos
-// that they refuse; it is told on standard error.
-void Comprueba(const OpcionesCalcula& opciones, const ObraEnFichero& obra, Catalogo& textos,
-               EstadoCalculo& e, PeticionCalculo& peticion) {
-  const auto& posiciones = peticion.posiciones;
-  auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
-                           {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
+// Completes Obra and Tramos by the rules of their capture, and leaves out the Tramos that they
+// refuse; it is told on standard error.
+void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const Catalogo& textos,
+               const std::vector<int>& posiciones, Encargo& encargo) {
+  const auto lista = BuscaFaltas(proyecto, opciones.tablas,
+                                 {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
   for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos));
   for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
-  for (std::size_t i = 0; i < obra.lista.size(); ++i) {
-    const int posicion = static_cast<int>(i) + 1;
-    const bool pedida = posiciones.empty() ? !obra.lista[i].empty()
-                                           : std::find(posiciones.begin(), posiciones.end(),
-                                                       posicion) != posiciones.end();
-    if (pedida && !lista.Vale(posicion)) peticion.omitidas.push_back(posicion);
+  PonComprobada(encargo.obra, lista.obra);
+  std::erase_if(encargo.tramos, [&](const TramoPedido& p) { return !lista.Vale(p.posicion); });
+  for (auto& p : encargo.tramos) {
+    const auto NumeroTramo = p.tramo.NumeroTramo;
+    p.tramo = lista.tramos.at(p.posicion);
+    p.tramo.NumeroTramo = NumeroTramo;
   }
-  PonComprobada(e.obra, lista.obra);
-  peticion.comprobados = std::move(lista.tramos);
 }
 
-// Calculates the Tramos of a request for one reader, and watches over them.
+// Runs a Tramo with its debug log; one that cannot be opened is a failure of the run.
+ResultadoTramo CorreTramo(DatosTramo datos, const std::filesystem::path& registros,
+                          const SigueCorrida& sigue) {
+  const Rango rango = RangoDe(datos);
+  try {
+    FicheroLog log(registros);
+    return CalculaTramo(datos, rango, sigue, &log.registro());
+  } catch (const ErrorEjecucion& error) {
+    ResultadoTramo sinCorrer;
+    sinCorrer.datos = std::move(datos);
+    sinCorrer.rango = rango;
+    sinCorrer.fallo = {error};
+    return sinCorrer;
+  }
+}
+
+// Calculates what was asked for and hands each Tramo to one reader.
 class Calculador {
  public:
-  Calculador(EstadoCalculo& e, const ObraEnFichero& obra, const OpcionesCalcula& opciones,
-             const PeticionCalculo& peticion, const Catalogo& textos)
-      : e_(e),
-        obra_(obra),
+  Calculador(const Proyecto& proyecto, const Encargo& encargo, const OpcionesCalcula& opciones,
+             const Catalogo& textos)
+      : proyecto_(proyecto),
+        encargo_(encargo),
         opciones_(opciones),
-        peticion_(peticion),
         textos_(textos),
-        estilo_(Estilo(e, opciones)) {}
+        estilo_{proyecto.obra.EsSI(), SeparadorDeLinea(opciones.separador)} {}
 
   int Resultados() {
     Salida salida(opciones_.salida);
-    if (opciones_.formato == "json") {
-      ListadoJson json(salida.flujo(), opciones_.obra.string(), textos_, estilo_);
-      json.EmpiezaObra(e_);
-      Corre(json);
-      json.AcabaObra();
-    } else {
-      SalidaResumen resumen(salida.flujo(), textos_, estilo_);
-      Corre(resumen);
-    }
+    opciones_.formato == "json" ? EscribeJson(salida.flujo()) : EscribeResumen(salida.flujo());
     salida.Cierra();
     return Codigo();
   }
 
-  int Listado() {
-    if (!opciones_.pdf.empty()) return ListadoPdf();
+  int EnPaginas() {
+    if (!opciones_.pdf.empty()) {
+      EscribePdf(opciones_.pdf, encargo_.obra.NombreObra, textos_,
+                 [this](DestinoHojas& hojas) { Imprime(hojas); });
+      return Codigo();
+    }
     Salida salida(opciones_.texto.empty() ? opciones_.salida : opciones_.texto);
     HojasTexto hojas(salida.flujo());
     Imprime(hojas);
@@ -137,33 +126,47 @@ class Calculador {
   }
 
  private:
-  EstadoCalculo& e_;
-  const ObraEnFichero& obra_;
+  const Proyecto& proyecto_;
+  const Encargo& encargo_;
   const OpcionesCalcula& opciones_;
-  const PeticionCalculo& peticion_;
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   bool hayFallo_ = false;
 
   int Codigo() const { return hayFallo_ ? kFalloDeCorrida : kHecho; }
 
-  void Corre(OyenteObra& lector) {
-    Vigia vigia(lector, opciones_.obra.string(), textos_, estilo_);
-    CalculaObra(e_, obra_, peticion_, vigia);
+  void Lee(Listado& lector) {
+    const auto registros = opciones_.registros.empty() ? CarpetaRegistros() : opciones_.registros;
+    Vigia vigia(opciones_.obra.string(), textos_, estilo_);
+    for (const auto& p : encargo_.tramos) {
+      const auto resultado = CorreTramo(
+          DatosDeCalculo(encargo_.obra, p.tramo, proyecto_.ajustes, proyecto_.SinAjustes),
+          registros, vigia.Progreso(p.tramo.NumeroTramo));
+      vigia.Acaba(resultado, p.numero);
+      lector.Tramo(resultado, p.posicion, p.numero, {});
+    }
     hayFallo_ = vigia.hayFallo();
   }
 
-  int ListadoPdf() {
-    EscribePdf(opciones_.pdf, e_.obra.NombreObra, textos_,
-               [this](DestinoHojas& hojas) { Imprime(hojas); });
-    return Codigo();
+  void EscribeJson(std::ostream& flujo) {
+    std::map<int, Tramo> capturados;
+    for (const auto& p : encargo_.tramos) capturados[p.posicion] = p.tramo;
+    ListadoJson json(flujo, opciones_.obra.string(), capturados, textos_, estilo_);
+    json.EmpiezaObra(encargo_.obra);
+    Lee(json);
+    json.AcabaObra();
+  }
+
+  void EscribeResumen(std::ostream& flujo) {
+    Pantalla pantalla(flujo);
+    Resumen resumen(pantalla, textos_, estilo_);
+    Lee(resumen);
   }
 
   void Imprime(DestinoHojas& hojas) {
     const TipoListado tipo = TipoDeLinea(opciones_.listado);
     Papel papel(hojas, OrientacionDe(tipo));
-    const auto listado = CreaListado(tipo, {papel, textos_, estilo_, FechaPedida()});
-    Corre(*listado);
+    Lee(*CreaListado(tipo, {papel, textos_, estilo_, FechaPedida()}));
     papel.FinDocumento();
   }
 
@@ -175,36 +178,46 @@ class Calculador {
   }
 };
 
+void PonIdioma(const Proyecto& proyecto, const OpcionesCalcula& opciones, Catalogo& textos) {
+  const std::int16_t pedido = IdiomaDeLinea(opciones.idioma);
+  const std::int16_t idioma = pedido != 0 ? pedido : proyecto.obra.Idioma;
+  if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
+}
+
+// What is wrong with the words, or nothing.
+std::string PalabrasQueNoSirven(const OpcionesCalcula& opciones, const Catalogo& textos) {
+  if (auto queja = NoVanJuntas(opciones, textos); !queja.empty()) return queja;
+  for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto}) {
+    if (PisaLaObra(salida, opciones.obra)) {
+      return textos.Compone(txt::SalidaSobreLaObra, {salida.string()});
+    }
+  }
+  return "";
+}
+
 }  // namespace
 
 int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
-  if (const auto queja = NoVanJuntas(opciones, textos); !queja.empty()) {
+  if (const auto queja = PalabrasQueNoSirven(opciones, textos); !queja.empty()) {
     Queja(queja);
     return kPalabrasMalas;
   }
-  for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto}) {
-    if (!PisaLaObra(salida, opciones.obra)) continue;
-    Queja(textos.Compone(txt::SalidaSobreLaObra, {salida.string()}));
-    return kPalabrasMalas;
-  }
-  EstadoCalculo e;
-  const ObraEnFichero obra = AbreObra(e, opciones.obra);
-  const std::int16_t pedido = IdiomaDeLinea(opciones.idioma);
-  const std::int16_t idioma = pedido != 0 ? pedido : e.obra.Idioma;
-  if (textos.PonIdioma(idioma) != idioma) Queja(textos.Texto(txt::IdiomaSinInstalar));
-  for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
-  if (e.corrida.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));
-  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
+  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  PonIdioma(proyecto, opciones, textos);
+  for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
+  if (proyecto.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));
+  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos);
   if (!posiciones) return kPalabrasMalas;
-  PeticionCalculo peticion{
-      *posiciones, opciones.registros.empty() ? CarpetaRegistros() : opciones.registros, {}, {}};
-  if (!opciones.sinValidar) Comprueba(opciones, obra, textos, e, peticion);
-  const auto total = posiciones->empty() ? CuentaTramos(obra.lista) : posiciones->size();
-  if (total > 0 && peticion.omitidas.size() == total) return kFicheroRechazado;
-  Calculador calculador(e, obra, opciones, peticion, textos);
-  const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.Listado();
-  const bool algoRechazado = !peticion.omitidas.empty() || e.corrida.SinAjustes;
-  return codigo == kHecho && algoRechazado ? kFicheroRechazado : codigo;
+
+  Encargo encargo{proyecto.obra, TramosPedidos(proyecto, *posiciones)};
+  const auto pedidos = encargo.tramos.size();
+  if (!opciones.sinValidar) Comprueba(proyecto, opciones, textos, *posiciones, encargo);
+  const bool faltan = encargo.tramos.size() < pedidos;
+  if (faltan && encargo.tramos.empty()) return kFicheroRechazado;
+
+  Calculador calculador(proyecto, encargo, opciones, textos);
+  const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.EnPaginas();
+  return codigo == kHecho && (faltan || proyecto.SinAjustes) ? kFicheroRechazado : codigo;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

@@ -7,9 +7,9 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "listados/obra/mdFlujo.h"
 #include "listados/papel/mdFormato.h"
 #include "persistencia/dpe/mdDpe.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdVigia.h"
@@ -30,17 +30,16 @@ struct Ajustado {
 };
 
 // Those of the Tramos asked for, by Tramo, height and pressure.
-std::vector<Ajustado> Elegidos(const EstadoCalculo& e, const ListaTramos& lista,
-                               const std::vector<int>& tramos) {
+std::vector<Ajustado> Elegidos(const Proyecto& proyecto, const std::vector<int>& tramos) {
   std::vector<Ajustado> elegidos;
   int entrada = 0;
-  for (const auto& x : e.corrida.ajustes) {
+  for (const auto& x : proyecto.ajustes) {
     ++entrada;
     const int tramo = static_cast<int>(std::lround(x.Tramo));
     const bool pedido =
         tramos.empty() || std::find(tramos.begin(), tramos.end(), tramo) != tramos.end();
     if (x.Libre() || !pedido) continue;
-    elegidos.push_back({entrada, tramo, PosicionDe(lista, tramo) != 0, x});
+    elegidos.push_back({entrada, tramo, PosicionDe(proyecto.lista, tramo) != 0, x});
   }
   std::stable_sort(elegidos.begin(), elegidos.end(), [](const Ajustado& a, const Ajustado& b) {
     return std::tie(a.tramo, a.caso.Hr, a.caso.DP) < std::tie(b.tramo, b.caso.Hr, b.caso.DP);
@@ -88,18 +87,18 @@ std::string EnJson(const std::vector<Ajustado>& ajustados, const std::filesystem
 }  // namespace
 
 int Ajustados(const OpcionesListaAjustes& opciones, Catalogo& textos) try {
-  EstadoCalculo e;
-  const ObraEnFichero obra = AbreObra(e, opciones.obra);
-  textos.PonIdioma(e.obra.Idioma);
-  for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
-  if (e.corrida.SinAjustes) return kFicheroRechazado;
-  if (!BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos)) return kPalabrasMalas;
-  const auto ajustados = Elegidos(e, obra.lista, opciones.tramos);
+  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  const Obra& obra = proyecto.obra;
+  textos.PonIdioma(obra.Idioma);
+  for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
+  if (proyecto.SinAjustes) return kFicheroRechazado;
+  if (!BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos)) return kPalabrasMalas;
+  const auto ajustados = Elegidos(proyecto, opciones.tramos);
   Salida salida({});
   salida.flujo() << (opciones.formato == "json"
-                         ? EnJson(ajustados, opciones.obra, e.obra)
+                         ? EnJson(ajustados, opciones.obra, obra)
                          : EnTexto(ajustados, opciones.obra.string(), textos,
-                                   {e.obra.EsSI(), SeparadorDeLinea(opciones.separador)}));
+                                   {obra.EsSI(), SeparadorDeLinea(opciones.separador)}));
   salida.Cierra();
   return kHecho;
 } catch (const ErrorFichero& error) {

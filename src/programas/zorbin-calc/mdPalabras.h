@@ -1,4 +1,4 @@
-// The words of the command line: languages, separators, exit codes.
+// What the words of the command line stand for, and its exit codes.
 #pragma once
 
 #include <array>

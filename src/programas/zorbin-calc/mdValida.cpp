@@ -6,7 +6,6 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "listados/obra/mdFlujo.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdVigia.h"
@@ -47,22 +46,21 @@ std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos
                         {pregunta.numero, ConTitulo(pregunta.titulo, pregunta.texto)});
 }
 
-ListaFaltas BuscaFaltas(const std::filesystem::path& obra, const std::filesystem::path& tablas,
-                        const PeticionValida& peticion, Catalogo& textos) {
+ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& tablas,
+                        const PeticionValida& peticion, const Catalogo& textos) {
   const TablasCatalogo dimensiones =
       LeeTablas(tablas.empty() ? CarpetaRecursos() / "tablas" : tablas);
   Catalogo deLaObra = textos;
-  return ValidaObraEnFichero(obra, deLaObra, dimensiones, peticion);
+  return ValidaProyecto(proyecto, deLaObra, dimensiones, peticion);
 }
 
 int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
-  EstadoCalculo e;
-  const ObraEnFichero obra = AbreObra(e, opciones.obra);
-  textos.PonIdioma(e.obra.Idioma);
-  for (const auto& aviso : obra.avisos) Queja(textos.Compone(aviso));
-  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, obra.lista, textos);
+  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  textos.PonIdioma(proyecto.obra.Idioma);
+  for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
+  const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos);
   if (!posiciones) return kPalabrasMalas;
-  const auto lista = BuscaFaltas(opciones.obra, opciones.tablas,
+  const auto lista = BuscaFaltas(proyecto, opciones.tablas,
                                  {*posiciones, SeparadorDeLinea(opciones.separador)}, textos);
   for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
   Salida salida({});
@@ -71,7 +69,7 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
     salida.flujo() << textos.Compone(txt::ObraSinFaltas, {opciones.obra.string()}) << '\n';
   }
   salida.Cierra();
-  return lista.Vale() && !e.corrida.SinAjustes ? kHecho : kFicheroRechazado;
+  return lista.Vale() && !proyecto.SinAjustes ? kHecho : kFicheroRechazado;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

@@ -22,9 +22,10 @@ struct OpcionesValida {
 int Valida(const OpcionesValida& opciones, Catalogo& textos);
 
 /// Faults of the chosen Tramos, told in the language of the Obra; the catalogue keeps its own.
-/// @throws ErrorFichero
-ListaFaltas BuscaFaltas(const std::filesystem::path& obra, const std::filesystem::path& tablas,
-                        const PeticionValida& peticion, Catalogo& textos);
+/// @param tablas  folder; empty for the program's
+/// @throws ErrorFichero for tables that cannot be read
+ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& tablas,
+                        const PeticionValida& peticion, const Catalogo& textos);
 
 /// A fault, and a question with its answer, in one line.
 std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos);

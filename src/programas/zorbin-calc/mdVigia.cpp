@@ -7,6 +7,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "programas/zorbin-calc/mdTerminal.h"
 
 namespace zorbin {
@@ -40,12 +41,10 @@ std::optional<std::vector<int>> BuscaTramos(const std::vector<int>& numeros,
   return posiciones;
 }
 
-Vigia::Vigia(OyenteObra& lector, std::string fichero, const Catalogo& textos, EstiloNumeros estilo)
-    : lector_(lector),
-      fichero_(std::move(fichero)),
+Vigia::Vigia(std::string fichero, const Catalogo& textos, EstiloNumeros estilo)
+    : fichero_(std::move(fichero)),
       textos_(textos),
       estilo_(estilo),
-      terminal_(isatty(STDERR_FILENO) != 0),
       siguiente_(Reloj::now() + kPaciencia) {}
 
 Vigia::~Vigia() {
@@ -57,38 +56,32 @@ void Vigia::BorraProgreso() {
   hayProgreso_ = false;
 }
 
-void Vigia::EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) {
-  tramo_ = numero;
-  lector_.EmpiezaTramo(e, posicion, numero);
+void Vigia::MuestraProgreso(int NumeroTramo, int caso) {
+  if (Reloj::now() < siguiente_) return;
+  std::cerr << '\r'
+            << textos_.Compone(txt::Calculando, {TextoEntero(NumeroTramo), TextoEntero(caso)})
+            << "\033[K" << std::flush;
+  hayProgreso_ = true;
+  siguiente_ = Reloj::now() + kRefresco;
 }
 
-void Vigia::Progreso(const EstadoCalculo& e) {
-  if (terminal_ && Reloj::now() >= siguiente_) {
-    std::cerr << '\r'
-              << textos_.Compone(txt::Calculando, {TextoEntero(e.tramo.NumeroTramo),
-                                                   TextoEntero(e.corrida.CuentaCasos)})
-              << "\033[K" << std::flush;
-    hayProgreso_ = true;
-    siguiente_ = Reloj::now() + kRefresco;
-  }
-  lector_.Progreso(e);
+SigueCorrida Vigia::Progreso(int NumeroTramo) {
+  if (isatty(STDERR_FILENO) == 0) return {};
+  return [this, NumeroTramo](const AvanceCorrida& avance) {
+    MuestraProgreso(NumeroTramo, avance.caso);
+    return true;
+  };
 }
 
-void Vigia::FinCorrida(const EstadoCalculo& e) {
-  if (e.corrida.CuentaCasos == 0) {
-    BorraProgreso();
-    Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, tramo_}));
-  }
-  lector_.FinCorrida(e);
-}
-
-void Vigia::AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) {
-  if (fallo != nullptr) {
+void Vigia::Acaba(const ResultadoTramo& resultado, const std::string& numero) {
+  if (resultado.fallo) {
     hayFallo_ = true;
     BorraProgreso();
-    Queja(TextoFallo(*fallo, fichero_, tramo_, textos_, estilo_));
+    Queja(TextoFallo(*resultado.fallo, fichero_, numero, textos_, estilo_));
+  } else if (resultado.filas.empty()) {
+    BorraProgreso();
+    Queja(textos_.Compone(txt::TramoSinCasos, {fichero_, numero}));
   }
-  lector_.AcabaTramo(e, fallo);
 }
 
 }  // namespace zorbin

@@ -8,8 +8,9 @@
 #include <vector>
 
 #include "base/mdCatalogo.h"
-#include "listados/obra/mdFlujo.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/papel/mdFormato.h"
+#include "persistencia/zrb/mdZrb.h"
 
 namespace zorbin {
 
@@ -22,36 +23,33 @@ std::optional<std::vector<int>> BuscaTramos(const std::vector<int>& numeros,
                                             const std::filesystem::path& obra,
                                             const ListaTramos& lista, const Catalogo& textos);
 
-/// Tells failures on standard error, and progress where a run takes over a second and standard
-/// error is a terminal; hands everything on to the reader.
-class Vigia : public OyenteObra {
+/// Tells what goes wrong with the runs of an Obra on standard error, and how far they have come
+/// where they take over a second and standard error is a terminal.
+class Vigia {
  public:
-  Vigia(OyenteObra& lector, std::string fichero, const Catalogo& textos, EstiloNumeros estilo);
-  ~Vigia() override;
+  Vigia(std::string fichero, const Catalogo& textos, EstiloNumeros estilo);
+  ~Vigia();
+  Vigia(const Vigia&) = delete;
+  Vigia& operator=(const Vigia&) = delete;
+
+  /// What the run of a Tramo is to ask before each Caso; it never ends it.
+  SigueCorrida Progreso(int NumeroTramo);
+  /// A run ended. `numero` is the text of the Tramo in the list.
+  void Acaba(const ResultadoTramo& resultado, const std::string& numero);
 
   bool hayFallo() const { return hayFallo_; }
-
-  void EmpiezaTramo(const EstadoCalculo& e, int posicion, const std::string& numero) override;
-  void Progreso(const EstadoCalculo& e) override;
-  void Cabecera(const EstadoCalculo& e) override { lector_.Cabecera(e); }
-  void Caso(const EstadoCalculo& e) override { lector_.Caso(e); }
-  void FinAltura(const EstadoCalculo& e) override { lector_.FinAltura(e); }
-  void FinCorrida(const EstadoCalculo& e) override;
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) override;
 
  private:
   using Reloj = std::chrono::steady_clock;
 
-  OyenteObra& lector_;
   std::string fichero_;
-  std::string tramo_;  // number of the one in hand
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   bool hayFallo_ = false;
-  bool terminal_;
   bool hayProgreso_ = false;
   Reloj::time_point siguiente_;
 
+  void MuestraProgreso(int NumeroTramo, int caso);
   void BorraProgreso();
 };
 

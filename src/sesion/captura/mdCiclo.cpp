@@ -390,7 +390,11 @@ int PosicionDelTramo(const Captura& c, int numero) {
 }
 
 void LeeTramo(Captura& c, int posicion) {
-  CargaTramo(c.e, *c.fichero, posicion);
+  LeeTramo(c, *c.fichero, posicion);
+}
+
+void LeeTramo(Captura& c, const FicheroRegistros& f, int posicion) {
+  CargaTramo(c.e, f, posicion);
   c.AjustesPorBorrar = false;
   PonNumero(c, NumeroDe(c.lista[static_cast<std::size_t>(posicion - 1)]));
   MuestraTramo(c);

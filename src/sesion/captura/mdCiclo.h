@@ -46,6 +46,8 @@ bool EligeTramo(Captura& c);
 
 /// Reads the Tramo at a position, from 1, into state and screen. @throws ErrorFichero
 void LeeTramo(Captura& c, int posicion);
+/// The same from a file that the capture does not hold.
+void LeeTramo(Captura& c, const FicheroRegistros& f, int posicion);
 /// Position of a number in the list, from 1; 0 when it is not there.
 int PosicionDelTramo(const Captura& c, int numero);
 

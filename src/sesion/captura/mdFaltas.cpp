@@ -39,15 +39,6 @@ void Anota(ListaFaltas& lista, const Captura& c, SinPersona& voz, int posicion,
                           c.falta->valor, c.falta->titulo, c.falta->mensaje});
 }
 
-std::vector<int> Posiciones(const Captura& c, const PeticionValida& peticion) {
-  if (!peticion.posiciones.empty()) return peticion.posiciones;
-  std::vector<int> todas;
-  for (int i = 1; i <= static_cast<int>(c.lista.size()); ++i) {
-    if (!c.lista[static_cast<std::size_t>(i - 1)].empty()) todas.push_back(i);
-  }
-  return todas;
-}
-
 }  // namespace
 
 bool ListaFaltas::Vale(int posicion) const {
@@ -60,21 +51,22 @@ void PonComprobada(Obra& obra, const Obra& comprobada) {
   RecorreNumeros<Obra>([&](const Ficha&, double Obra::*campo) { obra.*campo = comprobada.*campo; });
 }
 
-ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& textos,
-                                const TablasCatalogo& tablas, const PeticionValida& peticion) {
+ListaFaltas ValidaProyecto(const Proyecto& proyecto, Catalogo& textos, const TablasCatalogo& tablas,
+                           const PeticionValida& peticion) {
   ListaFaltas lista;
   EstadoCalculo e;
   SinPersona voz;
   Captura c(e, textos, tablas, voz, peticion.separador);
-  c.fichero.emplace(ruta, FicheroRegistros::Modo::Lectura);
-  c.lista = CargaObra(e, *c.fichero).lista;
+  e.obra = proyecto.obra;
+  c.lista = proyecto.lista;
   PreparaPantalla(c);
   LimpiaCaptura(c, 0);
   MuestraObra(c);
   if (!ValidaObra(c)) Anota(lista, c, voz, 0, {});
   lista.obra = e.obra;
-  for (const int posicion : Posiciones(c, peticion)) {
-    LeeTramo(c, posicion);
+  const auto& pedidas = peticion.posiciones;
+  for (const int posicion : pedidas.empty() ? PosicionesDe(c.lista) : pedidas) {
+    LeeTramo(c, proyecto.fichero, posicion);
     c.falta.reset();
     const bool vale = ValidaTramo(c, false);
     if (vale) lista.tramos[posicion] = e.tramo;

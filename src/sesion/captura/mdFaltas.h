@@ -1,12 +1,12 @@
-// Validation of a stored Obra without a screen: the same rules on the same model, filled from the
-// file instead of by a person.
+// Validation of a stored Obra without a screen: the same rules on the same model, filled from what
+// was read instead of by a person.
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <string>
 #include <vector>
 
+#include "persistencia/proyecto/mdProyecto.h"
 #include "sesion/captura/mdCaptura.h"
 
 namespace zorbin {
@@ -48,10 +48,9 @@ struct PeticionValida {
 /// Pressures and heights of a validated Obra in another state of the same Obra.
 void PonComprobada(Obra& obra, const Obra& comprobada);
 
-/// Validates Obra and Tramos of a file, each to its first fault and then on to the next Tramo, in
-/// the manner of a batch. The file is only read; the catalogue takes the language of the Obra.
-/// @throws ErrorFichero for a file that cannot be read
-ListaFaltas ValidaObraEnFichero(const std::filesystem::path& ruta, Catalogo& textos,
-                                const TablasCatalogo& tablas, const PeticionValida& peticion);
+/// Validates Obra and Tramos of a project, each to its first fault and then on to the next Tramo,
+/// in the manner of a batch. The catalogue takes the language of the Obra.
+ListaFaltas ValidaProyecto(const Proyecto& proyecto, Catalogo& textos, const TablasCatalogo& tablas,
+                           const PeticionValida& peticion);
 
 }  // namespace zorbin

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <nlohmann/json.hpp>
+
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
 #include "core/mdAjustes.h"

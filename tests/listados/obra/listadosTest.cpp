@@ -4,10 +4,13 @@
 
 #include <sstream>
 
+#include "base/mdCarpetas.h"
 #include "base/mdTextos.h"
 #include "comun/comparaFichero.h"
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
+#include "listados/obra/mdTipoListado.h"
+#include "listados/papel/mdHojasTexto.h"
 #include "listados/papel/mdPapel.h"
 
 namespace zorbin {
@@ -217,6 +220,25 @@ TEST(ListadoPantalla, TramosFallidosYSaltoDentroDeUnCaso) {
   EXPECT_EQ(Compara("pantalla-fallos.txt", ListadoDe(tramos, "pantalla")), "");
   for (const char* clase : {"normal", "tabular"}) {
     EXPECT_NE(ListadoDe({fallido}, clase).find("División por cero"), std::string::npos) << clase;
+  }
+}
+
+// Whoever is asked before the second Caso says no: nothing of it is on the pages.
+TEST(Listados, SeCancelanEntreCasoYCaso) {
+  const auto resultado = pruebas::ResultadoDe(Tramo(1, 2));
+  ASSERT_GT(resultado.filas.size(), 2u);
+  const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+  for (int i = 0; i < kTiposListado; ++i) {
+    const auto tipo = static_cast<TipoListado>(i);
+    std::ostringstream salida;
+    HojasTexto hojas(salida);
+    Papel papel(hojas, OrientacionDe(tipo));
+    int preguntas = 0;
+    const auto listado = CreaListado(tipo, {papel, textos, {true, ','}, {}});
+    EXPECT_FALSE(listado->Tramo(resultado, 1, "1", [&] { return ++preguntas < 2; }));
+    papel.FinDocumento();
+    EXPECT_EQ(salida.str().find("0,500"), std::string::npos) << i;
+    EXPECT_NE(salida.str().find("0,4"), std::string::npos) << i;
   }
 }
 

@@ -9,22 +9,19 @@
 #include "base/mdCarpetas.h"
 #include "comun/comparaFichero.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
-#include "listados/datos/mdJson.h"
+#include "comun/listado.h"
 
 namespace zorbin {
 namespace {
 
 using pruebas::Compara;
 
-std::string ResumenDe(EstadoCalculo e, char separador) {
+std::string ResumenDe(const EstadoCalculo& e, char separador) {
   const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   std::ostringstream salida;
   Pantalla pantalla(salida);
   Resumen resumen(pantalla, textos, {e.obra.EsSI(), separador});
-  const std::array<OyenteCorrida*, 1> oyentes{&resumen};
-  const EnUnidadesDeCalculo unidades(e);
-  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
+  resumen.Tramo(pruebas::ResultadoDe(e), 1, "1", {});
   return salida.str();
 }
 
@@ -78,60 +75,6 @@ TEST(Resumen, ElMismoTramoEnSIYEnMksSoloCambiaDeUnidades) {
     };
     EXPECT_EQ(areas(si), areas(mks));
   }
-}
-
-// The results of a whole Obra read back from the JSON to the very same doubles.
-TEST(Json, LeidoDaLosMismosDobles) {
-  namespace fs = std::filesystem;
-  const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
-  const auto registros = fs::temp_directory_path() / ("zorbin-json-" + std::to_string(getpid()));
-  struct Testigo : ListadoJson {
-    using ListadoJson::ListadoJson;
-    std::vector<EstadoCalculo> casos;
-    void Caso(const EstadoCalculo& e) override {
-      casos.push_back(e);
-      ListadoJson::Caso(e);
-    }
-  };
-  std::ostringstream salida;
-  EstadoCalculo e;
-  const auto obra = AbreObra(e, ZORBIN_FUENTES "muestras/acequia.zrb");
-  Testigo json(salida, "acequia.zrb", textos, {true, ','});
-  json.EmpiezaObra(e);
-  CalculaObra(e, obra, {{}, registros}, json);
-  json.AcabaObra();
-  fs::remove_all(registros);
-
-  const auto leido = nlohmann::json::parse(salida.str());
-  EXPECT_EQ(leido["obra"]["NombreObra"], e.obra.NombreObra);
-  ASSERT_EQ(leido["tramos"].size(), 7u);
-  std::size_t i = 0;
-  for (const auto& tramo : leido["tramos"]) {
-    EXPECT_TRUE(tramo["error"].is_null());
-    EXPECT_EQ(tramo["Esp"].get<double>() > 1, true);  // centimetres, as captured
-    EXPECT_EQ(tramo["TipoCuna"].get<int>() <= 2, true);
-    for (const auto& caso : tramo["casos"]) {
-      const auto& x = json.casos.at(i++);
-      EXPECT_EQ(caso["Q"].get<double>(), x.corrida.Q);
-      EXPECT_EQ(caso["Landa"].get<double>(), x.corrida.Landa);
-      EXPECT_EQ(caso["MHip"][4][2].get<double>(), x.caso.MHip(5, 3));
-      if (x.tramo.EsArmado) {
-        const auto& r = x.caso.armado;
-        EXPECT_EQ(caso["armado"]["N"][2][0].get<double>(), r.esfuerzos.N(3, 1));
-        EXPECT_EQ(caso["armado"]["TablaHip"][4][2].get<double>(), r.TablaHip(5).Total);
-      } else {
-        const auto& r = x.caso.postesado;
-        EXPECT_EQ(caso["postesado"]["NESPDEFI"].get<double>(), r.NESPDEFI);
-        EXPECT_EQ(caso["postesado"]["hipotesis"].size(), 6u);
-        EXPECT_EQ(caso["postesado"]["hipotesis"][2]["TotAc"][1].get<double>(),
-                  r.hipotesis(3).TotAc(2));
-        EXPECT_EQ(caso["postesado"]["PP"].get<double>(), x.corrida.PP);
-      }
-      EXPECT_EQ(caso["avisos"].size(), x.caso.avisos.size());
-      EXPECT_TRUE(caso["TerraplenRige"].is_boolean());
-    }
-  }
-  EXPECT_EQ(i, json.casos.size());
 }
 
 }  // namespace

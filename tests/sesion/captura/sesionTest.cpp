@@ -89,7 +89,7 @@ TEST(Sesion, UnaObraTecleadaSeReabreEnUnaMaquinaConElOtroSeparador) {
 
 TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
   Despacho b;
-  EXPECT_TRUE(ValidaObraEnFichero(b.ruta, b.textos, b.tablas, {}).Vale());
+  EXPECT_TRUE(ValidaProyecto(LeeProyecto(b.ruta), b.textos, b.tablas, {}).Vale());
 
   // A Tramo with a fault of its own, and a question that nobody is there to answer.
   b.e.tramo.Gr = 0.0;
@@ -97,7 +97,7 @@ TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
   CargaTramo(b.e, *b.c.fichero, 1);
   b.e.tramo.Fyd = 150.0;
   EscribeTramo(*b.c.fichero, b.e, b.c.lista, 1, ',');
-  const auto lista = ValidaObraEnFichero(b.ruta, b.textos, b.tablas, {});
+  const auto lista = ValidaProyecto(LeeProyecto(b.ruta), b.textos, b.tablas, {});
   ASSERT_EQ(lista.faltas.size(), 1U);
   EXPECT_EQ(lista.faltas[0].posicion, 2);
   EXPECT_EQ(lista.faltas[0].campo, "edGr0");

@@ -1,0 +1,68 @@
+#include "persistencia/proyecto/mdProyecto.h"
+
+#include "base/mdNumeros.h"
+#include "persistencia/dpe/mdDpe.h"
+
+namespace zorbin {
+
+namespace {
+
+std::int16_t NumeroDe(const std::string& texto) {
+  return I16(NumeroTexto(texto).value_or(0.0));
+}
+
+void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
+  try {
+    proyecto.ajustes = LeeAjustes(RutaDpe(ruta));
+  } catch (const ErrorFichero& error) {
+    proyecto.SinAjustes = true;
+    proyecto.avisos.push_back(error.mensaje());
+  }
+}
+
+}  // namespace
+
+Proyecto LeeProyecto(const std::filesystem::path& ruta) {
+  Proyecto proyecto{FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}};
+  EstadoCalculo e;
+  auto leida = CargaObra(e, proyecto.fichero);
+  proyecto.obra = std::move(e.obra);
+  proyecto.lista = std::move(leida.lista);
+  proyecto.avisos = proyecto.fichero.avisos();
+  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
+  TramosPedidos(proyecto);
+  LeeSusAjustes(proyecto, ruta);
+  return proyecto;
+}
+
+std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,
+                                       const std::vector<int>& posiciones) {
+  const bool todos = posiciones.empty();
+  EstadoCalculo e;  // keeps the Tramo before
+  e.obra = proyecto.obra;
+  std::vector<TramoPedido> pedidos;
+  for (const int posicion : todos ? PosicionesDe(proyecto.lista) : posiciones) {
+    const std::string& numero = proyecto.lista[static_cast<std::size_t>(posicion - 1)];
+    CargaTramo(e, proyecto.fichero, posicion);
+    pedidos.push_back({posicion, numero, e.tramo});
+    pedidos.back().tramo.NumeroTramo = todos ? I16(posicion) : NumeroDe(numero);
+  }
+  return pedidos;
+}
+
+std::vector<int> PosicionesDe(const ListaTramos& lista) {
+  std::vector<int> posiciones;
+  for (std::size_t i = 0; i < lista.size(); ++i) {
+    if (!lista[i].empty()) posiciones.push_back(static_cast<int>(i) + 1);
+  }
+  return posiciones;
+}
+
+int PosicionDe(const ListaTramos& lista, int numero) {
+  for (const int posicion : PosicionesDe(lista)) {
+    if (NumeroDe(lista[static_cast<std::size_t>(posicion - 1)]) == numero) return posicion;
+  }
+  return 0;
+}
+
+}  // namespace zorbin
