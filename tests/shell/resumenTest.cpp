@@ -230,7 +230,7 @@ TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
     EXPECT_TRUE(caja.isVisible());  // until the work hears of it
   });
   bool cancelada = false;
-  HazFaena(&ventana, mesa.textos, 1272, [&](Marcha& marcha) {
+  HazFaena(&ventana, mesa.textos, 1272, [&](MarchaFaena& marcha) {
     Aguarda([&] { return latidos > 20; });  // before the box is there
     marcha.Di({"Caso 4 de 9", 0.25});
     Aguarda([&] { return !marcha.Sigue(); });
@@ -245,10 +245,10 @@ TEST(Faena, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
   Mesa mesa;
   EnPantalla<CajaProgreso> persona([](CajaProgreso&) {});
   std::thread::id hilo;
-  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha&) { hilo = std::this_thread::get_id(); });
+  HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena&) { hilo = std::this_thread::get_id(); });
   EXPECT_NE(hilo, std::this_thread::get_id());
   EXPECT_THROW(
-      HazFaena(nullptr, mesa.textos, 1272, [](Marcha&) { throw std::runtime_error("disco"); }),
+      HazFaena(nullptr, mesa.textos, 1272, [](MarchaFaena&) { throw std::runtime_error("disco"); }),
       std::runtime_error);
   QTest::qWait(20);
   EXPECT_EQ(persona.veces, 0);
@@ -266,7 +266,7 @@ TEST(Faena, AlSalirDelProgramaSeCancela) {
       }
     });
     bool oido = false;
-    HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
+    HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena& marcha) {
       Aguarda([&] { return !marcha.Sigue(); });
       oido = true;
     });
@@ -284,7 +284,7 @@ TEST(Faena, LoQueYaNoTieneVueltaNoSeCancela) {
     caja.reject();
     pulsada = true;
   });
-  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
+  HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena& marcha) {
     marcha.SinVuelta();
     Aguarda([&] { return pulsada.load(); });
     EXPECT_TRUE(marcha.Sigue());

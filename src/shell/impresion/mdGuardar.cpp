@@ -43,7 +43,7 @@ QString SinBarras(QString nombre) {
 // Sheets on their way to a destination: each is told, and none comes after the person gave up.
 class HojasContadas : public DestinoHojas {
  public:
-  HojasContadas(DestinoHojas& destino, Marcha& marcha, const Catalogo& textos)
+  HojasContadas(DestinoHojas& destino, MarchaFaena& marcha, const Catalogo& textos)
       : destino_(destino), marcha_(marcha), textos_(textos) {}
 
   void RecibeHoja(const Hoja& hoja) override {
@@ -59,7 +59,7 @@ class HojasContadas : public DestinoHojas {
 
  private:
   DestinoHojas& destino_;
-  Marcha& marcha_;
+  MarchaFaena& marcha_;
   const Catalogo& textos_;
   int cuantas_ = 0;
 };
@@ -117,7 +117,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
                   [&] { HazFaena(padre, textos, txt::ListadoEnCurso, trabajo); });
 }
 
-bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Marcha& marcha,
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, MarchaFaena& marcha,
                   const Catalogo& textos) {
   HojasContadas hojas(destino, marcha, textos);
   documento(hojas);
@@ -136,7 +136,7 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
                         {txt::GuardarPdf, txt::FiltroPdf, QStringLiteral("pdf")}, nombre);
   if (ruta.isEmpty()) return false;
   bool lleno = false;
-  const bool hecho = HazDocumento(padre, textos, ruta, [&](Marcha& marcha) {
+  const bool hecho = HazDocumento(padre, textos, ruta, [&](MarchaFaena& marcha) {
     HojasPdf hojas(QFile::encodeName(ruta).toStdString(), S(nombre));
     lleno = EscribeHojas(documento, hojas, marcha, textos);
     if (lleno) hojas.Cierra();
@@ -151,7 +151,7 @@ bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferenc
       PideNombreFichero(padre, textos, preferencias,
                         {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
   if (ruta.isEmpty()) return false;
-  return HazDocumento(padre, textos, ruta, [&](Marcha&) {
+  return HazDocumento(padre, textos, ruta, [&](MarchaFaena&) {
     FicheroSalida fichero(QFile::encodeName(ruta).toStdString());
     fichero.Escribe(texto);
     fichero.Termina();

@@ -68,7 +68,7 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
   const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
                                  papel.id() == QPageSize::A4};
   bool lleno = false;
-  const bool hecho = HazDocumento(padre, textos_, fichero, [&](Marcha& marcha) {
+  const bool hecho = HazDocumento(padre, textos_, fichero, [&](MarchaFaena& marcha) {
     if (!carpeta.isValid()) throw ErrorPintor(S(carpeta.errorString()));
     HojasPdf hojas(trabajo.fichero, trabajo.titulo, papel);
     lleno = EscribeHojas(documento, hojas, marcha, textos_);
@@ -85,7 +85,7 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
 void Impresora::VistaPrevia(QWidget* padre, const QString& nombre, const Documento& documento) {
   HojasEnMemoria todas;
   bool llena = false;
-  const bool hecha = HazDocumento(padre, textos_, nombre, [&](Marcha& marcha) {
+  const bool hecha = HazDocumento(padre, textos_, nombre, [&](MarchaFaena& marcha) {
     llena = EscribeHojas(documento, todas, marcha, textos_);
   });
   if (!hecha) return;

@@ -25,19 +25,19 @@ constexpr int kMilesimas = 1000;
 
 }  // namespace
 
-void Marcha::Di(Dicho dicho) {
+void MarchaFaena::Di(Dicho dicho) {
   const std::lock_guard cierra(cerrojo_);
   dicho_ = std::move(dicho);
   espera_ = false;
 }
 
-std::optional<Marcha::Dicho> Marcha::Toma() {
+std::optional<MarchaFaena::Dicho> MarchaFaena::Toma() {
   const std::lock_guard cierra(cerrojo_);
   espera_ = true;
   return std::exchange(dicho_, std::nullopt);
 }
 
-CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Marcha& marcha, QWidget* padre)
+CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, MarchaFaena& marcha, QWidget* padre)
     : QDialog(padre),
       textos_(textos),
       marcha_(marcha),
@@ -79,8 +79,8 @@ void CajaProgreso::reject() {
 }
 
 void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
-              const std::function<void(Marcha&)>& trabajo) {
-  Marcha marcha;
+              const std::function<void(MarchaFaena&)>& trabajo) {
+  MarchaFaena marcha;
   CajaProgreso caja(textos, titulo, marcha, padre);
   QEventLoop espera;
   std::exception_ptr fallo;
