@@ -2,16 +2,14 @@
 // parts can be divided by the whole: items_per_second of the run over those of a part.
 #include <benchmark/benchmark.h>
 
-#include <array>
 #include <filesystem>
 
 #include "calculo/armado/mdArmado.h"
 #include "calculo/cargas/mdMarston.h"
 #include "calculo/cargas/mdOvaliz.h"
 #include "calculo/cargas/mdTablaCargas.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
 #include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
@@ -24,7 +22,7 @@ constexpr int kCasos = kAlturas * kPresiones;
 // Tramo 1 to 4 of the sample Obra (trench, compacted trench, trench under embankment,
 // embankment) over a grid of heights and pressures; 0 a pipe without sheet, whose cracking check
 // adds steel step by step.
-EstadoCalculo Malla(int posicion) {
+DatosTramo Malla(int posicion) {
   auto e = pruebas::EstadoDeMuestra(posicion == 0 ? 1 : posicion);
   auto& t = e.tramo;
   if (posicion == 0) t.TipoCamisa = 0;
@@ -37,24 +35,23 @@ EstadoCalculo Malla(int posicion) {
   t.Hr0Tramo = 2.0;
   t.Hr0Delta = 0.02;
   t.Hr0Final = 2.0 + 0.02 * (kAlturas - 1);
-  return e;
+  return pruebas::EnCalculo(e);
 }
 
 // The short last step of a range adds up to 0.2 at, so the grid has some Casos more than its
 // nominal number; they are counted as they come.
-void Corre(benchmark::State& state, EstadoCalculo& e) {
+void Corre(benchmark::State& state, Registro* registro) {
+  const auto datos = Malla(static_cast<int>(state.range(0)));
   std::int64_t casos = 0;
   for (auto _ : state) {
-    const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, {});
-    casos += e.corrida.CuentaCasos;
+    const auto x = CalculaTramo(datos, RangoDe(datos), {}, registro);
+    casos += static_cast<std::int64_t>(x.filas.size());
   }
   state.SetItemsProcessed(casos);
 }
 
 void Corrida(benchmark::State& state) {
-  auto e = Malla(static_cast<int>(state.range(0)));
-  Corre(state, e);
+  Corre(state, nullptr);
 }
 BENCHMARK(Corrida)->DenseRange(0, 4);
 
@@ -62,47 +59,61 @@ void CorridaConRegistro(benchmark::State& state) {
   const auto carpeta = std::filesystem::temp_directory_path() / "zorbin-bench";
   std::filesystem::remove_all(carpeta);
   FicheroLog log(carpeta);
-  auto e = Malla(static_cast<int>(state.range(0)));
-  e.corrida.registro = &log.registro();
-  Corre(state, e);
+  Corre(state, &log.registro());
   std::filesystem::remove_all(carpeta);
 }
 BENCHMARK(CorridaConRegistro)->DenseRange(0, 4);
 
-// The state of one Caso in the middle of the grid, in the units and scale of a run.
-struct Capta : OyenteCorrida {
-  EstadoCalculo estado;
-  void Caso(const EstadoCalculo& e) override {
-    if (e.corrida.CuentaCasos == kCasos / 2) estado = e;
-  }
-};
-
-EstadoCalculo EnMedio(int posicion) {
-  auto e = Malla(posicion);
-  Capta capta;
-  const std::array<OyenteCorrida*, 1> oyentes{&capta};
-  const EnUnidadesDeCalculo unidades(e);
-  CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-  return capta.estado;
-}
-
-// The same formulas in a bare loop: the loads once a height, ring and design once a Caso.
-void BuclePelado(benchmark::State& state) {
-  auto e = EnMedio(static_cast<int>(state.range(0)));
-  std::int64_t casos = 0;
+// The rows of a long project kept whole: 545 Tramos of 1,000 Casos.
+void FilasDeUnaObra(benchmark::State& state) {
+  auto datos = Malla(1);
+  datos.tramo.Hr0Final = datos.tramo.Hr0Tramo + 0.02 * 18;  // 19 heights of 55 pressures
+  std::vector<ResultadoTramo> obra;
+  std::size_t octetos = 0;
+  std::size_t filas = 0;
   for (auto _ : state) {
+    for (int i = 0; i < 545; ++i) obra.push_back(CalculaTramo(datos, RangoDe(datos)));
+  }
+  for (const auto& x : obra) {
+    filas += x.filas.size();
+    octetos += sizeof x + x.filas.capacity() * sizeof(FilaCaso) +
+               x.alturas.capacity() * sizeof(CargasAltura) +
+               x.TablaCargas.capacity() * sizeof(FilaCargas);
+  }
+  state.counters["filas"] = static_cast<double>(filas);
+  state.counters["MB"] = static_cast<double>(octetos) / 1e6;
+}
+BENCHMARK(FilasDeUnaObra)->Iterations(1);
+
+void CasosEnteros(benchmark::State& state) {
+  const auto datos = Malla(static_cast<int>(state.range(0)));
+  const auto x = CalculaTramo(datos, RangoDe(datos));
+  for (auto _ : state) {
+    for (const auto& fila : x.filas) benchmark::DoNotOptimize(CasoEntero(x, fila));
+  }
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(x.filas.size()));
+}
+BENCHMARK(CasosEnteros)->DenseRange(0, 4);
+
+// The same formulas in a bare loop: the loads and the ring once a height, the design once a Caso.
+void BuclePelado(benchmark::State& state) {
+  const auto datos = Malla(static_cast<int>(state.range(0)));
+  const auto& t = datos.tramo;
+  const auto unMetro = CargasUnMetro(t);
+  std::int64_t casos = 0;
+  Marcha marcha;
+  for (auto _ : state) {
+    marcha.vueltas = {};
     for (int h = 0; h < kAlturas; ++h) {
-      CargasMarston(e, 2.0 + 0.02 * h, e.tramo.ICar);
-      DivideCargas(e);
+      const auto q = CargasMarston(t, 2.0 + 0.02 * h, t.ICar);
+      const auto anillo = Ovalizacion(t, q, unMetro, EmpujeActivo(t.Fi));
       for (int p = 0; p < kPresiones; ++p) {
-        e.corrida.DP = 4.0 + 0.02 * p;
-        if (state.range(0) == 0) e.corrida.DP -= 3.0;
-        e.corrida.MDP = 1.2 * e.corrida.DP;
-        e.corrida.STP = e.corrida.MDP + 1.0;
-        e.corrida.PP = e.corrida.PPNeta = e.corrida.MDP + 2.0;
-        e.caso.avisos.clear();
-        Ovalizacion(e);
-        DisenoArmado(e);
+        const double DP = (state.range(0) == 0 ? 1.0 : 4.0) + 0.02 * p;
+        const double MDP = 1.2 * DP;
+        marcha.vueltas.EmpiezaCaso();
+        marcha.avisos.clear();
+        benchmark::DoNotOptimize(
+            DisenoArmado(t, anillo, {DP, MDP, MDP + 1.0, MDP + 2.0}, {}, marcha));
         ++casos;
       }
     }
@@ -112,36 +123,20 @@ void BuclePelado(benchmark::State& state) {
 BENCHMARK(BuclePelado)->DenseRange(0, 4);
 
 void SoloCargas(benchmark::State& state) {  // a height, with its row of the load table
-  auto e = EnMedio(1);
-  for (auto _ : state) {
-    CargasMarston(e, 3.0, e.tramo.ICar);
-    DivideCargas(e);
-    benchmark::DoNotOptimize(e.corrida.Q);
-  }
+  const auto t = Malla(1).tramo;
+  for (auto _ : state) benchmark::DoNotOptimize(CargasMarston(t, 3.0, t.ICar));
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SoloCargas);
 
-void SoloAnillo(benchmark::State& state) {
-  auto e = EnMedio(1);
-  for (auto _ : state) {
-    Ovalizacion(e);
-    benchmark::DoNotOptimize(e.caso.MHip);
-  }
+void SoloAnillo(benchmark::State& state) {  // a height
+  const auto t = Malla(1).tramo;
+  const auto q = CargasMarston(t, 3.0, t.ICar);
+  const auto unMetro = CargasUnMetro(t);
+  for (auto _ : state) benchmark::DoNotOptimize(Ovalizacion(t, q, unMetro, EmpujeActivo(t.Fi)));
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(SoloAnillo);
-
-void SoloDiseno(benchmark::State& state) {
-  auto e = EnMedio(static_cast<int>(state.range(0)));
-  for (auto _ : state) {
-    e.caso.avisos.clear();
-    DisenoArmado(e);
-    benchmark::DoNotOptimize(e.caso.armado);
-  }
-  state.SetItemsProcessed(state.iterations());
-}
-BENCHMARK(SoloDiseno)->DenseRange(0, 4);
 
 }  // namespace
 }  // namespace zorbin

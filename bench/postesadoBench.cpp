@@ -1,22 +1,14 @@
 // Post-tensioned Casos a second, search and verification, and the windings tried in each.
 #include <benchmark/benchmark.h>
 
-#include <array>
-
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
 
 namespace zorbin {
 namespace {
 
-struct Vueltas : OyenteCorrida {
-  std::int64_t suma = 0;
-  void Caso(const EstadoCalculo& e) override { suma += e.caso.postesado.Vueltas; }
-};
-
 // Tramo 6 (embedded cylinder) and 7 (lined) of the sample Obra over 20 heights and 25 pressures.
-EstadoCalculo Malla(int posicion) {
+DatosTramo Malla(int posicion) {
   auto e = pruebas::EstadoDeMuestra(posicion);
   auto& t = e.tramo;
   t.Prs2Tram = t.Prs1Tram + 0.01 * 24;
@@ -26,21 +18,21 @@ EstadoCalculo Malla(int posicion) {
   t.Hr0Tramo = 2.0;
   t.Hr0Delta = 0.05;
   t.Hr0Final = 2.0 + 0.05 * 19;
-  return e;
+  return pruebas::EnCalculo(e);
 }
 
 void CorridaPostesada(benchmark::State& state) {
-  auto e = Malla(static_cast<int>(state.range(0)));
+  const auto datos = Malla(static_cast<int>(state.range(0)));
   std::int64_t casos = 0;
-  Vueltas vueltas;
-  const std::array<OyenteCorrida*, 1> oyentes{&vueltas};
   for (auto _ : state) {
-    const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-    casos += e.corrida.CuentaCasos;
+    const auto x = CalculaTramo(datos, RangoDe(datos));
+    casos += static_cast<std::int64_t>(x.filas.size());
   }
+  const auto x = CalculaTramo(datos, RangoDe(datos));
+  double vueltas = 0;
+  for (const auto& fila : x.filas) vueltas += CasoEntero(x, fila).Postesado().Vueltas;
   state.SetItemsProcessed(casos);
-  state.counters["vueltas"] = static_cast<double>(vueltas.suma) / static_cast<double>(casos);
+  state.counters["vueltas"] = vueltas / static_cast<double>(x.filas.size());
 }
 BENCHMARK(CorridaPostesada)->DenseRange(6, 7);
 

@@ -1,5 +1,9 @@
 // Real steel from a required area: a sheet of a standard thickness, spirals of a standard
 // diameter, or both.
+//
+// Series: sheets from 1.5 mm in steps of 0.5 mm; spirals of 8, 10 and 12 mm, 5 a metre at least,
+// with a clear distance of their diameter and of 2 cm at least. Source: Anejo 4 "Cálculo Mecánico"
+// of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +23,7 @@ struct Reparto {
 /// A hand adjustment of the Caso silences the layer warning up to this outer area [cm2/m].
 inline constexpr double kAreaUnaCapa = 35.06;
 
-/// Section of n bars of diameter D [mm], in cm2/m.
+/// Section of n bars a metre of diameter D [mm], in cm2/m.
 double AreaBarras(double D, double n);
 
 /// Whether n bars of diameter D [mm] in a metre leave between them, in one layer, a bar's diameter
@@ -27,6 +31,10 @@ double AreaBarras(double D, double n);
 /// @throws ErrorEjecucion DivisionPorCero for no bars
 bool CabenEnUnaCapa(double D, double n);
 
+/// Steel for an area. Of the diameters that give hardly more than it the thickest wins; a larger
+/// one is taken while the bars do not fit in one layer, and with the largest they are told to take
+/// several. A fiftieth of a bar is spared. With a sheet and spirals, the sheet takes whole steps
+/// and the spirals the rest.
 /// @param AS             required area [cm2/m]
 /// @param ICAMIS         0 bars only, 1 sheet and spirals, any other a sheet alone
 /// @param CAMMAX         maximum sheet thickness [mm]; not applied to a sheet alone

@@ -1,5 +1,9 @@
 // Cracking check of a pipe without sheet: the tension of the homogenised section against what the
 // concrete allows, with steel added where it is not enough.
+//
+// Source: Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja: modular
+// ratio 11, safety 1.7 on the tensile strength (1.6 under intense control), and a strength that
+// rises with the gradient of the stresses, from 1 in pure tension to 1.4 in bending.
 #pragma once
 
 #include <optional>
@@ -44,14 +48,17 @@ struct TensionFisuracion {
 TensionFisuracion TensionDeFisuracion(const ParedFisuracion& p, const SeccionHomogenea& h, double M,
                                       double N);
 
+/// The check of one hypothesis.
 class Fisuracion {
  public:
-  /// @param t        Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
-  /// @param vueltas  of the run; the check adds its own
+  /// @param t          Esp, Reci, Rece [m], Fct [kp/cm2], SubTipo, TipoControl
+  /// @param esfuerzos  of the hypotheses [m·t/m, t/m]; outlives the check
+  /// @param hipotesis  1..5
+  /// @param vueltas    of the run; the check adds its own
   /// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
   Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, CuentaVueltas& vueltas);
 
-  /// Adds steel in steps of 0.5 cm2/m until every section of the hypotheses passes. A second call
+  /// Adds steel in steps of 0.5 cm2/m until every section of the hypothesis passes. A second call
   /// keeps the largest tension found by the first until steel has to grow again.
   /// @param Ri, Re  areas of the inner and outer face [cm2/m], in and out
   /// @throws ErrorEjecucion SinConvergencia: the tension may saturate, and then no steel helps

@@ -1,4 +1,8 @@
 // Flexo-compression: the steel of the tensioned face of a section that is not wholly in tension.
+//
+// Source: the simplified method of the limit moment of the Instituto Eduardo Torroja, in the form
+// of Anejo 4 "Cálculo Mecánico" of its Instrucción: with the moment at the layer over Fcd d2, the
+// steel is 0.97 (1 + m) m, up to a limit moment of 0.35.
 #pragma once
 
 #include <optional>
@@ -23,8 +27,9 @@ double MomentoReducido(const DatosSeccion& s, double M, double N, double ESP, do
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 double MinimaFlexion(const DatosSeccion& s, double d);
 
-/// Area of the tensioned face [cm2/m], never below `MinimaFlexion`. No value when the moment is
-/// beyond `MomentoLimite`; the test takes the moment reduced to the layer, the area the plain one.
+/// Area of the tensioned face [cm2/m], never below 0.04 Fck GamaY d / (Fyk GamaB), on the useful
+/// depth d = ESP - r. No value when the moment is beyond the limit moment 0.35 Fck d2 / GamaB,
+/// where the concrete would crush first; compression counts for that test as a moment at the layer.
 /// @param M     magnitude of the moment [m·t/m]
 /// @param N     axial force, tension positive [t/m]
 /// @param ESP   wall thickness [m]

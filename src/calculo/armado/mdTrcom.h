@@ -1,4 +1,5 @@
-// Composite tension: the steel of one face when the whole section is in tension.
+// Composite tension: the steel of one face when the whole section is in tension, and no concrete
+// helps. Source: Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
 #include "base/aritmetica.h"
@@ -22,8 +23,12 @@ struct DatosSeccion {
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 double MinimaTraccion(const DatosSeccion& d);
 
-/// Area of one face [cm2/m], found by the share of N that its layer takes; never below
-/// `MinimaTraccion`.
+/// Area of one face [cm2/m]. The layer takes N in the share of its area, and the couple of the
+/// moment:
+///     A = (|M| / (BRAZO N) + A / (A + Aotra)) N / Fyd
+/// solved by iteration to 0.01 cm2/m. Never below the mechanical minimum 0.04 Fck/GamaB over
+/// Fyk/GamaY, on the whole thickness, as the whole section is in tension.
+/// Valid for N > 0 within the two layers, |M| / N <= BRAZO / 2.
 /// @param M        moment [m·t/m]
 /// @param N        axial force, tension [t/m]
 /// @param Aotra    area of the other face [cm2/m]

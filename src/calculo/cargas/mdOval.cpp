@@ -119,7 +119,7 @@ void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
     switch (TIGEN) {
       case 1: Ms = p.M(s); Ns = p.N(s); break;
       case 2: Ms = f.M(s); Ns = f.N(s); break;
-      // Mixes a lateral term with the moving load and a vertical term without it; kept so.
+      // The thrust with the moving load beside the earth without it: what moves adds its own.
       case 3: Ms = l1.M(s) + ti.M(s) + v.M(s); Ns = l1.N(s) + ti.N(s) + v.N(s); break;
       case 4: Ms = m.M(s); Ns = m.N(s); break;
       case 5: Ms = l1.M(s); Ns = l1.N(s); break;

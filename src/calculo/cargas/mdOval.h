@@ -43,11 +43,23 @@ struct TerminosOval {
   double factor = 1;              // of every result, by bedding [-]
 };
 
+/// Every load term of a ring: coefficient by resultant, by the mean diameter for the moments. The
+/// moment of the water has no coefficients of its own and takes those of the own weight: in a
+/// thin ring they are the same. Its unit weight is 1 t/m3.
+/// Source: the Anejo, for thick-walled rings on beddings of 90 and 120 degrees; "less than 90" is
+/// 1.25 times the granular bedding.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; Subindice for a bedding outside 1..4
 TerminosOval CalculaTerminos(const DatosOval& d);
 
-/// Moments and axial forces of the hypothesis TIGEN, 1..12. Any other code leaves M and N as they
-/// came, but for the factor of the bedding.
+/// Moments [m·t/m] and axial forces [t/m] of the term TIGEN, a load or a sum of loads:
+///     1 own weight                         7 the whole: 6 and the moving load
+///     2 water                              8 earth, the thrust without the moving load
+///     3 earth, the thrust with the moving  9 spandrels
+///     4 moving load                       10 thrust without the moving load
+///     5 thrust with the moving load       11 vertical load of the earth
+///     6 own weight, water and 3           12 nothing
+/// Any other code leaves M and N as they came, but for the factor of the bedding.
+/// @throws ErrorEjecucion Desbordamiento
 void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
           Lista<double, kSecciones>& N);
 

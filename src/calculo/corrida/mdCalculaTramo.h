@@ -20,6 +20,8 @@ struct AvanceCorrida {
 using SigueCorrida = std::function<bool(const AvanceCorrida&)>;
 
 /// Data of a Tramo as captured, in the units of the Obra, taken to calculation units.
+/// @param ajustes     adjusted Casos of the project: DP [at], height [m], areas [cm2/m]
+/// @param sinAjustes  their file was refused
 DatosTramo DatosDeCalculo(const Obra& obra, const Tramo& tramo,
                           std::vector<EntradaAjuste> ajustes = {}, bool sinAjustes = false);
 

@@ -67,7 +67,7 @@ RangosFuerza CalculaRangos(double SFck) {
   r.FuerzaMin(3) = r.FuerzaMax(2);
   r.FuerzaMax(3) = kReserva * Fa(3) * EspirasMaximas(3);
   r.FuerzaMin(4) = r.FuerzaMax(3);
-  r.FuerzaMax(4) = EspirasMaximas(4) * Fa(4);  // without the reserve, on purpose
+  r.FuerzaMax(4) = EspirasMaximas(4) * Fa(4);  // the last wire has no other to follow it
   return r;
 }
 

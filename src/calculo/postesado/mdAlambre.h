@@ -1,5 +1,6 @@
 // The prestressing wires on offer, how densely each may be wound, and the first guess for a ring
-// force.
+// force. Source of diameters and spacings: Anejo 4 "Cálculo Mecánico" of the Instrucción del
+// Instituto Eduardo Torroja.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +18,8 @@ inline constexpr int kAlambres = 4;
 /// @throws ErrorEjecucion DivisionPorCero
 double EspirasPorMetro(double d, double s);
 
-/// Force of one wire of diameter d [mm] at 60 % of its breaking stress SFck [kp/cm2], in t.
+/// Force of one wire of diameter d [mm] at 60 % of its breaking stress SFck [kp/cm2], in t. The
+/// value of π is an argument, as the bounds of the force were drawn with one of eight decimals.
 constexpr double FuerzaAlambre(double d, double Pi, double SFck) {
   return 0.6 * SFck * Pi * d * d / 4.0 / 100000.0;
 }
@@ -29,7 +31,8 @@ double LuzEspiras(double f, double n);
 /// Spirals brought up to a whole number; a fraction of at most 0.02 stays as it is. [1/m]
 double EspirasEnteras(double NESP);
 
-/// Smallest clear distance allowed between spirals of the wire in position i [mm].
+/// Smallest clear distance allowed between spirals of the wire in position i, 1..4 [mm].
+/// @throws ErrorEjecucion Subindice
 double EspMinimo(int i);
 
 /// The wire in position i, wound at its widest spacing; a lined cylinder (`Tipologia` 2221) narrows
@@ -42,7 +45,10 @@ struct RangosFuerza {
   Lista<double, kAlambres> FuerzaMax;
 };
 
+/// The ranges follow one another without a gap: from the widest winding of each wire to nine tenths
+/// of its densest, and to the whole of it for the last wire.
 /// @param SFck  breaking stress of the wire [kp/cm2]
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 RangosFuerza CalculaRangos(double SFck);
 
 /// A wire with its position in the tables. Position 1 also means the wire of 5 mm, wound down to
@@ -52,7 +58,10 @@ struct AlambreElegido {
   Alambre alambre;
 };
 
-/// The first wire for a ring force [t/m]; none when the force is beyond the last wire.
+/// The first wire for a ring force [t/m], wound at its widest; none when the force is beyond the
+/// last wire.
+/// @param SFck  breaking stress of the wire [kp/cm2]
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 std::optional<AlambreElegido> PrimerAlambre(double FuerzaAnillo, double SFck,
                                             std::int16_t Tipologia);
 

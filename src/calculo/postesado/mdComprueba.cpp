@@ -8,7 +8,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kEscalaChapa = 1000.0;          // of the stress of the cylinder, as told
+constexpr double kEscalaChapa = 1000.0;          // of the stress of the cylinder
 constexpr int kHipotesisHormigon = 6;            // the one whose concrete is checked
 constexpr double kFraccionHormigon = 0.6;        // of the strength in compression [-]
 constexpr double kCompresionPrueba = -5.0;       // that the factory test leaves [kp/cm2]

@@ -16,23 +16,32 @@ constexpr double LimiteZunchado(double Fckno) {
   return 0.55 * Fckno;
 }
 
-/// Losses, residual stress, and stresses of core and coating without external load. It ends early,
-/// with NucleoAguanta false, when the stress of the core just after winding is above its limit.
-/// The residual stress is cut at 60 % of the breaking stress; with high creep the loss by
-/// relaxation turns negative, and is left so.
-/// Reads Sf, SFck, Fckno, Ep [kp/cm2], Rel [%], Fic, Fir, PostFlag of the Tramo.
+/// Losses, residual stress, and stresses of core and coating without external load.
+///     elastic      ni Sf (RadioNuc + RadioInt) / (4 Cr (RadioNuc - RadioInt)): half the
+///     shortening,
+///                  as the spirals are wound one after another
+///     creep and shrinkage of both concretes together, as the coating holds the core back
+///     relaxation   Rel Sf (1 - 2 PerdFluRet / Sf): the wire relaxes less while it shortens
+/// It ends early, with NucleoAguanta false, when the stress of the core just after winding is above
+/// `LimiteZunchado`. The residual stress is cut at 60 % of the breaking stress. Where creep and shrinkage
+/// take more than half of Sf the relaxation comes out negative, which gives stress back: beyond
+/// that the formula is not valid, and nothing refuses it. Reads Sf, SFck, Fckno, Ep [kp/cm2], Rel
+/// [%], Fic, Fir, PostFlag of the Tramo.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 PerdidasPostesado PerdidasYTensiones(const Tramo& t, const MaterialesPostesado& m,
                                      const RadiosPostesado& r, const SeccionPostesada& s);
 
-/// @param MomHip   [kp·cm/cm]
-/// @param AxilHip  [kp/cm]
+/// Stresses by ovalisation: the homogenised section stays plane, each material with its modulus.
+/// @param MomHip   moments at crown, haunches, invert [kp·cm/cm]
+/// @param AxilHip  axial forces there [kp/cm]
 /// @param FIPR     wire diameter [cm]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 OvalizacionPostesada TensionesOvalizacion(const MaterialesPostesado& m, const SeccionPostesada& s,
                                           double FIPR, const Lista<double, kSecciones>& MomHip,
                                           const Lista<double, kSecciones>& AxilHip);
 
+/// Stresses by each unit of internal pressure: core and coating are two of Lamé's cylinders that
+/// share their contact, with the wire between them.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 PorPresion CoeficientesPresion(const MaterialesPostesado& m, const SeccionPostesada& s);
 

@@ -116,7 +116,8 @@ class Analisis {
 
   Alambre Final() const { return {r_.FIPRDEFI, r_.NESPDEFI}; }
 
-  // The wire goes back to the final one; its position in the tables does not, as told.
+  // The wire goes back to the final one; its position in the tables does not, so spirals are
+  // spaced as those of the last wire tried, and the next wire is the one after it.
   void PasadaConFinal(HipotesisPostesada& p) {
     alambre_ = Final();
     r_.ErrorPostesado = 0;

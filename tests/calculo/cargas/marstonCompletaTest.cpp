@@ -134,19 +134,12 @@ TEST(MarstonCompleta, LasCargasDeUnTramoSonLasDeLaCorrida) {
   for (const std::int16_t TipoApoyo : std::array<std::int16_t, 3>{21, 22, 31}) {
     for (const double Hr1 : {0.3, 1.0, 2.6, 5.0}) {
       for (const double H : {1.0, 4.0, 12.0}) {
-        EstadoCalculo e;
-        e.tramo.TipoApoyo = TipoApoyo;
-        e.tramo.TipoRelleno = 11;
-        e.tramo.IAs = 1;
-        e.tramo.B0 = 2.0;
-        e.tramo.De = 1.2;
-        e.tramo.Gr = 1.8;
-        e.tramo.Fi = 33;
-        e.tramo.Hr1 = Hr1;
-        CargasMarston(e, H, 0);
-        DivideCargas(e);
+        Tramo tramo;
+        tramo.TipoApoyo = TipoApoyo, tramo.TipoRelleno = 11, tramo.IAs = 1;
+        tramo.B0 = 2.0, tramo.De = 1.2, tramo.Hr1 = Hr1;
+        tramo.Gr = 1.8, tramo.Fi = 33;
         const auto q = CargasCompletas({TipoApoyo, 1.2, 2.0, Hr1, 1.8, 33, 1, false}, H).value();
-        EXPECT_NEAR(q.adoptada.metodo, e.corrida.Q, 1e-12);
+        EXPECT_NEAR(q.adoptada.metodo, CargasMarston(tramo, H, 0).Q, 1e-12);
         const double r = TipoApoyo == 31 ? 1.0 : 0.5;
         const double t = std::tan((45 - 33 / 2.0) * M_PI / 180);
         const double Kmu = t * t * std::tan(33 * M_PI / 180);
