@@ -23,9 +23,10 @@ constexpr double LimiteZunchado(double Fckno) {
 ///     creep and shrinkage of both concretes together, as the coating holds the core back
 ///     relaxation   Rel Sf (1 - 2 PerdFluRet / Sf): the wire relaxes less while it shortens
 /// It ends early, with NucleoAguanta false, when the stress of the core just after winding is above
-/// `LimiteZunchado`. The residual stress is cut at 60 % of the breaking stress. Where creep and shrinkage
-/// take more than half of Sf the relaxation comes out negative, which gives stress back: beyond
-/// that the formula is not valid, and nothing refuses it. Reads Sf, SFck, Fckno, Ep [kp/cm2], Rel
+/// `LimiteZunchado`. The residual stress is cut at 60 % of the breaking stress. Where creep and
+/// shrinkage take more than half of Sf the relaxation comes out negative, which gives stress back:
+/// beyond that the formula is not valid, and nothing refuses it. Reads Sf, SFck, Fckno, Ep
+/// [kp/cm2], Rel
 /// [%], Fic, Fir, PostFlag of the Tramo.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 PerdidasPostesado PerdidasYTensiones(const Tramo& t, const MaterialesPostesado& m,
