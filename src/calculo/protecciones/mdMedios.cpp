@@ -72,7 +72,7 @@ std::int16_t NivelPH(double pH) {
 std::int16_t NivelAguas(const MuestraMedios& m) {
   std::int16_t Nivel = NivelPH(m.valor[kPH]);
   for (const auto& b : kAguas) {
-    const double v = m.valor[b.medio];
+    const double v = m.valor[static_cast<std::size_t>(b.medio)];
     if (v < b.desde) continue;
     if (v <= b.leve) {
       if (Nivel == 0) Nivel = 1;
