@@ -212,7 +212,7 @@ void Aguarda(const Que& que) {
   while (!que()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
-TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
+TEST(Faenas, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
   Mesa mesa;
   QWidget ventana;
   ventana.show();
@@ -230,10 +230,10 @@ TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
     EXPECT_TRUE(caja.isVisible());  // until the work hears of it
   });
   bool cancelada = false;
-  HazFaena(&ventana, mesa.textos, 1272, [&](Marcha& marcha) {
+  HazFaena(&ventana, mesa.textos, 1272, [&](Faena& faena) {
     Aguarda([&] { return latidos > 20; });  // before the box is there
-    marcha.Di({"Caso 4 de 9", 0.25});
-    Aguarda([&] { return !marcha.Sigue(); });
+    faena.Di({"Caso 4 de 9", 0.25});
+    Aguarda([&] { return !faena.Sigue(); });
     cancelada = true;
   });
   EXPECT_TRUE(cancelada);
@@ -241,23 +241,23 @@ TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
   EXPECT_EQ(barras, std::vector<int>{250});
 }
 
-TEST(Faena, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
+TEST(Faenas, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
   Mesa mesa;
   EnPantalla<CajaProgreso> persona([](CajaProgreso&) {});
   std::thread::id hilo;
-  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha&) { hilo = std::this_thread::get_id(); });
+  HazFaena(nullptr, mesa.textos, 1272, [&](Faena&) { hilo = std::this_thread::get_id(); });
   EXPECT_NE(hilo, std::this_thread::get_id());
   EXPECT_THROW(
-      HazFaena(nullptr, mesa.textos, 1272, [](Marcha&) { throw std::runtime_error("disco"); }),
+      HazFaena(nullptr, mesa.textos, 1272, [](Faena&) { throw std::runtime_error("disco"); }),
       std::runtime_error);
   QTest::qWait(20);
   EXPECT_EQ(persona.veces, 0);
 }
 
 // A program that is left, and a window that is closed, end the work and wait for it.
-TEST(Faena, AlSalirDelProgramaSeCancela) {
+TEST(Faenas, AlSalirDelProgramaSeCancela) {
   Mesa mesa;
-  for (const bool cierra : {false, true}) {
+  for (const bool cierra : {true, false}) {
     EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
       if (cierra) {
         caja.close();
@@ -266,8 +266,8 @@ TEST(Faena, AlSalirDelProgramaSeCancela) {
       }
     });
     bool oido = false;
-    HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
-      Aguarda([&] { return !marcha.Sigue(); });
+    HazFaena(nullptr, mesa.textos, 1272, [&](Faena& faena) {
+      Aguarda([&] { return !faena.Sigue(); });
       oido = true;
     });
     EXPECT_TRUE(oido);
@@ -277,17 +277,17 @@ TEST(Faena, AlSalirDelProgramaSeCancela) {
   QApplication::exec();
 }
 
-TEST(Faena, LoQueYaNoTieneVueltaNoSeCancela) {
+TEST(Faenas, LoQueYaNoTieneVueltaNoSeCancela) {
   Mesa mesa;
   std::atomic<bool> pulsada = false;
   EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
     caja.reject();
     pulsada = true;
   });
-  HazFaena(nullptr, mesa.textos, 1272, [&](Marcha& marcha) {
-    marcha.SinVuelta();
+  HazFaena(nullptr, mesa.textos, 1272, [&](Faena& faena) {
+    faena.SinVuelta();
     Aguarda([&] { return pulsada.load(); });
-    EXPECT_TRUE(marcha.Sigue());
+    EXPECT_TRUE(faena.Sigue());
   });
 }
 

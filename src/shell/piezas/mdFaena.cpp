@@ -25,22 +25,22 @@ constexpr int kMilesimas = 1000;
 
 }  // namespace
 
-void Marcha::Di(Dicho dicho) {
+void Faena::Di(Dicho dicho) {
   const std::lock_guard cierra(cerrojo_);
   dicho_ = std::move(dicho);
   espera_ = false;
 }
 
-std::optional<Marcha::Dicho> Marcha::Toma() {
+std::optional<Faena::Dicho> Faena::Toma() {
   const std::lock_guard cierra(cerrojo_);
   espera_ = true;
   return std::exchange(dicho_, std::nullopt);
 }
 
-CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Marcha& marcha, QWidget* padre)
+CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Faena& faena, QWidget* padre)
     : QDialog(padre),
       textos_(textos),
-      marcha_(marcha),
+      faena_(faena),
       texto_(new QLabel(this)),
       barra_(new QProgressBar(this)),
       cancela_(new QPushButton(Rotulo(textos.Texto(txt::BotonCancelar)), this)) {
@@ -63,31 +63,31 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Marcha& marcha, Q
 }
 
 void CajaProgreso::Renueva() {
-  if (!marcha_.TieneVuelta()) cancela_->setEnabled(false);
-  const auto dicho = marcha_.Toma();
-  if (!dicho || !marcha_.Sigue()) return;
+  if (!faena_.TieneVuelta()) cancela_->setEnabled(false);
+  const auto dicho = faena_.Toma();
+  if (!dicho || !faena_.Sigue()) return;
   texto_->setText(Q(dicho->texto));
   barra_->setRange(0, dicho->hecho ? kMilesimas : 0);
   if (dicho->hecho) barra_->setValue(static_cast<int>(*dicho->hecho * kMilesimas));
 }
 
 void CajaProgreso::reject() {
-  if (!marcha_.TieneVuelta()) return;
-  marcha_.Cancela();
+  if (!faena_.TieneVuelta()) return;
+  faena_.Cancela();
   cancela_->setEnabled(false);
   texto_->setText(Rotulo(textos_.Texto(txt::Cancelando)));
 }
 
 void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
-              const std::function<void(Marcha&)>& trabajo) {
-  Marcha marcha;
-  CajaProgreso caja(textos, titulo, marcha, padre);
+              const std::function<void(Faena&)>& trabajo) {
+  Faena faena;
+  CajaProgreso caja(textos, titulo, faena, padre);
   QEventLoop espera;
   std::exception_ptr fallo;
   std::atomic<bool> acabada = false;
   std::jthread hilo([&] {
     try {
-      trabajo(marcha);
+      trabajo(faena);
     } catch (...) {
       fallo = std::current_exception();
     }
@@ -107,7 +107,7 @@ void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
     caja.show();
     espera.exec();
   }
-  if (!acabada) marcha.Cancela();  // the program is being left
+  if (!acabada) faena.Cancela();  // the program is being left
   hilo.join();
   if (fallo) std::rethrow_exception(fallo);
 }

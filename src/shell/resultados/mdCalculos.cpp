@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
 constexpr qint64 kRespiro = 20;            // of the window, while Tramos are taken [ms]
 
-Marcha::Dicho Dice(const Avance& a, const Catalogo& textos) {
+Faena::Dicho Dice(const Avance& a, const Catalogo& textos) {
   const double delTramo = (a.caso - 1.0) / a.casos;
   return {textos.Compone(a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo,
                          {TextoEntero(a.tramo), std::to_string(a.caso), std::to_string(a.casos),
@@ -49,10 +49,10 @@ void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
                      const QString& nombre) {
   Calculo calculo;
   std::string resumen;
-  HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](Marcha& marcha) {
+  HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](Faena& faena) {
     const auto sigue = [&](const Avance& avance) {
-      if (marcha.Espera()) marcha.Di(Dice(avance, entorno.textos));
-      return marcha.Sigue();
+      if (faena.Espera()) faena.Di(Dice(avance, entorno.textos));
+      return faena.Sigue();
     };
     calculo = CalculaEncargo(std::move(encargo), sigue);
     resumen = Resume(calculo, sigue);
