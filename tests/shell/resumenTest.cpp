@@ -212,7 +212,7 @@ void Aguarda(const Que& que) {
   while (!que()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 
-TEST(Faenas, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
+TEST(Faena, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
   Mesa mesa;
   QWidget ventana;
   ventana.show();
@@ -230,10 +230,10 @@ TEST(Faenas, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
     EXPECT_TRUE(caja.isVisible());  // until the work hears of it
   });
   bool cancelada = false;
-  HazFaena(&ventana, mesa.textos, 1272, [&](Faena& faena) {
+  HazFaena(&ventana, mesa.textos, 1272, [&](MarchaFaena& marcha) {
     Aguarda([&] { return latidos > 20; });  // before the box is there
-    faena.Di({"Caso 4 de 9", 0.25});
-    Aguarda([&] { return !faena.Sigue(); });
+    marcha.Di({"Caso 4 de 9", 0.25});
+    Aguarda([&] { return !marcha.Sigue(); });
     cancelada = true;
   });
   EXPECT_TRUE(cancelada);
@@ -241,21 +241,21 @@ TEST(Faenas, LaVentanaSigueMientrasTantoYLaCajaDiceYCancela) {
   EXPECT_EQ(barras, std::vector<int>{250});
 }
 
-TEST(Faenas, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
+TEST(Faena, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
   Mesa mesa;
   EnPantalla<CajaProgreso> persona([](CajaProgreso&) {});
   std::thread::id hilo;
-  HazFaena(nullptr, mesa.textos, 1272, [&](Faena&) { hilo = std::this_thread::get_id(); });
+  HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena&) { hilo = std::this_thread::get_id(); });
   EXPECT_NE(hilo, std::this_thread::get_id());
   EXPECT_THROW(
-      HazFaena(nullptr, mesa.textos, 1272, [](Faena&) { throw std::runtime_error("disco"); }),
+      HazFaena(nullptr, mesa.textos, 1272, [](MarchaFaena&) { throw std::runtime_error("disco"); }),
       std::runtime_error);
   QTest::qWait(20);
   EXPECT_EQ(persona.veces, 0);
 }
 
 // A program that is left, and a window that is closed, end the work and wait for it.
-TEST(Faenas, AlSalirDelProgramaSeCancela) {
+TEST(Faena, AlSalirDelProgramaSeCancela) {
   Mesa mesa;
   for (const bool cierra : {true, false}) {
     EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
@@ -266,8 +266,8 @@ TEST(Faenas, AlSalirDelProgramaSeCancela) {
       }
     });
     bool oido = false;
-    HazFaena(nullptr, mesa.textos, 1272, [&](Faena& faena) {
-      Aguarda([&] { return !faena.Sigue(); });
+    HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena& marcha) {
+      Aguarda([&] { return !marcha.Sigue(); });
       oido = true;
     });
     EXPECT_TRUE(oido);
@@ -277,17 +277,17 @@ TEST(Faenas, AlSalirDelProgramaSeCancela) {
   QApplication::exec();
 }
 
-TEST(Faenas, LoQueYaNoTieneVueltaNoSeCancela) {
+TEST(Faena, LoQueYaNoTieneVueltaNoSeCancela) {
   Mesa mesa;
   std::atomic<bool> pulsada = false;
   EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
     caja.reject();
     pulsada = true;
   });
-  HazFaena(nullptr, mesa.textos, 1272, [&](Faena& faena) {
-    faena.SinVuelta();
+  HazFaena(nullptr, mesa.textos, 1272, [&](MarchaFaena& marcha) {
+    marcha.SinVuelta();
     Aguarda([&] { return pulsada.load(); });
-    EXPECT_TRUE(faena.Sigue());
+    EXPECT_TRUE(marcha.Sigue());
   });
 }
 

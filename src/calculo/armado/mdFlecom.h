@@ -27,9 +27,9 @@ double MomentoReducido(const DatosSeccion& s, double M, double N, double ESP, do
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 double MinimaFlexion(const DatosSeccion& s, double d);
 
-/// Area of the tensioned face [cm2/m], never below `MinimaFlexion` with d = ESP - r. No
-/// value when the moment is beyond `MomentoLimite`, where the concrete would crush first;
-/// compression counts for that test as a moment at the layer.
+/// Area of the tensioned face [cm2/m], never below 0.04 Fck GamaY d / (Fyk GamaB), on the useful
+/// depth d = ESP - r. No value when the moment is beyond the limit moment 0.35 Fck d2 / GamaB,
+/// where the concrete would crush first; compression counts for that test as a moment at the layer.
 /// @param M     magnitude of the moment [m·t/m]
 /// @param N     axial force, tension positive [t/m]
 /// @param ESP   wall thickness [m]

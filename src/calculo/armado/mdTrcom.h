@@ -26,7 +26,8 @@ double MinimaTraccion(const DatosSeccion& d);
 /// Area of one face [cm2/m]. The layer takes N in the share of its area, and the couple of the
 /// moment:
 ///     A = (|M| / (BRAZO N) + A / (A + Aotra)) N / Fyd
-/// solved by iteration to 0.01 cm2/m. Never below `MinimaTraccion`.
+/// solved by iteration to 0.01 cm2/m. Never below the mechanical minimum 0.04 Fck/GamaB over
+/// Fyk/GamaY, on the whole thickness, as the whole section is in tension.
 /// Valid for N > 0 within the two layers, |M| / N <= BRAZO / 2.
 /// @param M        moment [m·t/m]
 /// @param N        axial force, tension [t/m]

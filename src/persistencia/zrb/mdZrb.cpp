@@ -24,6 +24,7 @@ constexpr int kOffsetNumero = 7;
 constexpr int kOffsetTipologia = 9;
 constexpr int kUltimoOffsetLeido = 64;
 constexpr int kUltimoOffset = 66;
+constexpr int kPrimeraReserva = 16;  // of the header
 constexpr int kRegistroCuenta = 20;
 
 int Base(int posicion) {
@@ -268,6 +269,14 @@ void PonDatos(std::vector<Registro128>& r, const Bloque& bloque, int base, bool 
   }
 }
 
+// Records that no datum has.
+void PonReserva(std::vector<Registro128>& r, int primero, int ultimo) {
+  for (int n = primero; n <= ultimo; ++n) {
+    const auto es = [n](const Registro128& x) { return x.numero == n; };
+    if (std::none_of(r.begin(), r.end(), es)) r.push_back({n, "", "0"});
+  }
+}
+
 // In the order of the file. Turns every text into bytes before the first record changes.
 void EscribeTodos(FicheroRegistros& f, std::vector<Registro128> registros) {
   std::sort(registros.begin(), registros.end(),
@@ -327,7 +336,7 @@ void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos&
       {3, "SisUnid", "SisUnid: " + o.SisUnid + std::string(27, ' ')},
       {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)}};
   PonDatos(r, o, 0, o.EsSI(), separador);
-  for (int reserva = 16; reserva <= 19; ++reserva) r.push_back({reserva, "", "0"});
+  PonReserva(r, kPrimeraReserva, kRegistroCuenta - 1);
   r.push_back({kRegistroCuenta, "", TextoEntero(static_cast<int>(lista.size()))});
   EscribeTodos(f, std::move(r));
 }
@@ -339,9 +348,7 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
       {base + kOffsetCuenta, "", TextoEntero(static_cast<int>(lista.size()))},
       {base + kOffsetNumero, "NumeroTramo", lista.at(static_cast<std::size_t>(posicion - 1))}};
   PonDatos(r, e.tramo, base, e.obra.EsSI(), separador);
-  for (int offset = kUltimoOffsetLeido + 1; offset <= kUltimoOffset; ++offset) {
-    r.push_back({base + offset, "", "0"});
-  }
+  PonReserva(r, base + kUltimoOffsetLeido + 1, base + kUltimoOffset);
   EscribeTodos(f, std::move(r));
 }
 

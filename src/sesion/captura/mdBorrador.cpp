@@ -16,11 +16,6 @@ namespace {
 
 constexpr auto kDeTramo = std::to_array<Ed>({Ed::edTramo, Ed::edTramo2});
 
-// Copies of fields of another page.
-bool EsCopia(Ed campo) {
-  return campo == Ed::edObra2 || campo == Ed::edTramo2 || campo == Ed::edDescriTramo2;
-}
-
 int NumeroEnLista(const std::string& texto) {
   return static_cast<int>(NumeroTexto(texto).value_or(0));
 }
@@ -38,7 +33,7 @@ std::uint64_t HuellaActual(const FicheroRegistros& f, int posicion) {
   }
 }
 
-int PosicionDe(const Captura& c, const Borrador& b) {
+int PosicionGuardada(const Captura& c, const Borrador& b) {
   return b.estado == kModificaciones ? PosicionDelTramo(c, b.tramo.NumeroTramo) : 0;
 }
 
@@ -82,7 +77,7 @@ int NumeroSiguiente(const Captura& c) {
 }
 
 void PonTramo(Captura& c, const Borrador& b) {
-  const bool guardado = PosicionDe(c, b) != 0;
+  const bool guardado = PosicionGuardada(c, b) != 0;
   int numero = b.tramo.NumeroTramo;
   const bool tomado = PosicionDelTramo(c, numero) != 0;
   if (numero <= 0 || (tomado && !guardado)) numero = NumeroSiguiente(c);
@@ -152,7 +147,7 @@ void AbreSombra(Captura& c, const Borrador& b) {
     MuestraListaTramos(c);
   }
   RevisaUnidades(c, b.obra.SisUnid);
-  const int posicion = PosicionDe(c, b);
+  const int posicion = PosicionGuardada(c, b);
   if (posicion != 0) LeeTramo(c, posicion);
 }
 
@@ -227,7 +222,7 @@ Borrador TomaBorrador(const Captura& c) {
   for (const auto& fila : TablaCampos()) {
     b.campos[static_cast<std::size_t>(fila.id)] = TomaCampo(c, fila.id);
   }
-  if (c.fichero) b.huella = HuellaActual(*c.fichero, PosicionDe(c, b));
+  if (c.fichero) b.huella = HuellaActual(*c.fichero, PosicionGuardada(c, b));
   return b;
 }
 
@@ -269,7 +264,7 @@ Versiones ComparaVersiones(const Borrador& b, const Catalogo& textos, const Tabl
       NuevaObra(sombra->c);
     }
   }
-  const int posicion = PosicionDe(fichero.c, b);
+  const int posicion = PosicionGuardada(fichero.c, b);
   v.tramoEsNuevo = posicion == 0;
   v.cambiado = !b.fichero.empty() && v.causa.empty() &&
                HuellaActual(*fichero.c.fichero, posicion) != b.huella;

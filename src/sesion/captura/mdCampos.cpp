@@ -74,6 +74,10 @@ const FilaCampo& Fila(Ed id) {
   return kCampos[static_cast<std::size_t>(id)];
 }
 
+bool EsCopia(Ed id) {
+  return id == Ed::edObra2 || id == Ed::edTramo2 || id == Ed::edDescriTramo2;
+}
+
 std::optional<Ed> CampoPorNombre(std::string_view nombre) {
   const auto f = std::find_if(kCampos.begin(), kCampos.end(),
                               [&](const FilaCampo& c) { return c.nombre == nombre; });

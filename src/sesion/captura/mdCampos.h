@@ -31,6 +31,9 @@ std::span<const FilaCampo> TablaCampos();
 
 const FilaCampo& Fila(Ed id);
 
+/// Whether a field repeats one of another page.
+bool EsCopia(Ed id);
+
 /// Field by its name. No value for an unknown one.
 std::optional<Ed> CampoPorNombre(std::string_view nombre);
 

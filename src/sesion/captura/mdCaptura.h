@@ -34,6 +34,13 @@ struct Falta {
   std::string mensaje;
 };
 
+/// What leaving a field comes to.
+enum class SalidaCampo {
+  Pasa,    // the focus may go where it was going
+  Queda,   // refused: it stays
+  VaOtro,  // it goes to the field that the model names in `foco`
+};
+
 struct Captura {
   Captura(EstadoCalculo& estado, Catalogo& catalogo, const TablasCatalogo& dimensiones,
           Interlocutor& interlocutor, char separador)

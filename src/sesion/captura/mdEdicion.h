@@ -1,17 +1,11 @@
 // The four moments of a field (entering it, a key, a change, leaving it), and the choices that are
-// no text: ticks, options, pages.
+// no text: ticks and options.
 #pragma once
 
 #include "sesion/captura/mdCaptura.h"
+#include "sesion/captura/mdPaginas.h"
 
 namespace zorbin {
-
-/// What leaving a field comes to.
-enum class SalidaCampo {
-  Pasa,    // the focus may go where it was going
-  Queda,   // refused: it stays
-  VaOtro,  // it goes to the field that the model names in `foco`
-};
 
 /// The field takes the focus: its page comes forward, a blank takes its default, and the content is
 /// selected whole.
@@ -31,12 +25,5 @@ void CambiaMarca(Captura& c, Ed marca, bool puesta);
 
 /// A person chose an option, from 0.
 void EligeOpcion(Captura& c, Ed grupo, int opcion);
-
-/// A person chose a page of TabPrincipal. @return whether it stands in front
-bool CambiaPagina(Captura& c, int pagina);
-/// A page of TabDatosColocacion. As CambiaPagina.
-bool CambiaPaginaColocacion(Captura& c, int pagina);
-/// A page of TabPostesados.
-void CambiaPaginaPostesados(Captura& c, int pagina);
 
 }  // namespace zorbin

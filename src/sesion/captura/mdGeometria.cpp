@@ -1,18 +1,15 @@
 #include "sesion/captura/mdGeometria.h"
 
 #include <array>
-#include <optional>
 
 #include "base/textos.h"
-#include "sesion/captura/mdEtiquetas.h"
 
 namespace zorbin {
 
 namespace {
 
 constexpr double kMmPorCm = 10.0;
-constexpr double kTolerancia = 0.02;  // of the diameter, on the thickness
-constexpr double kRecubMin = 20.0;    // band of a cover [mm]
+constexpr double kRecubMin = 20.0;  // band of a cover [mm]
 constexpr double kRecubMax = 40.0;
 
 struct GrupoTipologia {
@@ -51,7 +48,8 @@ bool QuiereCambiar(Captura& c, const Medidas& u, const DimensionesGrupo& t) {
 // Of a lined cylinder only the inner cover is tested, which there is the computed one.
 bool Aceptables(const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
   const auto enBanda = [](double x) { return x >= kRecubMin && x <= kRecubMax; };
-  const bool espesor = u.Esp >= t.Esp - kTolerancia * D && u.Esp <= t.Esp + kTolerancia * D;
+  const bool espesor =
+      u.Esp >= t.Esp - kToleranciaEspesor * D && u.Esp <= t.Esp + kToleranciaEspesor * D;
   return espesor && enBanda(u.Reci) && (tipologia == kRevestida || enBanda(u.Rece));
 }
 
@@ -59,34 +57,6 @@ int Compara(Captura& c, const Medidas& u, const DimensionesGrupo& t, double D, i
   const bool iguales = u.Esp == t.Esp && u.Reci == t.Reci && u.Rece == t.Rece;
   if (iguales || c.SinAvisoGeom || Aceptables(u, t, D, tipologia)) return kGeomHallado;
   return QuiereCambiar(c, u, t) ? kGeomPorCambiar : kGeomHallado;
-}
-
-int BuscaEnTramo(Captura& c, ModoGeom modo) {
-  auto& t = c.e.tramo;
-  return RecomendadosGeom(c, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di, modo);
-}
-
-// A dimension takes the place of the text when the diameter is another or the field is blank.
-void Reemplaza(Captura& c, Ed campo, bool otroDi) {
-  if (otroDi || EnBlanco(c, campo)) MuestraVariable(c, campo);
-}
-
-// What the three checks of a dimension share.
-int CompruebaDimension(Captura& c, Ed campo, double& destino, int etiqueta, ModoGeom modo) {
-  if (!c.EsComercial && !LeeAlSalir(c, campo, 0.001, destino, etiqueta)) return kDimSeQueda;
-  if (!LeeAlSalir(c, campo, 0.0, destino, etiqueta)) return kDimVuelveADi;
-  if (destino < 0.001 && BuscaEnTramo(c, modo) != kGeomHallado) {
-    Rechaza(c, campo, Texto(c, txt::NoEsComercial), Texto(c, txt::EtEsp));
-    return kDimVuelveADi;
-  }
-  return kDimAceptada;
-}
-
-// The inner cover of a lined cylinder is what the coating leaves.
-void RecubrimientoRevestida(Captura& c) {
-  auto& t = c.e.tramo;
-  t.Reci = t.Esp - t.Rece;
-  MuestraVariable(c, Ed::edReci0);
 }
 
 }  // namespace
@@ -111,6 +81,11 @@ int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Ti
   if (modo != ModoGeom::Compara) return kGeomHallado;
   const auto mm = [](double cm) { return Redondea(cm * kMmPorCm + 0.01); };
   return Compara(c, {mm(Esp), mm(Reci), mm(Rece)}, *t, Redondea(Di * 1000.0 + 0.0001), Tipologia);
+}
+
+int BuscaEnTramo(Captura& c, ModoGeom modo) {
+  auto& t = c.e.tramo;
+  return RecomendadosGeom(c, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di, modo);
 }
 
 int CompruebaRecomendados(Captura& c) {
@@ -159,68 +134,6 @@ void RecalculaB0(Captura& c) {
   if (c.e.tramo.TipoColocacion == 2) return;
   c.e.tramo.B0 = AnchoAutomatico(c);
   MuestraVariable(c, Ed::edB0);
-}
-
-bool CompruebaDi(Captura& c) {
-  auto& t = c.e.tramo;
-  const double anterior = t.Di;
-  if (!LeeAlSalir(c, Ed::edDi0, 0.001, t.Di, txt::EtDiEdicion)) return false;
-  const bool otro = t.Di != anterior;
-  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
-  if (!c.EsComercial &&
-      c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) {
-    t.Di = anterior;  // the diameter that comes instead is a change against this one
-    return false;
-  }
-  c.EspRecomMin = c.EspRecomMax = 0;
-  c.BandaReci = c.BandaRece = false;
-  if (c.EsComercial) {
-    BuscaEnTramo(c, ModoGeom::Espesor);
-    const double margen = t.Di * kTolerancia * 100.0;
-    c.EspRecomMin = Redondea(t.Esp - margen);
-    c.EspRecomMax = Redondea(margen + t.Esp);
-    Reemplaza(c, Ed::edEsp0, otro);
-    if (t.Tipologia != kRevestida) {
-      BuscaEnTramo(c, ModoGeom::Interior);
-      Reemplaza(c, Ed::edReci0, otro);
-      c.BandaReci = true;
-    }
-    BuscaEnTramo(c, ModoGeom::Exterior);
-    Reemplaza(c, Ed::edRece0, otro);
-    c.BandaRece = true;
-  }
-  RenuevaEtiquetas(c);
-  CalculaDe(c);
-  return true;
-}
-
-int CompruebaEsp(Captura& c) {
-  auto& t = c.e.tramo;
-  const int codigo = CompruebaDimension(c, Ed::edEsp0, t.Esp, txt::EtEsp, ModoGeom::Espesor);
-  if (codigo != kDimAceptada) return codigo;
-  if (t.Tipologia == kRevestida && !EnBlanco(c, Ed::edRece0)) RecubrimientoRevestida(c);
-  CalculaDe(c);
-  return kDimAceptada;
-}
-
-int CompruebaReci(Captura& c) {
-  return CompruebaDimension(c, Ed::edReci0, c.e.tramo.Reci, txt::EtReci, ModoGeom::Interior);
-}
-
-int CompruebaRece(Captura& c) {
-  auto& t = c.e.tramo;
-  const int codigo = CompruebaDimension(c, Ed::edRece0, t.Rece, txt::EtRece, ModoGeom::Exterior);
-  if (codigo == kDimAceptada && t.Tipologia == kRevestida) RecubrimientoRevestida(c);
-  return codigo;
-}
-
-bool CompruebaB0(Captura& c) {
-  auto& t = c.e.tramo;
-  if (!LeeAlSalir(c, Ed::edB0, 0.0, t.B0, txt::EtAnchuraZanja)) return false;
-  if (t.B0 < 0.001) {
-    RecalculaB0(c);
-  }
-  return true;
 }
 
 }  // namespace zorbin

@@ -1,5 +1,5 @@
-// Recommended dimensions: the lookup of a diameter in the manufacturers' table and the judgement of
-// what was typed against it.
+// Recommended dimensions: the lookup of a diameter in the manufacturers' table, the judgement of
+// what was typed against it, and the dimensions that follow from others.
 #pragma once
 
 #include "sesion/captura/mdCaptura.h"
@@ -14,6 +14,9 @@ inline constexpr int kGeomNoListado = 1;  // also a typology without group
 inline constexpr int kGeomNoSeFabrica = 2;
 inline constexpr int kGeomPorCambiar = 3;  // the person wants other values
 
+/// A thickness may differ from that of the table by this part of the diameter.
+inline constexpr double kToleranciaEspesor = 0.02;
+
 /// Group of a typology by the first column it has in the table: 2, 5, 8, 11, 14; 0 for none.
 int GrupoDeTipologia(int tipologia);
 
@@ -23,6 +26,9 @@ int GrupoDeTipologia(int tipologia);
 int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
                      ModoGeom modo);
 
+/// As RecomendadosGeom for the Tramo in hand.
+int BuscaEnTramo(Captura& c, ModoGeom modo);
+
 /// Compares the dimensions of the Tramo with the recommended ones. @return 0, or the code of
 /// RecomendadosGeom
 int CompruebaRecomendados(Captura& c);
@@ -31,19 +37,6 @@ int CompruebaRecomendados(Captura& c);
 void CargaListasGeom(Captura& c, int grupo);
 /// Diameters offered by edDi0.
 void CargaListaDiametros(Captura& c);
-
-/// Where the focus goes after a check of a dimension.
-inline constexpr int kDimAceptada = 0;
-inline constexpr int kDimSeQueda = 1;
-inline constexpr int kDimVuelveADi = 2;
-
-/// The check of edDi0. @return whether the field may be left
-bool CompruebaDi(Captura& c);
-int CompruebaEsp(Captura& c);
-int CompruebaReci(Captura& c);
-int CompruebaRece(Captura& c);
-/// The check of edB0: a 0 takes the automatic width. @return whether the field may be left
-bool CompruebaB0(Captura& c);
 
 /// De from Di and Esp, shown.
 void CalculaDe(Captura& c);

@@ -58,7 +58,9 @@ void PreparaPantalla(Captura& c) {
   PoneTextosCaptura(c);
   CargaListaDiametros(c);
   Bloquea(c, Ed::edDe0);
-  for (const Ed copia : {Ed::edObra2, Ed::edTramo2, Ed::edDescriTramo2}) Bloquea(c, copia);
+  for (const auto& fila : TablaCampos()) {
+    if (EsCopia(fila.id)) Bloquea(c, fila.id);
+  }
   c[Ed::rdSistemaUnidades].opcion = c.EsSI() ? 0 : 1;
   c[Ed::rdGolpeAriete].opcion = c.e.obra.GolpeCalculado ? 0 : 1;
   ActualizaMenus(c);

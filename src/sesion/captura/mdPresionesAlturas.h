@@ -1,7 +1,7 @@
 // Leaving the fields of pressures and fill heights, of the Obra and of the Tramo.
 #pragma once
 
-#include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdCaptura.h"
 
 namespace zorbin {
 

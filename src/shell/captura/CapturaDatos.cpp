@@ -1,7 +1,6 @@
 #include "shell/captura/CapturaDatos.h"
 
 #include <QApplication>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,12 +10,11 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "base/mdCarpetas.h"
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdListaTramos.h"
 #include "sesion/captura/mdTipologias.h"
-#include "shell/captura/frFiguras.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
@@ -47,11 +45,6 @@ bool EsObligatorio(const FilaCampo& fila) {
   }
 }
 
-// Of a field of another page.
-bool EsCopia(Ed campo) {
-  return campo == Ed::edObra2 || campo == Ed::edTramo2 || campo == Ed::edDescriTramo2;
-}
-
 // Pages 1 and 2 show a Tramo: with none in hand nothing of them is required yet.
 bool EnUso(const Captura& c, const FilaCampo& fila) {
   if (fila.pagina.TabPrincipal != 0 && c.SinTramoEnMano()) return false;
@@ -64,13 +57,14 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
     : QWidget(padre), c_(c), entorno_(entorno) {
   setObjectName(QStringLiteral("CapturaDatos"));
   CreaCampos();
+  CreaPaginas();
   auto* filas = new QVBoxLayout(this);
   filas->addWidget(CreaCabecera());
   TabPrincipal_ = new Pestanas(this);
   TabPrincipal_->setObjectName(QStringLiteral("TabPrincipal"));
-  TabPrincipal_->Anade(CreaPaginaObra());
-  TabPrincipal_->Anade(CreaPaginaTramo());
-  TabPrincipal_->Anade(CreaPaginaColocacion());
+  for (auto* pagina : {paginas_->obra(), paginas_->tramo(), paginas_->colocacion()}) {
+    TabPrincipal_->Anade(pagina);
+  }
   for (int n = 0; n < 3; ++n) {
     rotulados_.push_back(
         {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
@@ -94,6 +88,13 @@ void CapturaDatos::CreaCampos() {
     porWidget_.insert(&campo->widget(), fila.id);
     vigilante_->Vigila(campo->widget());
   }
+}
+
+void CapturaDatos::CreaPaginas() {
+  paginas_ = new PaginasCaptura(campos_, this);
+  connect(paginas_, &PaginasCaptura::figuraPedida, this, &CapturaDatos::figuraPedida);
+  connect(paginas_, &PaginasCaptura::tramoElegido, this,
+          [this](const QString& numero) { Hace([this, &numero] { TomaTramo(c_, S(numero)); }); });
 }
 
 QWidget* CapturaDatos::CreaCabecera() {
@@ -211,9 +212,25 @@ void CapturaDatos::EnlazaPestanas() {
     const bool bloqueado = c_[Ed::edTramo].bloqueado;
     c_.pantalla.foco = pagina == 0 ? Ed::edObra : bloqueado ? Ed::edDescriTramo : Ed::edTramo;
   });
-  pide(*TabTipologia_, [this](int pagina) { EligePaginaTipologia(c_, pagina); });
-  pide(*TabPostesados_, [this](int pagina) { CambiaPaginaPostesados(c_, pagina); });
-  pide(*TabDatosColocacion_, [this](int pagina) { CambiaPaginaColocacion(c_, pagina); });
+  pide(paginas_->TabTipologia(), [this](int pagina) { EligePaginaTipologia(c_, pagina); });
+  pide(paginas_->TabPostesados(), [this](int pagina) { CambiaPaginaPostesados(c_, pagina); });
+  pide(paginas_->TabDatosColocacion(), [this](int pagina) { CambiaPaginaColocacion(c_, pagina); });
+}
+
+void CapturaDatos::OrdenaTabulador() {
+  QWidget* antes = nullptr;
+  const auto sigue = [&antes](QWidget* widget) {
+    if (antes != nullptr) setTabOrder(antes, widget);
+    antes = widget;
+  };
+  for (const Ed id : paginas_->orden()) {
+    if (EsCopia(id) || id == Ed::edDe0) {
+      campo(id).widget().setFocusPolicy(Qt::ClickFocus);
+    } else {
+      sigue(Destino(id));
+    }
+  }
+  for (const auto& boton : botones_) sigue(boton.widget);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -323,39 +340,26 @@ void CapturaDatos::Refresca() {
     const auto marca = MarcaDe(campo->id());
     campo->Refresca(c_[campo->id()], marca, PorqueDe(marca));
   }
-  for (const auto& cabecera : cabeceras_) cabecera.rotulo->setText(Q(c_[cabecera.campo].grupo));
-  alturas_->setTitle(Q(c_[Ed::edAlt1].grupo));
+  paginas_->Refresca(c_);
   for (const auto& boton : botones_) {
     boton.widget->setEnabled(p.Habilitada(boton.orden));
     if (boton.orden == Orden::btCancelar) boton.widget->setText(Rotulo(p.textoCancelar));
   }
   titulo_->setText(Rotulo(p.titulo));
-  avCargas1_->setText(Q(p.avCargas1));
-  avCargas1_->setVisible(!p.avCargas1.empty());
   const auto& falta = c_.falta;
   falta_->setText(falta
                       ? Rotulo((falta->titulo.empty() ? "" : falta->titulo + ": ") + falta->mensaje)
                       : QString());
   TabPrincipal_->Pon(p.pagina.TabPrincipal);
-  TabTipologia_->Pon(p.pagina.TabTipologia);
-  TabPostesados_->Pon(p.pagina.TabPostesados);
-  TabDatosColocacion_->Pon(p.pagina.TabDatosColocacion);
   barraObra_->setVisible(p.pagina.TabPrincipal == 0);
   barraTramo_->setVisible(p.pagina.TabPrincipal != 0);
-  RefrescaFigura(*ptPostesado_, p.figuraTubo);
-  RefrescaFigura(*ptPostesado2_, p.figuraTubo);
-  RefrescaFigura(*ptColocacion_, p.figuraColocacion);
   refrescando_ = false;
-}
-
-void CapturaDatos::RefrescaFigura(Figura& figura, const std::string& nombre) {
-  figura.Pon(nombre.empty() ? QString() : Q(RutaFigura(nombre).string()));
 }
 
 void CapturaDatos::RenuevaTextos() {
   for (const auto& rotulado : rotulados_) rotulado.pon(Q(c_.textos.Texto(rotulado.texto)));
   for (const auto& boton : botones_) boton.widget->setText(Rotulo(c_.textos.Texto(boton.texto)));
-  RenuevaTramos();
+  paginas_->RenuevaTextos(c_);
   Refresca();
 }
 

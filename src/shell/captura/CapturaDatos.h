@@ -10,19 +10,16 @@
 
 #include "sesion/captura/mdCaptura.h"
 #include "shell/captura/mdCampoPantalla.h"
+#include "shell/captura/mdPaginasCaptura.h"
 #include "shell/piezas/mdEntorno.h"
 #include "shell/piezas/mdVigilanteFoco.h"
 
-class QGridLayout;
-class QGroupBox;
 class QLabel;
 class QPushButton;
 class QToolButton;
-class QTreeWidget;
 
 namespace zorbin {
 
-class Figura;
 class Pestanas;
 
 class CapturaDatos : public QWidget {
@@ -39,7 +36,7 @@ class CapturaDatos : public QWidget {
   void RenuevaTextos();
 
   /// The list of the stored Tramos, read anew.
-  void RenuevaTramos();
+  void RenuevaTramos() { paginas_->RenuevaTramos(c_); }
 
   /// Runs an action on the capture and shows what it left, the focus where the model has it. The
   /// field in hand is left first, and where it refuses nothing is done, unless the action
@@ -67,60 +64,28 @@ class CapturaDatos : public QWidget {
     Orden orden;
     int texto;
   };
-  struct Rotulado {
-    std::function<void(const QString&)> pon;
-    int texto;
-  };
 
   Captura& c_;
   const Entorno& entorno_;
-  std::array<CampoPantalla*, kCamposCaptura> campos_{};
+  PaginasCaptura::Campos campos_{};
+  PaginasCaptura* paginas_ = nullptr;
   QMap<QWidget*, Ed> porWidget_;
   std::vector<Boton> botones_;
-  std::vector<Rotulado> rotulados_;  // texts of the catalogue that the model does not hold
+  std::vector<Rotulado> rotulados_;  // of what is no page
   VigilanteFoco* vigilante_ = nullptr;
   bool refrescando_ = false;
 
   QLabel* titulo_ = nullptr;
   QToolButton* cierre_ = nullptr;
   QLabel* falta_ = nullptr;  // why the last field was refused
-  QLabel* avCargas1_ = nullptr;
   Pestanas* TabPrincipal_ = nullptr;
-  Pestanas* TabTipologia_ = nullptr;
-  Pestanas* TabPostesados_ = nullptr;
-  Pestanas* TabDatosColocacion_ = nullptr;
-  Figura* ptPostesado_ = nullptr;
-  Figura* ptPostesado2_ = nullptr;
-  Figura* ptColocacion_ = nullptr;
-  QTreeWidget* tramos_ = nullptr;
-  QGroupBox* alturas_ = nullptr;
   QWidget* barraObra_ = nullptr;
   QWidget* barraTramo_ = nullptr;
-  // Captions over columns of fields come from the fields.
-  struct Cabecera {
-    QLabel* rotulo;
-    Ed campo;
-  };
-  std::vector<Cabecera> cabeceras_;
 
   void CreaCampos();
+  void CreaPaginas();
   QWidget* CreaCabecera();
   QWidget* CreaBotones();
-  QWidget* CreaPaginaObra();
-  QWidget* CreaTramos();
-  QWidget* CreaPaginaTramo();
-  QWidget* CreaPaginaColocacion();
-  QWidget* CreaPaginaArmado();
-  QWidget* CreaPaginaPostesado();
-  QWidget* CreaPaginaTubo();
-  QWidget* CreaPaginaRelleno();
-  QWidget* CreaPaginaCargas();
-  QGroupBox* CreaGrupo(int texto);
-  QWidget* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
-  QWidget* CreaFormulario(std::initializer_list<Ed> campos);
-  void PonFila(QGridLayout& rejilla, int fila, Ed campo);
-  void PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos);
-  Figura* CreaFigura(int minimo);
   void CreaBoton(QWidget& barra, Orden orden, int texto);
   void OrdenaTabulador();
   void Enlaza(CampoPantalla& campo);
@@ -132,7 +97,6 @@ class CapturaDatos : public QWidget {
   QWidget* Sale(QWidget* widget);
   QWidget* Destino(Ed campo) const;
   void TrasAccion();
-  void RefrescaFigura(Figura& figura, const std::string& nombre);
   MarcaCampo MarcaDe(Ed campo) const;
   QString PorqueDe(MarcaCampo marca) const;
 };

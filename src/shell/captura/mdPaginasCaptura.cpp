@@ -1,4 +1,5 @@
-// The pages of the capture screen: which field stands where.
+#include "shell/captura/mdPaginasCaptura.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -10,9 +11,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "base/mdCarpetas.h"
 #include "base/textos.h"
 #include "sesion/captura/mdListaTramos.h"
-#include "shell/captura/CapturaDatos.h"
 #include "shell/captura/frFiguras.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdQt.h"
@@ -34,9 +35,56 @@ QWidget* EnPagina(QWidget* contenido) {
   return pagina;
 }
 
+void RefrescaFigura(Figura& figura, const std::string& nombre) {
+  figura.Pon(nombre.empty() ? QString() : Q(RutaFigura(nombre).string()));
+}
+
 }  // namespace
 
-QGroupBox* CapturaDatos::CreaGrupo(int texto) {
+PaginasCaptura::PaginasCaptura(const Campos& campos, QObject* padre)
+    : QObject(padre), campos_(campos) {
+  obra_ = CreaPaginaObra();
+  tramo_ = CreaPaginaTramo();
+  colocacion_ = CreaPaginaColocacion();
+}
+
+void PaginasCaptura::RenuevaTextos(const Captura& c) {
+  for (const auto& rotulado : rotulados_) rotulado.pon(Q(c.textos.Texto(rotulado.texto)));
+  RenuevaTramos(c);
+}
+
+void PaginasCaptura::RenuevaTramos(const Captura& c) {
+  tramos_->clear();
+  for (const auto& r : RenglonesTramos(c)) {
+    auto* renglon = new QTreeWidgetItem(
+        tramos_, {Q(r.numero), Q(r.descripcion), Q(r.tipologia), Q(r.Di), Q(r.colocacion)});
+    renglon->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
+    renglon->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
+  }
+  for (int i = 0; i < tramos_->columnCount(); ++i) tramos_->resizeColumnToContents(i);
+}
+
+void PaginasCaptura::Refresca(const Captura& c) {
+  const auto& p = c.pantalla;
+  for (const auto& cabecera : cabeceras_) cabecera.rotulo->setText(Q(c[cabecera.campo].grupo));
+  alturas_->setTitle(Q(c[Ed::edAlt1].grupo));
+  avCargas1_->setText(Q(p.avCargas1));
+  avCargas1_->setVisible(!p.avCargas1.empty());
+  TabTipologia_->Pon(p.pagina.TabTipologia);
+  TabPostesados_->Pon(p.pagina.TabPostesados);
+  TabDatosColocacion_->Pon(p.pagina.TabDatosColocacion);
+  RefrescaFigura(*ptPostesado_, p.figuraTubo);
+  RefrescaFigura(*ptPostesado2_, p.figuraTubo);
+  RefrescaFigura(*ptColocacion_, p.figuraColocacion);
+}
+
+// The keyboard goes as the fields are placed.
+QWidget& PaginasCaptura::Coloca(Ed id) {
+  orden_.push_back(id);
+  return campo(id).widget();
+}
+
+QGroupBox* PaginasCaptura::CreaGrupo(int texto) {
   auto* grupo = new QGroupBox;
   if (texto != 0) {
     rotulados_.push_back({[grupo](const QString& t) {
@@ -47,25 +95,24 @@ QGroupBox* CapturaDatos::CreaGrupo(int texto) {
   return grupo;
 }
 
-void CapturaDatos::PonFila(QGridLayout& rejilla, int fila, Ed id) {
-  auto& c = campo(id);
+void PaginasCaptura::PonFila(QGridLayout& rejilla, int fila, Ed id) {
   if (Fila(id).clase == Clase::Marca || Fila(id).clase == Clase::Opcion) {
-    c.etiqueta().hide();
-    rejilla.addWidget(&c.widget(), fila, 0, 1, 2);
+    campo(id).etiqueta().hide();
+    rejilla.addWidget(&Coloca(id), fila, 0, 1, 2);
     return;
   }
-  rejilla.addWidget(&c.etiqueta(), fila, 0);
+  rejilla.addWidget(&campo(id).etiqueta(), fila, 0);
   const bool ancho = Fila(id).clase == Clase::Texto && id != Ed::edTramo && id != Ed::edTramo2;
-  rejilla.addWidget(&c.widget(), fila, 1, ancho ? Qt::Alignment() : Qt::AlignLeft);
+  rejilla.addWidget(&Coloca(id), fila, 1, ancho ? Qt::Alignment() : Qt::AlignLeft);
 }
 
-void CapturaDatos::PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos) {
+void PaginasCaptura::PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos) {
   int fila = 0;
   for (const Ed id : campos) PonFila(rejilla, fila++, id);
   rejilla.setColumnStretch(1, 1);
 }
 
-QWidget* CapturaDatos::CreaFormulario(std::initializer_list<Ed> campos) {
+QWidget* PaginasCaptura::CreaFormulario(std::initializer_list<Ed> campos) {
   auto* formulario = new QWidget;
   auto* rejilla = new QGridLayout(formulario);
   PonFilas(*rejilla, campos);
@@ -74,7 +121,7 @@ QWidget* CapturaDatos::CreaFormulario(std::initializer_list<Ed> campos) {
 }
 
 // Pressures as a table: MDP first, since the design pressures follow from them.
-QWidget* CapturaDatos::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento) {
+QWidget* PaginasCaptura::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento) {
   auto* grupo = CreaGrupo(txt::GrPresion);
   auto* rejilla = new QGridLayout(grupo);
   const auto cabecera = [&](Ed campo, int columna) {
@@ -88,10 +135,10 @@ QWidget* CapturaDatos::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed increm
   cabecera(dp1, 2);
   const auto fila = [&](int n, Ed izquierda, Ed derecha) {
     rejilla->addWidget(&campo(izquierda).etiqueta(), n, 0);
-    rejilla->addWidget(&campo(izquierda).widget(), n, 1, Qt::AlignHCenter);
+    rejilla->addWidget(&Coloca(izquierda), n, 1, Qt::AlignHCenter);
     if (derecha == izquierda) return;
     campo(derecha).etiqueta().hide();
-    rejilla->addWidget(&campo(derecha).widget(), n, 2, Qt::AlignHCenter);
+    rejilla->addWidget(&Coloca(derecha), n, 2, Qt::AlignHCenter);
   };
   fila(1, mdp1, dp1);
   fila(2, mdp2, dp2);
@@ -101,7 +148,7 @@ QWidget* CapturaDatos::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed increm
   return grupo;
 }
 
-Figura* CapturaDatos::CreaFigura(int minimo) {
+Figura* PaginasCaptura::CreaFigura(int minimo) {
   auto* figura = new Figura;
   figura->setMinimumWidth(minimo);
   rotulados_.push_back(
@@ -115,7 +162,7 @@ Figura* CapturaDatos::CreaFigura(int minimo) {
 // ---------------------------------------------------------------------------------------------
 // Page of the Obra
 
-QWidget* CapturaDatos::CreaTramos() {
+QWidget* PaginasCaptura::CreaTramos() {
   auto* grupo = CreaGrupo(txt::MenuTramos);
   auto* filas = new QVBoxLayout(grupo);
   tramos_ = new QTreeWidget;
@@ -137,26 +184,13 @@ QWidget* CapturaDatos::CreaTramos() {
         {[this, columna](const QString& t) { tramos_->headerItem()->setText(columna, t); }, texto});
     ++columna;
   }
-  connect(tramos_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* renglon, int) {
-    const std::string numero = S(renglon->text(0));
-    Hace([this, numero] { TomaTramo(c_, numero); });
-  });
+  connect(tramos_, &QTreeWidget::itemActivated, this,
+          [this](QTreeWidgetItem* renglon, int) { emit tramoElegido(renglon->text(0)); });
   filas->addWidget(tramos_);
   return grupo;
 }
 
-void CapturaDatos::RenuevaTramos() {
-  tramos_->clear();
-  for (const auto& r : RenglonesTramos(c_)) {
-    auto* renglon = new QTreeWidgetItem(
-        tramos_, {Q(r.numero), Q(r.descripcion), Q(r.tipologia), Q(r.Di), Q(r.colocacion)});
-    renglon->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
-    renglon->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
-  }
-  for (int i = 0; i < tramos_->columnCount(); ++i) tramos_->resizeColumnToContents(i);
-}
-
-QWidget* CapturaDatos::CreaPaginaObra() {
+QWidget* PaginasCaptura::CreaPaginaObra() {
   auto* pagina = new QWidget;
   auto* todo = new QVBoxLayout(pagina);
   auto* columnas = new QHBoxLayout;
@@ -170,7 +204,7 @@ QWidget* CapturaDatos::CreaPaginaObra() {
   auto* opciones = new QHBoxLayout;
   for (const Ed id : {Ed::rdSistemaUnidades, Ed::rdGolpeAriete}) {
     campo(id).etiqueta().hide();
-    opciones->addWidget(&campo(id).widget());
+    opciones->addWidget(&Coloca(id));
   }
   izquierda->addLayout(opciones);
   izquierda->addStretch(1);
@@ -190,7 +224,7 @@ QWidget* CapturaDatos::CreaPaginaObra() {
 // ---------------------------------------------------------------------------------------------
 // Page of the typology
 
-QWidget* CapturaDatos::CreaPaginaArmado() {
+QWidget* PaginasCaptura::CreaPaginaArmado() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
   auto* limite = CreaGrupo(txt::RotIcontes0);
@@ -203,11 +237,11 @@ QWidget* CapturaDatos::CreaPaginaArmado() {
   return EnPagina(pagina);
 }
 
-QWidget* CapturaDatos::CreaPaginaPostesado() {
+QWidget* PaginasCaptura::CreaPaginaPostesado() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
   campo(Ed::rdTipoCamisa).etiqueta().hide();
-  filas->addWidget(&campo(Ed::rdTipoCamisa).widget());
+  filas->addWidget(&Coloca(Ed::rdTipoCamisa));
   auto* prueba = CreaGrupo(txt::RotIcontes1);
   auto* rejilla = new QGridLayout(prueba);
   PonFilas(*rejilla, {Ed::edIcontes1, Ed::edCoepre1});
@@ -229,7 +263,7 @@ QWidget* CapturaDatos::CreaPaginaPostesado() {
   return EnPagina(pagina);
 }
 
-QWidget* CapturaDatos::CreaPaginaTramo() {
+QWidget* PaginasCaptura::CreaPaginaTramo() {
   auto* pagina = new QWidget;
   auto* columnas = new QHBoxLayout(pagina);
   auto* izquierda = new QVBoxLayout;
@@ -258,7 +292,7 @@ QWidget* CapturaDatos::CreaPaginaTramo() {
 // ---------------------------------------------------------------------------------------------
 // Page of the laying
 
-QWidget* CapturaDatos::CreaPaginaTubo() {
+QWidget* PaginasCaptura::CreaPaginaTubo() {
   auto* pagina = new QWidget;
   auto* columnas = new QHBoxLayout(pagina);
   columnas->addWidget(CreaFormulario({Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0, Ed::edRece0,
@@ -269,14 +303,14 @@ QWidget* CapturaDatos::CreaPaginaTubo() {
   return EnPagina(pagina);
 }
 
-QWidget* CapturaDatos::CreaPaginaRelleno() {
+QWidget* PaginasCaptura::CreaPaginaRelleno() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
   auto* alturas = CreaGrupo(txt::EtAlturas);
   auto* fila = new QHBoxLayout(alturas);
   for (const Ed id : {Ed::edHr0, Ed::edHr0Final, Ed::edHr0Delta}) {
     fila->addWidget(&campo(id).etiqueta());
-    fila->addWidget(&campo(id).widget());
+    fila->addWidget(&Coloca(id));
   }
   fila->addStretch(1);
   filas->addWidget(alturas);
@@ -286,7 +320,7 @@ QWidget* CapturaDatos::CreaPaginaRelleno() {
   return EnPagina(pagina);
 }
 
-QWidget* CapturaDatos::CreaPaginaCargas() {
+QWidget* PaginasCaptura::CreaPaginaCargas() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
   filas->addWidget(CreaFormulario({Ed::edQDato0, Ed::edICar0}));
@@ -300,7 +334,7 @@ QWidget* CapturaDatos::CreaPaginaCargas() {
   return EnPagina(pagina);
 }
 
-QWidget* CapturaDatos::CreaPaginaColocacion() {
+QWidget* PaginasCaptura::CreaPaginaColocacion() {
   auto* pagina = new QWidget;
   auto* columnas = new QHBoxLayout(pagina);
   auto* izquierda = new QVBoxLayout;
@@ -308,7 +342,7 @@ QWidget* CapturaDatos::CreaPaginaColocacion() {
   PonFilas(*cabeza, {Ed::edObra2, Ed::edTramo2, Ed::edDescriTramo2});
   izquierda->addLayout(cabeza);
   campo(Ed::rdTipoColocacion).etiqueta().hide();
-  izquierda->addWidget(&campo(Ed::rdTipoColocacion).widget());
+  izquierda->addWidget(&Coloca(Ed::rdTipoColocacion));
   TabDatosColocacion_ = new Pestanas;
   TabDatosColocacion_->setObjectName(QStringLiteral("TabDatosColocacion"));
   TabDatosColocacion_->Anade(CreaPaginaTubo());
@@ -326,41 +360,6 @@ QWidget* CapturaDatos::CreaPaginaColocacion() {
   columnas->addLayout(izquierda, 3);
   columnas->addWidget(ptColocacion_, 2);
   return EnPagina(pagina);
-}
-
-// The keyboard goes as the work goes: MDP before DP, and the rows of a table one by one.
-void CapturaDatos::OrdenaTabulador() {
-  constexpr auto kOrden = std::to_array<Ed>(
-      {Ed::edObra,        Ed::edCliente,      Ed::edIdioma,      Ed::rdSistemaUnidades,
-       Ed::rdGolpeAriete, Ed::edPrsM1,        Ed::edPrs1,        Ed::edPrsM2,
-       Ed::edPrs2,        Ed::edPrs3,         Ed::edAlt1,        Ed::edAlt2,
-       Ed::edAlt3,        Ed::edTramo,        Ed::edDescriTramo, Ed::edPrsM1Tram,
-       Ed::edPrs1Tram,    Ed::edPrsM2Tram,    Ed::edPrs2Tram,    Ed::edPrs3Tram,
-       Ed::edIcontes0,    Ed::edAdato,        Ed::edTipoControl, Ed::edTipoCamisa,
-       Ed::edCamMax,      Ed::edFck,          Ed::edFct,         Ed::edFyk,
-       Ed::edFyd,         Ed::edGamaB,        Ed::rdTipoCamisa,  Ed::edIcontes1,
-       Ed::edCoepre1,     Ed::edDelca,        Ed::edEs,          Ed::edEp,
-       Ed::edFYKPost,     Ed::edFckno,        Ed::edFckn,        Ed::edFckr,
-       Ed::edSFck,        Ed::edSf,           Ed::edRel,         Ed::edFic,
-       Ed::edFir,         Ed::edEpsc,         Ed::edEpsr,        Ed::rdTipoColocacion,
-       Ed::edDi0,         Ed::edEsp0,         Ed::edReci0,       Ed::edRece0,
-       Ed::edGc0,         Ed::edTipoCuna0,    Ed::edHr0,         Ed::edHr0Final,
-       Ed::edHr0Delta,    Ed::edTipoApoyo0,   Ed::edB0,          Ed::edGr0,
-       Ed::edFi0,         Ed::edTipoRelleno0, Ed::edHr1,         Ed::edIAs,
-       Ed::edQDato0,      Ed::edICar0});
-  for (const Ed copia : {Ed::edObra2, Ed::edTramo2, Ed::edDescriTramo2, Ed::edDe0}) {
-    campo(copia).widget().setFocusPolicy(Qt::ClickFocus);
-  }
-  QWidget* antes = Destino(kOrden.front());
-  for (std::size_t i = 1; i < kOrden.size(); ++i) {
-    auto* siguiente = Destino(kOrden[i]);
-    setTabOrder(antes, siguiente);
-    antes = siguiente;
-  }
-  for (const auto& boton : botones_) {
-    setTabOrder(antes, boton.widget);
-    antes = boton.widget;
-  }
 }
 
 }  // namespace zorbin

@@ -43,15 +43,15 @@ QString SinBarras(QString nombre) {
 // Sheets on their way to a destination: each is told, and none comes after the person gave up.
 class HojasContadas : public DestinoHojas {
  public:
-  HojasContadas(DestinoHojas& destino, Faena& faena, const Catalogo& textos)
-      : destino_(destino), faena_(faena), textos_(textos) {}
+  HojasContadas(DestinoHojas& destino, MarchaFaena& marcha, const Catalogo& textos)
+      : destino_(destino), marcha_(marcha), textos_(textos) {}
 
   void RecibeHoja(const Hoja& hoja) override {
-    faena_.Exige();
+    marcha_.Exige();
     destino_.RecibeHoja(hoja);
     ++cuantas_;
-    if (faena_.Espera()) {
-      faena_.Di({textos_.Compone(txt::AvanceDelListado, {std::to_string(cuantas_)}), {}});
+    if (marcha_.Espera()) {
+      marcha_.Di({textos_.Compone(txt::AvanceDelListado, {std::to_string(cuantas_)}), {}});
     }
   }
 
@@ -59,7 +59,7 @@ class HojasContadas : public DestinoHojas {
 
  private:
   DestinoHojas& destino_;
-  Faena& faena_;
+  MarchaFaena& marcha_;
   const Catalogo& textos_;
   int cuantas_ = 0;
 };
@@ -117,11 +117,11 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
                   [&] { HazFaena(padre, textos, txt::ListadoEnCurso, trabajo); });
 }
 
-bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Faena& faena,
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, MarchaFaena& marcha,
                   const Catalogo& textos) {
-  HojasContadas hojas(destino, faena, textos);
+  HojasContadas hojas(destino, marcha, textos);
   documento(hojas);
-  faena.Exige();
+  marcha.Exige();
   return hojas.cuantas() > 0;
 }
 
@@ -136,9 +136,9 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
                         {txt::GuardarPdf, txt::FiltroPdf, QStringLiteral("pdf")}, nombre);
   if (ruta.isEmpty()) return false;
   bool lleno = false;
-  const bool hecho = HazDocumento(padre, textos, ruta, [&](Faena& faena) {
+  const bool hecho = HazDocumento(padre, textos, ruta, [&](MarchaFaena& marcha) {
     HojasPdf hojas(QFile::encodeName(ruta).toStdString(), S(nombre));
-    lleno = EscribeHojas(documento, hojas, faena, textos);
+    lleno = EscribeHojas(documento, hojas, marcha, textos);
     if (lleno) hojas.Cierra();
   });
   if (hecho && !lleno) AvisaVacio(padre, textos);
@@ -151,7 +151,7 @@ bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferenc
       PideNombreFichero(padre, textos, preferencias,
                         {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
   if (ruta.isEmpty()) return false;
-  return HazDocumento(padre, textos, ruta, [&](Faena&) {
+  return HazDocumento(padre, textos, ruta, [&](MarchaFaena&) {
     FicheroSalida fichero(QFile::encodeName(ruta).toStdString());
     fichero.Escribe(texto);
     fichero.Termina();

@@ -39,7 +39,7 @@ bool DiFallos(QWidget* padre, const Catalogo& textos, const QString& donde,
               const std::function<void()>& accion);
 
 /// What a document is made on, and handed over to, on the thread of the work.
-using TrabajoDocumento = std::function<void(Faena&)>;
+using TrabajoDocumento = std::function<void(MarchaFaena&)>;
 
 /// Does it off the thread of the window, with a box to give up, and shows what goes wrong.
 /// @return as DiFallos
@@ -49,7 +49,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
 /// Writes a document on its destination, page by page, telling how many there are.
 /// @return whether there is any; a document without pages is one that the person is told about
 /// @throws DocumentoCancelado, and whatever the document and its destination throw
-bool EscribeHojas(const Documento& documento, DestinoHojas& destino, Faena& faena,
+bool EscribeHojas(const Documento& documento, DestinoHojas& destino, MarchaFaena& marcha,
                   const Catalogo& textos);
 
 /// There was nothing to print.

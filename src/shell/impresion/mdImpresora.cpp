@@ -68,14 +68,14 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
   const TrabajoImpresion trabajo{S(impresora), S(nombre), S(fichero), preferencias_.Copias(),
                                  papel.id() == QPageSize::A4};
   bool lleno = false;
-  const bool hecho = HazDocumento(padre, textos_, fichero, [&](Faena& faena) {
+  const bool hecho = HazDocumento(padre, textos_, fichero, [&](MarchaFaena& marcha) {
     if (!carpeta.isValid()) throw ErrorPintor(S(carpeta.errorString()));
     HojasPdf hojas(trabajo.fichero, trabajo.titulo, papel);
-    lleno = EscribeHojas(documento, hojas, faena, textos_);
+    lleno = EscribeHojas(documento, hojas, marcha, textos_);
     if (!lleno) return;
     hojas.Cierra();
-    faena.SinVuelta();
-    faena.Exige();
+    marcha.SinVuelta();
+    marcha.Exige();
     impresoras_.entrega(trabajo);
   });
   if (hecho && !lleno) AvisaVacio(padre, textos_);
@@ -85,8 +85,8 @@ bool Impresora::ImprimeEn(QWidget* padre, const QString& impresora, const QStrin
 void Impresora::VistaPrevia(QWidget* padre, const QString& nombre, const Documento& documento) {
   HojasEnMemoria todas;
   bool llena = false;
-  const bool hecha = HazDocumento(padre, textos_, nombre, [&](Faena& faena) {
-    llena = EscribeHojas(documento, todas, faena, textos_);
+  const bool hecha = HazDocumento(padre, textos_, nombre, [&](MarchaFaena& marcha) {
+    llena = EscribeHojas(documento, todas, marcha, textos_);
   });
   if (!hecha) return;
   if (!llena) return AvisaVacio(padre, textos_);

@@ -25,22 +25,22 @@ constexpr int kMilesimas = 1000;
 
 }  // namespace
 
-void Faena::Di(Dicho dicho) {
+void MarchaFaena::Di(Dicho dicho) {
   const std::lock_guard cierra(cerrojo_);
   dicho_ = std::move(dicho);
   espera_ = false;
 }
 
-std::optional<Faena::Dicho> Faena::Toma() {
+std::optional<MarchaFaena::Dicho> MarchaFaena::Toma() {
   const std::lock_guard cierra(cerrojo_);
   espera_ = true;
   return std::exchange(dicho_, std::nullopt);
 }
 
-CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Faena& faena, QWidget* padre)
+CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, MarchaFaena& marcha, QWidget* padre)
     : QDialog(padre),
       textos_(textos),
-      faena_(faena),
+      marcha_(marcha),
       texto_(new QLabel(this)),
       barra_(new QProgressBar(this)),
       cancela_(new QPushButton(Rotulo(textos.Texto(txt::BotonCancelar)), this)) {
@@ -63,31 +63,31 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, Faena& faena, QWi
 }
 
 void CajaProgreso::Renueva() {
-  if (!faena_.TieneVuelta()) cancela_->setEnabled(false);
-  const auto dicho = faena_.Toma();
-  if (!dicho || !faena_.Sigue()) return;
+  if (!marcha_.TieneVuelta()) cancela_->setEnabled(false);
+  const auto dicho = marcha_.Toma();
+  if (!dicho || !marcha_.Sigue()) return;
   texto_->setText(Q(dicho->texto));
   barra_->setRange(0, dicho->hecho ? kMilesimas : 0);
   if (dicho->hecho) barra_->setValue(static_cast<int>(*dicho->hecho * kMilesimas));
 }
 
 void CajaProgreso::reject() {
-  if (!faena_.TieneVuelta()) return;
-  faena_.Cancela();
+  if (!marcha_.TieneVuelta()) return;
+  marcha_.Cancela();
   cancela_->setEnabled(false);
   texto_->setText(Rotulo(textos_.Texto(txt::Cancelando)));
 }
 
 void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
-              const std::function<void(Faena&)>& trabajo) {
-  Faena faena;
-  CajaProgreso caja(textos, titulo, faena, padre);
+              const std::function<void(MarchaFaena&)>& trabajo) {
+  MarchaFaena marcha;
+  CajaProgreso caja(textos, titulo, marcha, padre);
   QEventLoop espera;
   std::exception_ptr fallo;
   std::atomic<bool> acabada = false;
   std::jthread hilo([&] {
     try {
-      trabajo(faena);
+      trabajo(marcha);
     } catch (...) {
       fallo = std::current_exception();
     }
@@ -107,7 +107,7 @@ void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
     caja.show();
     espera.exec();
   }
-  if (!acabada) faena.Cancela();  // the program is being left
+  if (!acabada) marcha.Cancela();  // the program is being left
   hilo.join();
   if (fallo) std::rethrow_exception(fallo);
 }

@@ -23,7 +23,7 @@ namespace zorbin {
 struct DocumentoCancelado {};
 
 /// What passes between a work and the window that waits for it.
-class Faena {
+class MarchaFaena {
  public:
   struct Dicho {
     std::string texto;
@@ -63,7 +63,7 @@ class CajaProgreso : public QDialog {
   Q_OBJECT
 
  public:
-  CajaProgreso(const Catalogo& textos, int titulo, Faena& faena, QWidget* padre);
+  CajaProgreso(const Catalogo& textos, int titulo, MarchaFaena& marcha, QWidget* padre);
 
   /// Shows what the work has told.
   void Renueva();
@@ -73,7 +73,7 @@ class CajaProgreso : public QDialog {
 
  private:
   const Catalogo& textos_;
-  Faena& faena_;
+  MarchaFaena& marcha_;
   QLabel* texto_;
   QProgressBar* barra_;
   QPushButton* cancela_;
@@ -84,6 +84,6 @@ class CajaProgreso : public QDialog {
 /// meanwhile gives up too. What the work throws is thrown here.
 /// @param titulo  entry of the catalogue
 void HazFaena(QWidget* padre, const Catalogo& textos, int titulo,
-              const std::function<void(Faena&)>& trabajo);
+              const std::function<void(MarchaFaena&)>& trabajo);
 
 }  // namespace zorbin

@@ -30,11 +30,11 @@ std::vector<std::string> Datos(const Avance& a) {
 }
 
 // Each of the two takes its share of the bar.
-Faena::Dicho DiceCalculo(const Avance& a, const Catalogo& textos) {
+MarchaFaena::Dicho DiceCalculo(const Avance& a, const Catalogo& textos) {
   const int texto = a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo;
   return {textos.Compone(texto, Datos(a)), Hecho(a) * kParteCalculo};
 }
-Faena::Dicho DiceResumen(const Avance& a, const Catalogo& textos) {
+MarchaFaena::Dicho DiceResumen(const Avance& a, const Catalogo& textos) {
   return {textos.Compone(txt::AvanceDelResumen, Datos(a)),
           kParteCalculo + Hecho(a) * (1.0 - kParteCalculo)};
 }
@@ -61,11 +61,11 @@ void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
                      const QString& nombre) {
   Calculo calculo;
   std::string resumen;
-  HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](Faena& faena) {
-    const auto sigue = [&](Faena::Dicho (*dice)(const Avance&, const Catalogo&)) {
-      return [&faena, &textos = entorno.textos, dice](const Avance& avance) {
-        if (faena.Espera()) faena.Di(dice(avance, textos));
-        return faena.Sigue();
+  HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](MarchaFaena& marcha) {
+    const auto sigue = [&](MarchaFaena::Dicho (*dice)(const Avance&, const Catalogo&)) {
+      return [&marcha, &textos = entorno.textos, dice](const Avance& avance) {
+        if (marcha.Espera()) marcha.Di(dice(avance, textos));
+        return marcha.Sigue();
       };
     };
     calculo = CalculaEncargo(std::move(encargo), sigue(DiceCalculo));

@@ -1,0 +1,145 @@
+#include "sesion/captura/mdReglasDimensiones.h"
+
+#include "base/textos.h"
+#include "sesion/captura/mdAjustesTramo.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdGeometria.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr double kMinimo = 0.001;  // below it a dimension is not given
+
+// A dimension takes the place of the text when the diameter is another or the field is blank.
+void Reemplaza(Captura& c, Ed campo, bool otroDi) {
+  if (otroDi || EnBlanco(c, campo)) MuestraVariable(c, campo);
+}
+
+// The inner cover of a lined cylinder is what the coating leaves.
+void RecubrimientoRevestida(Captura& c) {
+  auto& t = c.e.tramo;
+  t.Reci = t.Esp - t.Rece;
+  MuestraVariable(c, Ed::edReci0);
+}
+
+// The width follows a dimension; where it changes, the adjustments are void.
+void AnchoPorDimension(Captura& c) {
+  const std::string anterior = c[Ed::edB0].texto;
+  RecalculaB0(c);
+  if (c[Ed::edB0].texto != anterior) RegistraCambios(c);
+}
+
+// A diameter of the table brings its dimensions; any other has none, and no band.
+void TomaDimensiones(Captura& c, bool otroDi) {
+  const auto& t = c.e.tramo;
+  c.EspRecomMin = c.EspRecomMax = 0;
+  c.BandaReci = c.BandaRece = false;
+  if (!c.EsComercial) return;
+  BuscaEnTramo(c, ModoGeom::Espesor);
+  const double margen = t.Di * kToleranciaEspesor * 100.0;
+  c.EspRecomMin = Redondea(t.Esp - margen);
+  c.EspRecomMax = Redondea(margen + t.Esp);
+  Reemplaza(c, Ed::edEsp0, otroDi);
+  if (t.Tipologia != kRevestida) {
+    BuscaEnTramo(c, ModoGeom::Interior);
+    Reemplaza(c, Ed::edReci0, otroDi);
+    c.BandaReci = true;
+  }
+  BuscaEnTramo(c, ModoGeom::Exterior);
+  Reemplaza(c, Ed::edRece0, otroDi);
+  c.BandaRece = true;
+}
+
+// One that is not given takes that of the table. @return whether there is one
+bool TieneDimension(Captura& c, Ed campo) {
+  if (Variable(c, campo) >= kMinimo) return true;
+  const ModoGeom modo = campo == Ed::edEsp0    ? ModoGeom::Espesor
+                        : campo == Ed::edReci0 ? ModoGeom::Interior
+                                               : ModoGeom::Exterior;
+  if (BuscaEnTramo(c, modo) == kGeomHallado) return true;
+  Rechaza(c, campo, Texto(c, txt::NoEsComercial), Texto(c, txt::EtEsp));
+  return false;
+}
+
+// What follows from a thickness or an outer cover.
+void SigueADimension(Captura& c, Ed campo) {
+  const bool revestida = c.e.tramo.Tipologia == kRevestida;
+  if (campo == Ed::edRece0 && revestida) RecubrimientoRevestida(c);
+  if (campo != Ed::edEsp0) return;
+  if (revestida && !EnBlanco(c, Ed::edRece0)) RecubrimientoRevestida(c);
+  CalculaDe(c);
+}
+
+SalidaCampo VuelveADi(Captura& c) {
+  VaA(c, Ed::edDi0);
+  return SalidaCampo::VaOtro;
+}
+
+void AvisaZanjaAncha(Captura& c, double anterior) {
+  const auto& t = c.e.tramo;
+  const int veces = c.tablas.MaxAnchoZanja;
+  if (veces <= 0 || t.TipoColocacion != 1 || t.B0 == anterior || t.B0 <= veces * t.Di) return;
+  c.voz.Muestra(
+      Texto(c, txt::ZanjaAncha1) + " " + std::to_string(veces) + "\n" + Texto(c, txt::ZanjaAncha2),
+      Texto(c, txt::TituloAtencion));
+}
+
+}  // namespace
+
+SalidaCampo SaleDi(Captura& c, Ed campo) {
+  auto& t = c.e.tramo;
+  const double anterior = t.Di;
+  c.AnchoZanjaAuto = false;
+  if (!LeeAlSalir(c, campo, kMinimo, t.Di, Fila(campo).etiqueta)) return SalidaCampo::Queda;
+  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
+  if (!c.EsComercial &&
+      c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) {
+    t.Di = anterior;  // the diameter that comes instead is a change against this one
+    return SalidaCampo::Queda;
+  }
+  const bool otro = t.Di != anterior;
+  TomaDimensiones(c, otro);
+  RenuevaEtiquetas(c);
+  CalculaDe(c);
+  MuestraVariable(c, campo);
+  if (otro) {
+    c.AnchoZanjaAuto = true;
+    c.TramoEditado = true;
+    AnchoPorDimension(c);
+  }
+  return SalidaCampo::Pasa;
+}
+
+SalidaCampo SaleDimension(Captura& c, Ed campo) {
+  if (campo == Ed::edReci0 && c.e.tramo.Tipologia == kRevestida) return SalidaCampo::Pasa;
+  double& valor = Variable(c, campo);
+  const double anterior = valor;
+  const int etiqueta = Fila(campo).etiqueta;
+  if (!c.EsComercial && !LeeAlSalir(c, campo, kMinimo, valor, etiqueta)) return SalidaCampo::Queda;
+  if (!LeeAlSalir(c, campo, 0.0, valor, etiqueta) || !TieneDimension(c, campo)) {
+    return VuelveADi(c);
+  }
+  SigueADimension(c, campo);
+  MuestraVariable(c, campo);
+  if (valor != anterior) {
+    c.TramoEditado = true;
+    // A new thickness overwrites a width typed by hand.
+    if (campo == Ed::edEsp0) AnchoPorDimension(c);
+  }
+  return SalidaCampo::Pasa;
+}
+
+SalidaCampo SaleB0(Captura& c, Ed campo) {
+  auto& t = c.e.tramo;
+  if (t.TipoColocacion == 2) return SalidaCampo::Pasa;
+  const double anterior = t.B0;
+  const bool leido = LeeAlSalir(c, campo, 0.0, t.B0, Fila(campo).etiqueta);
+  if (!leido || t.B0 < kMinimo) RecalculaB0(c);
+  if (!leido) return SalidaCampo::Queda;
+  MuestraVariable(c, campo);
+  AvisaZanjaAncha(c, anterior);
+  return SalidaCampo::Pasa;
+}
+
+}  // namespace zorbin

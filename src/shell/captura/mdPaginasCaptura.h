@@ -1,0 +1,101 @@
+// The pages of the capture screen: which field stands where.
+#pragma once
+
+#include <QObject>
+#include <array>
+#include <functional>
+#include <vector>
+
+#include "sesion/captura/mdCaptura.h"
+#include "shell/captura/mdCampoPantalla.h"
+
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QTreeWidget;
+
+namespace zorbin {
+
+class Figura;
+class Pestanas;
+
+/// A text of the catalogue that the model does not hold.
+struct Rotulado {
+  std::function<void(const QString&)> pon;
+  int texto;
+};
+
+class PaginasCaptura : public QObject {
+  Q_OBJECT
+
+ public:
+  using Campos = std::array<CampoPantalla*, kCamposCaptura>;
+
+  explicit PaginasCaptura(const Campos& campos, QObject* padre = nullptr);
+
+  QWidget* obra() const { return obra_; }
+  QWidget* tramo() const { return tramo_; }
+  QWidget* colocacion() const { return colocacion_; }
+  Pestanas& TabTipologia() const { return *TabTipologia_; }
+  Pestanas& TabPostesados() const { return *TabPostesados_; }
+  Pestanas& TabDatosColocacion() const { return *TabDatosColocacion_; }
+
+  /// The fields in the order of the work: MDP before DP, and the rows of a table one by one.
+  const std::vector<Ed>& orden() const { return orden_; }
+
+  /// Captions and tips, in the language in force; and the list of Tramos.
+  void RenuevaTextos(const Captura& c);
+  /// The list of the stored Tramos, read anew.
+  void RenuevaTramos(const Captura& c);
+  /// Whatever of the pages is no field, as the model says.
+  void Refresca(const Captura& c);
+
+ signals:
+  void tramoElegido(const QString& numero);
+  /// A picture is to be seen large.
+  void figuraPedida(const QString& fichero, const QString& titulo);
+
+ private:
+  // Captions over columns of fields come from the fields.
+  struct Cabecera {
+    QLabel* rotulo;
+    Ed campo;
+  };
+
+  const Campos& campos_;
+  std::vector<Rotulado> rotulados_;
+  std::vector<Cabecera> cabeceras_;
+  std::vector<Ed> orden_;
+  QWidget* obra_ = nullptr;
+  QWidget* tramo_ = nullptr;
+  QWidget* colocacion_ = nullptr;
+  QLabel* avCargas1_ = nullptr;
+  Pestanas* TabTipologia_ = nullptr;
+  Pestanas* TabPostesados_ = nullptr;
+  Pestanas* TabDatosColocacion_ = nullptr;
+  Figura* ptPostesado_ = nullptr;
+  Figura* ptPostesado2_ = nullptr;
+  Figura* ptColocacion_ = nullptr;
+  QTreeWidget* tramos_ = nullptr;
+  QGroupBox* alturas_ = nullptr;
+
+  CampoPantalla& campo(Ed id) const { return *campos_[static_cast<std::size_t>(id)]; }
+  QWidget& Coloca(Ed id);
+  QWidget* CreaPaginaObra();
+  QWidget* CreaTramos();
+  QWidget* CreaPaginaTramo();
+  QWidget* CreaPaginaColocacion();
+  QWidget* CreaPaginaArmado();
+  QWidget* CreaPaginaPostesado();
+  QWidget* CreaPaginaTubo();
+  QWidget* CreaPaginaRelleno();
+  QWidget* CreaPaginaCargas();
+  QGroupBox* CreaGrupo(int texto);
+  QWidget* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
+  QWidget* CreaFormulario(std::initializer_list<Ed> campos);
+  void PonFila(QGridLayout& rejilla, int fila, Ed id);
+  void PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos);
+  Figura* CreaFigura(int minimo);
+};
+
+}  // namespace zorbin
