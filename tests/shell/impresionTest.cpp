@@ -9,9 +9,11 @@
 #include <array>
 #include <cstdio>
 #include <sstream>
+#include <thread>
 
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
+#include "shell/enPantalla.h"
 #include "shell/entornoPrueba.h"
 #include "shell/impresion/frImpresoras.h"
 #include "shell/impresion/frVistaPrevia.h"
@@ -232,6 +234,29 @@ TEST(Papel, UnFicheroQueNoSeEscribeSeDiceYElAnteriorQueda) {
   EXPECT_FALSE(GuardaPdf(nullptr, m.textos, m.preferencias, "x", falla));
   EXPECT_NE(persona.Ultima().indexOf("disco lleno"), -1);
   EXPECT_EQ(Contenido(i.Fichero("viejo.pdf")), "antes");
+}
+
+// Whatever is made of a document, the window is free meanwhile.
+TEST(Papel, ElDocumentoYLaEntregaVanEnOtroHilo) {
+  Imprenta i;
+  Persona persona;
+  std::vector<std::thread::id> hilos;
+  const auto anota = [&hilos] { hilos.push_back(std::this_thread::get_id()); };
+  auto impresoras = i.impresora.DelSistema();
+  impresoras.entrega = [anota](const TrabajoImpresion&) { anota(); };
+  Impresora impresora(i.mesa.textos, i.mesa.preferencias, impresoras);
+  const Documento documento = [anota](DestinoHojas& hojas) {
+    anota();
+    hojas.RecibeHoja(Hoja{});
+  };
+  EXPECT_TRUE(impresora.Imprime(nullptr, "x", documento));
+  i.mesa.preferencias.PonImpresora(kImpresoraPdf);
+  persona.fichero = i.Fichero("x.pdf");
+  EXPECT_TRUE(impresora.Imprime(nullptr, "x", documento));
+  EnPantalla<frVistaPrevia> lector([](frVistaPrevia& vista) { vista.reject(); });
+  impresora.VistaPrevia(nullptr, "x", documento);
+  EXPECT_EQ(hilos.size(), 4U);
+  EXPECT_EQ(std::count(hilos.begin(), hilos.end(), std::this_thread::get_id()), 0);
 }
 
 // ---------------------------------------------------------------------------------------------

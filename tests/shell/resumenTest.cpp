@@ -257,7 +257,7 @@ TEST(Faena, LoCortoNoSeMuestraYLoQueFallaSaleAqui) {
 // A program that is left, and a window that is closed, end the work and wait for it.
 TEST(Faena, AlSalirDelProgramaSeCancela) {
   Mesa mesa;
-  for (const bool cierra : {false, true}) {
+  for (const bool cierra : {true, false}) {
     EnPantalla<CajaProgreso> persona([&](CajaProgreso& caja) {
       if (cierra) {
         caja.close();

@@ -50,7 +50,7 @@ bool HazDocumento(QWidget* padre, const Catalogo& textos, const QString& donde,
 /// @return whether there is any; a document without pages is one that the person is told about
 /// @throws DocumentoCancelado, and whatever the document and its destination throw
 bool EscribeHojas(const Documento& documento, DestinoHojas& destino, MarchaFaena& marcha,
-             const Catalogo& textos);
+                  const Catalogo& textos);
 
 /// There was nothing to print.
 void AvisaVacio(QWidget* padre, const Catalogo& textos);

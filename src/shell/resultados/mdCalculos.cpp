@@ -17,14 +17,26 @@ namespace zorbin {
 namespace {
 
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
+constexpr double kParteCalculo = 0.3;      // of the time; the rest writes the summary
 constexpr qint64 kRespiro = 20;            // of the window, while Tramos are taken [ms]
 
-MarchaFaena::Dicho Dice(const Avance& a, const Catalogo& textos) {
-  const double delTramo = (a.caso - 1.0) / a.casos;
-  return {textos.Compone(a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo,
-                         {TextoEntero(a.tramo), std::to_string(a.caso), std::to_string(a.casos),
-                          std::to_string(a.posicion), std::to_string(a.posiciones)}),
-          (a.posicion - 1 + delTramo) / a.posiciones};
+double Hecho(const Avance& a) {
+  return (a.posicion - 1 + (a.caso - 1.0) / a.casos) / a.posiciones;
+}
+
+std::vector<std::string> Datos(const Avance& a) {
+  return {TextoEntero(a.tramo), std::to_string(a.caso), std::to_string(a.casos),
+          std::to_string(a.posicion), std::to_string(a.posiciones)};
+}
+
+// Each of the two takes its share of the bar.
+MarchaFaena::Dicho DiceCalculo(const Avance& a, const Catalogo& textos) {
+  const int texto = a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo;
+  return {textos.Compone(texto, Datos(a)), Hecho(a) * kParteCalculo};
+}
+MarchaFaena::Dicho DiceResumen(const Avance& a, const Catalogo& textos) {
+  return {textos.Compone(txt::AvanceDelResumen, Datos(a)),
+          kParteCalculo + Hecho(a) * (1.0 - kParteCalculo)};
 }
 
 void MuestraFallos(const Entorno& entorno, QWidget* padre, const Calculo& calculo) {
@@ -50,12 +62,14 @@ void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
   Calculo calculo;
   std::string resumen;
   HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](MarchaFaena& marcha) {
-    const auto sigue = [&](const Avance& avance) {
-      if (marcha.Espera()) marcha.Di(Dice(avance, entorno.textos));
-      return marcha.Sigue();
+    const auto sigue = [&](MarchaFaena::Dicho (*dice)(const Avance&, const Catalogo&)) {
+      return [&marcha, &textos = entorno.textos, dice](const Avance& avance) {
+        if (marcha.Espera()) marcha.Di(dice(avance, textos));
+        return marcha.Sigue();
+      };
     };
-    calculo = CalculaEncargo(std::move(encargo), sigue);
-    resumen = Resume(calculo, sigue);
+    calculo = CalculaEncargo(std::move(encargo), sigue(DiceCalculo));
+    resumen = Resume(calculo, sigue(DiceResumen));
   });
   MuestraFallos(entorno, padre, calculo);
   const auto lista = [&calculo](TipoListado tipo, DestinoHojas& hojas) {
