@@ -188,6 +188,7 @@ TEST(Salidas, LoQueNadiePrevioSeDiceYElProgramaSigue) {
   const QString dichos[] = {"<b>rayo</b>", "memoria", "?"};
   for (std::size_t i = 0; i < 3; ++i) {
     for (int veces = 0; veces < 3; ++veces) QTimer::singleShot(0, fallos[i]);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return persona.cajas.size() > i; }, 10'000));
     QTest::qWait(50);
     ASSERT_EQ(persona.cajas.size(), i + 1);
     EXPECT_TRUE(persona.Ultima().startsWith("Ha ocurrido un error que el programa no esperaba: "));
