@@ -4,9 +4,19 @@
 #include <optional>
 #include <vector>
 
-#include "core/estado_calculo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
+
+/// One entry of the file of adjusted Casos.
+struct EntradaAjuste {
+  double DP = 0;     // [at]
+  double Tramo = 0;  // number of the Tramo
+  double Hr = 0;     // [m]
+  Ajuste areas;
+
+  bool Libre() const { return DP == 0 && Tramo == 0 && Hr == 0; }
+};
 
 /// Position of the entry of a Caso, from 1; or minus the position of the last free entry, 0 when
 /// there is none. An entry is the Caso's when its Tramo is equal and its pressure [at] and height

@@ -8,14 +8,6 @@ namespace zorbin {
 
 namespace {
 
-// The captured increment is one of MDP; the loop steps DP.
-void CalculaIncDP(EstadoCalculo& e) {
-  const double incMDP = e.tramo.TieneDPPropia() ? e.tramo.Prs3Tram : e.obra.Prs3;
-  const double inc = incMDP / e.corrida.PendienteMDP;
-  e.corrida.IncDPIndefinido = !std::isfinite(inc);
-  e.corrida.IncDP = e.corrida.IncDPIndefinido || inc == 0.0 ? 0.0 : inc;
-}
-
 // What a conversion does under SI (value, unit, change of decimals) and under MKS. With
 // `soloSiHay` the decimals change only when there is one to begin with.
 struct Conversion {
@@ -45,16 +37,9 @@ constexpr std::array<Conversion, 9> kConversiones{{
 
 }  // namespace
 
-void EligeAlturas(EstadoCalculo& e) {
-  auto& c = e.corrida;
-  if (e.tramo.Hr0Tramo <= 0 && e.tramo.Hr0Final <= 0) {
-    c.Hr = c.Hr0Actual = e.obra.Alt1;
-    c.Hr0FinalActual = e.obra.Alt2;
-    e.tramo.Hr0Delta = e.obra.Alt3;
-  } else {
-    c.Hr = c.Hr0Actual = e.tramo.Hr0Tramo;
-    c.Hr0FinalActual = e.tramo.Hr0Final;
-  }
+Alturas AlturasDe(const Obra& o, const Tramo& t) {
+  if (t.Hr0Tramo > 0 || t.Hr0Final > 0) return {t.Hr0Tramo, t.Hr0Final, t.Hr0Delta, true};
+  return {o.Alt1, o.Alt2, o.Alt3, false};
 }
 
 std::optional<double> AlturaSiguiente(double h, double paso, double ultima) {
@@ -69,35 +54,6 @@ std::optional<double> AlturaAnterior(double h, double paso, double primera) {
   const double pasos = std::ceil((h - primera - margen) / paso) - 1.0;
   if (pasos < 0.0) return std::nullopt;
   return primera + pasos * paso;
-}
-
-void EligePresiones(EstadoCalculo& e) {
-  auto& c = e.corrida;
-  const auto& t = e.tramo;
-  const bool propias = t.Prs1Tram > 0 || t.Prs2Tram > 0 || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
-  c.DPIni = propias ? t.Prs1Tram : e.obra.Prs1;
-  c.DPFin = propias ? t.Prs2Tram : e.obra.Prs2;
-  c.MDPIni = propias ? t.PrsM1Tram : e.obra.PrsM1;
-  c.MDPFin = propias ? t.PrsM2Tram : e.obra.PrsM2;
-  const double rango = c.DPFin - c.DPIni;
-  const double pendiente = rango > 0 ? (c.MDPFin - c.MDPIni) / rango : 1.0;
-  c.PendienteMDP = std::isfinite(pendiente) ? pendiente : 0.0;
-}
-
-EnUnidadesDeCalculo::EnUnidadesDeCalculo(EstadoCalculo& e) : e_(e), obra_(e.obra), tramo_(e.tramo) {
-  e.corrida.ParaCalculoActivo = true;
-  e.tramo = TramoEnCalculo(tramo_, obra_.EsSI());
-  e.obra = ObraEnCalculo(obra_);
-  EligePresiones(e);
-  CalculaIncDP(e);
-}
-
-EnUnidadesDeCalculo::~EnUnidadesDeCalculo() {
-  e_.corrida.ParaCalculoActivo = false;
-  if (!obra_.EsSI()) return;
-  RecuperaUnidades(e_.obra, obra_);
-  RecuperaUnidades(e_.tramo, tramo_);
-  e_.tramo.Fct = FctDeFck(tramo_.Fck);
 }
 
 double Convierte(double valor, std::string_view conversion, bool si, std::string& unidad,

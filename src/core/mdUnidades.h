@@ -1,4 +1,4 @@
-// Unit systems: the state in calculation units, and the named conversions of the listings.
+// The fill heights of a Tramo, and the named conversions of the listings.
 #pragma once
 
 #include <optional>
@@ -6,16 +6,21 @@
 #include <string_view>
 
 #include "core/campos/mdDatos.h"
-#include "core/estado_calculo.h"
 
 namespace zorbin {
 
 inline constexpr double kFactorFuerza = 10.0;  // t to kN, and kp to N
 inline constexpr double kRelacionMDPDP = 1.1;  // default MDP / DP of the capture [-]
 
-/// Takes the fill heights in force: the Tramo's own, or the Obra's where it has none.
-/// Writes Hr, Hr0Actual, Hr0FinalActual [m] and, with the Obra's heights, Hr0Delta.
-void EligeAlturas(EstadoCalculo& e);
+/// Fill heights of a Tramo.
+struct Alturas {
+  double Hr0 = 0, Hr0Final = 0;  // first and last [m]
+  double Hr0Delta = 0;           // their increment [m]
+  bool AlturasPropias = false;   // of the Tramo, not of the Obra
+};
+
+/// The fill heights in force: the Tramo's own, or the Obra's where it has none.
+Alturas AlturasDe(const Obra& o, const Tramo& t);
 
 /// A step this near to the last height of a range lands on it [m].
 inline constexpr double kEngancheAltura = 0.01;
@@ -27,26 +32,6 @@ std::optional<double> AlturaSiguiente(double h, double paso, double ultima);
 /// The height before h in a range that the steps begin at its first height [m], also from a last
 /// height that a step landed on. None before the first one, or with a step that does not advance.
 std::optional<double> AlturaAnterior(double h, double paso, double primera);
-
-/// Takes the pressures in force into DPIni, DPFin, MDPIni, MDPFin and PendienteMDP, in the units
-/// that the state holds. A slope that is not finite becomes 0, which leaves the step undefined.
-void EligePresiones(EstadoCalculo& e);
-
-/// Holds the state in calculation units while it lives, whatever ends its life; the pressures in
-/// force and their step are then found. Afterwards the data that depend on the system have the
-/// values of before, and Fct under SI is the one that follows from Fck.
-class EnUnidadesDeCalculo {
- public:
-  explicit EnUnidadesDeCalculo(EstadoCalculo& e);
-  ~EnUnidadesDeCalculo();
-  EnUnidadesDeCalculo(const EnUnidadesDeCalculo&) = delete;
-  EnUnidadesDeCalculo& operator=(const EnUnidadesDeCalculo&) = delete;
-
- private:
-  EstadoCalculo& e_;
-  Obra obra_;
-  Tramo tramo_;
-};
 
 /// `valor` by one of the conversions "", "at->MPa", "Kp/cm2->MPa", "T/M2->MPa", "T/M2->kN/M2",
 /// "T->kN", "mT->mkN", "kp/cm->N/cm", "kp.cm/cm->N.m/cm". Writes the unit text and may change the

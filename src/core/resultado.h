@@ -7,16 +7,17 @@
 #include <vector>
 
 #include "base/aritmetica.h"
-#include "core/estado_calculo.h"
+#include "core/campos/obra.h"
+#include "core/campos/tramo.h"
+#include "core/mdAjustes.h"
+#include "core/mdUnidades.h"
 #include "core/resultados.h"
 #include "core/verificacion.h"
 
 namespace zorbin {
 
 /// Heights and pressures that a run goes through, in calculation units.
-struct Rango {
-  double Hr0 = 0, Hr0Final = 0;   // first and last fill height [m]
-  double Hr0Delta = 0;            // its increment [m]
+struct Rango : Alturas {
   double DPIni = 0, DPFin = 0;    // range to which that of MDP belongs [at]
   double MDPIni = 0, MDPFin = 0;  // [at]
   double PendienteMDP = 1;        // slope of MDP over DP [-]
@@ -25,7 +26,6 @@ struct Rango {
   double IncDP = 0;               // step of the loop [at]
   bool IncDPIndefinido = false;   // the step has no finite value
   bool PresionesPropias = false;  // of the Tramo, not of the Obra
-  bool AlturasPropias = false;    // of the Tramo, not of the Obra
   bool UnSoloCaso = false;        // one height and one pressure, given from outside
 };
 

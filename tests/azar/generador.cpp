@@ -6,7 +6,8 @@
 #include <cstring>
 #include <sstream>
 
-#include "core/mdUnidades.h"
+#include "base/aritmetica.h"
+#include "core/campos/mdDatos.h"
 
 namespace zorbin::pruebas {
 

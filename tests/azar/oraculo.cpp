@@ -4,13 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
-#include <memory>
 #include <sstream>
 
 #include "azar/generador.h"
@@ -18,7 +16,6 @@
 #include "calculo/ajustes/mdNecesaria.h"
 #include "calculo/ajustes/mdTanteo.h"
 #include "comun/reales.h"
-#include "core/mdUnidades.h"
 #include "listados/datos/mdJson.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdPantalla.h"
@@ -36,41 +33,25 @@ namespace zorbin::pruebas {
 
 namespace {
 
-constexpr int kCasosQueSeLeen = 12;      // by the listings of one run
-constexpr int kCasosQueSeTantean = 100;  // in the manner of the screen of adjustments
-constexpr int kMaxQueja = 600;           // characters of what is told of one run
-constexpr int kMayorEntero = 32767;
+constexpr std::size_t kCasosQueSeLeen = 12;  // by the listings of one run
+constexpr int kCasosQueSeTantean = 100;      // in the manner of the screen of adjustments
+constexpr int kMaxQueja = 600;               // characters of what is told of one run
 
-template <class F>
-void DeTablaCargas(const Corrida& c, F f) {
-  for (const auto& fila : c.TablaCargas) {
-    for (const double x : {fila.H, fila.Total}) f("TablaCargas", x);
-    for (const auto& x : {fila.Zanja, fila.Terraplen, fila.Adoptada, fila.Moviles}) {
-      if (x) f("TablaCargas", *x);
+// Of a run as a whole: its range and the table of loads.
+std::vector<Real> RealesDeCorrida(const ResultadoTramo& x) {
+  const auto& r = x.rango;
+  std::vector<Real> v{{"Hr0", r.Hr0},           {"Hr0Final", r.Hr0Final},
+                      {"Hr0Delta", r.Hr0Delta}, {"DPIni", r.DPIni},
+                      {"DPFin", r.DPFin},       {"MDPIni", r.MDPIni},
+                      {"MDPFin", r.MDPFin},     {"PendienteMDP", r.PendienteMDP},
+                      {"IncDP", r.IncDP}};
+  for (const auto& fila : x.TablaCargas) {
+    for (const double valor : {fila.H, fila.Total}) v.push_back({"TablaCargas", valor});
+    for (const auto& valor : {fila.Zanja, fila.Terraplen, fila.Adoptada, fila.Moviles}) {
+      if (valor) v.push_back({"TablaCargas", *valor});
     }
   }
-}
-
-// Calls `f(name, value)` for every real that a Caso leaves in the state.
-template <class F>
-void Reales(const EstadoCalculo& e, F f) {
-  DeCargas(e.corrida, f);
-  DelBucle(e.corrida, f);
-  DeTabla("MHip", e.caso.MHip, f);
-  DeTabla("NHip", e.caso.NHip, f);
-  for (const auto& a : e.caso.avisos) {
-    if (a.valor) f("aviso", *a.valor);
-    f("aviso", a.alambre.NESP);
-  }
-  if (e.tramo.EsArmado) return DeArmado(e.caso.armado, f);
-  const auto& r = e.caso.postesado;
-  DePostesado(r, f);
-  DeMateriales(r.materiales, f);
-  for (const double x : {r.materiales.Delca, r.materiales.Epsc, r.materiales.Epsr, r.fila.FIPR,
-                         r.fila.NESP, r.fila.PP}) {
-    f("postesado", x);
-  }
-  for (const auto& h : r.hipotesis.v) DeHipotesis(h, f);
+  return v;
 }
 
 }  // namespace
@@ -175,9 +156,7 @@ std::string QuejasDeBarras(double D, double n, double area) {
 
 // Where the factory test governs, what is provided covers its areas: the sheet that the kind of
 // pipe allows, the bars that are left to put, and the areas told are those of both.
-std::string QuejasDeLaPrueba(const EstadoCalculo& e) {
-  const auto& r = e.caso.armado;
-  const auto& t = e.tramo;
+std::string QuejasDeLaPrueba(const Tramo& t, const ResultadoArmado& r) {
   if (r.HipotesisRige != 1) return {};
   const auto& pide = r.TablaHip(1);
   const double chapa = r.CAMISA * 10.0;
@@ -200,104 +179,69 @@ std::string QuejasDeLaPrueba(const EstadoCalculo& e) {
   return quejas;
 }
 
-// Everything that reads a run, on one run, and the oracle over all of it.
-class Lector : public OyenteCorrida {
+std::string JsonDe(const ResultadoTramo& x, const Tramo& capturado, const Catalogo& textos,
+                   const EstiloNumeros& estilo) {
+  const std::map<int, Tramo> capturados{{1, capturado}};
+  std::ostringstream salida;
+  ListadoJson json(salida, "azar.zrb", capturados, textos, estilo);
+  json.EmpiezaObra(x.datos.obra);
+  json.Tramo(x, 1, "1", {});
+  json.AcabaObra();
+  return salida.str();
+}
+
+// The oracle over the numbers of a run, and over what reads its first Casos.
+class Lector {
  public:
-  Lector(Final& f, const Catalogo& textos, bool si, Lectura lectura)
-      : f_(f),
-        textos_(textos),
-        estilo_{si, ','},
-        todo_(lectura == Lectura::Todo),
-        registro_([this](std::string_view bloque) { log_.append(bloque); }) {
-    if (!todo_) return;
-    for (int i = 0; i < kTiposListado; ++i) {
-      papeles_.push_back(std::make_unique<UnPapel>(static_cast<TipoListado>(i), textos, estilo_));
-    }
-  }
+  Lector(Final& f, const ResultadoTramo& x, bool conTextos) : f_(f), x_(x), conTextos_(conTextos) {}
 
-  Registro* registro() { return todo_ ? &registro_ : nullptr; }
-
-  void EmpiezaTramo(const EstadoCalculo& e) {
-    Lee([&](OyenteObra& o) { o.EmpiezaTramo(e, 1, TextoEntero(e.tramo.NumeroTramo)); });
-  }
-  void AcabaTramo(const EstadoCalculo& e, const ErrorCorrida* fallo) {
-    Lee([&](OyenteObra& o) { o.AcabaTramo(e, fallo); });
-    for (auto& p : papeles_) p->papel.FinDocumento();
-    MiraTextos();
-    MiraTexto("log", log_, true);
-  }
-
-  void Progreso(const EstadoCalculo& e) override {
-    ++f_.casos;
-    if (f_.casos > kMayorEntero) Queja("demasiados Casos");
-    if (!SeLee()) return;
-    resumen_.Progreso(e);
-    Lee([&](OyenteObra& o) { o.Progreso(e); });
-  }
-  void Cabecera(const EstadoCalculo& e) override {
-    DeTablaCargas(e.corrida, [this](const char* nombre, double x) { Mira(nombre, x); });
-    Lee([&](OyenteObra& o) { o.Cabecera(e); });
-  }
-  void Caso(const EstadoCalculo& e) override {
-    Reales(e, [this](const char* nombre, double x) { Mira(nombre, x); });
-    if (e.tramo.EsArmado) {
-      const auto quejas = QuejasDeLaPrueba(e);
+  void MiraNumeros() {
+    Mira(RealesDeCorrida(x_));
+    for (const auto& fila : x_.filas) {
+      ++f_.casos;
+      const auto caso = CasoEntero(x_, fila);
+      Mira(RealesDe(x_, fila, caso));
+      if (!caso.EsArmado()) continue;
+      const auto quejas = QuejasDeLaPrueba(x_.datos.tramo, caso.Armado());
       if (!quejas.empty()) Queja("rige la prueba en fabrica: " + quejas);
-      if (f_.casos <= kCasosQueSeTantean) Tanteos(e);
+      if (f_.casos <= kCasosQueSeTantean) Tanteos(fila, caso.Armado());
     }
-    if (!SeLee()) return;
-    resumen_.Caso(e);
-    Lee([&](OyenteObra& o) { o.Caso(e); });
-    MiraTextos();
+    if (f_.casos > kMaxCasosCorrida) Queja("demasiados Casos");
   }
-  void FinAltura(const EstadoCalculo& e) override {
-    if (SeLee()) Lee([&](OyenteObra& o) { o.FinAltura(e); });
-  }
-  void FinCorrida(const EstadoCalculo& e) override {
-    Lee([&](OyenteObra& o) { o.FinCorrida(e); });
+
+  void MiraTextos(const Tramo& capturado, const Catalogo& textos, const std::string& log) {
+    MiraTexto("log", log, true);
+    auto corto = x_;
+    corto.filas.resize(std::min(corto.filas.size(), kCasosQueSeLeen));
+    const EstiloNumeros estilo{x_.datos.obra.EsSI(), ','};
+    const auto hueco = HuecoDeJson(JsonDe(corto, capturado, textos, estilo));
+    if (!hueco.empty()) Queja("json: " + hueco);
+    std::ostringstream salida;
+    Pantalla pantalla(salida);
+    Resumen(pantalla, textos, estilo).Tramo(corto, 1, "1", {});
+    MiraTexto("resumen", salida.str(), false);
+    Mide(salida.str());
+    for (int i = 0; i < kTiposListado; ++i) {
+      const auto tipo = static_cast<TipoListado>(i);
+      const auto listado = EnPapel(tipo, corto, textos, estilo);
+      MiraTexto("listado", listado, false);
+      if (OrientacionDe(tipo) == Orientacion::Vertical) Mide(listado);
+    }
   }
 
  private:
-  struct UnPapel {
-    UnPapel(TipoListado tipo, const Catalogo& textos, const EstiloNumeros& estilo)
-        : alta(OrientacionDe(tipo) == Orientacion::Vertical),
-          papel(hojas, OrientacionDe(tipo)),
-          listado(CreaListado(tipo, {papel, textos, estilo, {"21/11/2026", "09:30:00"}})) {}
-    bool alta;
-    std::ostringstream salida;
-    HojasTexto hojas{salida};
-    Papel papel;
-    std::unique_ptr<OyenteObra> listado;
-  };
-
   Final& f_;
-  const Catalogo& textos_;
-  EstiloNumeros estilo_;
-  bool todo_;
-  std::string log_;
-  Registro registro_;
-  std::ostringstream jsonSalida_;
-  ListadoJson json_{jsonSalida_, "azar.zrb", textos_, estilo_};
-  std::ostringstream resumenSalida_;
-  Pantalla pantalla_{resumenSalida_};
-  Resumen resumen_{pantalla_, textos_, estilo_};
-  std::vector<std::unique_ptr<UnPapel>> papeles_;
-
-  bool SeLee() const { return todo_ && f_.casos <= kCasosQueSeLeen; }
+  const ResultadoTramo& x_;
+  const bool conTextos_;
 
   void Queja(const std::string& texto) {
     if (static_cast<int>(f_.quejas.size()) < kMaxQueja) f_.quejas += texto + "; ";
   }
 
-  void Mira(const char* nombre, double x) {
-    if (!std::isfinite(x)) Queja(std::string(nombre) + " no es finito");
-  }
-
-  template <class F>
-  void Lee(F f) {
-    if (!todo_) return;
-    f(json_);
-    for (auto& p : papeles_) f(*p->listado);
+  void Mira(const std::vector<Real>& reales) {
+    for (const auto& r : reales) {
+      if (!std::isfinite(r.valor)) Queja(std::string(r.nombre) + " no es finito");
+    }
   }
 
   void MiraTexto(const char* cual, const std::string& texto, bool conExponentes) {
@@ -305,10 +249,14 @@ class Lector : public OyenteCorrida {
     if (!basura.empty()) Queja(std::string(cual) + ": \"" + basura + "\"");
   }
 
-  void MiraJson() {
-    const auto hueco = HuecoDeJson(jsonSalida_.str());
-    if (!hueco.empty()) Queja("json: " + hueco);
-    jsonSalida_.str({});
+  static std::string EnPapel(TipoListado tipo, const ResultadoTramo& x, const Catalogo& textos,
+                             const EstiloNumeros& estilo) {
+    std::ostringstream salida;
+    HojasTexto hojas(salida);
+    Papel papel(hojas, OrientacionDe(tipo));
+    CreaListado(tipo, {papel, textos, estilo, {"21/11/2026", "09:30:00"}})->Tramo(x, 1, "1", {});
+    papel.FinDocumento();
+    return salida.str();
   }
 
   void Mide(const std::string& texto) {
@@ -319,69 +267,46 @@ class Lector : public OyenteCorrida {
     }
   }
 
-  void MiraTextos() {
-    if (!todo_) return;
-    MiraJson();
-    MiraTexto("resumen", resumenSalida_.str(), false);
-    Mide(resumenSalida_.str());
-    resumenSalida_.str({});
-    for (auto& p : papeles_) {
-      MiraTexto("listado", p->salida.str(), false);
-      if (p->alta) Mide(p->salida.str());
-      p->salida.str({});
-    }
-  }
-
   // The screen of adjustments over the Caso: a failure of its arithmetic is told there.
-  void Tanteos(const EstadoCalculo& e) {
-    EstadoCalculo x;
-    x.tramo = e.tramo;
-    x.caso.armado = e.caso.armado;
-    x.corrida = Sin(e.corrida);
-    x.tramo.Esp *= 100.0, x.tramo.Reci *= 100.0, x.tramo.Rece *= 100.0;
+  void Tanteos(const FilaCaso& fila, const ResultadoArmado& armado) {
     static const auto serie = [] {
       std::vector<double> v;
       for (int i = 1; i <= 100; ++i) v.push_back(5.0 * i);
       return v;
     }();
+    const auto& t = x_.datos.tramo;
     try {
-      const auto datos = DatosCaso(x, x.tramo.Reci, x.tramo.Rece);
-      for (int fila = 1; fila <= kFilasTanteo; fila += 3) {
-        const auto t = Tantea(datos, serie, fila);
-        for (const auto& r : t.filas.v) {
+      const auto datos =
+          DatosCaso(t, fila, armado, {t.Esp * 100.0, t.Reci * 100.0, t.Rece * 100.0});
+      for (int n = 1; n <= kFilasTanteo; n += 3) {
+        const auto tanteo = Tantea(datos, serie, n);
+        for (const auto& r : tanteo.filas.v) {
           if (std::isfinite(r.Interior) && std::isfinite(r.Exterior)) continue;
           Queja("fila de tanteo no finita");
         }
-        const auto& r = t.filas(fila);
-        Hoja(datos, x, {0, r.Interior, r.Exterior});
+        const auto& r = tanteo.filas(n);
+        Hoja(datos, armado, {0, r.Interior, r.Exterior});
       }
-      Hoja(datos, x, {});
+      Hoja(datos, armado, {});
     } catch (const ErrorEjecucion&) {
     }
   }
 
-  void Hoja(const DatosDelCaso& datos, const EstadoCalculo& x, const Ajuste& disp) {
-    const auto c = Calculo_Arm_Necesaria(datos, x.caso.armado.TablaHip(1), disp);
+  void Hoja(const DatosDelCaso& datos, const ResultadoArmado& armado, const Ajuste& disp) {
+    const auto c = Calculo_Arm_Necesaria(datos, armado.TablaHip(1), disp);
     for (const auto& l : c.lineas) {
       if (!std::isfinite(l.necesaria) || !std::isfinite(l.dispuesta)) Queja("linea no finita");
     }
     if (c.LineaQueRige() < 0) Queja("ninguna linea rige");
-    if (SeLee()) MiraTexto("hoja", HojaDeTrabajo(c), false);
-  }
-
-  static Corrida Sin(const Corrida& c) {
-    Corrida copia;
-    copia.PPNeta = c.PPNeta, copia.STP = c.STP, copia.MDP = c.MDP, copia.DP = c.DP;
-    copia.Hr = c.Hr;
-    return copia;
+    const bool seLee = conTextos_ && f_.casos <= static_cast<int>(kCasosQueSeLeen);
+    if (seLee) MiraTexto("hoja", HojaDeTrabajo(c), false);
   }
 };
 
-std::string QuejasDelFallo(const ErrorCorrida& fallo, const EstadoCalculo& e,
+std::string QuejasDelFallo(const FalloCorrida& fallo, const EstadoCalculo& e,
                            const Catalogo& textos) {
   std::string quejas;
-  if (fallo.numeroTramo() != e.tramo.NumeroTramo) quejas += "el fallo nombra otro Tramo; ";
-  const auto& error = fallo.error();
+  const auto& error = fallo.error;
   const bool necesitaDato = error.causa() == CausaError::SinConvergencia ||
                             error.causa() == CausaError::DemasiadosCasos ||
                             error.causa() == CausaError::IncrementoAltura ||
@@ -401,55 +326,33 @@ std::string QuejasDelFallo(const ErrorCorrida& fallo, const EstadoCalculo& e,
 
 }  // namespace
 
-Final Corre(EstadoCalculo& e, const Catalogo& textos, Lectura lectura) {
+Final Corre(const EstadoCalculo& e, const Catalogo& textos, Lectura lectura) {
   Final f;
-  { const EnUnidadesDeCalculo unidades(e); }  // Fct and the twins as they stand around every run
-  const EstadoCalculo antes = e;
+  const bool todo = lectura == Lectura::Todo;
+  std::string log;
+  Registro registro([&log](std::string_view bloque) { log.append(bloque); });
   try {
-    Lector lector(f, textos, e.obra.EsSI(), lectura);
-    e.corrida.registro = lector.registro();
-    lector.EmpiezaTramo(e);
-    try {
-      const std::array<OyenteCorrida*, 1> oyentes{&lector};
-      const EnUnidadesDeCalculo unidades(e);
-      CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-    } catch (const ErrorCorrida& fallo) {
-      f.fallo = fallo;
-      f.quejas += QuejasDelFallo(fallo, e, textos);
-    }
-    lector.AcabaTramo(e, f.fallo ? &*f.fallo : nullptr);
+    const auto datos = DatosDeCalculo(e.obra, e.tramo);
+    const auto x = CalculaTramo(datos, RangoDe(datos), {}, todo ? &registro : nullptr);
+    f.fallo = x.fallo;
+    f.vueltas = x.vueltas.total();
+    if (x.fallo) f.quejas += QuejasDelFallo(*x.fallo, e, textos);
+    Lector lector(f, x, todo);
+    lector.MiraNumeros();
+    if (todo) lector.MiraTextos(e.tramo, textos, log);
   } catch (const std::exception& x) {
     f.quejas += std::string("excepcion sin nombre: ") + x.what() + "; ";
   }
-  e.corrida.registro = nullptr;
-  f.vueltas = e.corrida.vueltas.total();
-  EstadoCalculo despues = e;
-  if (!f.fallo) {  // what a run leaves on purpose
-    despues.tramo.Hr1 = antes.tramo.Hr1;
-    despues.tramo.Hr0Delta = antes.tramo.Hr0Delta;
-  }
-  const auto cambios = Diferencias(antes, despues);
-  if (!cambios.empty()) f.quejas += "datos cambiados:" + cambios + "; ";
-  if (e.corrida.ParaCalculoActivo) f.quejas += "unidades de calculo; ";
   return f;
 }
 
 std::string JsonDe(const std::vector<EstadoCalculo>& tramos, const Catalogo& textos) {
-  std::ostringstream salida;
-  EstadoCalculo e;
-  for (const auto& t : tramos) {
-    ListadoJson json(salida, "azar.zrb", textos, {t.obra.EsSI(), ','});
-    const std::array<OyenteCorrida*, 1> oyentes{&json};
-    e = t;
-    const EnUnidadesDeCalculo unidades(e);
-    try {
-      CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-      json.AcabaTramo(e, nullptr);
-    } catch (const ErrorCorrida& fallo) {
-      json.AcabaTramo(e, &fallo);
-    }
+  std::string todo;
+  for (const auto& e : tramos) {
+    const auto datos = DatosDeCalculo(e.obra, e.tramo);
+    todo += JsonDe(CalculaTramo(datos, RangoDe(datos)), e.tramo, textos, {e.obra.EsSI(), ','});
   }
-  return salida.str();
+  return todo;
 }
 
 Capturador::Capturador(Catalogo& textos)
@@ -533,7 +436,7 @@ void Cuenta::Suma(const Final& f) {
       {CausaError::IncrementoPresion, "incremento de presion"},
       {CausaError::IncrementoAltura, "incremento de altura"},
       {CausaError::Registro, "registro"}};
-  const auto& error = f.fallo->error();
+  const auto& error = f.fallo->error;
   Suma("fallo: " + kNombres.at(error.causa()) + (error.dato().empty() ? "" : ", " + error.dato()));
 }
 

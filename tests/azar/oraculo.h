@@ -1,5 +1,5 @@
 // What every run is held to, whatever its data: it ends in finite results or in a named failure,
-// the captured data come out as they went in, and what reads results writes numbers and no more.
+// and what reads results writes numbers and no more.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "calculo/corrida/mdCalculaTramo.h"
-#include "calculo/corrida/mdCorrida.h"
 #include "sesion/captura/mdCaptura.h"
 
 namespace zorbin::pruebas {
@@ -19,13 +18,13 @@ struct Real {
   const char* nombre;
   double valor;
 };
-/// Every real of a Caso, but for the table of loads.
+/// Every real of a Caso.
 std::vector<Real> RealesDe(const ResultadoTramo& x, const FilaCaso& fila,
                            const ResultadoCaso& caso);
 
 /// How a run ended.
 struct Final {
-  std::optional<ErrorCorrida> fallo;
+  std::optional<FalloCorrida> fallo;
   int casos = 0;
   std::int64_t vueltas = 0;
   int largo = 0;        // of its longest line of text, listings upright [columns]
@@ -37,11 +36,11 @@ struct Final {
 
 enum class Lectura {
   Resultados,  // the numbers of every Caso only
-  Todo,        // summary, listings, JSON, debug log and trial rows of the first Casos too
+  Todo,        // debug log, and summary, listings, JSON and trial rows of the first Casos, too
 };
 
-/// Runs the Tramo of a state in capture units. The state is left as the run leaves it.
-Final Corre(EstadoCalculo& e, const Catalogo& textos, Lectura lectura);
+/// Runs the Tramo of a state in capture units.
+Final Corre(const EstadoCalculo& e, const Catalogo& textos, Lectura lectura);
 
 /// The catalogue of the program, in Spanish.
 const Catalogo& Textos();
@@ -54,7 +53,7 @@ std::string HuecoDeJson(const std::string& json);
 /// catalogue lacks. Empty where there is nothing.
 std::string Basura(const std::string& texto, bool conExponentes);
 
-/// What the JSON of the run says, from a clean state.
+/// What the JSON of the runs says.
 std::string JsonDe(const std::vector<EstadoCalculo>& tramos, const Catalogo& textos);
 
 /// Leads data through the rules of the capture, as `calcula` does. @return whether they pass

@@ -26,7 +26,9 @@ struct UnCaso {
   bool RigePP() const { return fila.HipotesisRige == kHipPPNeta; }
 };
 
-UnCaso Foto(const ResultadoTramo& x, const FilaCaso& fila) {
+// Its number is that of its place in a range, and no part of it.
+UnCaso Foto(const ResultadoTramo& x, FilaCaso fila) {
+  fila.NumCaso = 1;
   const auto caso = CasoEntero(x, fila);
   UnCaso c{fila, RealesDe(x, fila, caso), {fila.HipotesisRige, fila.ErrorPostesado}};
   if (caso.EsArmado()) {

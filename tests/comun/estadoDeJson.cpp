@@ -72,7 +72,7 @@ EstadoCalculo EstadoDeMuestra(int posicion) {
 }
 
 DatosTramo EnCalculo(const EstadoCalculo& e) {
-  return DatosDeCalculo(e.obra, e.tramo, e.corrida.ajustes, e.corrida.SinAjustes);
+  return DatosDeCalculo(e.obra, e.tramo);
 }
 
 EstadoCalculo EnMks(EstadoCalculo e) {

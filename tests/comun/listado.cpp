@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <sstream>
+#include <utility>
 
 #include "base/mdCarpetas.h"
 #include "listados/obra/mdListadoNormal.h"
@@ -25,7 +26,7 @@ struct Guarda : DestinoHojas {
 };
 
 void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const std::string& clase,
-           std::int16_t idioma, char separador) {
+           std::int16_t idioma, char separador, const std::vector<EntradaAjuste>& ajustes = {}) {
   Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   textos.PonIdioma(idioma);
   Papel papel(hojas, clase == "tabular" ? Orientacion::Apaisada : Orientacion::Vertical);
@@ -33,23 +34,24 @@ void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const 
   const auto listado = Crea(clase, {papel, textos, estilo, {"21/11/2026", "09:30:00"}});
   for (const auto& e : tramos) {
     const auto numero = e.tramo.NumeroTramo;
-    listado->Tramo(ResultadoDe(e), numero, std::to_string(numero), {});
+    listado->Tramo(ResultadoDe(e, ajustes), numero, std::to_string(numero), {});
   }
   papel.FinDocumento();
 }
 
 }  // namespace
 
-ResultadoTramo ResultadoDe(const EstadoCalculo& e) {
-  const auto datos = DatosDeCalculo(e.obra, e.tramo, e.corrida.ajustes, e.corrida.SinAjustes);
+ResultadoTramo ResultadoDe(const EstadoCalculo& e, std::vector<EntradaAjuste> ajustes) {
+  const auto datos = DatosDeCalculo(e.obra, e.tramo, std::move(ajustes));
   return CalculaTramo(datos, RangoDe(datos));
 }
 
 std::string ListadoDe(const std::vector<EstadoCalculo>& tramos, const std::string& clase,
-                      std::int16_t idioma, char separador) {
+                      std::int16_t idioma, char separador,
+                      const std::vector<EntradaAjuste>& ajustes) {
   std::ostringstream salida;
   HojasTexto hojas(salida);
-  Lista(hojas, tramos, clase, idioma, separador);
+  Lista(hojas, tramos, clase, idioma, separador, ajustes);
   return salida.str();
 }
 

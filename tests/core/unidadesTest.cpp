@@ -36,56 +36,24 @@ TEST(Unidades, ConversionesDeLosListados) {
   EXPECT_EQ(unidad, "x");
 }
 
-TEST(Unidades, LaCorridaVeMksYLaPantallaRecuperaLoSuyo) {
-  EstadoCalculo e;
-  e.obra.SisUnid = "SI";
-  e.obra.Prs1 = 0.6;
-  e.obra.Prs3 = 0.12;
-  e.tramo.Fck = 35;
-  e.tramo.Fct = FctDeFck(35);
-  e.tramo.QDato = 0.05;
-  const auto antes = e;
-  {
-    const EnUnidadesDeCalculo dentro(e);
-    EXPECT_TRUE(e.corrida.ParaCalculoActivo);
-    EXPECT_DOUBLE_EQ(e.obra.Prs1, 6);
-    EXPECT_DOUBLE_EQ(e.tramo.Fck, 350);
-    EXPECT_NEAR(e.tramo.Fct, 22.349, 1e-3);  // 0.45·350^(2/3)
-    EXPECT_DOUBLE_EQ(e.tramo.QDato, 5);      // t/m2
-    EXPECT_DOUBLE_EQ(e.corrida.IncDP, 1.2);  // no pressure range: the slope is 1
-  }
-  EXPECT_EQ(e.obra.Prs1, antes.obra.Prs1);
-  EXPECT_EQ(e.tramo.Fck, 35);
-  EXPECT_NEAR(e.tramo.Fct, 4.815, 1e-3);  // 0.45·35^(2/3), not a tenth of the other
-  EXPECT_EQ(e.tramo.QDato, 0.05);
-
-  e.obra.SisUnid = "MKS";
-  e.tramo.Fct = 22;
-  const EnUnidadesDeCalculo dentro(e);
-  EXPECT_EQ(e.tramo.Fck, 35);
-  EXPECT_EQ(e.tramo.Fct, 22);  // left as it is
-}
-
-// Which pressures apply is decided by four fields, which increment by two.
-TEST(Unidades, RangoYPasoDePresiones) {
-  EstadoCalculo e;
-  e.obra.SisUnid = "MKS";
-  e.obra.Prs1 = 4, e.obra.Prs2 = 6, e.obra.PrsM1 = 5, e.obra.PrsM2 = 9, e.obra.Prs3 = 2;
-  e.tramo.Prs3Tram = 3;
-  { const EnUnidadesDeCalculo dentro(e); }
-  EXPECT_EQ(e.corrida.PendienteMDP, 2);
-  EXPECT_EQ(e.corrida.IncDP, 1);
-  e.tramo.PrsM2Tram = 8;  // only an MDP of its own: the range is the Tramo's, the step the Obra's
-  { const EnUnidadesDeCalculo dentro(e); }
-  EXPECT_EQ(e.corrida.DPFin, 0);
-  EXPECT_EQ(e.corrida.PendienteMDP, 1);
-  EXPECT_EQ(e.corrida.IncDP, 2);
-  e.tramo.Prs2Tram = 4;
-  { const EnUnidadesDeCalculo dentro(e); }
-  EXPECT_EQ(e.corrida.IncDP, 1.5);
-  e.tramo.PrsM1Tram = 8;  // a range of DP without one of MDP
-  { const EnUnidadesDeCalculo dentro(e); }
-  EXPECT_TRUE(e.corrida.IncDPIndefinido);
+TEST(Unidades, LoQueSeCalculaEstaEnMks) {
+  Obra o;
+  o.SisUnid = "SI";
+  o.Prs1 = 0.6;
+  Tramo t;
+  t.Fck = 35;
+  t.Fct = FctDeFck(35);
+  t.QDato = 0.05;
+  EXPECT_DOUBLE_EQ(ObraEnCalculo(o).Prs1, 6);
+  const auto si = TramoEnCalculo(t, true);
+  EXPECT_DOUBLE_EQ(si.Fck, 350);
+  EXPECT_NEAR(si.Fct, 22.349, 1e-3);  // 0.45·350^(2/3), not ten times that of 35
+  EXPECT_DOUBLE_EQ(si.QDato, 5);      // t/m2
+  o.SisUnid = "MKS";
+  t.Fct = 22;
+  EXPECT_EQ(ObraEnCalculo(o).Prs1, 0.6);
+  EXPECT_EQ(TramoEnCalculo(t, false).Fck, 35);
+  EXPECT_EQ(TramoEnCalculo(t, false).Fct, 22);  // left as it is
 }
 
 }  // namespace

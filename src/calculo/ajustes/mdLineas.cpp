@@ -22,18 +22,18 @@ double CalculaM(double m) {
   return std::fabs(m) * kKpCmPorMT;
 }
 
-double PresionQueRige(int HipotesisRige, const Corrida& c, double p) {
+double PresionQueRige(int HipotesisRige, const PresionesCaso& p) {
   switch (HipotesisRige) {
     case 1:
-      return c.PPNeta;
+      return p.PP;
     case 2:
       return 0.0;
     case 3:
-      return c.STP;
+      return p.STP;
     case 5:
-      return c.MDP;
+      return p.MDP;
     default:
-      return p;
+      return p.DP;
   }
 }
 

@@ -6,16 +6,16 @@
 // layers, `CANTO` the useful depth, `Fcad` the reduced strength of the concrete.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 
 /// Moment [kp·cm/m] of one in m·t/m.
 double CalculaM(double m);
 
-/// Pressure that the governing hypothesis adds [at]: `PPNeta`, none, `STP`, `p` itself, `MDP`; `p`
-/// for any other value.
-double PresionQueRige(int HipotesisRige, const Corrida& c, double p);
+/// Pressure that the governing hypothesis adds [at]: `PP`, none, `STP`, `DP`, `MDP`; `DP` for any
+/// other value.
+double PresionQueRige(int HipotesisRige, const PresionesCaso& p);
 
 /// Axial force of a section with a pressure added [kp/m].
 /// @param n  without pressure [t/m]  @param presion  [at]  @param d  internal diameter [m]

@@ -79,20 +79,17 @@ bool TraccionaInterior(int seccion, double m) {
   return seccion == RINONES ? m > 0 : m >= 0;
 }
 
-DatosDelCaso DatosCaso(const EstadoCalculo& e, double Reci, double Rece) {
-  const auto& t = e.tramo;
-  const auto& r = e.caso.armado;
+DatosDelCaso DatosCaso(const Tramo& t, const FilaCaso& fila, const ResultadoArmado& r,
+                       const Espesores& pared) {
   DatosDelCaso d;
+  static_cast<Espesores&>(d) = pared;
   d.HipotesisRige = r.HipotesisRige;
-  d.Hr = e.corrida.Hr;
-  d.DP = e.corrida.DP;
-  d.presion = PresionQueRige(r.HipotesisRige, e.corrida, e.corrida.DP);
+  d.Hr = fila.Hr;
+  d.DP = fila.DP;
+  d.presion = PresionQueRige(r.HipotesisRige, fila);
   d.Di = t.Di;
   d.fyd = t.Fyd;
   d.Fcad = Div(t.Fck, t.GamaB * t.GamaF);
-  d.Esp = t.Esp;
-  d.Reci = Reci;
-  d.Rece = Rece;
   for (int s = 1; s <= kSecciones; ++s) {
     d.secciones(s) = {r.MRige(s), r.NRige(s), CalculaM(r.MRige(s)),
                       CalculaN(r.NRige(s), d.presion, t.Di)};

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "calculo/ajustes/mdLineas.h"
+#include "core/resultado.h"
 
 namespace zorbin {
 
@@ -17,17 +18,21 @@ struct SeccionDelCaso {
   double N = 0;  // with pressure [kp/m]
 };
 
+/// Of a wall, as they are captured [cm].
+struct Espesores {
+  double Esp = 0;
+  double Reci = 0, Rece = 0;  // covers in force
+};
+
 /// What the trial rows and the check of a Caso are made from.
-struct DatosDelCaso {
+struct DatosDelCaso : Espesores {
   int HipotesisRige = 0;
-  double Hr = 0;              // [m]
-  double DP = 0;              // [at]
-  double presion = 0;         // of the governing hypothesis [at]
-  double Di = 0;              // [m]
-  double fyd = 0;             // [kp/cm2]
-  double Fcad = 0;            // [kp/cm2]
-  double Esp = 0;             // [cm]
-  double Reci = 0, Rece = 0;  // covers in force [cm]
+  double Hr = 0;       // [m]
+  double DP = 0;       // [at]
+  double presion = 0;  // of the governing hypothesis [at]
+  double Di = 0;       // [m]
+  double fyd = 0;      // [kp/cm2]
+  double Fcad = 0;     // [kp/cm2]
   Lista<SeccionDelCaso, kSecciones> secciones;
 
   /// Lever arm between the layers [cm].
@@ -40,10 +45,10 @@ struct DatosDelCaso {
 /// Whether the moment of a section tenses the inner face: at the haunches a moment of 0 does not.
 bool TraccionaInterior(int seccion, double m);
 
-/// Of the Caso that a run left in the state, which holds calculation units, with its thickness in
-/// cm.
-/// @param Reci, Rece  covers in force [cm]
-DatosDelCaso DatosCaso(const EstadoCalculo& e, double Reci, double Rece);
+/// Of a Caso of a run. The wall is another where other covers are tried.
+/// @param t  the Tramo of the run, in calculation units
+DatosDelCaso DatosCaso(const Tramo& t, const FilaCaso& fila, const ResultadoArmado& r,
+                       const Espesores& pared);
 
 inline constexpr int kFilasTanteo = 7;
 inline constexpr int kFilaTanteoInicial = 4;  // of the mean value

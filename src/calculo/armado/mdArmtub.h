@@ -6,7 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

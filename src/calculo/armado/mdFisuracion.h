@@ -8,7 +8,8 @@
 
 #include <optional>
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

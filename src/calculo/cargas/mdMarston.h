@@ -16,7 +16,8 @@
 
 #include <cstdint>
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

@@ -2,7 +2,8 @@
 // combinations.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

@@ -100,6 +100,8 @@ class CorridaTramo {
       x_.fallo = {error, fila_.NumCaso, fila_.Hr, fila_.DP, fila_.MDP, empezado_};
     }
     x_.vueltas = marcha_.vueltas;
+    x_.filas.shrink_to_fit();  // many results are kept, and none grows again
+    x_.alturas.shrink_to_fit();
     return std::move(x_);
   }
 

@@ -35,13 +35,6 @@ const char* NombreIncAltura(const Rango& r) {
   return r.AlturasPropias ? "Hr0Delta" : "Alt3";
 }
 
-void PonAlturas(Rango& r, const Obra& o, const Tramo& t) {
-  r.AlturasPropias = t.Hr0Tramo > 0 || t.Hr0Final > 0;
-  r.Hr0 = r.AlturasPropias ? t.Hr0Tramo : o.Alt1;
-  r.Hr0Final = r.AlturasPropias ? t.Hr0Final : o.Alt2;
-  r.Hr0Delta = r.AlturasPropias ? t.Hr0Delta : o.Alt3;
-}
-
 void PonPendiente(Rango& r, const Obra& o, const Tramo& t) {
   const bool propias = t.TieneDPPropia() || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
   r.DPIni = propias ? t.Prs1Tram : o.Prs1;
@@ -66,8 +59,7 @@ void PonBucle(Rango& r, const Obra& o, const Tramo& t) {
 }  // namespace
 
 Rango RangoDe(const DatosTramo& datos) {
-  Rango r;
-  PonAlturas(r, datos.obra, datos.tramo);
+  Rango r{AlturasDe(datos.obra, datos.tramo)};
   PonPendiente(r, datos.obra, datos.tramo);
   PonBucle(r, datos.obra, datos.tramo);
   return r;

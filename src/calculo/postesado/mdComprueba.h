@@ -2,7 +2,8 @@
 // Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

@@ -7,7 +7,8 @@
 // Source: Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

@@ -7,7 +7,8 @@
 // cylinder. All in kp/cm2 and cm.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

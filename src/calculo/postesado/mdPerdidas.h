@@ -6,7 +6,8 @@
 // kp/cm2, at and cm. Sign: tension is positive; a positive moment stretches the inner face.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 
 namespace zorbin {
 

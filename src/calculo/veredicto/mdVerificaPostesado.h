@@ -5,7 +5,8 @@
 // reinforced or prestressed pipes; the limits are those of the search.
 #pragma once
 
-#include "core/estado_calculo.h"
+#include "core/campos/tramo.h"
+#include "core/resultados.h"
 #include "core/verificacion.h"
 
 namespace zorbin {

@@ -16,13 +16,6 @@ Bloque DeSIAMks(Bloque bloque) {
   return bloque;
 }
 
-template <class Bloque>
-void Recupera(Bloque& bloque, const Bloque& antes) {
-  RecorreNumeros<Bloque>([&](const Ficha& ficha, double Bloque::*campo) {
-    if (ficha.Escala()) bloque.*campo = antes.*campo;
-  });
-}
-
 }  // namespace
 
 std::span<const Dato<Obra>> TablaDe(const Obra&) {
@@ -46,14 +39,6 @@ Tramo TramoEnCalculo(const Tramo& tramo, bool si) {
   Tramo t = DeSIAMks(tramo);
   t.Fct = FctDeFck(t.Fck);
   return t;
-}
-
-void RecuperaUnidades(Obra& obra, const Obra& antes) {
-  Recupera(obra, antes);
-}
-
-void RecuperaUnidades(Tramo& tramo, const Tramo& antes) {
-  Recupera(tramo, antes);
 }
 
 }  // namespace zorbin

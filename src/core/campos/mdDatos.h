@@ -100,8 +100,4 @@ Obra ObraEnCalculo(const Obra& obra);
 /// @param si  its Obra is in SI; Fct then follows from the converted Fck
 Tramo TramoEnCalculo(const Tramo& tramo, bool si);
 
-/// Gives a block that was taken to calculation units the values back that depend on the system.
-void RecuperaUnidades(Obra& obra, const Obra& antes);
-void RecuperaUnidades(Tramo& tramo, const Tramo& antes);
-
 }  // namespace zorbin

@@ -131,18 +131,6 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
   return LeeEntradas(FicheroRegistros(dpe, FicheroRegistros::Modo::Lectura));
 }
 
-std::optional<Mensaje> CargaAjustes(EstadoCalculo& e, const std::filesystem::path& obra) {
-  e.corrida.ajustes.clear();
-  e.corrida.SinAjustes = false;
-  try {
-    e.corrida.ajustes = LeeAjustes(RutaDpe(obra));
-    return std::nullopt;
-  } catch (const ErrorFichero& error) {
-    e.corrida.SinAjustes = true;
-    return error.mensaje();
-  }
-}
-
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,
                     char separador) {
   Transaccion juntos(f);

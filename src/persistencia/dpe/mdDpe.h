@@ -3,10 +3,9 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <vector>
 
-#include "core/estado_calculo.h"
+#include "core/mdAjustes.h"
 #include "persistencia/registros/mdRegistros.h"
 
 namespace zorbin {
@@ -19,11 +18,6 @@ std::filesystem::path RutaDpe(const std::filesystem::path& obra);
 /// @throws ErrorFichero naming the record and what was expected; also where the file ends before
 /// the last of the entries that its first record counts
 std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe);
-
-/// Brings the adjustments of a project into the state of a run. A file that is refused takes
-/// nothing else with it: the run goes without adjustments, and `SinAjustes` says so.
-/// @return why it was refused
-std::optional<Mensaje> CargaAjustes(EstadoCalculo& e, const std::filesystem::path& obra);
 
 /// Writes the entries from the first record on, all or none.
 /// @throws ErrorFichero

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/estado_calculo.h"
+#include "core/mdAjustes.h"
 #include "persistencia/registros/mdRegistros.h"
 #include "persistencia/zrb/mdZrb.h"
 

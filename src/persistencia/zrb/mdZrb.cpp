@@ -6,6 +6,7 @@
 #include <utility>
 #include <variant>
 
+#include "base/aritmetica.h"
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
@@ -182,24 +183,6 @@ void CompletaTramo(Tramo& t) {
   if (t.IndCar != 1) t.IndCar = t.ICar = 0;
 }
 
-// The load fields follow the given load until a run sets them.
-void CargasDelDato(EstadoCalculo& e) {
-  const auto& t = e.tramo;
-  auto& c = e.corrida;
-  c.Q = t.QDato;
-  switch (t.TipoApoyo) {
-    case 11:
-      c.QTerraplen = t.B0 > 3.0 ? t.De * t.QDato / t.B0 : 0.0;
-      break;
-    case 12:
-      c.QTerraplen = t.QDato;
-      break;
-    default:
-      c.QTerraplen = t.Gr * c.Hr;
-      break;
-  }
-}
-
 // ---------------------------------------------------------------------------------------------
 // Writing
 
@@ -320,9 +303,8 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
   Tramo t = e.tramo;
   LeeDatos(t, f, base, e.obra.EsSI());
   CompletaTramo(t);
+  t.Hr0Delta = AlturasDe(e.obra, t).Hr0Delta;
   e.tramo = std::move(t);
-  CargasDelDato(e);
-  EligeAlturas(e);
 }
 
 void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,

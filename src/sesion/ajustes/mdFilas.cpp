@@ -12,17 +12,10 @@ namespace {
 // The formulas take thickness and covers in cm, as they are captured.
 DatosDelCaso Datos(const Ajustes& a) {
   const auto& t = a.t;
-  EstadoCalculo e;
-  e.tramo = a.tramo.datos.tramo;
-  e.tramo.Esp = a.tramo.tramo.Esp;
-  e.corrida.Hr = t.fila.Hr;
-  e.corrida.DP = t.fila.DP;
-  e.corrida.MDP = t.fila.MDP;
-  e.corrida.STP = t.fila.STP;
-  e.corrida.PPNeta = t.fila.PP;
-  e.caso.armado = t.caso.Armado();
-  return DatosCaso(e, t.RecAltActivo ? t.RecIntAlt : a.tramo.tramo.Reci,
-                   t.RecAltActivo ? t.RecExtAlt : a.tramo.tramo.Rece);
+  const auto& capturado = a.tramo.tramo;
+  Espesores pared{capturado.Esp, capturado.Reci, capturado.Rece};
+  if (t.RecAltActivo) pared.Reci = t.RecIntAlt, pared.Rece = t.RecExtAlt;
+  return DatosCaso(a.tramo.datos.tramo, t.fila, t.caso.Armado(), pared);
 }
 
 // As the screen shows them.

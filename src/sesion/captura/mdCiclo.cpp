@@ -68,7 +68,6 @@ void Vacia(Captura& c) {
   c.falta.reset();
   c.e.obra = Obra{};
   c.e.tramo = Tramo{};
-  c.e.corrida = Corrida{};
   c.e.obra.RutaApp = carpeta;
   c.EstadoCaptura = kSinTramo;
   PreparaPantalla(c);

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "base/aritmetica.h"
 #include "base/textos.h"
 
 namespace zorbin {

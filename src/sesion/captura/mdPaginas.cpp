@@ -3,6 +3,7 @@
 #include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin {
 
@@ -45,12 +46,11 @@ bool FaltaDato(Captura& c, Ed campo, int nombre) {
 
 bool LlegaACargas(Captura& c) {
   const auto& t = c.e.tramo;
-  EligeAlturas(c.e);
-  const auto& r = c.e.corrida;
-  if (r.Hr0Actual < 0.001) return FaltaDato(c, Ed::edHr0, txt::EtAlturas);
+  const auto r = EligeAlturas(c);
+  if (r.Hr0 < 0.001) return FaltaDato(c, Ed::edHr0, txt::EtAlturas);
   if (t.De < 0.001) return FaltaDato(c, Ed::edDi0, txt::EtDe);
   if (t.B0 < 0.001 && t.TipoApoyo < 30) return FaltaDato(c, Ed::edB0, txt::EtB0);
-  const bool arco = r.Hr0FinalActual > 5.0 && r.Hr0FinalActual > 5.0 * t.De;
+  const bool arco = r.Hr0Final > 5.0 && r.Hr0Final > 5.0 * t.De;
   c.pantalla.avCargas1 =
       arco ? Texto(c, txt::AvisoArco1) + " " + Texto(c, txt::AvisoArco2) : std::string{};
   return true;

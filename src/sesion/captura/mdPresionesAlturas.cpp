@@ -157,7 +157,6 @@ SalidaCampo SaleHr0(Captura& c) {
   if (!Lee(c, Ed::edHr0, sinObra ? 0.001 : 0.0)) return SalidaCampo::Queda;
   if (sinObra && t.Hr0Tramo < 1.0) return Queda(c, Ed::edHr0, txt::AlturaMinima1m);
   MuestraSinCero(c, Ed::edHr0);
-  c.e.corrida.Hr0Actual = t.Hr0Tramo != 0 ? t.Hr0Tramo : o.Alt1;
   return SalidaCampo::Pasa;
 }
 
@@ -170,10 +169,8 @@ SalidaCampo SaleHr0Final(Captura& c) {
   if (t.Hr0Final == 0 && t.Hr0Tramo > 0) t.Hr0Final = t.Hr0Tramo;
   if (t.Hr0Tramo != 0) {
     MuestraVariable(c, Ed::edHr0Final);
-    c.e.corrida.Hr0FinalActual = t.Hr0Final;
   } else {
     Escribe(c, Ed::edHr0Final, "");
-    c.e.corrida.Hr0FinalActual = c.e.obra.Alt2;
   }
   const bool rango = t.Hr0Final > t.Hr0Tramo;
   if (!rango) SinIncremento(c, Ed::edHr0Delta);

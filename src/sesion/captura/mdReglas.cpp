@@ -142,8 +142,8 @@ SalidaCampo SaleHr1(Captura& c, Ed campo) {
   const auto colocacion = c.e.tramo.TipoColocacion;
   if (colocacion == 0) return SalidaCampo::Pasa;
   if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  EligeAlturas(c.e);
-  if (colocacion != 1 || c.e.tramo.Hr1 <= c.e.corrida.Hr) return SalidaCampo::Pasa;
+  const double altura = EligeAlturas(c).Hr0;
+  if (colocacion != 1 || c.e.tramo.Hr1 <= altura) return SalidaCampo::Pasa;
   return Queda(c, campo, Texto(c, txt::GeneratrizSuperior) + "\n" + Texto(c, txt::MayorQueRelleno),
                Texto(c, txt::TituloErrorCaptura));
 }
@@ -153,8 +153,7 @@ SalidaCampo SaleQDato(Captura& c, Ed campo) {
   if (!leido) c.e.tramo.QDato = 0.0;
   MuestraVariable(c, campo);
   if (!leido) return SalidaCampo::Queda;
-  EligeAlturas(c.e);
-  CargasDeQDato(c, c.e.corrida.Hr);
+  EligeCarga(c.e.tramo);
   c.e.tramo.IndCar == 1 ? Enciende(c, Ed::edICar0) : Apaga(c, Ed::edICar0);
   return SalidaCampo::Pasa;
 }

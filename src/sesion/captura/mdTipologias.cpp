@@ -102,7 +102,6 @@ void LimpiaSeccion(Captura& c) {
   t.TipoRelleno = 21;
   t.ICar = 1;  // and 2 once the validation reads the field
   t.IAs = 0;
-  c.e.corrida.Hr = c.e.corrida.Q = 0.0;
   c.AnchoZanjaAuto = false;
   c.EsComercial = false;
   c.EspRecomMin = c.EspRecomMax = 0;

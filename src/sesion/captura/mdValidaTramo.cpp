@@ -272,26 +272,24 @@ class Validacion {
   }
 
   bool Alturas() {
-    EligeAlturas(c_.e);
-    const auto& r = c_.e.corrida;
-    if (!(r.Hr0Actual > 0)) return FallaAltura(Ed::edHr0, txt::DebeTeclearAltura);
+    const auto r = EligeAlturas(c_);
+    if (!(r.Hr0 > 0)) return FallaAltura(Ed::edHr0, txt::DebeTeclearAltura);
     // Only an Obra without a height is held to the 1 m.
-    if (r.Hr0Actual < 1.0 && !(c_.e.obra.Alt1 > 0.01)) {
+    if (r.Hr0 < 1.0 && !(c_.e.obra.Alt1 > 0.01)) {
       return FallaAltura(Ed::edHr0, txt::AlturaMinima1m);
     }
-    if (!(r.Hr0FinalActual > 0)) return true;
-    if (r.Hr0FinalActual < r.Hr0Actual) return FallaAltura(Ed::edHr0, txt::AlturaFinalInferior);
-    return IncrementoDeAlturas();
+    if (!(r.Hr0Final > 0)) return true;
+    if (r.Hr0Final < r.Hr0) return FallaAltura(Ed::edHr0, txt::AlturaFinalInferior);
+    return IncrementoDeAlturas(r);
   }
 
-  bool IncrementoDeAlturas() {
+  bool IncrementoDeAlturas(const zorbin::Alturas& r) {
     auto& t = c_.e.tramo;
-    const auto& r = c_.e.corrida;
     if (t.Hr0Delta < 0.01 &&
         !ValidaNumero(c_, Ed::edHr0Delta, -kMayorTecleado, t.Hr0Delta, txt::EtAlt3)) {
       return Foco(Ed::edHr0Delta);
     }
-    if (t.Hr0Delta <= 0 && r.Hr0FinalActual != r.Hr0Actual) {
+    if (t.Hr0Delta <= 0 && r.Hr0Final != r.Hr0) {
       return FallaAltura(Ed::edHr0Delta, txt::DebeIncrementoAlturas);
     }
     return true;
@@ -323,7 +321,7 @@ class Validacion {
       return true;
     }
     if (!NumeroQueEnciende(Ed::edHr1, kMinimo, txt::EtHr1)) return false;
-    if (t.TipoApoyo >= kTerraplen || t.Hr1 <= c_.e.corrida.Hr0Actual) return true;
+    if (t.TipoApoyo >= kTerraplen || t.Hr1 <= AlturasDe(c_.e.obra, t).Hr0) return true;
     Enciende(c_, Ed::edHr1);
     return Falla(Ed::edHr1,
                  Texto(c_, txt::GeneratrizSuperior) + "\n" + Texto(c_, txt::MayorQueRelleno),
@@ -342,7 +340,7 @@ class Validacion {
       Desbloquea(c_, Ed::edQDato0);
       return Foco(Ed::edQDato0);
     }
-    CargasDeQDato(c_, c_.e.corrida.Hr0Actual);
+    EligeCarga(t);
     if (t.IndCar == 0) return true;
     return EnLista(Ed::edICar0, txt::SinICar, txt::ICarIncorrecto);
   }
@@ -372,21 +370,13 @@ bool CompruebaFyd(Captura& c) {
   return false;
 }
 
-void CargasDeQDato(Captura& c, double altura) {
-  auto& t = c.e.tramo;
-  auto& r = c.e.corrida;
-  r.Q = t.QDato;
-  switch (t.TipoApoyo) {
-    case 11:
-      r.QTerraplen = t.B0 == 0.0 ? 0.0 : t.De * t.QDato / t.B0;
-      break;
-    case 12:
-      r.QTerraplen = t.QDato;
-      break;
-    default:
-      r.QTerraplen = t.Gr * altura;
-      break;
-  }
+Alturas EligeAlturas(Captura& c) {
+  const auto alturas = AlturasDe(c.e.obra, c.e.tramo);
+  c.e.tramo.Hr0Delta = alturas.Hr0Delta;
+  return alturas;
+}
+
+void EligeCarga(Tramo& t) {
   t.IndCar = t.QDato < 0.001 ? 1 : 0;
   if (t.IndCar == 0) t.ICar = 0;
 }

@@ -2,6 +2,7 @@
 // printed.
 #pragma once
 
+#include "core/mdUnidades.h"
 #include "sesion/captura/mdCaptura.h"
 
 namespace zorbin {
@@ -18,8 +19,12 @@ bool ValidaTramo(Captura& c, bool Interactivo);
 /// Asks about a design strength of the steel over 1400 kp/cm2. @return whether to go on
 bool CompruebaFyd(Captura& c);
 
-/// First and second load that follow from the given one; the second of a trench is 0 without width.
-void CargasDeQDato(Captura& c, double altura);
+/// The fill heights in force. Where they are the Obra's, so is the increment of the Tramo.
+Alturas EligeAlturas(Captura& c);
+
+/// Whether the load is calculated, which it is where none is given; a given one has no load by its
+/// side.
+void EligeCarga(Tramo& t);
 
 /// Value that a list stands for, from the position of its entry, from 1.
 std::int16_t ValorDeLista(const Captura& c, Ed campo, int posicion);

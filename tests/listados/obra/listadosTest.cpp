@@ -86,9 +86,9 @@ TEST(ListadoNormal, Avisos) {
 TEST(ListadoTabular, FilasAlturasYAjustes) {
   auto e = pruebas::EstadoDeMuestra(1);
   e.tramo.NumeroTramo = 1;
-  e.corrida.ajustes = {{5, 1, 3, {20, 0, 19.5}}};
-  auto f = Tramo(4, 3);
-  EXPECT_EQ(Compara("tabular-si.txt", ListadoDe({e, f}, "tabular")), "");
+  const std::vector<EntradaAjuste> ajustes{{5, 1, 3, {20, 0, 19.5}}};
+  const auto texto = ListadoDe({e, Tramo(4, 3)}, "tabular", 1, ',', ajustes);
+  EXPECT_EQ(Compara("tabular-si.txt", texto), "");
 }
 
 // A page takes 44 lines after its head (50 less 6): 9 of the Tramo and 5 of the table's head on

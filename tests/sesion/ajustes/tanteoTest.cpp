@@ -8,9 +8,8 @@
 #include <vector>
 
 #include "calculo/ajustes/mdNecesaria.h"
-#include "calculo/corrida/mdCorrida.h"
+#include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/estadoDeJson.h"
-#include "core/mdUnidades.h"
 
 namespace zorbin {
 namespace {
@@ -73,11 +72,10 @@ TEST(Lineas, FlexionCompuestaAMano) {
 }
 
 TEST(Lineas, LaPresionEsLaDeLaHipotesisQueRige) {
-  Corrida c;
-  c.PPNeta = 9, c.STP = 8, c.MDP = 7;
+  const PresionesCaso p{5, 7, 8, 9};
   const std::vector<double> esperadas{9, 0, 8, 5, 7, 5};
   for (int h = 1; h <= 6; ++h) {
-    EXPECT_EQ(PresionQueRige(h, c, 5), esperadas[static_cast<std::size_t>(h - 1)]) << h;
+    EXPECT_EQ(PresionQueRige(h, p), esperadas[static_cast<std::size_t>(h - 1)]) << h;
   }
   // (-0.5 + 6·10·1.2/2)·1000
   EXPECT_NEAR(CalculaN(-0.5, 6, 1.2), 35500, 1e-9);
@@ -191,15 +189,6 @@ TEST(Tanteo, UnaSeccionQueNoCalculaComparaElUltimoValor) {
 
 // ---- The check
 
-struct CasosArmados : OyenteCorrida {
-  std::vector<EstadoCalculo> casos;
-  void Caso(const EstadoCalculo& e) override {
-    casos.push_back(e);
-    auto& t = casos.back().tramo;
-    t.Esp *= 100, t.Reci *= 100, t.Rece *= 100;  // as the capture has them
-  }
-};
-
 // Over every worked reinforced Caso: the steel of a trial row is enough at each section, and where
 // a layer in composite tension decides it, it is just enough.
 TEST(Comprobacion, TodaFilaDeTanteoBastaEnLosCasosTrabajados) {
@@ -207,14 +196,13 @@ TEST(Comprobacion, TodaFilaDeTanteoBastaEnLosCasosTrabajados) {
   int filas = 0;
   int justas = 0;
   for (const auto& f : std::filesystem::directory_iterator(pruebas::Datos("casos"))) {
-    auto e = pruebas::EstadoDe(pruebas::LeeJson(f.path()).at("entrada"));
-    CasosArmados oyente;
-    const std::array<OyenteCorrida*, 1> oyentes{&oyente};
-    const EnUnidadesDeCalculo unidades(e);
-    CalculaCasos(e, kSinForzar, kSinForzar, oyentes);
-    for (const auto& caso : oyente.casos) {
-      if (caso.caso.armado.HipotesisRige == 1) continue;
-      const auto d = DatosCaso(caso, caso.tramo.Reci, caso.tramo.Rece);
+    const auto e = pruebas::EstadoDe(pruebas::LeeJson(f.path()).at("entrada"));
+    const auto datos = pruebas::EnCalculo(e);
+    const auto x = CalculaTramo(datos, RangoDe(datos));
+    for (const auto& caso : x.filas) {
+      if (!datos.tramo.EsArmado || caso.HipotesisRige == 1) continue;
+      const auto d = DatosCaso(datos.tramo, caso, CasoEntero(x, caso).Armado(),
+                               {e.tramo.Esp, e.tramo.Reci, e.tramo.Rece});
       const auto t = Tantea(d, serie, 4);
       for (const auto& fila : t.filas.v) {
         if (!fila.utilizable) continue;

@@ -235,8 +235,7 @@ TEST(ValidaTramo, LaCargaDadaQuitaLaConcentrada) {
   const auto& t = b.e.tramo;
   EXPECT_EQ(t.IndCar, 0);
   EXPECT_EQ(t.ICar, 0);
-  EXPECT_DOUBLE_EQ(b.e.corrida.Q, 0.05);
-  EXPECT_DOUBLE_EQ(b.e.corrida.QTerraplen, t.De * 0.05 / t.B0);  // whatever the width
+  EXPECT_DOUBLE_EQ(t.QDato, 0.05);
 }
 
 TEST(ValidaTramo, LosLimitesQuePasan) {
