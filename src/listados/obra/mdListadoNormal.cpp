@@ -232,6 +232,7 @@ void ListadoNormal::Caso(const VistaCaso& v) {
   if (v.primero) Cabecera(v.tramo);
   if (v.abreAltura) Ovalizacion(v);
   v.Datos().EsArmado ? DisenoArmado(v) : Postesado(v);
+  Veredicto(v);
 }
 
 void ListadoNormal::Ovalizacion(const VistaCaso& v) {
@@ -385,7 +386,7 @@ void ListadoNormal::Resultado(const VistaCaso& v) {
     papel_.Cuerpo(kCuerpoNormal);
     return;
   }
-  if (!r.MomentoTope) {
+  if (!r.MomentoTope && OfreceArmadura(v)) {
     const auto area = [this](int rotulo, double valor) {
       EnNegrita(8, Texto(rotulo) + "  " + Numero(valor, 10, 1) + Texto(txt::Cm2PorM));
     };
@@ -402,6 +403,14 @@ void ListadoNormal::Resultado(const VistaCaso& v) {
     Linea(8, Texto(txt::TensionMaxima) + Numero(r.TensionMax, 10, 2) + Texto(txt::KpPorCm2));
     Linea(8, Texto(txt::TensionAdmisible) + Numero(r.TensionAdm, 10, 2) + Texto(txt::KpPorCm2));
   }
+}
+
+// On the last page of the Caso, or on one of its own where it does not fit.
+void ListadoNormal::Veredicto(const VistaCaso& v) {
+  const auto cierre = CierreDe(v);
+  if (papel_.LineasQueCaben() <= static_cast<int>(cierre.size())) PaginaDeCaso(v);
+  EnBlanco(1);
+  EscribeCierre(8, cierre);
 }
 
 }  // namespace zorbin
