@@ -9,6 +9,7 @@
 #include "comun/comparaFichero.h"
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
+#include "listados/obra/mdResumen.h"
 #include "listados/obra/mdTipoListado.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "listados/papel/mdPapel.h"
@@ -181,6 +182,45 @@ TEST(ListadosPostesado, LosDiagnosticos) {
   EXPECT_EQ(Compara("postesado-avisos-pantalla.txt", ListadoDe({debil, imposible}, "pantalla")),
             "");
   EXPECT_EQ(Compara("postesado-avisos-tabular.txt", ListadoDe({debil, imposible}, "tabular")), "");
+}
+
+// What nobody may take for a design like the others says so in every output, and shows no area
+// where there is none to build.
+TEST(Listados, LoQueNoEsUnDisenoComoLosDemasSeDiceEnTodas) {
+  auto tope = UnaPresion(Tramo(4, 40));
+  auto sinSolucion = UnaPresion(Tramo(1, 3));
+  sinSolucion.tramo.Icontes0 = true, sinSolucion.tramo.Adato = 3;
+  auto ajustado = UnaPresion(Tramo(1, 3));
+  ajustado.corrida.ajustes = {{4, 1, 3, {20, 0, 19.5}}};
+  auto corto = ajustado;
+  corto.corrida.ajustes = {{4, 1, 3, {15, 0, 9}}};
+  struct Fila {
+    const EstadoCalculo& e;
+    std::string marca;      // of the row of Tabular
+    std::string veredicto;  // in the others
+    std::string dice;       // in all
+    std::string calla;      // in none
+  };
+  const auto filas = std::to_array<Fila>({
+      {tope, "\n  *   40,00 ", "NO CUMPLE (uso 1,222)", "omento mayor que el momento límite",
+       "ARMADURA INTERIOR  "},
+      {sinSolucion, "\n  *    3,00 ", "VEREDICTO: NO CUMPLE\n",
+       "sin solución con la armadura exterior máxima", "501"},
+      {ajustado, "\n  ?A   3,00 ", "SIN COMPROBAR (uso 0,", "interior 19,5", "redondos por"},
+      {corto, "\n  *A   3,00 ", "NO CUMPLE (uso 1,", "interior 19,5", "redondos por"},
+  });
+  const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+  for (const auto& f : filas) {
+    std::ostringstream flujo;
+    Pantalla pantalla(flujo);
+    Resumen(pantalla, textos, {true, ','}).Tramo(pruebas::ResultadoDe(f.e), 1, "1", {});
+    for (const std::string clase : {"normal", "tabular", "pantalla", "resumen"}) {
+      const auto texto = clase == "resumen" ? flujo.str() : ListadoDe({f.e}, clase);
+      EXPECT_NE(texto.find(clase == "tabular" ? f.marca : f.veredicto), std::string::npos) << texto;
+      EXPECT_NE(texto.find(f.dice), std::string::npos) << clase << f.dice << texto;
+      EXPECT_EQ(texto.find(f.calla), std::string::npos) << clase << f.calla << texto;
+    }
+  }
 }
 
 // Size, bold and underline of the first line that holds a text; size 0 when there is none.
