@@ -205,6 +205,36 @@ TEST_F(Linea, LosAjustesDelFicheroEntranEnLosResultados) {
   EXPECT_FALSE(casos[1]["armado"]["HayAjuste"].get<bool>());
 }
 
+// An adjustment that falls short, and one that complies but for what nobody chose of it.
+TEST_F(Linea, LosCasosQueNoCumplenSeCuentanYSoloEstrictoLosCastiga) {
+  struct Fila {
+    Ajuste ajuste;
+    int estricto;
+    std::string queja;
+    std::string veredicto;
+  };
+  const auto filas = std::to_array<Fila>({
+      {{5, 0, 5}, 1, "zorbin-calc: Casos que no cumplen: 1 de 9\n", "NO CUMPLE"},
+      {{30, 5, 25}, 0, "zorbin-calc: Casos sin comprobar: 1 de 9\n", "SIN COMPROBAR"},
+  });
+  for (const auto& f : filas) {
+    const std::string copia = Copia(5, "Obra");
+    {
+      FicheroRegistros dpe(RutaDpe(copia), FicheroRegistros::Modo::LecturaEscritura);
+      EscribeAjustes(dpe, {{4, 1, 2, f.ajuste}}, '.');
+    }
+    const auto r = Llama("calcula " + copia + " --tramo 1");
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.quejas, f.queja);
+    EXPECT_NE(r.salida.substr(0, r.salida.find("\n\n")).find(f.veredicto), std::string::npos);
+    for (const char* salida : {"", " --formato json", " --listado tabular"}) {
+      EXPECT_EQ(Llama("calcula --estricto " + copia + " --tramo 1" + salida).codigo, f.estricto);
+    }
+  }
+  const auto envolvente = Llama("calcula --envolvente " + acequia + " --tramo 1 --listado tabular");
+  EXPECT_NE(envolvente.salida.find("diseño envolvente"), std::string::npos);
+}
+
 // Another pressure of the same Caso takes the adjustment; one 0.05 off does not. The records are
 // the first and last DP and MDP of the Obra.
 TEST_F(Linea, ElAjusteDeUnaPresionValeParaLasQueSonElMismoCaso) {

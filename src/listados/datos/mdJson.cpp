@@ -2,7 +2,9 @@
 
 #include "base/mdNumeros.h"
 #include "core/campos/mdDatos.h"
+#include "listados/datos/mdJsonVeredicto.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdVeredictoCaso.h"
 
 namespace zorbin {
 
@@ -186,6 +188,7 @@ void DeCaso(EscritorJson& j, const VistaCaso& v, const Catalogo& textos) {
   j.Abre('[');
   for (const auto& aviso : v.caso.avisos) j.Valor(TextoAviso(aviso, textos));
   j.Cierra(']');
+  DeVeredicto(j, v.caso.verificacion, f.ajustado);
   j.Clave(armado ? "armado" : "postesado");
   j.Abre('{');
   armado ? DeArmado(j, v.Armado()) : DePostesado(j, v.Postesado(), textos);
@@ -225,6 +228,10 @@ bool ListadoJson::Tramo(const ResultadoTramo& resultado, int posicion, const std
   const auto deCaso = [this](const VistaCaso& v) { DeCaso(j_, v, textos_); };
   if (!RecorreCasos(resultado, sigue, deCaso)) return false;
   j_.Cierra(']');
+  const auto cuenta = CuentaDeVeredictos(resultado);
+  j_.Campo("veredicto", CodigoDe(cuenta.veredicto));
+  j_.Campo("noCumplen", cuenta.noCumplen);
+  j_.Campo("sinComprobar", cuenta.sinComprobar);
   j_.Clave("error");
   if (resultado.fallo) {
     j_.Valor(TextoFallo(*resultado.fallo, fichero_, numero, textos_, estilo_));

@@ -1,5 +1,6 @@
 #include "listados/obra/mdListadoNormal.h"
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -32,6 +33,15 @@ constexpr std::array<Cola, 5> kRellenos{{{11, txt::RocasMachacadas, " (0,192)"},
 constexpr std::array<Cola, 3> kAsientos{{{1, txt::RocaNoAsentable, "1,0 - "},
                                          {2, txt::SueloOrdinario, "0,5 - "},
                                          {3, txt::SueloAsentable, "0,3 - "}}};
+
+// The search of a hypothesis ended without a solution: its area is where it stood, and none.
+bool SinSolucion(const VistaCaso& v, int h) {
+  const auto& avisos = v.caso.avisos;
+  return std::any_of(avisos.begin(), avisos.end(), [h](const Aviso& a) {
+    return a.hipotesis == h &&
+           (a.clase == ClaseAviso::NoLlegaNegativos || a.clase == ClaseAviso::NoLlegaAmbos);
+  });
+}
 
 }  // namespace
 
@@ -232,6 +242,7 @@ void ListadoNormal::Caso(const VistaCaso& v) {
   if (v.primero) Cabecera(v.tramo);
   if (v.abreAltura) Ovalizacion(v);
   v.Datos().EsArmado ? DisenoArmado(v) : Postesado(v);
+  Veredicto(v);
 }
 
 void ListadoNormal::Ovalizacion(const VistaCaso& v) {
@@ -326,14 +337,15 @@ void ListadoNormal::ArmaduraPorHipotesis(const VistaCaso& v) {
         UnAviso(aviso);
       }
     }
-    Linea(19, Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]) + Blancos(3) +
-                  Numero(v.Armado().TablaHip(h).Total, 6, 1));
+    Linea(19,
+          Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]) + Blancos(3) +
+              (SinSolucion(v, h) ? Blancos(5) + "-" : Numero(v.Armado().TablaHip(h).Total, 6, 1)));
   }
 }
 
 void ListadoNormal::CalculoQueRige(const VistaCaso& v) {
   const auto& r = v.Armado();
-  const bool bloque = v.Datos().TipoCamisa == 0 && r.HipotesisRige > 1;
+  const bool bloque = v.Datos().TipoCamisa == 0 && r.HipotesisRige > 1 && OfreceArmadura(v);
   const std::span<const Aviso> avisos(v.caso.avisos);
   for (std::size_t i = 0; i < avisos.size(); ++i) {
     if (bloque && i == r.sinFisuracion.avisos) SinFisuracionBloque(r.sinFisuracion);
@@ -385,7 +397,7 @@ void ListadoNormal::Resultado(const VistaCaso& v) {
     papel_.Cuerpo(kCuerpoNormal);
     return;
   }
-  if (!r.MomentoTope) {
+  if (!r.MomentoTope && OfreceArmadura(v)) {
     const auto area = [this](int rotulo, double valor) {
       EnNegrita(8, Texto(rotulo) + "  " + Numero(valor, 10, 1) + Texto(txt::Cm2PorM));
     };
@@ -402,6 +414,14 @@ void ListadoNormal::Resultado(const VistaCaso& v) {
     Linea(8, Texto(txt::TensionMaxima) + Numero(r.TensionMax, 10, 2) + Texto(txt::KpPorCm2));
     Linea(8, Texto(txt::TensionAdmisible) + Numero(r.TensionAdm, 10, 2) + Texto(txt::KpPorCm2));
   }
+}
+
+// On the last page of the Caso, or on one of its own where it does not fit.
+void ListadoNormal::Veredicto(const VistaCaso& v) {
+  const auto cierre = CierreDe(v);
+  if (papel_.LineasQueCaben() <= static_cast<int>(cierre.size())) PaginaDeCaso(v);
+  EnBlanco(1);
+  EscribeCierre(8, cierre);
 }
 
 }  // namespace zorbin

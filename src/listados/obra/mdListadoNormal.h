@@ -9,7 +9,7 @@ class ListadoNormal : public ListadoPapel {
  public:
   /// @param conCoefLame  adds the Lamé coefficients of post-tensioned Tramos
   explicit ListadoNormal(const MediosPapel& medios, bool conCoefLame = false)
-      : ListadoPapel(medios), conCoefLame_(conCoefLame) {}
+      : ListadoPapel(medios, NombresHipotesis::Diseno), conCoefLame_(conCoefLame) {}
 
  private:
   bool conCoefLame_;
@@ -48,6 +48,7 @@ class ListadoNormal : public ListadoPapel {
   void SinFisuracionBloque(const SinFisuracion& s);
   void Resultado(const VistaCaso& v);
   void UnAviso(const Aviso& aviso);
+  void Veredicto(const VistaCaso& v);
 
   // Post-tensioned design (mdListadoNormalPostesado.cpp)
   void DatosPostesado(const ResultadoTramo& resultado);

@@ -62,6 +62,7 @@ void ListadoPantalla::Caso(const VistaCaso& v) {
     DatosCaso(v);
     Postesado(v);
   }
+  Veredicto(v);
   LineasPagina = kTrasUnCaso;
   papel_.Regla(18, 190, 3);
   EnBlanco(1);
@@ -130,12 +131,20 @@ void ListadoPantalla::Armadura(const VistaCaso& v) {
   const auto resistencia = [this](double f) { return Numero(f, 7, 2, "Kp/cm2->MPa", true); };
   Linea(19, Texto(txt::FckResumen) + resistencia(v.Datos().Fck) + Texto(txt::FydResumen) +
                 resistencia(v.Datos().Fyd));
+  if (!OfreceArmadura(v)) return;
   const auto area = [this](int rotulo, double as) {
     Linea(14, Texto(rotulo) + "  " + Numero(as, 10, 2) + Texto(txt::Cm2PorM));
   };
   area(txt::ArmaduraInterior, r.AsInt);
   area(txt::ArmaduraExterior, r.AsExt);
   area(txt::TotalArmadura, r.Total);
+}
+
+void ListadoPantalla::Veredicto(const VistaCaso& v) {
+  const auto cierre = CierreDe(v);
+  SaltoSiHaceFalta(v, static_cast<int>(cierre.size()) + 1);
+  EnBlanco(1);
+  EscribeCierre(14, cierre);
 }
 
 void ListadoPantalla::Postesado(const VistaCaso& v) {

@@ -23,6 +23,7 @@ class ListadoPantalla : public ListadoPapel {
   void TablaHipotesis(const VistaCaso& v);
   void Armadura(const VistaCaso& v);
   void Postesado(const VistaCaso& v);
+  void Veredicto(const VistaCaso& v);
   void CabezaPostesado(bool si);
   void FilaHipotesis(const HipotesisPostesada& h);
   void ListadoAlambre(const ResultadoPostesado& r);

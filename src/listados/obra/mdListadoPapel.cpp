@@ -82,6 +82,16 @@ int ListadoPapel::BloqueObra(const Obra& obra) {
   return lineas;
 }
 
+std::vector<LineaCaso> ListadoPapel::CierreDe(const VistaCaso& v) const {
+  return palabras_.Cierre(v, kAnchoObra);
+}
+
+void ListadoPapel::EscribeCierre(int margen, const std::vector<LineaCaso>& lineas) {
+  for (const auto& linea : lineas) {
+    linea.negrita ? EnNegrita(margen, linea.texto) : Linea(margen, linea.texto);
+  }
+}
+
 // @return lines printed
 int ListadoPapel::Cierre(const ResultadoTramo& resultado, const std::string& numero) {
   const auto& datos = resultado.datos;

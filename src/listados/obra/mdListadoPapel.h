@@ -6,6 +6,7 @@
 
 #include "base/mdCatalogo.h"
 #include "listados/obra/mdListado.h"
+#include "listados/obra/mdVeredictoCaso.h"
 #include "listados/papel/mdFormato.h"
 #include "listados/papel/mdPapel.h"
 
@@ -33,11 +34,13 @@ inline constexpr int kLineasTabular = 50;  // of a landscape page
 
 class ListadoPapel : public Listado {
  public:
-  explicit ListadoPapel(const MediosPapel& medios)
+  explicit ListadoPapel(const MediosPapel& medios,
+                        NombresHipotesis nombres = NombresHipotesis::Resumen)
       : papel_(medios.papel),
         textos_(medios.textos),
         estilo_(medios.estilo),
-        fecha_(medios.fecha) {}
+        fecha_(medios.fecha),
+        palabras_(medios.textos, medios.estilo, nombres) {}
 
   /// Behind its Casos a Tramo says where and why it broke off, and that its hand adjustments could
   /// not be read: nobody takes the pages before it for the whole.
@@ -55,6 +58,7 @@ class ListadoPapel : public Listado {
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   Fecha fecha_;
+  PalabrasCaso palabras_;
   int Pagina = 0;  // 0 before the first page
 
   const std::string& Texto(int n) const { return textos_.Texto(n); }
@@ -72,6 +76,10 @@ class ListadoPapel : public Listado {
 
   /// Obra, client, date and time, with the rule under them. @return lines of the description
   int BloqueObra(const Obra& obra);
+
+  /// What closes a Caso: what is to be built of it, and its verdict.
+  std::vector<LineaCaso> CierreDe(const VistaCaso& v) const;
+  void EscribeCierre(int margen, const std::vector<LineaCaso>& lineas);
 
   /// "CASO NUMERO: n/Tramo : description".
   std::string RotuloCaso(int NumCaso, const zorbin::Tramo& t) const;

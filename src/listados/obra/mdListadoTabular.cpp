@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
 
@@ -10,14 +11,19 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kBloqueArmado = 14;     // lines that a reinforced Tramo takes before its rows
-constexpr int kBloquePostesado = 19;  // the same of a post-tensioned one
+constexpr int kBloqueArmado = 15;     // lines that a reinforced Tramo takes before its rows
+constexpr int kBloquePostesado = 20;  // the same of a post-tensioned one
 constexpr int kCabezaPagina = 6;
 constexpr int kLineasFilas = 20;  // that a long description leaves to the rows
 constexpr int kFilaTramo = 9;
-constexpr int kCabezaTabla = 5;
+constexpr int kCabezaTabla = 6;
 constexpr int kDatosPostesado = 6;
-constexpr int kCabezaPostesado = 4;
+constexpr int kCabezaPostesado = 5;
+constexpr int kAnchoMarca = 3;     // before a row
+constexpr int kAnchoFila = 72;     // of a reinforced row without its verdict
+constexpr int kAnchoAlambre = 27;  // of the verdict before a post-tensioned row
+constexpr int kAnchoMotivo = 52;   // that the sheet leaves behind a row without steel
+constexpr int kAnchoBarras = 9;
 
 // Value of the fill as the row shows it.
 std::string ValorRelleno(std::int16_t TipoRelleno) {
@@ -35,6 +41,24 @@ std::string ValorRelleno(std::int16_t TipoRelleno) {
     default:
       return Blancos(7);
   }
+}
+
+// The mark column: what nobody may take for a result like the others.
+std::string Marca(const FilaCaso& f) {
+  std::string marca;
+  if (f.verificacion.veredicto == Veredicto::NoCumple) marca += '*';
+  if (f.verificacion.veredicto == Veredicto::SinComprobar) marca += '?';
+  if (f.ajustado) marca += 'A';
+  return FormatoTexto(marca, kAnchoMarca);
+}
+
+// Figures are never cut.
+std::string ALaIzquierda(const std::string& texto, int ancho) {
+  return texto + Blancos(ancho - static_cast<int>(Largo(texto)));
+}
+
+std::string ALaDerecha(const std::string& texto, int ancho) {
+  return Blancos(ancho - static_cast<int>(Largo(texto))) + texto;
 }
 
 }  // namespace
@@ -63,7 +87,7 @@ void ListadoTabular::Cabecera(const DatosTramo& d) {
     PaginaNueva(d.obra);
   }
   FilaTramo(d.tramo);
-  if (d.tramo.EsArmado) ResumenTabular(d.obra.EsSI());
+  if (d.tramo.EsArmado) ResumenTabular(d);
 }
 
 void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
@@ -85,9 +109,21 @@ void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
   LineasResto -= kFilaTramo;
 }
 
-void ListadoTabular::ResumenTabular(bool si) {
-  for (const int n : txt::ResumenTabular) Linea(5, Texto(n));
-  Linea(5, Texto(si ? txt::ResumenTabularSI : txt::ResumenTabularMKS));
+void ListadoTabular::Leyenda(const DatosTramo& d) {
+  const bool envolvente = d.envolvente && d.tramo.EsArmado;
+  Linea(5, Texto(txt::TabularLeyenda) +
+               (envolvente ? Blancos(4) + Texto(txt::TabularEnvolvente) : std::string{}));
+}
+
+void ListadoTabular::ResumenTabular(const DatosTramo& d) {
+  Leyenda(d);
+  const auto con = [this](int n, int detras) {
+    Linea(5, FormatoTexto(Texto(n), kAnchoFila) + Texto(detras));
+  };
+  Linea(5, Texto(txt::ResumenTabular[0]));
+  Linea(5, Texto(txt::ResumenTabular[1]));
+  con(txt::ResumenTabular[2], txt::TabularVeredicto[0]);
+  con(d.obra.EsSI() ? txt::ResumenTabularSI : txt::ResumenTabularMKS, txt::TabularVeredicto[1]);
   Linea(5, Texto(txt::ResumenTabularRaya));
   LineasResto -= kCabezaTabla;
 }
@@ -98,18 +134,18 @@ void ListadoTabular::CasoSinAcabar(const ResultadoTramo& resultado, const FalloC
 
 void ListadoTabular::Caso(const VistaCaso& v) {
   const bool armado = v.Datos().EsArmado;
-  const Obra& obra = v.tramo.datos.obra;
+  const DatosTramo& datos = v.tramo.datos;
   if (v.primero) {
-    Cabecera(v.tramo.datos);
+    Cabecera(datos);
     if (!armado) {
       DatosPostesado(v);
-      CabeceraTabularPostesado(obra.EsSI());
+      CabeceraTabularPostesado(datos);
     }
   }
   --LineasResto;
   if (LineasResto <= 0) {
-    PaginaNueva(obra);
-    armado ? ResumenTabular(obra.EsSI()) : CabeceraTabularPostesado(obra.EsSI());
+    PaginaNueva(datos.obra);
+    armado ? ResumenTabular(datos) : CabeceraTabularPostesado(datos);
   }
   armado ? FilaArmado(v) : FilaTabular(v);
   if (v.cierraAltura) FinAltura();
@@ -134,23 +170,37 @@ void ListadoTabular::DatosPostesado(const VistaCaso& v) {
   LineasResto -= kDatosPostesado;
 }
 
-void ListadoTabular::CabeceraTabularPostesado(bool si) {
+void ListadoTabular::CabeceraTabularPostesado(const DatosTramo& d) {
+  Leyenda(d);
   papel_.Negrita(true);
-  for (const int n : txt::CabeceraPostesado) Linea(32, Texto(n));
-  Linea(32, Texto(si ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
+  const auto con = [this](int delante, int n) {
+    Linea(5, FormatoTexto(Texto(delante), kAnchoAlambre) + Texto(n));
+  };
+  Linea(32, Texto(txt::CabeceraPostesado[0]));
+  con(txt::TabularAlambre[0], txt::CabeceraPostesado[1]);
+  con(txt::TabularAlambre[1], d.obra.EsSI() ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS);
   Linea(32, Texto(txt::CabeceraPostesadoRaya));
   papel_.Negrita(false);
   LineasResto -= kCabezaPostesado;
 }
 
-// The Caso as it stood before the verification.
+// Use and final winding.
+std::string ListadoTabular::VeredictoPostesado(const VistaCaso& v) const {
+  const auto& r = v.Postesado();
+  const std::string alambre =
+      OfreceArmadura(v) ? palabras_.Barras(r.NESPDEFI, r.FIPRDEFI * 10.0, 1) : "-";
+  return ALaDerecha(palabras_.Uso(v.caso.verificacion), 9) + " " + alambre;
+}
+
+// The Caso as it stood before the verification; before it, how it ended.
 void ListadoTabular::FilaTabular(const VistaCaso& v) {
   const auto& f = v.Postesado().fila;
   const std::string altura = CampoAltura(v.fila.Hr);
   const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
-  Linea(32, altura + Blancos(3) + Numero(v.fila.DP, 6, 2, "at->MPa") + Blancos(5) +
-                Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) + Blancos(8) +
-                Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
+  Linea(5 - kAnchoMarca, Marca(v.fila) + FormatoTexto(VeredictoPostesado(v), kAnchoAlambre) +
+                             altura + Blancos(3) + Numero(v.fila.DP, 6, 2, "at->MPa") + Blancos(5) +
+                             Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) +
+                             Blancos(8) + Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
 }
 
 std::string ListadoTabular::CampoAltura(double Hr) {
@@ -160,21 +210,42 @@ std::string ListadoTabular::CampoAltura(double Hr) {
 }
 
 void ListadoTabular::FilaArmado(const VistaCaso& v) {
-  const auto& r = v.Armado();
   const std::string altura = CampoAltura(v.fila.Hr) + Blancos(2);
+  Linea(5 - kAnchoMarca,
+        Marca(v.fila) + FormatoTexto(altura + AreasArmado(v), kAnchoFila) + VeredictoArmado(v));
+}
+
+// Pressure and areas of a row.
+std::string ListadoTabular::AreasArmado(const VistaCaso& v) const {
+  const auto& r = v.Armado();
   const double DP = v.fila.DP;
   if (r.ajuste) {
     const auto& a = *r.ajuste;
-    Linea(5, altura + Numero(DP, 6, 2, "at->MPa") + Blancos(5) + Numero(a.Camisa, 6, 1) +
-                 Blancos(4) + (a.Espiras == 0 ? Blancos(5) : Numero(a.Espiras, 5, 1)) + " " +
-                 Numero(r.AsInt, 7, 1) + Blancos(7) + Numero(r.AsExt, 10, 1) + Blancos(7) +
-                 Numero(r.Total, 6, 1));
-    return;
+    return Numero(DP, 6, 2, "at->MPa") + Blancos(5) + Numero(a.Camisa, 6, 1) + Blancos(4) +
+           (a.Espiras == 0 ? Blancos(5) : Numero(a.Espiras, 5, 1)) + " " + Numero(r.AsInt, 7, 1) +
+           Blancos(7) + Numero(r.AsExt, 10, 1) + Blancos(7) + Numero(r.Total, 6, 1);
   }
-  Linea(5, altura + Numero(DP, 7, 1, "at->MPa") + Blancos(4) + Numero(r.AreaCamisa, 6, 1) +
-               Blancos(4) + (r.NESPIN == 0 ? Blancos(5) : Numero(r.AreaEspiras, 5, 0)) + " " +
-               Numero(r.AsInt, 7, 1) + Blancos(2) + Numero(r.AsExt, 10, 1) + Blancos(7) +
-               Numero(r.Total, 6, 1));
+  const std::string presion = Numero(DP, 7, 1, "at->MPa");
+  if (!OfreceArmadura(v)) return presion;
+  return presion + Blancos(4) + Numero(r.AreaCamisa, 6, 1) + Blancos(4) +
+         (r.NESPIN == 0 ? Blancos(5) : Numero(r.AreaEspiras, 5, 0)) + " " + Numero(r.AsInt, 7, 1) +
+         Blancos(2) + Numero(r.AsExt, 10, 1) + Blancos(7) + Numero(r.Total, 6, 1);
+}
+
+// Use, what is to be built, and the governing hypothesis.
+std::string ListadoTabular::VeredictoArmado(const VistaCaso& v) const {
+  const auto& r = v.Armado();
+  const std::string uso = ALaDerecha(palabras_.Uso(v.caso.verificacion), 7) + " ";
+  if (r.ajuste) {
+    return uso + textos_.Compone(txt::TabularCalculado,
+                                 {palabras_.Numero(r.AreaCamisa + r.AreaEspiras, 1),
+                                  palabras_.Numero(r.AreaExterior, 1)});
+  }
+  if (!OfreceArmadura(v)) return uso + FormatoTexto(palabras_.MotivoCorto(v), kAnchoMotivo);
+  return uso + ALaDerecha(r.CAMISA > 0.0 ? palabras_.Numero(r.CAMISA, 1) : "-", 6) + " " +
+         ALaIzquierda(palabras_.Barras(r.NESPIN, r.FIIN, 0), kAnchoBarras) + " " +
+         ALaIzquierda(palabras_.Barras(r.NEXPEX, r.FIEX, 0), kAnchoBarras) + " " +
+         palabras_.Rige(v);
 }
 
 void ListadoTabular::FinAltura() {

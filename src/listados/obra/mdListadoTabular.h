@@ -21,12 +21,16 @@ class ListadoTabular : public ListadoPapel {
   void CabeceraPagina(const Obra& obra);
   void PaginaNueva(const Obra& obra);
   void FilaTramo(const zorbin::Tramo& t);
-  void ResumenTabular(bool si);
+  void Leyenda(const DatosTramo& d);
+  void ResumenTabular(const DatosTramo& d);
   std::string CampoAltura(double Hr);
   void FilaArmado(const VistaCaso& v);
   void DatosPostesado(const VistaCaso& v);
-  void CabeceraTabularPostesado(bool si);
+  void CabeceraTabularPostesado(const DatosTramo& d);
   void FilaTabular(const VistaCaso& v);
+  std::string AreasArmado(const VistaCaso& v) const;
+  std::string VeredictoArmado(const VistaCaso& v) const;
+  std::string VeredictoPostesado(const VistaCaso& v) const;
   void FinAltura();
 };
 

@@ -7,6 +7,40 @@
 
 namespace zorbin {
 
+namespace {
+
+constexpr int kAncho = 70;  // columns of what closes a Caso
+
+}  // namespace
+
+void Resumen::Veredictos(std::span<const ResultadoTramo> tramos,
+                         std::span<const std::string> numeros) {
+  if (tramos.empty()) return;
+  for (const int n : txt::ResumenTramos) Linea("  " + textos_.Texto(n));
+  for (std::size_t i = 0; i < tramos.size(); ++i) Veredicto(tramos[i], numeros[i]);
+  pantalla_.EscribePantalla(0, std::string(kAncho, '='), 2);
+}
+
+void Resumen::Veredicto(const ResultadoTramo& r, const std::string& numero) {
+  const auto c = CuentaDeVeredictos(r);
+  std::string peor;
+  std::string uso;
+  if (c.peor != nullptr) {
+    peor = textos_.Compone(txt::PeorCaso,
+                           {TextoEntero(c.peor->NumCaso), palabras_.Numero(c.peor->Hr, 2),
+                            palabras_.Numero(c.peor->DP, 1, "at->MPa", true)});
+    uso = palabras_.Uso(c.peor->verificacion);
+  }
+  Linea("  " + FormatoTexto(numero, 7) + FormatoEntero(c.casos, 6) +
+        FormatoEntero(c.noCumplen, 12) + FormatoEntero(c.sinComprobar, 14) + "  " +
+        FormatoTexto(peor, 24) + FormatoTexto(uso, 8) + palabras_.Veredicto(c.veredicto));
+  if (r.fallo) {
+    Linea(Blancos(9) + TextoCausa(r.fallo->error, textos_));
+  } else if (r.filas.empty()) {
+    Linea(Blancos(9) + textos_.Texto(txt::SinNingunCaso));
+  }
+}
+
 bool Resumen::Tramo(const ResultadoTramo& resultado, int /*posicion*/,
                     const std::string& /*numero*/, const SigueListado& sigue) {
   const auto& datos = resultado.datos;
@@ -34,6 +68,7 @@ void Resumen::Caso(const VistaCaso& v) {
   if (v.Datos().EsArmado) Avisos(v);
   ListaCasoArmado(v);
   v.Datos().EsArmado ? Armadura(v) : Postesado(v);
+  for (const auto& linea : palabras_.Cierre(v, kAncho)) Linea("  " + linea.texto);
   pantalla_.EscribePantalla(0, std::string(70, '='), 2);
 }
 
@@ -111,6 +146,7 @@ void Resumen::Armadura(const VistaCaso& v) {
   };
   Linea(Blancos(19) + textos_.Texto(txt::FckResumen) + resistencia(v.Datos().Fck) +
         textos_.Texto(txt::FydResumen) + resistencia(v.Datos().Fyd));
+  if (!OfreceArmadura(v)) return;
   const auto area = [this](int rotulo, double as) {
     Linea(Blancos(14) + textos_.Texto(rotulo) + "  " + estilo_.FormatoNumero(as, 10, 2) +
           textos_.Texto(txt::Cm2PorM));

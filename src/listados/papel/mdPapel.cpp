@@ -38,6 +38,10 @@ void Papel::LineasEnBlanco(int n) {
   for (int i = 0; i < n && CabeUnaLinea(); ++i) Linea(0, " ");
 }
 
+int Papel::LineasQueCaben() const {
+  return static_cast<int>((hoja_.Alto() - kMargenInferior - y_) / AltoLinea(cuerpo_));
+}
+
 bool Papel::CabeUnaLinea() const {
   return y_ + AltoLinea(cuerpo_) <= hoja_.Alto() - kMargenInferior;
 }

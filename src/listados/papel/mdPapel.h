@@ -90,6 +90,7 @@ class Papel {
   void Figura(const std::string& nombre, double x, double y, double ancho, double alto);
 
   double Y() const { return y_; }  // position of the next line [mm]
+  int LineasQueCaben() const;      // on the rest of the sheet
 
   void NuevaPagina();
   void FinDocumento();

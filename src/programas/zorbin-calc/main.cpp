@@ -143,6 +143,8 @@ class Ordenes {
     Opcion(calcula_, "--salida", o.salida, txt::AyudaSalida, T(txt::PalabraFichero));
     Eleccion(calcula_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
     calcula_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
+    calcula_->add_flag("--estricto", o.estricto, T(txt::AyudaEstricto));
+    calcula_->add_flag("--envolvente", o.envolvente, T(txt::AyudaEnvolvente));
     Opcion(calcula_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
     Opcion(calcula_, "--registros", o.registros, txt::AyudaRegistros, T(txt::PalabraCarpeta));
   }

@@ -132,20 +132,48 @@ class Calculador {
   const Catalogo& textos_;
   EstiloNumeros estilo_;
   bool hayFallo_ = false;
+  CuentaVeredictos cuenta_;
 
-  int Codigo() const { return hayFallo_ ? kFalloDeCorrida : kHecho; }
+  int Codigo() const {
+    if (hayFallo_) return kFalloDeCorrida;
+    return opciones_.estricto && cuenta_.noCumplen > 0 ? kFicheroRechazado : kHecho;
+  }
 
-  void Lee(Listado& lector) {
+  DatosTramo Datos(const TramoPedido& p) const {
+    auto datos = DatosDeCalculo(encargo_.obra, p.tramo, proyecto_.ajustes, proyecto_.SinAjustes);
+    datos.envolvente = opciones_.envolvente;
+    return datos;
+  }
+
+  void Cuenta() const {
+    const auto total = TextoEntero(cuenta_.casos);
+    if (cuenta_.noCumplen > 0) {
+      Queja(textos_.Compone(txt::CasosQueNoCumplen, {TextoEntero(cuenta_.noCumplen), total}));
+    }
+    if (cuenta_.sinComprobar > 0) {
+      Queja(textos_.Compone(txt::CasosSinComprobar, {TextoEntero(cuenta_.sinComprobar), total}));
+    }
+  }
+
+  // Runs the Tramos one after another.
+  template <class Toma>
+  void Corre(const Toma& toma) {
     const auto registros = opciones_.registros.empty() ? CarpetaRegistros() : opciones_.registros;
     Vigia vigia(opciones_.obra.string(), textos_, estilo_);
     for (const auto& p : encargo_.tramos) {
-      const auto resultado = CorreTramo(
-          DatosDeCalculo(encargo_.obra, p.tramo, proyecto_.ajustes, proyecto_.SinAjustes),
-          registros, vigia.Progreso(p.tramo.NumeroTramo));
+      auto resultado = CorreTramo(Datos(p), registros, vigia.Progreso(p.tramo.NumeroTramo));
       vigia.Acaba(resultado, p.numero);
-      lector.Tramo(resultado, p.posicion, p.numero, {});
+      cuenta_ += CuentaDeVeredictos(resultado);
+      toma(std::move(resultado), p);
     }
     hayFallo_ = vigia.hayFallo();
+    Cuenta();
+  }
+
+  void Lee(Listado& lector) {
+    Corre([&lector](const ResultadoTramo& resultado, const TramoPedido& p) {
+      lector.Tramo(resultado, p.posicion, p.numero, {});
+    });
   }
 
   void EscribeJson(std::ostream& flujo) {
@@ -160,7 +188,17 @@ class Calculador {
   void EscribeResumen(std::ostream& flujo) {
     Pantalla pantalla(flujo);
     Resumen resumen(pantalla, textos_, estilo_);
-    Lee(resumen);
+    // Its first block tells all the Tramos.
+    std::vector<ResultadoTramo> resultados;
+    std::vector<std::string> numeros;
+    Corre([&](ResultadoTramo&& resultado, const TramoPedido& p) {
+      resultados.push_back(std::move(resultado));
+      numeros.push_back(p.numero);
+    });
+    resumen.Veredictos(resultados, numeros);
+    for (std::size_t i = 0; i < resultados.size(); ++i) {
+      resumen.Tramo(resultados[i], encargo_.tramos[i].posicion, numeros[i], {});
+    }
   }
 
   void Imprime(DestinoHojas& hojas) {

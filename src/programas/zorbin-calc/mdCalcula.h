@@ -21,6 +21,8 @@ struct OpcionesCalcula {
   std::filesystem::path salida;     // empty for standard output
   std::string separador;            // "coma", "punto" or empty for the machine's
   bool sinValidar = false;          // the stored numbers as they are
+  bool estricto = false;            // a Caso that does not comply gives an exit code
+  bool envolvente = false;          // the enveloping design
   std::filesystem::path tablas;     // of the manufacturers; empty for the program's
   std::filesystem::path registros;  // empty for the user's state folder
 };

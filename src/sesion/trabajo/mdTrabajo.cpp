@@ -280,6 +280,19 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
   return calculo;
 }
 
+namespace {
+
+// The first block of the summary; it is written last, for a Caso that cannot be written changes it.
+std::string PrimerBloque(const Calculo& calculo) {
+  std::ostringstream flujo;
+  Pantalla pantalla(flujo);
+  Resumen(pantalla, calculo.encargo.textos, calculo.encargo.estilo)
+      .Veredictos(calculo.tramos, calculo.numeros);
+  return std::move(flujo).str();
+}
+
+}  // namespace
+
 std::string Resume(Calculo& calculo, const Sigue& sigue) {
   std::ostringstream flujo;
   Pantalla pantalla(flujo);
@@ -308,7 +321,7 @@ std::string Resume(Calculo& calculo, const Sigue& sigue) {
     nota(calculo.fallos[i]);
   }
   nota(NotaFinal(calculo));
-  return std::move(flujo).str();
+  return PrimerBloque(calculo) + std::move(flujo).str();
 }
 
 void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,

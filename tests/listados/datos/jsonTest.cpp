@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "base/mdCarpetas.h"
+#include "listados/datos/mdJsonVeredicto.h"
 #include "persistencia/proyecto/mdProyecto.h"
 
 namespace zorbin {
@@ -89,6 +90,11 @@ void ComparaCaso(const nlohmann::json& caso, const ResultadoTramo& tramo, const 
   EXPECT_EQ(caso["MHip"][4][2].get<double>(), x.MHip(5, 3));
   EXPECT_EQ(caso["avisos"].size(), x.avisos.size());
   EXPECT_TRUE(caso["TerraplenRige"].is_boolean());
+  EXPECT_EQ(caso["veredicto"], "cumple");
+  EXPECT_TRUE(caso["motivo"].is_null());
+  EXPECT_FALSE(caso["ajustado"].get<bool>());
+  EXPECT_EQ(caso["uso"].get<double>(), fila.verificacion.uso);
+  ASSERT_EQ(caso["comprobaciones"].size(), x.verificacion.comprobaciones.size());
   if (x.EsArmado()) {
     EXPECT_EQ(caso["armado"]["N"][2][0].get<double>(), x.Armado().esfuerzos.N(3, 1));
     EXPECT_EQ(caso["armado"]["TablaHip"][4][2].get<double>(), x.Armado().TablaHip(5).Total);
@@ -100,6 +106,39 @@ void ComparaCaso(const nlohmann::json& caso, const ResultadoTramo& tramo, const 
   EXPECT_EQ(caso["postesado"]["hipotesis"][2]["TotAc"][1].get<double>(), r.hipotesis(3).TotAc(2));
   EXPECT_EQ(caso["PP"].get<double>(), r.PP);
   EXPECT_EQ(caso["PPNeta"].get<double>(), fila.PP);
+}
+
+// Nothing asks for steel that no limit gives: what has no bound or no place is null.
+TEST(Json, ElVeredictoConSusNombres) {
+  Verificacion v;
+  v.veredicto = Veredicto::NoCumple;
+  v.motivo = MotivoVeredicto::FisuracionSobreTope;
+  v.uso = kUsoSinLimite;
+  v.avisos = kAvisoRetraccion | kAvisoTopePorRedondeo;
+  v.comprobaciones = {
+      {QueComprueba::PruebaFabrica, 1, 0, CaraPared::Ninguna, 3, 0, kUsoSinLimite},
+      {QueComprueba::Fisuracion, 4, 2, CaraPared::Exterior, 3, 2, 1.5},
+      {QueComprueba::Alambre, 6, 3, CaraPared::Interior, 0, 0, 0},
+      {QueComprueba::FuerzaAlambre, 0, 1, CaraPared::Ninguna, 1, 2, 0.5},
+  };
+  std::ostringstream salida;
+  EscritorJson j(salida);
+  j.Abre('{');
+  DeVeredicto(j, v, true);
+  j.Cierra('}');
+  j.Vuelca();
+  EXPECT_EQ(nlohmann::json::parse(salida.str()), nlohmann::json::parse(R"({
+    "veredicto": "nocumple", "uso": null, "ajustado": true, "motivo": "fisuracionSobreTope",
+    "advertencias": ["retraccion", "topePorRedondeo"], "comprobaciones": [
+      {"que": "pruebaFabrica", "hipotesis": 1, "seccion": null, "cara": null, "valor": 3.0,
+       "limite": 0.0, "uso": null},
+      {"que": "fisuracion", "hipotesis": 4, "seccion": "rinones", "cara": "ext", "valor": 3.0,
+       "limite": 2.0, "uso": 1.5},
+      {"que": "alambre", "hipotesis": 6, "seccion": "solera", "cara": "int", "valor": 0.0,
+       "limite": 0.0, "uso": 0.0},
+      {"que": "fuerzaAlambre", "hipotesis": null, "seccion": "clave", "cara": null, "valor": 1.0,
+       "limite": 2.0, "uso": 0.5}]})"));
+  EXPECT_EQ(CodigoDe(Veredicto::SinComprobar), "sincomprobar");
 }
 
 // The results of a whole Obra read back from the JSON to the very same doubles.

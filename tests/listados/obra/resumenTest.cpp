@@ -21,7 +21,10 @@ std::string ResumenDe(const EstadoCalculo& e, char separador) {
   std::ostringstream salida;
   Pantalla pantalla(salida);
   Resumen resumen(pantalla, textos, {e.obra.EsSI(), separador});
-  resumen.Tramo(pruebas::ResultadoDe(e), 1, "1", {});
+  const std::vector<ResultadoTramo> resultado{pruebas::ResultadoDe(e)};
+  const std::vector<std::string> numero{"1"};
+  resumen.Veredictos(resultado, numero);
+  resumen.Tramo(resultado[0], 1, "1", {});
   return salida.str();
 }
 
