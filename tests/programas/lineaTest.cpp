@@ -188,6 +188,7 @@ TEST_F(Linea, UnFalloAritmeticoAcabaSuTramoYNoLosDemas) {
   ASSERT_EQ(j["tramos"].size(), 7u);
   EXPECT_TRUE(j["tramos"][0]["error"].is_null());
   EXPECT_TRUE(j["tramos"][1]["error"].is_string());
+  EXPECT_EQ(j["tramos"][1]["veredicto"], "sincomprobar");
   EXPECT_EQ(j["tramos"][1]["casos"].size(), 0u);
   EXPECT_EQ(j["tramos"][2]["casos"].size(), 4u);
 }

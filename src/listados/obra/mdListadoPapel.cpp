@@ -98,7 +98,8 @@ int ListadoPapel::Cierre(const ResultadoTramo& resultado, const std::string& num
   int lineas = 0;
   if (resultado.fallo) {
     const std::string descripcion(Recorta(datos.tramo.DescriTramo));
-    lineas += Advierte(TextoFallo(*resultado.fallo, descripcion, numero, textos_, estilo_));
+    lineas += Advierte(palabras_.Veredicto(Veredicto::SinComprobar) + ": " +
+                       TextoFallo(*resultado.fallo, descripcion, numero, textos_, estilo_));
   }
   if (datos.SinAjustes && datos.tramo.EsArmado) lineas += Advierte(Texto(txt::AjustesSinLeer));
   return lineas;
