@@ -1,6 +1,7 @@
 #include "persistencia/zrb/mdZrb.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -26,6 +27,15 @@ constexpr int kUltimoOffsetLeido = 64;
 constexpr int kUltimoOffset = 66;
 constexpr int kPrimeraReserva = 16;  // of the header
 constexpr int kRegistroCuenta = 20;
+
+// Captions of the surge in the file, in the order of the languages. They belong to the format: a
+// translation that changes must still read the files of before.
+struct RotulosGolpe {
+  std::string_view si;
+  std::string_view no;
+};
+constexpr auto kRotulosGolpe = std::to_array<RotulosGolpe>(
+    {{"Si", "No"}, {"Yes", "No"}, {"Sí", "No"}, {"Sim", "Não"}, {"Oui", "Non"}});
 
 int Base(int posicion) {
   return (posicion - 1) * kRegistrosBloque + kBaseBloque;
@@ -102,6 +112,18 @@ void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avis
   if (!vale) avisos.push_back({txt::IdiomaNoReconocido, {}});
   obra.Idioma = vale ? I16(*idioma) : std::int16_t{1};
   obra.IdiomaOffset = I16((obra.Idioma - 1) * kPasoIdioma);
+}
+
+// The caption stands in the language that the Obra was saved in, whatever the record of the
+// language says. Another one is told, and the surge is estimated, which asks for more steel.
+void LeeGolpe(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avisos) {
+  const std::string valor(Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)));
+  const auto es = [&](std::string_view RotulosGolpe::*rotulo) {
+    return std::ranges::find(kRotulosGolpe, valor, rotulo) != kRotulosGolpe.end();
+  };
+  obra.GolpeCalculado = es(&RotulosGolpe::si);
+  if (obra.GolpeCalculado || es(&RotulosGolpe::no)) return;
+  avisos.push_back({txt::GolpeNoReconocido, {f.Nombre(), valor}});
 }
 
 ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
@@ -299,8 +321,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
   LeeIdioma(obra, f, leida.avisos);
   obra.SisUnid =
       Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
-  // The caption is compared as it stands: a file saved in another language reads as estimated.
-  obra.GolpeCalculado = Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)) == "Si";
+  LeeGolpe(obra, f, leida.avisos);
   LeeDatos(obra, f, 0, obra.EsSI());
   leida.lista = LeeLista(f);
   obra.RutaApp = e.obra.RutaApp;
