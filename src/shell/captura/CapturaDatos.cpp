@@ -15,6 +15,7 @@
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdListaTramos.h"
 #include "sesion/captura/mdTipologias.h"
+#include "shell/captura/mdAvisosPagina.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
@@ -70,6 +71,7 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
         {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
   }
   filas->addWidget(TabPrincipal_, 1);
+  filas->addWidget(CreaAvisos());
   filas->addWidget(CreaBotones());
   for (auto* campo : campos_) Enlaza(*campo);
   EnlazaPestanas();
@@ -133,6 +135,13 @@ void CapturaDatos::CreaBoton(QWidget& barra, Orden orden, int texto) {
   barra.layout()->addWidget(boton);
   botones_.push_back({boton, orden, texto});
   connect(boton, &QPushButton::clicked, this, [this, orden] { emit pedida(orden); });
+}
+
+QWidget* CapturaDatos::CreaAvisos() {
+  avisos_ = new AvisosPagina(this);
+  connect(avisos_, &AvisosPagina::remedioPedido, this,
+          [this](const AvisoDeCampo& aviso) { Hace([&] { TomaIncremento(c_, aviso); }); });
+  return avisos_;
 }
 
 QWidget* CapturaDatos::CreaBotones() {
@@ -345,6 +354,7 @@ void CapturaDatos::Refresca() {
     boton.widget->setEnabled(p.Habilitada(boton.orden));
     if (boton.orden == Orden::btCancelar) boton.widget->setText(Rotulo(p.textoCancelar));
   }
+  avisos_->Refresca(c_);
   titulo_->setText(Rotulo(p.titulo));
   const auto& falta = c_.falta;
   falta_->setText(falta
