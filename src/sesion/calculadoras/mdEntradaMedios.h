@@ -25,7 +25,6 @@ EntradaMedios CargaProtecciones(char SeparadorDecimal);
 /// The moments of a field. An empty one takes its default on entering and on leaving; a value
 /// refused on leaving brings back the one before, and the focus stays in the field.
 void Entra(EntradaMedios& e, Medio medio);
-char Tecla(const EntradaMedios& e, Medio medio, char tecla);
 void Cambia(EntradaMedios& e, Medio medio, std::string texto);
 std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio);
 

@@ -89,12 +89,12 @@ bool LeeTextos(Captura& c, bool deObra) {
   std::vector<std::pair<Ed, double>> leidos;
   for (const auto& fila : TablaCampos()) {
     if (!SeRelee(fila, deObra)) continue;
-    const auto valor = NumeroTexto(c[fila.id].texto);
-    if (!valor || *valor > kMayorTecleado) {
-      c.falta = Falta{fila.id, c[fila.id].texto, {}, Texto(c, txt::NoEsValorNumerico)};
+    const auto leido = NumeroTecleado(c[fila.id].texto, c.SeparadorDecimal);
+    if (!leido.valor || *leido.valor > kMayorTecleado) {
+      c.falta = Falta{fila.id, c[fila.id].texto, {}, TextoDeFalta(c, leido)};
       return false;
     }
-    leidos.emplace_back(fila.id, *valor);
+    leidos.emplace_back(fila.id, *leido.valor);
   }
   for (const auto& [campo, valor] : leidos) Variable(c, campo) = valor;
   return true;

@@ -85,7 +85,7 @@ void CapturaDatos::CreaCampos() {
   vigilante_ = new VigilanteFoco(
       *this, {[this](QWidget* w) { return Entra(w); }, [this](QWidget* w) { return Sale(w); }});
   for (const auto& fila : TablaCampos()) {
-    auto* campo = new CampoPantalla(fila.id, c_.SeparadorDecimal, c_.textos, this);
+    auto* campo = new CampoPantalla(fila.id, c_.textos, this);
     campos_[static_cast<std::size_t>(fila.id)] = campo;
     porWidget_.insert(&campo->widget(), fila.id);
     vigilante_->Vigila(campo->widget());
@@ -192,10 +192,6 @@ void CapturaDatos::Enlaza(CampoPantalla& campo) {
     EligeOpcion(c_, id, opcion);
     if (id == Ed::rdSistemaUnidades) entorno_.preferencias.PonNuevaEnSI(c_.EsSI());
     TrasAccion();
-  });
-  connect(&campo, &CampoPantalla::pegadoRechazado, this, [this](const QString& texto) {
-    const VigilanteFoco::Pausa pausa(*vigilante_);
-    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::PegadoSinNumero, {S(texto)})));
   });
 }
 
