@@ -123,7 +123,7 @@ EnUnidadesDeCalculo::~EnUnidadesDeCalculo() {
   if (!obra_.EsSI()) return;
   RecuperaUnidades(e_.obra, obra_);
   RecuperaUnidades(e_.tramo, tramo_);
-  e_.tramo.Fct = FctDeFck(tramo_.Fck);
+  e_.tramo.Fct = FctEnSistema(tramo_.Fck, true);
 }
 
 double Convierte(double valor, std::string_view conversion, bool si, std::string& unidad,

@@ -43,7 +43,7 @@ void EligePresiones(EstadoCalculo& e);
 
 /// Holds the state in calculation units while it lives, whatever ends its life; the pressures in
 /// force and their step are then found. Afterwards the data that depend on the system have the
-/// values of before, and Fct under SI is the one that follows from Fck.
+/// values of before, and Fct is the one that follows from Fck.
 class EnUnidadesDeCalculo {
  public:
   explicit EnUnidadesDeCalculo(EstadoCalculo& e);

@@ -56,7 +56,7 @@ TEST(Unidades, LaCorridaVeMksYLaPantallaRecuperaLoSuyo) {
   }
   EXPECT_EQ(e.obra.Prs1, antes.obra.Prs1);
   EXPECT_EQ(e.tramo.Fck, 35);
-  EXPECT_NEAR(e.tramo.Fct, 4.815, 1e-3);  // 0.45·35^(2/3), not a tenth of the other
+  EXPECT_NEAR(e.tramo.Fct, 2.2349, 1e-4);  // a tenth of the one of the run
   EXPECT_EQ(e.tramo.QDato, 0.05);
 
   e.obra.SisUnid = "MKS";

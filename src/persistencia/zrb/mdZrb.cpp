@@ -193,14 +193,14 @@ void LeeDatos(Bloque& bloque, const FicheroRegistros& f, int base, bool si) {
 }
 
 // What follows from the fields read.
-void CompletaTramo(Tramo& t) {
+void CompletaTramo(Tramo& t, bool si) {
   t.EsArmado = t.Tipologia < kPrimeraPostesada;
   t.SubTipo = t.EsArmado ? 3 : 0;
   t.PostFlag = t.EsArmado ? 0 : 1;
   t.TipoColocacion = t.TipoApoyo < 20 ? 0 : t.TipoApoyo < 30 ? 1 : 2;
   t.GamaY = t.GamaF = 1.0;
   // Never captured: the record holds it rounded to what the screen shows.
-  t.Fct = FctDeFck(t.Fck);
+  t.Fct = FctEnSistema(t.Fck, si);
   if (t.IndCar != 1) t.IndCar = t.ICar = 0;
 }
 
@@ -259,10 +259,11 @@ class Escritor {
   char separador_;
 };
 
-// Fct follows from Fck in each system, but for the value on the screen.
+// In the record the formula is applied to each unit as it stands, so the half of SI is not the one
+// that a run uses. Nobody reads it.
 ParUnidades ParFct(const Tramo& t, bool si) {
   const auto fck = Pareja(t.Fck, si, Magnitud::Tension);
-  return {FctDeFck(fck.mks), si ? t.Fct : FctDeFck(fck.si)};
+  return {FctDeFck(fck.mks), FctDeFck(fck.si)};
 }
 
 std::string TextoDato(const Obra& o, const Dato<Obra>& dato, const Escritor& escritor, bool) {
@@ -340,7 +341,7 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
   }
   Tramo t = e.tramo;
   LeeDatos(t, f, base, e.obra.EsSI());
-  CompletaTramo(t);
+  CompletaTramo(t, e.obra.EsSI());
   e.tramo = std::move(t);
   CargasDelDato(e);
   EligeAlturas(e);

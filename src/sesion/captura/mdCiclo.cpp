@@ -181,7 +181,7 @@ void CambiaDeTramo(Captura& c, int numero, int anterior) {
 // The texts of the Tramo in its state; says what cannot be read and goes to the field.
 bool TextosEnElEstado(Captura& c) {
   if (LeeTextos(c, false)) {
-    c.e.tramo.Fct = FctDeFck(c.e.tramo.Fck);
+    c.e.tramo.Fct = FctEnSistema(c.e.tramo.Fck, c.EsSI());
     return true;
   }
   c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) +

@@ -172,8 +172,8 @@ class Validacion {
     if (!Numero(Ed::edCamMax, 0.0, txt::EtCamMax) || !Numero(Ed::edFck, kMinimo, txt::EtFck)) {
       return false;
     }
-    t.Fct = FctDeFck(t.Fck);
-    Escribe(c_, Ed::edFct, t.Fct, "#####0.000");
+    t.Fct = FctEnSistema(t.Fck, c_.EsSI());
+    MuestraVariable(c_, Ed::edFct);
     Derivado();
     if (!(t.Fct > 0)) return Falla(Ed::edFck, txt::FctIncorrecto, Error());
     if (!Numero(Ed::edFyk, kMinimo, txt::EtFyk) || !Numero(Ed::edFyd, kMinimo, txt::EtFyd) ||

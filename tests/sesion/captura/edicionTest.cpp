@@ -48,7 +48,8 @@ TEST(Campos, UnBlancoTomaSuDefectoAlEntrar) {
   entran({{edFckn, "400,00"}, {edSFck, "17000"}, {edEs, "210000"}, {edSf, "12750"}});
   EligePaginaTipologia(b.c, 0);
   entran({{edFck, "35,0"}, {edTipoControl, "Intenso"}, {edB0, ""}});  // there is no diameter yet
-  EXPECT_EQ(b.c[edFct].texto, "4,8");
+  EXPECT_EQ(b.c[edFct].texto, "2,2");
+  EXPECT_TRUE(b.c[edFct].bloqueado);
 }
 
 TEST(Campos, ElHormigonArrastraLaTraccionYTieneMinimo) {
@@ -284,7 +285,7 @@ TEST(Tipologias, LaLimpiezaDejaElTextoDelRevestimiento) {
   EXPECT_EQ(b.e.tramo.ICar, 1);  // 2 once the field is read
   EXPECT_EQ(b.c[edICar0].texto, "Eje de 13 Toneladas");
   DefectosArmado(b.c);
-  EXPECT_NEAR(b.e.tramo.Fct, 0.4815, 1e-3);  // a tenth of what any recalculation gives
+  EXPECT_NEAR(b.e.tramo.Fct, 2.2349, 1e-4);  // as every recalculation
 }
 
 TEST(Obra, NoHaberCalculadoElGolpeSeConfirma) {

@@ -219,7 +219,7 @@ TEST(ValidaTramo, CalculaLoQueNadieTeclea) {
   EXPECT_EQ(b.c[edPrs1Tram].texto, "9,09");
   EXPECT_DOUBLE_EQ(t.Prs2Tram, 10 / 1.1);
   EXPECT_EQ(t.PrsM2Tram, 10.0);
-  EXPECT_NEAR(t.Fct, 4.815, 0.001);  // 0.45 (35^2)^(1/3)
+  EXPECT_NEAR(t.Fct, 2.2349, 1e-4);  // that of 350 kp/cm2, over 10
   EXPECT_DOUBLE_EQ(t.De, t.Di + 2 * t.Esp / 100);
   EXPECT_DOUBLE_EQ(t.B0, 1.4 * t.De + 0.68);  // automatic
   EXPECT_EQ(t.TipoApoyo, 12);
