@@ -38,7 +38,8 @@ double FctDeFck(double Fck) {
 }
 
 double FctEnSistema(double Fck, bool si) {
-  const auto Fct = Pareja(FctDeFck(Pareja(Fck, si, Magnitud::Tension).mks), false, Magnitud::Tension);
+  const auto Fct =
+      Pareja(FctDeFck(Pareja(Fck, si, Magnitud::Tension).mks), false, Magnitud::Tension);
   return si ? Fct.si : Fct.mks;
 }
 

@@ -5,12 +5,14 @@
 
 #include "base/aritmetica.h"
 #include "base/mdNumeros.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
 namespace {
 
 constexpr double kMinimo = 0.0;
+constexpr double kMayorPH = 14.0;
 constexpr std::string_view kMascara = "######0.00";
 
 constexpr std::array<Medio, kMedios> kOrdenDeLectura{
@@ -61,6 +63,12 @@ std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio) {
   Muestra(e, medio, aviso ? campo.valor : valor);
   campo.seleccionado = aviso.has_value();
   return aviso;
+}
+
+std::optional<Mensaje> AvisoDePlausibilidad(const EntradaMedios& e, Medio medio) {
+  const CampoNumero& campo = e.txpH[static_cast<std::size_t>(medio)];
+  if (medio != kPH || campo.valor <= kMayorPH) return std::nullopt;
+  return Mensaje{txt::PHFueraDeEscala, {campo.texto}};
 }
 
 void MarcaCiclos(EntradaMedios& e, bool marcado) {

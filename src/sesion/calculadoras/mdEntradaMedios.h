@@ -28,6 +28,9 @@ void Entra(EntradaMedios& e, Medio medio);
 void Cambia(EntradaMedios& e, Medio medio, std::string texto);
 std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio);
 
+/// What is unusual in a field, where something is: it is told, and refuses nothing.
+std::optional<Mensaje> AvisoDePlausibilidad(const EntradaMedios& e, Medio medio);
+
 /// The tick box.
 void MarcaCiclos(EntradaMedios& e, bool marcado);
 

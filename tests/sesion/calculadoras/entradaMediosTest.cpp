@@ -26,6 +26,15 @@ TEST(EntradaMedios, CadaCampoTieneSuDefecto) {
   EXPECT_TRUE(e.txpH[kPH].seleccionado);
 }
 
+TEST(EntradaMedios, UnPHFueraDeEscalaSeDiceYSeToma) {
+  auto e = CargaProtecciones(',');
+  for (const auto& [texto, avisa] : {std::pair{"14", false}, {"14,1", true}, {"7", false}}) {
+    Cambia(e, kPH, texto);
+    EXPECT_FALSE(Sale(e, kPH)) << texto;
+    EXPECT_EQ(AvisoDePlausibilidad(e, kPH).has_value(), avisa) << texto;
+  }
+}
+
 TEST(EntradaMedios, UnValorRechazadoDejaElAnterior) {
   auto e = CargaProtecciones(',');
   Cambia(e, kCO2, "14.996");
