@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "base/aritmetica.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
@@ -55,6 +56,36 @@ void Corta(Digitos& d, int n) {
     d.cifras.insert(d.cifras.begin(), '1');
     ++d.enteros;
   }
+}
+
+bool EsCifra(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool EsSeparador(char c) {
+  return c == ',' || c == '.';
+}
+
+// Without the blanks that set off groups of digits: the plain one, the tab, the no-break ones.
+std::string SinBlancos(std::string_view texto) {
+  std::string limpio(texto);
+  for (const std::string_view blanco : {" ", "\t", "\u00A0", "\u2009", "\u202F"}) {
+    for (auto i = limpio.find(blanco); i != std::string::npos; i = limpio.find(blanco, i)) {
+      limpio.erase(i, blanco.size());
+    }
+  }
+  return limpio;
+}
+
+// Whether the other separator stands where a thousands mark would: 1.200, and not 0.144 or 1.5.
+bool PareceDeMillares(std::string_view numero, char separador) {
+  const auto lugar = numero.find(separador == ',' ? '.' : ',');
+  if (lugar == std::string_view::npos) return false;
+  const auto desde = numero.find_first_not_of("+-");
+  const auto enteros = numero.substr(desde, lugar - desde);
+  const auto resto = numero.substr(lugar + 1);
+  return !enteros.empty() && enteros.size() <= 3 && enteros.front() != '0' && resto.size() == 3 &&
+         std::all_of(resto.begin(), resto.end(), EsCifra);
 }
 
 }  // namespace
@@ -111,6 +142,22 @@ std::optional<double> NumeroTexto(std::string_view texto) {
   const auto r = std::from_chars(desde, fin, valor, std::chars_format::fixed);
   if (r.ec != std::errc{} || r.ptr != fin) return std::nullopt;
   return valor == 0.0 ? 0.0 : valor;
+}
+
+Tecleado NumeroTecleado(std::string_view texto, char separador) {
+  const std::string limpio = SinBlancos(texto);
+  if (const auto valor = NumeroTexto(limpio)) {
+    if (!PareceDeMillares(limpio, separador)) return {valor, {}};
+    std::string decimal = limpio;
+    std::replace(decimal.begin(), decimal.end(), separador == ',' ? '.' : ',', separador);
+    std::string entero = limpio;
+    std::erase_if(entero, EsSeparador);
+    return {std::nullopt, {txt::NumeroAmbiguo, {std::string(texto), decimal, entero}}};
+  }
+  if (std::count_if(limpio.begin(), limpio.end(), EsSeparador) > 1) {
+    return {std::nullopt, {txt::NumeroConDosSeparadores, {std::string(texto)}}};
+  }
+  return {std::nullopt, {txt::NoEsValorNumerico, {}}};
 }
 
 char SeparadorDeLaMaquina() {

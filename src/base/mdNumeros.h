@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/mdCatalogo.h"
+
 namespace zorbin {
 
 /// `valor` with exactly `decimales` decimals and at least one integer digit. Never "-0", an
@@ -19,10 +21,24 @@ std::string TextoDecimal(double valor, int decimales, char separador);
 /// least, those after it the decimals. @throws ErrorEjecucion as TextoDecimal.
 std::string FormatoMascara(double valor, std::string_view mascara, char separador);
 
-/// A number typed or stored by a person: optional sign, digits, one decimal separator of either
-/// kind. Blanks are ignored and an empty text is 0. No value for anything else: letters,
-/// exponents, a second separator, a number out of range.
+/// A number as a file holds it: optional sign, digits, one decimal separator of either kind. Blanks
+/// are ignored and an empty text is 0. No value for anything else: letters, exponents, a second
+/// separator, a number out of range.
 std::optional<double> NumeroTexto(std::string_view texto);
+
+/// A number that a person typed, or why it is none.
+struct Tecleado {
+  std::optional<double> valor;
+  Mensaje falta;  // where there is no value
+};
+
+/// Reads what a person typed, as NumeroTexto does, but for the texts that people read in two ways.
+/// Either separator is the decimal one, except where what follows it looks like thousands: one to
+/// three digits without a leading zero, the separator that is not `separador`, three digits. That
+/// one is refused with both readings. A group of digits may be set off by a blank, also by the
+/// narrow one that the labels use.
+/// @param separador  decimal separator in force
+Tecleado NumeroTecleado(std::string_view texto, char separador);
 
 /// Decimal separator of the machine's locale, ',' or '.'.
 char SeparadorDeLaMaquina();

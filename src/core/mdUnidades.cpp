@@ -8,6 +8,19 @@ namespace zorbin {
 
 namespace {
 
+constexpr double kCm = 0.01;              // the last digit of a height [m]
+constexpr int kMasPasos = 32767;          // of a range: a run has no more Casos
+constexpr double kMargenEnganche = 1e-6;  // for the digits that the additions of a run lose [m]
+
+double IncrementoQueLlega(double ancho, double paso) {
+  for (int n = static_cast<int>(std::ceil(ancho / paso)); n <= kMasPasos; ++n) {
+    const double incremento = std::round(ancho / n / kCm) * kCm;
+    if (incremento < kCm / 2) return 0.0;
+    if (std::fabs(n * incremento - ancho) < kEngancheAltura - kMargenEnganche) return incremento;
+  }
+  return 0.0;
+}
+
 // What a conversion does under SI (value, unit, change of decimals) and under MKS. With
 // `soloSiHay` the decimals change only when there is one to begin with.
 struct Conversion {
@@ -54,6 +67,19 @@ std::optional<double> AlturaAnterior(double h, double paso, double primera) {
   const double pasos = std::ceil((h - primera - margen) / paso) - 1.0;
   if (pasos < 0.0) return std::nullopt;
   return primera + pasos * paso;
+}
+
+std::optional<AlturaFuera> AlturaFueraDe(double primera, double ultima, double paso) {
+  if (!(paso > 0.0) || !(ultima > primera) || (ultima - primera) / paso > kMasPasos) {
+    return std::nullopt;
+  }
+  double alcanzada = primera;
+  for (auto h = AlturaSiguiente(primera, paso, ultima); h && *h <= ultima;
+       h = AlturaSiguiente(*h, paso, ultima)) {
+    alcanzada = *h;
+  }
+  if (alcanzada == ultima) return std::nullopt;
+  return AlturaFuera{ultima, alcanzada, IncrementoQueLlega(ultima - primera, paso)};
 }
 
 double Convierte(double valor, std::string_view conversion, bool si, std::string& unidad,

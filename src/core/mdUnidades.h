@@ -33,6 +33,15 @@ std::optional<double> AlturaSiguiente(double h, double paso, double ultima);
 /// height that a step landed on. None before the first one, or with a step that does not advance.
 std::optional<double> AlturaAnterior(double h, double paso, double primera);
 
+/// Where the steps of a range miss its last height [m].
+struct AlturaFuera {
+  double ultima;      // height that the range asks for, and no Caso has
+  double alcanzada;   // greatest one that the steps reach
+  double incremento;  // longest whole number of cm, not above the step, that reaches it; 0 for none
+};
+/// None where the steps land on the last height, and where there is no range or no step.
+std::optional<AlturaFuera> AlturaFueraDe(double primera, double ultima, double paso);
+
 /// `valor` by one of the conversions "", "at->MPa", "Kp/cm2->MPa", "T/M2->MPa", "T/M2->kN/M2",
 /// "T->kN", "mT->mkN", "kp/cm->N/cm", "kp.cm/cm->N.m/cm". Writes the unit text and may change the
 /// count of decimals. An unknown name gives -999999999.0 and leaves the unit as it was.

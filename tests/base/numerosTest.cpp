@@ -6,6 +6,7 @@
 
 #include "base/aritmetica.h"
 #include "base/mdRegistro.h"
+#include "base/textos.h"
 
 namespace zorbin {
 namespace {
@@ -50,6 +51,41 @@ TEST(Numeros, LeeLoQueEscribeUnaPersonaYNadaMas) {
     EXPECT_FALSE(NumeroTexto(malo)) << malo;
   }
   EXPECT_FALSE(NumeroTexto(std::string(400, '9')));
+}
+
+// What people read in two ways is refused with both readings, whichever separator is in force.
+TEST(Numeros, LoTecleadoSeLeeDeUnaSolaManera) {
+  struct Fila {
+    const char* texto;
+    char separador;
+    double valor;
+  };
+  for (const auto& f :
+       {Fila{"1.5", ',', 1.5}, Fila{"1,5", '.', 1.5}, Fila{"0.144", ',', 0.144},
+        Fila{"0,144", '.', 0.144}, Fila{"-.500", ',', -0.5}, Fila{"1,200", ',', 1.2},
+        Fila{"210.000", '.', 210}, Fila{"1.2000", ',', 1.2}, Fila{"1234.567", ',', 1234.567},
+        Fila{"210\u202F000", ',', 210000}, Fila{" 12 345,5\t", '.', 12345.5}, Fila{"", ',', 0}}) {
+    EXPECT_EQ(NumeroTecleado(f.texto, f.separador).valor, f.valor) << f.texto;
+  }
+  struct Mala {
+    const char* texto;
+    char separador;
+    int falta;
+    std::vector<std::string> lecturas;
+  };
+  for (const auto& m :
+       std::vector<Mala>{{"1.200", ',', txt::NumeroAmbiguo, {"1.200", "1,200", "1200"}},
+                         {"210.000", ',', txt::NumeroAmbiguo, {"210.000", "210,000", "210000"}},
+                         {"-1,200", '.', txt::NumeroAmbiguo, {"-1,200", "-1.200", "-1200"}},
+                         {"1.234,5", ',', txt::NumeroConDosSeparadores, {"1.234,5"}},
+                         {"1,234,567", '.', txt::NumeroConDosSeparadores, {"1,234,567"}},
+                         {"1/2", ',', txt::NoEsValorNumerico, {}},
+                         {"abc", ',', txt::NoEsValorNumerico, {}}}) {
+    const auto leido = NumeroTecleado(m.texto, m.separador);
+    EXPECT_FALSE(leido.valor) << m.texto;
+    EXPECT_EQ(leido.falta.texto, m.falta) << m.texto;
+    EXPECT_EQ(leido.falta.datos, m.lecturas) << m.texto;
+  }
 }
 
 TEST(Aritmetica, PareDondeElMetodoPara) {

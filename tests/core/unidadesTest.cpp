@@ -56,5 +56,23 @@ TEST(Unidades, LoQueSeCalculaEstaEnMks) {
   EXPECT_EQ(TramoEnCalculo(t, false).Fct, 22);  // left as it is
 }
 
+// A last height that no Caso has is a pipe that nobody calculated; the step offered must reach it.
+TEST(Unidades, UltimaAlturaQueLosPasosNoAlcanzan) {
+  struct Fila {
+    double primera, ultima, paso;
+    double alcanzada, incremento;  // 0 and 0: it is reached, or there is no range
+  };
+  for (const auto& f :
+       {Fila{2, 5.5, 1, 5, 0.7}, Fila{1, 2, 0.3, 1.9, 0.25}, Fila{3, 3.5, 2, 3, 0.5},
+        Fila{2, 5, 1, 0, 0}, Fila{1, 2, 0.335, 0, 0}, Fila{3, 3, 0, 0, 0}, Fila{3, 0, 1, 0, 0}}) {
+    const auto fuera = AlturaFueraDe(f.primera, f.ultima, f.paso);
+    ASSERT_EQ(fuera.has_value(), f.alcanzada > 0) << f.primera << " " << f.paso;
+    if (!fuera) continue;
+    EXPECT_NEAR(fuera->alcanzada, f.alcanzada, 1e-12);
+    EXPECT_NEAR(fuera->incremento, f.incremento, 1e-12);
+    EXPECT_FALSE(AlturaFueraDe(f.primera, f.ultima, fuera->incremento));
+  }
+}
+
 }  // namespace
 }  // namespace zorbin

@@ -245,18 +245,34 @@ TEST_F(Zrb, UnRechazoDejaElEstadoYNombraFicheroYVersion) {
   }
 }
 
+// An Obra that is saved in any language opens with the surge it was saved with.
+TEST_F(Zrb, ElGolpeSeEntiendeEnLosCincoIdiomas) {
+  for (std::int16_t idioma = 1; idioma <= kIdiomas; ++idioma) {
+    for (const bool calculado : {true, false}) {
+      auto e = EstadoDeMuestra(1);
+      e.obra.Idioma = textos.PonIdioma(idioma);
+      e.obra.GolpeCalculado = calculado;
+      Escribe({e}, {"1"}, ',');
+      const auto proyecto = LeeProyecto(ruta);
+      EXPECT_EQ(proyecto.obra.GolpeCalculado, calculado) << idioma;
+      EXPECT_TRUE(proyecto.avisos.empty()) << idioma;
+    }
+  }
+}
+
 TEST_F(Zrb, LoQueElFormatoDejaEnBlancoSeLee) {
   Escribe({EstadoDeMuestra(1), EstadoDeMuestra(2)}, {"1", "2"}, ',');
   Estropea(2, Registro("IDIOMA : 9 Gallego"));
-  Estropea(4, Registro("GAriete: Oui"));  // saved in another language: estimated
-  Estropea(7, Registro("4.00"));          // no SI half: derived
-  Estropea(8, Registro("6,00 // "));      // an empty half is 0
-  Estropea(82, Registro(""));             // the description is blank, not that of Tramo 1
-  Estropea(114, Registro(""));            // De of Tramo 2: that of the Tramo read before it
+  Estropea(4, Registro("GAriete: Ja"));  // nobody's caption: estimated, and told
+  Estropea(7, Registro("4.00"));         // no SI half: derived
+  Estropea(8, Registro("6,00 // "));     // an empty half is 0
+  Estropea(82, Registro(""));            // the description is blank, not that of Tramo 1
+  Estropea(114, Registro(""));           // De of Tramo 2: that of the Tramo read before it
   fs::resize_file(ruta, fs::file_size(ruta) + 1000);
   const auto proyecto = LeeProyecto(ruta);
-  ASSERT_EQ(proyecto.avisos.size(), 1u);
+  ASSERT_EQ(proyecto.avisos.size(), 2u);
   EXPECT_EQ(proyecto.avisos[0].texto, txt::IdiomaNoReconocido);
+  EXPECT_EQ(proyecto.avisos[1].datos, (std::vector<std::string>{ruta.string(), "Ja"}));
   EXPECT_EQ(proyecto.obra.Idioma, 1);
   EXPECT_FALSE(proyecto.obra.GolpeCalculado);
   EXPECT_DOUBLE_EQ(proyecto.obra.Prs1, 0.4);

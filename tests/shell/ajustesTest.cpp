@@ -154,7 +154,7 @@ TEST(PantallaAjustes, LaSeleccionDirectaSinRaton) {
     EXPECT_EQ(s.b.voz.Ultimo(), "Armadura Exterior igual a 0");
     EXPECT_EQ(EnFoco(p), "txArmExterior8");
     s.b.Olvida();
-    QTest::keyClicks(Foco(p), "-20.5");  // a sign does not pass
+    QTest::keyClicks(Foco(p), "20.5");
     QTest::keyClick(Foco(p), Qt::Key_Return);
     EXPECT_EQ(EnFoco(p), "btSeleccionDirecta");
     QTest::keyClick(Foco(p), Qt::Key_Return);

@@ -257,12 +257,14 @@ TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
   p.Pincha(Ed::edAlt2);
   QApplication::clipboard()->setText("12.3");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(p.Linea(Ed::edAlt2)->text(), "12,3");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(p.Linea(Ed::edAlt2)->text(), "12,30");
+  p.Pincha(Ed::edAlt2);
   QApplication::clipboard()->setText("1.234,5");
-  p.Linea(Ed::edAlt2)->selectAll();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
-  QTest::qWait(30);
-  EXPECT_EQ(p.Linea(Ed::edAlt2)->text(), "12,3");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(p.TieneFoco(Ed::edAlt2));
+  EXPECT_EQ(p.Linea(Ed::edAlt2)->text(), "1.234,5");
   EXPECT_TRUE(p.persona.Ultima().contains("1.234,5"));
 }
 

@@ -1,37 +1,11 @@
 #include <gtest/gtest.h>
-#include <QSignalSpy>
 #include <QVBoxLayout>
 
 #include "shell/entornoPrueba.h"
-#include "shell/piezas/mdCasillaNumero.h"
 #include "shell/piezas/mdVigilanteFoco.h"
 
 namespace zorbin {
 namespace {
-
-TEST(CasillaNumero, EntiendeLosDosSeparadores) {
-  CasillaNumero casilla(',', true);
-  QTest::keyClicks(&casilla, "12.3");
-  EXPECT_EQ(casilla.text(), "12,3");
-  QTest::keyClicks(&casilla, ",4-e5");
-  EXPECT_EQ(casilla.text(), "12,345");
-  casilla.clear();
-  casilla.insert(" 12.3\n");
-  EXPECT_EQ(casilla.text(), "12,3");
-}
-
-TEST(CasillaNumero, RechazaLosMillaresPegados) {
-  CasillaNumero casilla(',', true);
-  casilla.setText("7654321");
-  QSignalSpy rechazos(&casilla, &CasillaNumero::pegadoRechazado);
-  for (const char* texto : {"1.234,5", "1,234.5", "12 345", "1.234.567", "12,3 m"}) {
-    casilla.selectAll();
-    casilla.insert(texto);
-    EXPECT_EQ(casilla.text(), "7654321") << texto;
-  }
-  QTest::qWait(10);
-  EXPECT_EQ(rechazos.size(), 5);
-}
 
 // Two fields; the first may be left only when it holds "1".
 struct DosCampos {

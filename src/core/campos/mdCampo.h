@@ -101,7 +101,6 @@ struct Campo {
   std::string_view nombre = {};
   Clase clase = Clase::Numero;
   Paginas pagina = {};
-  bool filtra = false;        // keys are filtered
   bool ceroEnBlanco = false;  // a zero read from a file shows as a blank
   int etiqueta = 0;           // title of a refusal
   int rotulo = 0;             // label, under MKS

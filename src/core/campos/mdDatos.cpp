@@ -30,6 +30,12 @@ double FctDeFck(double Fck) {
   return 0.45 * std::pow(Fck * Fck, 1.0 / 3.0);
 }
 
+double FctEnSistema(double Fck, bool si) {
+  const auto Fct =
+      Pareja(FctDeFck(Pareja(Fck, si, Magnitud::Tension).mks), false, Magnitud::Tension);
+  return si ? Fct.si : Fct.mks;
+}
+
 Obra ObraEnCalculo(const Obra& obra) {
   return obra.EsSI() ? DeSIAMks(obra) : obra;
 }

@@ -88,10 +88,13 @@ void RecorreNumeros(const F& f) {
 
 // ---- Units
 
-/// Tensile strength from the compressive one: 0.45 (Fck Fck)^(1/3). The formula is applied to
-/// each unit as it stands, so the value in MPa is not a tenth of the one in kp/cm2; that
-/// difference is kept on purpose.
+/// Tensile strength of the concrete from the compressive one: 0.45 (Fck Fck)^(1/3).
+/// @param Fck  [kp/cm2]. The coefficient belongs to that unit.
+/// @return [kp/cm2]
 double FctDeFck(double Fck);
+
+/// The same in the unit of a system: that of a run, converted.
+double FctEnSistema(double Fck, bool si);
 
 /// The Obra with its pressures in at, whatever its system.
 Obra ObraEnCalculo(const Obra& obra);

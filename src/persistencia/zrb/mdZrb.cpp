@@ -1,6 +1,7 @@
 #include "persistencia/zrb/mdZrb.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string_view>
 #include <utility>
@@ -27,6 +28,15 @@ constexpr int kUltimoOffsetLeido = 64;
 constexpr int kUltimoOffset = 66;
 constexpr int kPrimeraReserva = 16;  // of the header
 constexpr int kRegistroCuenta = 20;
+
+// Captions of the surge in the file, in the order of the languages. They belong to the format: a
+// translation that changes must still read the files of before.
+struct RotulosGolpe {
+  std::string_view si;
+  std::string_view no;
+};
+constexpr auto kRotulosGolpe = std::to_array<RotulosGolpe>(
+    {{"Si", "No"}, {"Yes", "No"}, {"Sí", "No"}, {"Sim", "Não"}, {"Oui", "Non"}});
 
 int Base(int posicion) {
   return (posicion - 1) * kRegistrosBloque + kBaseBloque;
@@ -105,6 +115,18 @@ void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avis
   obra.IdiomaOffset = I16((obra.Idioma - 1) * kPasoIdioma);
 }
 
+// The caption stands in the language that the Obra was saved in, whatever the record of the
+// language says. Another one is told, and the surge is estimated, which asks for more steel.
+void LeeGolpe(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avisos) {
+  const std::string valor(Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)));
+  const auto es = [&](std::string_view RotulosGolpe::*rotulo) {
+    return std::ranges::find(kRotulosGolpe, valor, rotulo) != kRotulosGolpe.end();
+  };
+  obra.GolpeCalculado = es(&RotulosGolpe::si);
+  if (obra.GolpeCalculado || es(&RotulosGolpe::no)) return;
+  avisos.push_back({txt::GolpeNoReconocido, {f.Nombre(), valor}});
+}
+
 ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
   return ErrorFichero({txt::TramoCortado,
                        {f.Nombre(), TextoEntero(f.UltimoRegistro()), TextoEntero(posicion),
@@ -172,14 +194,14 @@ void LeeDatos(Bloque& bloque, const FicheroRegistros& f, int base, bool si) {
 }
 
 // What follows from the fields read.
-void CompletaTramo(Tramo& t) {
+void CompletaTramo(Tramo& t, bool si) {
   t.EsArmado = t.Tipologia < kPrimeraPostesada;
   t.SubTipo = t.EsArmado ? 3 : 0;
   t.PostFlag = t.EsArmado ? 0 : 1;
   t.TipoColocacion = t.TipoApoyo < 20 ? 0 : t.TipoApoyo < 30 ? 1 : 2;
   t.GamaY = t.GamaF = 1.0;
   // Never captured: the record holds it rounded to what the screen shows.
-  t.Fct = FctDeFck(t.Fck);
+  t.Fct = FctEnSistema(t.Fck, si);
   if (t.IndCar != 1) t.IndCar = t.ICar = 0;
 }
 
@@ -220,10 +242,11 @@ class Escritor {
   char separador_;
 };
 
-// Fct follows from Fck in each system, but for the value on the screen.
+// In the record the formula is applied to each unit as it stands, so the half of SI is not the one
+// that a run uses. Nobody reads it.
 ParUnidades ParFct(const Tramo& t, bool si) {
   const auto fck = Pareja(t.Fck, si, Magnitud::Tension);
-  return {FctDeFck(fck.mks), si ? t.Fct : FctDeFck(fck.si)};
+  return {FctDeFck(fck.mks), FctDeFck(fck.si)};
 }
 
 std::string TextoDato(const Obra& o, const Dato<Obra>& dato, const Escritor& escritor, bool) {
@@ -282,8 +305,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
   LeeIdioma(obra, f, leida.avisos);
   obra.SisUnid =
       Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
-  // The caption is compared as it stands: a file saved in another language reads as estimated.
-  obra.GolpeCalculado = Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)) == "Si";
+  LeeGolpe(obra, f, leida.avisos);
   LeeDatos(obra, f, 0, obra.EsSI());
   leida.lista = LeeLista(f);
   obra.RutaApp = e.obra.RutaApp;
@@ -302,7 +324,7 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
   }
   Tramo t = e.tramo;
   LeeDatos(t, f, base, e.obra.EsSI());
-  CompletaTramo(t);
+  CompletaTramo(t, e.obra.EsSI());
   t.Hr0Delta = AlturasDe(e.obra, t).Hr0Delta;
   e.tramo = std::move(t);
 }

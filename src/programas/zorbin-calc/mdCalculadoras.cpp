@@ -133,6 +133,7 @@ int Medios(const OpcionesMedios& o, Catalogo& textos) try {
     if (!valor) continue;
     Cambia(e, medio, *valor);
     if (const auto aviso = Sale(e, medio)) return Rechaza(*aviso, textos);
+    if (const auto aviso = AvisoDePlausibilidad(e, medio)) Queja(textos.Compone(*aviso));
   }
   if (const auto aviso = Analiza(e)) return Rechaza(*aviso, textos);
   const EstiloNumeros estilo{true, e.SeparadorDecimal};

@@ -46,6 +46,13 @@ std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos
                         {pregunta.numero, ConTitulo(pregunta.titulo, pregunta.texto)});
 }
 
+std::string TextoAviso(const AvisoDeObra& aviso, const Catalogo& textos) {
+  if (aviso.numero.empty()) {
+    return textos.Compone(txt::AvisoDeLaObra, {aviso.campo, Seguido(aviso.texto)});
+  }
+  return textos.Compone(txt::AvisoDelTramo, {aviso.numero, aviso.campo, Seguido(aviso.texto)});
+}
+
 ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& tablas,
                         const PeticionValida& peticion, const Catalogo& textos) {
   const TablasCatalogo dimensiones =
@@ -63,6 +70,7 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
   const auto lista = BuscaFaltas(proyecto, opciones.tablas,
                                  {*posiciones, SeparadorDeLinea(opciones.separador)}, textos);
   for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
+  for (const auto& a : lista.avisos) Queja(TextoAviso(a, textos));
   Salida salida({});
   for (const auto& f : lista.faltas) salida.flujo() << TextoFalta(f, textos) << '\n';
   if (lista.Vale()) {

@@ -17,7 +17,7 @@ struct OpcionesValida {
 };
 
 /// Lists the faults of an Obra on standard output, each in a line, and the questions that were
-/// answered "go on" on standard error.
+/// answered "go on" and the notices on standard error.
 /// @return an exit code; what went wrong has been told on standard error.
 int Valida(const OpcionesValida& opciones, Catalogo& textos);
 
@@ -27,8 +27,9 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos);
 ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& tablas,
                         const PeticionValida& peticion, const Catalogo& textos);
 
-/// A fault, and a question with its answer, in one line.
+/// A fault, a question with its answer, and a notice, in one line.
 std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos);
 std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos);
+std::string TextoAviso(const AvisoDeObra& aviso, const Catalogo& textos);
 
 }  // namespace zorbin

@@ -19,13 +19,13 @@ bool Rechaza(Ajustes& a, const std::string& texto, int titulo) {
 }
 
 bool ValidaNumero(Ajustes& a, CampoAjuste campo, double minimo, double& destino, int etiqueta) {
-  const auto valor = NumeroTexto(a.t.pantalla.Texto(campo));
-  const bool numero = valor && std::fabs(*valor) <= kMayorTecleado;
-  if (numero && *valor >= minimo) {
-    destino = *valor;
+  const auto leido = NumeroTecleado(a.t.pantalla.Texto(campo), a.c.SeparadorDecimal);
+  const bool numero = leido.valor && std::fabs(*leido.valor) <= kMayorTecleado;
+  if (numero && *leido.valor >= minimo) {
+    destino = *leido.valor;
     return true;
   }
-  a.c.voz.Muestra(Texto(a, numero ? txt::ValorIncorrecto : txt::NoEsValorNumerico),
+  a.c.voz.Muestra(numero ? Texto(a, txt::ValorIncorrecto) : TextoDeFalta(a.c, leido),
                   SinDosPuntos(Texto(a, etiqueta)));
   return false;
 }

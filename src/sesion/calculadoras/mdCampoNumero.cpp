@@ -7,17 +7,8 @@
 
 namespace zorbin {
 
-namespace {
-
-constexpr char kRetroceso = 8;
-
-char OtroSeparador(char separador) {
-  return separador == ',' ? '.' : ',';
-}
-
-}  // namespace
-
 std::string TextoAviso(const AvisoCampo& aviso, const Catalogo& catalogo) {
+  if (!aviso.datos.empty()) return catalogo.Compone(aviso.texto.front(), aviso.datos);
   std::string texto;
   for (const int n : aviso.texto) texto += catalogo.Texto(n);
   return texto;
@@ -42,20 +33,12 @@ bool PorLeer(const CampoNumero& campo) {
   return campo.tocado && (campo.texto.empty() || campo.texto != campo.escrito);
 }
 
-char FiltraTecla(char tecla, std::string_view texto, char SeparadorDecimal) {
-  if (tecla == OtroSeparador(SeparadorDecimal)) tecla = SeparadorDecimal;
-  if (tecla == SeparadorDecimal) {
-    return texto.find(SeparadorDecimal) == std::string_view::npos ? tecla : '\0';
-  }
-  return (tecla >= '0' && tecla <= '9') || tecla == kRetroceso ? tecla : '\0';
-}
-
-std::optional<AvisoCampo> ValidaNumero(double minimo, std::string_view texto, double& destino,
-                                       int etiqueta) {
-  const auto valor = NumeroTexto(texto);
-  if (!valor) return AvisoCampo{{txt::NoEsValorNumerico}, etiqueta};
-  destino = *valor;
-  if (!(*valor >= minimo)) return AvisoCampo{{txt::ValorIncorrecto}, etiqueta};
+std::optional<AvisoCampo> ValidaNumero(double minimo, std::string_view texto, char separador,
+                                       double& destino, int etiqueta) {
+  const auto leido = NumeroTecleado(texto, separador);
+  if (!leido.valor) return AvisoCampo{{leido.falta.texto}, etiqueta, leido.falta.datos};
+  destino = *leido.valor;
+  if (!(destino >= minimo)) return AvisoCampo{{txt::ValorIncorrecto}, etiqueta};
   return std::nullopt;
 }
 

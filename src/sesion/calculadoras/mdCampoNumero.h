@@ -1,4 +1,4 @@
-// A numeric field of a calculator screen, without its widget: entering it, a key, a change, and
+// A numeric field of a calculator screen, without its widget: entering it, a change, and
 // what leaving it reads. A refusal is told by catalogue entries; the screen only shows it.
 #pragma once
 
@@ -15,6 +15,7 @@ namespace zorbin {
 struct AvisoCampo {
   std::vector<int> texto;
   int titulo = 0;
+  std::vector<std::string> datos = {};  // of the marks of its text, which is then one entry
 
   bool operator==(const AvisoCampo&) const = default;
 };
@@ -41,15 +42,12 @@ void Cambia(CampoNumero& campo, std::string texto);
 /// Whether the text has to be read: a person changed it, or emptied it.
 bool PorLeer(const CampoNumero& campo);
 
-/// A typed key: digits, backspace and one decimal separator pass, either separator becomes the
-/// machine's. @return the key that the text takes, or 0 for none.
-char FiltraTecla(char tecla, std::string_view texto, char SeparadorDecimal);
-
 /// Reads `texto` into `destino`; an empty text is 0. A number below `minimo` is refused and is
-/// written to `destino` all the same, a text that is no number leaves it.
+/// written to `destino` all the same, a text that is no number, or two, leaves it.
+/// @param separador  decimal separator in force
 /// @param etiqueta  entry of the field's label, title of a refusal
 /// @return the refusal, if any
-std::optional<AvisoCampo> ValidaNumero(double minimo, std::string_view texto, double& destino,
-                                       int etiqueta);
+std::optional<AvisoCampo> ValidaNumero(double minimo, std::string_view texto, char separador,
+                                       double& destino, int etiqueta);
 
 }  // namespace zorbin

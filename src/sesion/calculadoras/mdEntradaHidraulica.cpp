@@ -135,11 +135,6 @@ void Entra(EntradaHidraulica& e, CampoHidraulico cual) {
   Campo(e, cual).seleccionado = true;
 }
 
-char Tecla(const EntradaHidraulica& e, CampoHidraulico cual, char tecla) {
-  const CampoNumero& campo = cual == CampoHidraulico::DatoOrigen ? e.txDatoOrigen : e.txRugosidad;
-  return FiltraTecla(tecla, campo.texto, e.SeparadorDecimal);
-}
-
 void Cambia(EntradaHidraulica& e, CampoHidraulico cual, std::string texto) {
   if (Campo(e, cual).texto != texto) e.imprimible = false;
   Cambia(Campo(e, cual), std::move(texto));
@@ -152,7 +147,7 @@ std::optional<AvisoCampo> Sale(EntradaHidraulica& e, CampoHidraulico cual) {
   const bool esDato = cual == CampoHidraulico::DatoOrigen;
   const bool esCwh = !esDato && EsHazen(e);
   double valor = 0;
-  auto aviso = ValidaNumero(esCwh ? 0.0 : kMinimo, campo.texto, valor,
+  auto aviso = ValidaNumero(esCwh ? 0.0 : kMinimo, campo.texto, e.SeparadorDecimal, valor,
                             esDato ? EtiquetaDato(e) : EtiquetaRugosidad(e));
   if (!aviso) {
     Escribe(campo, valor,

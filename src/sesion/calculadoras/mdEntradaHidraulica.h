@@ -52,7 +52,6 @@ void CambiaTipoDato(EntradaHidraulica& e, DatoHidraulico tipo);
 /// The moments of a field. Leaving it with a value refused restores the default; the focus then
 /// stays in the field.
 void Entra(EntradaHidraulica& e, CampoHidraulico cual);
-char Tecla(const EntradaHidraulica& e, CampoHidraulico cual, char tecla);
 void Cambia(EntradaHidraulica& e, CampoHidraulico cual, std::string texto);
 std::optional<AvisoCampo> Sale(EntradaHidraulica& e, CampoHidraulico cual);
 

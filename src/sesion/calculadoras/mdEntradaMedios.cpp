@@ -5,12 +5,14 @@
 
 #include "base/aritmetica.h"
 #include "base/mdNumeros.h"
+#include "base/textos.h"
 
 namespace zorbin {
 
 namespace {
 
 constexpr double kMinimo = 0.0;
+constexpr double kMayorPH = 14.0;
 constexpr std::string_view kMascara = "######0.00";
 
 constexpr std::array<Medio, kMedios> kOrdenDeLectura{
@@ -46,10 +48,6 @@ void Entra(EntradaMedios& e, Medio medio) {
   Campo(e, medio).seleccionado = true;
 }
 
-char Tecla(const EntradaMedios& e, Medio medio, char tecla) {
-  return FiltraTecla(tecla, e.txpH[static_cast<std::size_t>(medio)].texto, e.SeparadorDecimal);
-}
-
 void Cambia(EntradaMedios& e, Medio medio, std::string texto) {
   if (Campo(e, medio).texto != texto) e.alDia = false;
   Cambia(Campo(e, medio), std::move(texto));
@@ -61,10 +59,16 @@ std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio) {
   if (campo.texto.empty()) PonDefecto(e, medio);
   if (!PorLeer(campo)) return std::nullopt;
   double valor = 0;
-  auto aviso = ValidaNumero(kMinimo, campo.texto, valor, Datos(medio).etiqueta);
+  auto aviso = ValidaNumero(kMinimo, campo.texto, e.SeparadorDecimal, valor, Datos(medio).etiqueta);
   Muestra(e, medio, aviso ? campo.valor : valor);
   campo.seleccionado = aviso.has_value();
   return aviso;
+}
+
+std::optional<Mensaje> AvisoDePlausibilidad(const EntradaMedios& e, Medio medio) {
+  const CampoNumero& campo = e.txpH[static_cast<std::size_t>(medio)];
+  if (medio != kPH || campo.valor <= kMayorPH) return std::nullopt;
+  return Mensaje{txt::PHFueraDeEscala, {campo.texto}};
 }
 
 void MarcaCiclos(EntradaMedios& e, bool marcado) {
@@ -79,7 +83,8 @@ std::optional<AvisoCampo> Analiza(EntradaMedios& e) {
   for (const Medio medio : kOrdenDeLectura) {
     const CampoNumero& campo = Campo(e, medio);
     if (PorLeer(campo) && !campo.texto.empty()) {
-      if (auto aviso = ValidaNumero(kMinimo, campo.texto, valor, Datos(medio).etiqueta)) {
+      if (auto aviso = ValidaNumero(kMinimo, campo.texto, e.SeparadorDecimal, valor,
+                                    Datos(medio).etiqueta)) {
         return aviso;
       }
     } else if (!campo.texto.empty()) {

@@ -25,9 +25,11 @@ EntradaMedios CargaProtecciones(char SeparadorDecimal);
 /// The moments of a field. An empty one takes its default on entering and on leaving; a value
 /// refused on leaving brings back the one before, and the focus stays in the field.
 void Entra(EntradaMedios& e, Medio medio);
-char Tecla(const EntradaMedios& e, Medio medio, char tecla);
 void Cambia(EntradaMedios& e, Medio medio, std::string texto);
 std::optional<AvisoCampo> Sale(EntradaMedios& e, Medio medio);
+
+/// What is unusual in a field, where something is: it is told, and refuses nothing.
+std::optional<Mensaje> AvisoDePlausibilidad(const EntradaMedios& e, Medio medio);
 
 /// The tick box.
 void MarcaCiclos(EntradaMedios& e, bool marcado);

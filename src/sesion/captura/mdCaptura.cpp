@@ -154,15 +154,19 @@ void VaA(Captura& c, Ed campo) {
   c.voz.VaA(campo);
 }
 
+std::string TextoDeFalta(const Captura& c, const Tecleado& leido) {
+  return leido.valor ? Texto(c, txt::NoEsValorNumerico) : c.textos.Compone(leido.falta);
+}
+
 bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino,
                   const std::string& etiqueta) {
-  const auto valor = NumeroTexto(c[campo].texto);
-  if (!valor || std::fabs(*valor) > kMayorTecleado) {
-    Rechaza(c, campo, Texto(c, txt::NoEsValorNumerico), etiqueta);
+  const auto leido = NumeroTecleado(c[campo].texto, c.SeparadorDecimal);
+  if (!leido.valor || std::fabs(*leido.valor) > kMayorTecleado) {
+    Rechaza(c, campo, TextoDeFalta(c, leido), etiqueta);
     return false;
   }
-  destino = *valor;
-  if (*valor >= minimo) return true;
+  destino = *leido.valor;
+  if (destino >= minimo) return true;
   Rechaza(c, campo, Texto(c, txt::ValorIncorrecto), etiqueta);
   return false;
 }

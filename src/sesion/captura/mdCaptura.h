@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "base/mdCatalogo.h"
+#include "base/mdNumeros.h"
 #include "core/estado_calculo.h"
 #include "persistencia/tablas/mdTablas.h"
 #include "persistencia/zrb/mdZrb.h"
@@ -149,6 +150,9 @@ void Rechaza(Captura& c, Ed campo, const std::string& texto, const std::string& 
 void VaA(Captura& c, Ed campo);
 /// As VaA for a field whose page is not to be brought wholly, but only as far as `pagina` says.
 void MuestraPagina(Captura& c, const Paginas& pagina);
+
+/// Why what was typed is no quantity: it is no number, or is beyond kMayorTecleado.
+std::string TextoDeFalta(const Captura& c, const Tecleado& leido);
 
 /// Reads a field into `destino`: an empty text is 0. A text that is no number (or is beyond
 /// kMayorTecleado) is refused and leaves `destino`; a value below the minimum is refused and is

@@ -88,12 +88,12 @@ bool LeeTextos(Captura& c, bool deObra) {
   std::vector<std::pair<Ed, double>> leidos;
   for (const auto& fila : TablaCampos()) {
     if (!SeRelee(fila, deObra)) continue;
-    const auto valor = NumeroTexto(c[fila.id].texto);
-    if (!valor || *valor > kMayorTecleado) {
-      c.falta = Falta{fila.id, c[fila.id].texto, {}, Texto(c, txt::NoEsValorNumerico)};
+    const auto leido = NumeroTecleado(c[fila.id].texto, c.SeparadorDecimal);
+    if (!leido.valor || *leido.valor > kMayorTecleado) {
+      c.falta = Falta{fila.id, c[fila.id].texto, {}, TextoDeFalta(c, leido)};
       return false;
     }
-    leidos.emplace_back(fila.id, *valor);
+    leidos.emplace_back(fila.id, *leido.valor);
   }
   for (const auto& [campo, valor] : leidos) Variable(c, campo) = valor;
   return true;
@@ -180,7 +180,7 @@ void CambiaDeTramo(Captura& c, int numero, int anterior) {
 // The texts of the Tramo in its state; says what cannot be read and goes to the field.
 bool TextosEnElEstado(Captura& c) {
   if (LeeTextos(c, false)) {
-    c.e.tramo.Fct = FctDeFck(c.e.tramo.Fck);
+    c.e.tramo.Fct = FctEnSistema(c.e.tramo.Fck, c.EsSI());
     return true;
   }
   c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) +

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/textos.h"
-#include "sesion/calculadoras/mdCampoNumero.h"
 #include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdReglas.h"
@@ -49,15 +48,6 @@ void Entra(Captura& c, Ed campo) {
   if (campo == Ed::edSFck) c.SFckEditado = false;
   control.seleccionado = true;
   c.pantalla.foco = campo;
-}
-
-char Tecla(Captura& c, Ed campo, char tecla) {
-  const auto& control = c[campo];
-  if (control.bloqueado || !control.habilitado) return '\0';
-  if (!Fila(campo).filtra) return tecla;
-  // What is selected whole gives way to the key.
-  return FiltraTecla(tecla, control.seleccionado ? std::string_view{} : control.texto,
-                     c.SeparadorDecimal);
 }
 
 void Cambia(Captura& c, Ed campo, std::string texto) {

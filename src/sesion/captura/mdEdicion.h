@@ -1,4 +1,4 @@
-// The four moments of a field (entering it, a key, a change, leaving it), and the choices that are
+// The three moments of a field (entering it, a change, leaving it), and the choices that are
 // no text: ticks and options.
 #pragma once
 
@@ -10,9 +10,6 @@ namespace zorbin {
 /// The field takes the focus: its page comes forward, a blank takes its default, and the content is
 /// selected whole.
 void Entra(Captura& c, Ed campo);
-
-/// @return the key that the text takes, or 0 for none
-char Tecla(Captura& c, Ed campo, char tecla);
 
 /// A person changed the text. A field that is disabled or locked stays as it is.
 void Cambia(Captura& c, Ed campo, std::string texto);

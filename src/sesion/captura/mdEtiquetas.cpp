@@ -4,6 +4,7 @@
 
 #include "base/aritmetica.h"
 #include "base/textos.h"
+#include "sesion/captura/mdPlausibilidad.h"
 
 namespace zorbin {
 
@@ -115,6 +116,7 @@ void RenuevaEtiquetas(Captura& c) {
   }
   // This tip ends with an example in the units in force.
   c[Ed::edFck].consejo = Texto(c, Fila(Ed::edFck).consejo) + (c.EsSI() ? " (35)" : " (350)");
+  RenuevaAvisos(c);
 }
 
 void RenuevaTitulo(Captura& c) {

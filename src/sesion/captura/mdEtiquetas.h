@@ -9,7 +9,8 @@ namespace zorbin {
 /// The system in force, as the window title begins.
 std::string TextoUnidades(const Captura& c);
 
-/// Labels and captions in the language and units in force, those with values in them included.
+/// Labels, captions and notices in the language and units in force, those with values in them
+/// included.
 void RenuevaEtiquetas(Captura& c);
 
 /// Window title of the page in front and of the state of the capture, text of btCancelar, and the

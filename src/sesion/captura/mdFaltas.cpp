@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdPlausibilidad.h"
 #include "sesion/captura/mdPresenta.h"
 #include "sesion/captura/mdTipologias.h"
 #include "sesion/captura/mdValidaObra.h"
@@ -39,6 +40,12 @@ void Anota(ListaFaltas& lista, const Captura& c, SinPersona& voz, int posicion,
                           c.falta->valor, c.falta->titulo, c.falta->mensaje});
 }
 
+void Anota(ListaFaltas& lista, const std::vector<AvisoDeCampo>& avisos, const std::string& numero) {
+  for (const auto& a : avisos) {
+    lista.avisos.push_back({numero, std::string(Fila(a.campo).nombre), a.texto});
+  }
+}
+
 }  // namespace
 
 bool ListaFaltas::Vale(int posicion) const {
@@ -64,14 +71,19 @@ ListaFaltas ValidaProyecto(const Proyecto& proyecto, Catalogo& textos, const Tab
   MuestraObra(c);
   if (!ValidaObra(c)) Anota(lista, c, voz, 0, {});
   lista.obra = e.obra;
+  Anota(lista, AvisosDeObra(e.obra, textos, peticion.separador), {});
   const auto& pedidas = peticion.posiciones;
   for (const int posicion : pedidas.empty() ? PosicionesDe(c.lista) : pedidas) {
     LeeTramo(c, proyecto.fichero, posicion);
     c.falta.reset();
     const bool vale = ValidaTramo(c, false);
-    if (vale) lista.tramos[posicion] = e.tramo;
+    const std::string& numero = c.lista[static_cast<std::size_t>(posicion - 1)];
+    if (vale) {
+      lista.tramos[posicion] = e.tramo;
+      Anota(lista, AvisosDePlausibilidad(e.obra, e.tramo, textos, peticion.separador), numero);
+    }
     if (!vale && !c.falta) c.falta.emplace();
-    Anota(lista, c, voz, posicion, c.lista[static_cast<std::size_t>(posicion - 1)]);
+    Anota(lista, c, voz, posicion, numero);
   }
   return lista;
 }

@@ -29,9 +29,17 @@ struct PreguntaDeObra {
   std::string texto;
 };
 
+/// What is unusual, and refused by nothing.
+struct AvisoDeObra {
+  std::string numero;  // of the Tramo, as the list has it; empty for the Obra
+  std::string campo;   // "edFck"
+  std::string texto;
+};
+
 struct ListaFaltas {
   std::vector<FaltaDeObra> faltas;        // of the Obra first, then one a faulty Tramo at most
   std::vector<PreguntaDeObra> preguntas;  // in the order they were asked
+  std::vector<AvisoDeObra> avisos;        // of the Obra first, then of the Tramos without a fault
   Obra obra;                              // completed, in the units of its system
   std::map<int, Tramo> tramos;            // those without a fault, completed, by position
 

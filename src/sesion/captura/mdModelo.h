@@ -52,6 +52,13 @@ enum class Orden : int {
 };
 inline constexpr int kOrdenes = static_cast<int>(Orden::mnAjustarArmaduras) + 1;
 
+/// A notice of what is unusual in the data. It refuses nothing.
+struct AvisoDeCampo {
+  Ed campo = Ed::edObra;  // near which it is told
+  std::string texto;
+  double incremento = 0;  // of the heights, offered so that they reach the last one [m]; 0 for none
+};
+
 struct Modelo {
   std::array<Control, kCamposCaptura> controles;
   std::array<bool, kOrdenes> habilitadas{};
@@ -61,7 +68,8 @@ struct Modelo {
   std::string textoCancelar;     // of btCancelar: cancel, or reread
   std::string figuraColocacion;  // file names; empty for none
   std::string figuraTubo;
-  std::string avCargas1;  // notice of the page of loads; empty for none
+  std::vector<AvisoDeCampo> avisos;  // of all the pages
+  std::string avCargas1;             // notice of the page of loads; empty for none
 
   Control& operator[](Ed id) { return controles[static_cast<std::size_t>(id)]; }
   const Control& operator[](Ed id) const { return controles[static_cast<std::size_t>(id)]; }

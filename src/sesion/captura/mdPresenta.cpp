@@ -57,7 +57,7 @@ void PreparaPantalla(Captura& c) {
   c.pantalla = Modelo{};
   PoneTextosCaptura(c);
   CargaListaDiametros(c);
-  Bloquea(c, Ed::edDe0);
+  for (const Ed calculado : {Ed::edDe0, Ed::edFct}) Bloquea(c, calculado);
   for (const auto& fila : TablaCampos()) {
     if (EsCopia(fila.id)) Bloquea(c, fila.id);
   }

@@ -38,7 +38,7 @@ void PonDefecto(Captura& c, Ed campo, double valor) {
 }
 
 void CalculaFct(Captura& c) {
-  c.e.tramo.Fct = FctDeFck(c.e.tramo.Fck);
+  c.e.tramo.Fct = FctEnSistema(c.e.tramo.Fck, c.EsSI());
   MuestraVariable(c, Ed::edFct);
 }
 

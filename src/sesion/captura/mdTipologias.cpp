@@ -174,7 +174,7 @@ void DefectosArmado(Captura& c) {
   t.GamaF = 1.5;
   Aplica(c, kDefectosArmado);
   PonDefecto(c, Ed::edFyd, FydDeFyk(t.Fyk));
-  t.Fct = FctDeFck(t.Fck) / (c.EsSI() ? kFactorTension : 1.0);
+  t.Fct = FctEnSistema(t.Fck, c.EsSI());
   MuestraVariable(c, Ed::edFct);
   OlvidaCambios(c);
 }

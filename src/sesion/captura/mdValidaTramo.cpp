@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/textos.h"
+#include "calculo/corrida/mdRango.h"
 #include "core/mdUnidades.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
@@ -19,6 +20,25 @@ constexpr double kAnguloMaximo = 90.0;  // [degrees]
 constexpr std::int16_t kTerraplen = 31;
 constexpr std::array<std::int16_t, 5> kCodigosRelleno{11, 12, 21, 22, 23};
 
+struct Cuenta {
+  int alturas = 0;
+  int presiones = 0;
+};
+
+// The heights and pressures that a run goes through, counted as it goes, up to one too many.
+Cuenta CuentaCasos(const Rango& r) {
+  Cuenta cuenta;
+  for (std::optional<double> h = r.Hr0; h && *h <= r.Hr0Final && cuenta.alturas <= kMaxCasosCorrida;
+       h = AlturaSiguiente(*h, r.Hr0Delta, r.Hr0Final)) {
+    ++cuenta.alturas;
+  }
+  for (std::optional<double> DP = r.PrimeraDP; DP && cuenta.presiones <= kMaxCasosCorrida;
+       DP = PresionSiguiente(*DP, r)) {
+    ++cuenta.presiones;
+  }
+  return cuenta;
+}
+
 // One validation, with its way of failing.
 class Validacion {
  public:
@@ -26,7 +46,7 @@ class Validacion {
 
   bool Todo() {
     return Presiones() && Tipologia() && (c_.e.tramo.EsArmado ? Armado() : Postesado()) &&
-           Dimensiones() && Apoyo() && Alturas() && Relleno() && Cargas();
+           Dimensiones() && Apoyo() && Alturas() && Relleno() && Cargas() && Casos();
   }
 
  private:
@@ -152,8 +172,8 @@ class Validacion {
     if (!Numero(Ed::edCamMax, 0.0, txt::EtCamMax) || !Numero(Ed::edFck, kMinimo, txt::EtFck)) {
       return false;
     }
-    t.Fct = FctDeFck(t.Fck);
-    Escribe(c_, Ed::edFct, t.Fct, "#####0.000");
+    t.Fct = FctEnSistema(t.Fck, c_.EsSI());
+    MuestraVariable(c_, Ed::edFct);
     Derivado();
     if (!(t.Fct > 0)) return Falla(Ed::edFck, txt::FctIncorrecto, Error());
     if (!Numero(Ed::edFyk, kMinimo, txt::EtFyk) || !Numero(Ed::edFyd, kMinimo, txt::EtFyd) ||
@@ -343,6 +363,21 @@ class Validacion {
     EligeCarga(t);
     if (t.IndCar == 0) return true;
     return EnLista(Ed::edICar0, txt::SinICar, txt::ICarIncorrecto);
+  }
+
+  // A number past the last one would spoil a run that is long already.
+  bool Casos() {
+    DatosTramo datos;
+    datos.obra = ObraEnCalculo(c_.e.obra);
+    datos.tramo = TramoEnCalculo(c_.e.tramo, c_.EsSI());
+    const Rango rango = RangoDe(datos);
+    const auto [alturas, presiones] = CuentaCasos(rango);
+    if (alturas * presiones <= kMaxCasosCorrida) return true;
+    const bool altura = alturas > presiones;
+    const Ed campo = altura ? (rango.AlturasPropias ? Ed::edHr0Delta : Ed::edAlt3)
+                            : (rango.PresionesPropias ? Ed::edPrs3Tram : Ed::edPrs3);
+    const std::string nombre = SinDosPuntos(Texto(c_, altura ? txt::EtAlt3 : txt::EtPrs3));
+    return Falla(campo, c_.textos.Compone(txt::DemasiadosCasos, {nombre}), Error());
   }
 
   Captura& c_;

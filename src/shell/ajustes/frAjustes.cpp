@@ -123,9 +123,6 @@ void frAjustes::CreaCampos() {
     auto* campo = campos_[i];
     connect(campo, &QLineEdit::textEdited, this,
             [this, i](const QString& texto) { Cambia(a_, static_cast<CampoAjuste>(i), S(texto)); });
-    connect(campo, &CasillaNumero::pegadoRechazado, this, [this](const QString& texto) {
-      Avisa(this, entorno_.textos, Q(entorno_.textos.Compone(txt::PegadoSinNumero, {S(texto)})));
-    });
     vigilante_.Vigila(*campo);
   }
 }
@@ -156,7 +153,7 @@ QWidget* frAjustes::ColumnaDelCaso() {
 
   frFilas_ = new QGroupBox(Rotulo(a_.t.pantalla.rotulo), this);
   auto* filasMarco = new QVBoxLayout(frFilas_);
-  tabla_ = new TablaFilas(entorno_.SeparadorDecimal, this);
+  tabla_ = new TablaFilas(this);
   connect(tabla_, &TablaFilas::elegida, this, &frAjustes::Elige);
   filasMarco->addWidget(tabla_);
   auto* botones = new QGridLayout;
@@ -264,7 +261,7 @@ QWidget* frAjustes::MarcoRecubrimientos() {
   auto* filas = new QVBoxLayout(frRecubrimientos_);
   auto* campos = new QHBoxLayout;
   const auto campo = [&](CampoAjuste cual, const char* nombre, const std::string& texto) {
-    auto* casilla = new CasillaNumero(entorno_.SeparadorDecimal, true, this);
+    auto* casilla = new CasillaNumero(this);
     casilla->setObjectName(nombre);
     casilla->setFixedWidth(casilla->fontMetrics().horizontalAdvance('0') * kCifrasCaso +
                            casilla->sizeHint().height() / 2);

@@ -31,7 +31,7 @@ std::array<QString, 4> Areas(const FilaAjuste& fila) {
 
 }  // namespace
 
-TablaFilas::TablaFilas(char separador, QWidget* padre)
+TablaFilas::TablaFilas(QWidget* padre)
     : QWidget(padre), rejilla_(new QGridLayout(this)), obSeleccion_(new QButtonGroup(this)) {
   rejilla_->setContentsMargins(6, 0, 6, 0);
   rejilla_->setVerticalSpacing(kAireFilas);
@@ -44,11 +44,11 @@ TablaFilas::TablaFilas(char separador, QWidget* padre)
     cabezas_[static_cast<std::size_t>(columna)] = cabeza;
     rejilla_->addWidget(cabeza, 0, columna + 1);
   }
-  for (int fila = 0; fila < kFilasAjuste; ++fila) CreaFila(fila, separador);
+  for (int fila = 0; fila < kFilasAjuste; ++fila) CreaFila(fila);
   connect(obSeleccion_, &QButtonGroup::idClicked, this, &TablaFilas::elegida);
 }
 
-void TablaFilas::CreaFila(int fila, char separador) {
+void TablaFilas::CreaFila(int fila) {
   auto* opcion = new QRadioButton(this);
   opcion->setObjectName(QStringLiteral("obSeleccion%1").arg(fila));
   obSeleccion_->addButton(opcion, fila);
@@ -58,7 +58,7 @@ void TablaFilas::CreaFila(int fila, char separador) {
     const auto i = static_cast<std::size_t>(columna);
     const auto nombre = QLatin1String(kNombres[i]) + QString::number(fila);
     if (fila == kFilaDirecta && i < casillas_.size()) {
-      auto* casilla = new CasillaNumero(separador, true, this);
+      auto* casilla = new CasillaNumero(this);
       casilla->setObjectName(nombre);
       casilla->setMinimumWidth(casilla->fontMetrics().horizontalAdvance('0') * kCifras +
                                casilla->sizeHint().height() / 2);

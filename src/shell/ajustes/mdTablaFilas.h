@@ -22,7 +22,7 @@ class TablaFilas : public QWidget {
   /// Fields of the last row: cylinder, spirals, outer bars.
   using Casillas = std::array<CasillaNumero*, 3>;
 
-  TablaFilas(char separador, QWidget* padre);
+  explicit TablaFilas(QWidget* padre);
 
   const Casillas& casillas() const { return casillas_; }
   QRadioButton* Opcion(int fila) const;
@@ -46,7 +46,7 @@ class TablaFilas : public QWidget {
   std::array<std::array<QLabel*, kColumnas>, kFilasAjuste> celdas_{};  // null where a field is
   Casillas casillas_{};
 
-  void CreaFila(int fila, char separador);
+  void CreaFila(int fila);
   QRect Banda(int fila) const;
 };
 

@@ -92,6 +92,9 @@ void Protecciones::CreaPiezas() {
     MarcaCiclos(e_, marcado);
     MuestraPendiente();
   });
+  lbAvisoPH_ = Etiqueta("lbAvisoPH", this);
+  lbAvisoPH_->setWordWrap(true);
+  lbAvisoPH_->hide();
   btVisualizar_ = CreaBoton("btVisualizar", [this] { Visualizar(); });
   btVisualizar_->setDefault(true);
   btImprimir_ = CreaBoton("btImprimir", [this] { Imprimir(); });
@@ -114,7 +117,11 @@ void Protecciones::CreaCampo(Medio medio) {
          Cambia(e_, medio, std::move(texto));
          MuestraPendiente();
        },
-       [this, medio] { return Sale(e_, medio); }});
+       [this, medio] {
+         auto aviso = Sale(e_, medio);
+         MuestraAvisoPH();
+         return aviso;
+       }});
 }
 
 QGroupBox* Protecciones::MarcoConCampos(int marco) {
@@ -128,6 +135,7 @@ QGroupBox* Protecciones::MarcoConCampos(int marco) {
     rejilla->addWidget(txpH_[i], fila, 1);
     rejilla->addWidget(lbUnidadesAgres_[i], fila++, 2);
     if (medio == kSO4Suelo) rejilla->addWidget(Check1_, fila++, 0, 1, 4);
+    if (medio == kPH) rejilla->addWidget(lbAvisoPH_, fila++, 0, 1, 4);
   }
   rejilla->setColumnStretch(3, 1);
   return grupo;
@@ -170,6 +178,7 @@ void Protecciones::RenuevaTextos() {
   }
   for (const Medio medio : kOrden) RenuevaCampo(medio);
   AlineaCampos();
+  MuestraAvisoPH();
   Check1_->setText(EnDosLineas(Rotulo(T(txt::AlternaCiclos))));
   Check1_->setAccessibleName(Rotulo(T(txt::AlternaCiclos)));
   Check1_->setToolTip(Q(T(txt::PistaCiclos)));
@@ -201,6 +210,12 @@ void Protecciones::RenuevaCampo(Medio medio) {
     pista = entorno_.textos.Compone(medido ? txt::PistaTerreno : txt::PistaContenido, {S(unidad)});
   }
   txpH_[i]->setToolTip(Q(pista));
+}
+
+void Protecciones::MuestraAvisoPH() {
+  const auto aviso = AvisoDePlausibilidad(e_, kPH);
+  lbAvisoPH_->setText(aviso ? Q(entorno_.textos.Compone(*aviso)) : QString());
+  lbAvisoPH_->setVisible(aviso.has_value());
 }
 
 void Protecciones::AlineaCampos() {

@@ -33,6 +33,7 @@ class Protecciones : public PantallaCalculadora {
   EntradaMedios e_;
   DocumentoHtml documentoHtml_;
   std::array<CasillaNumero*, kMedios> txpH_{};
+  QLabel* lbAvisoPH_ = nullptr;
   std::array<QLabel*, kMedios> lbAguas_{};
   std::array<QLabel*, kMedios> lbUnidadesAgres_{};
   std::array<QGroupBox*, kMarcos> frMedios_{};
@@ -50,6 +51,7 @@ class Protecciones : public PantallaCalculadora {
   QGroupBox* MarcoConCampos(int marco);
   void ColocaPiezas();
   void RenuevaCampo(Medio medio);
+  void MuestraAvisoPH();
   void AlineaCampos();
   void RenuevaEjemplo();
   void RenuevaAnalisis();

@@ -37,7 +37,7 @@ PantallaCalculadora::~PantallaCalculadora() {
 }
 
 CasillaNumero* PantallaCalculadora::CreaCasilla(const QString& nombre) {
-  auto* casilla = new CasillaNumero(entorno_.SeparadorDecimal, true, this);
+  auto* casilla = new CasillaNumero(this);
   casilla->setObjectName(nombre);
   casilla->setFixedWidth(casilla->fontMetrics().horizontalAdvance(QLatin1Char('0')) *
                              kCifrasCasilla +
@@ -102,9 +102,6 @@ void PantallaCalculadora::Une(Campo campo) {
   auto* casilla = campo.casilla;
   connect(casilla, &QLineEdit::textEdited, this,
           [cambia = campo.cambia](const QString& texto) { cambia(S(texto)); });
-  connect(casilla, &CasillaNumero::pegadoRechazado, this, [this](const QString& texto) {
-    Avisa(this, entorno_.textos, Q(entorno_.textos.Compone(txt::PegadoSinNumero, {S(texto)})));
-  });
   vigilante_.Vigila(*casilla);
   campos_.push_back(std::move(campo));
 }

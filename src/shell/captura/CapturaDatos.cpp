@@ -15,6 +15,7 @@
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdListaTramos.h"
 #include "sesion/captura/mdTipologias.h"
+#include "shell/captura/mdAvisosPagina.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
@@ -70,6 +71,7 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
         {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
   }
   filas->addWidget(TabPrincipal_, 1);
+  filas->addWidget(CreaAvisos());
   filas->addWidget(CreaBotones());
   for (auto* campo : campos_) Enlaza(*campo);
   EnlazaPestanas();
@@ -83,7 +85,7 @@ void CapturaDatos::CreaCampos() {
   vigilante_ = new VigilanteFoco(
       *this, {[this](QWidget* w) { return Entra(w); }, [this](QWidget* w) { return Sale(w); }});
   for (const auto& fila : TablaCampos()) {
-    auto* campo = new CampoPantalla(fila.id, c_.SeparadorDecimal, c_.textos, this);
+    auto* campo = new CampoPantalla(fila.id, c_.textos, this);
     campos_[static_cast<std::size_t>(fila.id)] = campo;
     porWidget_.insert(&campo->widget(), fila.id);
     vigilante_->Vigila(campo->widget());
@@ -135,6 +137,13 @@ void CapturaDatos::CreaBoton(QWidget& barra, Orden orden, int texto) {
   connect(boton, &QPushButton::clicked, this, [this, orden] { emit pedida(orden); });
 }
 
+QWidget* CapturaDatos::CreaAvisos() {
+  avisos_ = new AvisosPagina(this);
+  connect(avisos_, &AvisosPagina::remedioPedido, this,
+          [this](const AvisoDeCampo& aviso) { Hace([&] { TomaIncremento(c_, aviso); }); });
+  return avisos_;
+}
+
 QWidget* CapturaDatos::CreaBotones() {
   auto* pie = new QWidget(this);
   auto* fila = new QHBoxLayout(pie);
@@ -183,10 +192,6 @@ void CapturaDatos::Enlaza(CampoPantalla& campo) {
     EligeOpcion(c_, id, opcion);
     if (id == Ed::rdSistemaUnidades) entorno_.preferencias.PonNuevaEnSI(c_.EsSI());
     TrasAccion();
-  });
-  connect(&campo, &CampoPantalla::pegadoRechazado, this, [this](const QString& texto) {
-    const VigilanteFoco::Pausa pausa(*vigilante_);
-    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::PegadoSinNumero, {S(texto)})));
   });
 }
 
@@ -345,6 +350,7 @@ void CapturaDatos::Refresca() {
     boton.widget->setEnabled(p.Habilitada(boton.orden));
     if (boton.orden == Orden::btCancelar) boton.widget->setText(Rotulo(p.textoCancelar));
   }
+  avisos_->Refresca(c_);
   titulo_->setText(Rotulo(p.titulo));
   const auto& falta = c_.falta;
   falta_->setText(falta

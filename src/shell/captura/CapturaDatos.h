@@ -20,6 +20,7 @@ class QToolButton;
 
 namespace zorbin {
 
+class AvisosPagina;
 class Pestanas;
 
 class CapturaDatos : public QWidget {
@@ -77,6 +78,7 @@ class CapturaDatos : public QWidget {
 
   QLabel* titulo_ = nullptr;
   QToolButton* cierre_ = nullptr;
+  AvisosPagina* avisos_ = nullptr;
   QLabel* falta_ = nullptr;  // why the last field was refused
   Pestanas* TabPrincipal_ = nullptr;
   QWidget* barraObra_ = nullptr;
@@ -85,6 +87,7 @@ class CapturaDatos : public QWidget {
   void CreaCampos();
   void CreaPaginas();
   QWidget* CreaCabecera();
+  QWidget* CreaAvisos();
   QWidget* CreaBotones();
   void CreaBoton(QWidget& barra, Orden orden, int texto);
   void OrdenaTabulador();

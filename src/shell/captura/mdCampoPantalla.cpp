@@ -46,8 +46,8 @@ QString SinSaltosDeFichero(QString texto) {
 
 }  // namespace
 
-CampoPantalla::CampoPantalla(Ed id, char separador, const Catalogo& textos, QWidget* padre)
-    : QObject(padre), id_(id), separador_(separador), textos_(textos) {
+CampoPantalla::CampoPantalla(Ed id, const Catalogo& textos, QWidget* padre)
+    : QObject(padre), id_(id), textos_(textos) {
   const auto& fila = Fila(id);
   Crea(padre);
   widget_->setObjectName(Q(fila.nombre));
@@ -78,8 +78,7 @@ void CampoPantalla::Crea(QWidget* padre) {
 void CampoPantalla::CreaLinea(QWidget* padre) {
   const auto& fila = Fila(id_);
   if (fila.clase == Clase::Numero) {
-    auto* casilla = new CasillaNumero(separador_, fila.filtra, padre);
-    connect(casilla, &CasillaNumero::pegadoRechazado, this, &CampoPantalla::pegadoRechazado);
+    auto* casilla = new CasillaNumero(padre);
     casilla->setFixedWidth(AnchoDe(*casilla, kColumnasNumero + 3));
     linea_ = casilla;
   } else {
@@ -106,9 +105,7 @@ void CampoPantalla::CreaLista(QWidget* padre, bool editable) {
   lista_->setEditable(true);
   lista_->setInsertPolicy(QComboBox::NoInsert);
   if (Fila(id_).clase == Clase::Numero) {
-    auto* casilla = new CasillaNumero(separador_, Fila(id_).filtra, lista_);
-    connect(casilla, &CasillaNumero::pegadoRechazado, this, &CampoPantalla::pegadoRechazado);
-    lista_->setLineEdit(casilla);
+    lista_->setLineEdit(new CasillaNumero(lista_));
   }
   lista_->setCompleter(nullptr);
   lista_->setFixedWidth(AnchoDe(*lista_, kColumnasNumero + 6));

@@ -26,7 +26,7 @@ class CampoPantalla : public QObject {
 
  public:
   /// The widget takes the name of the field.
-  CampoPantalla(Ed id, char separador, const Catalogo& textos, QWidget* padre);
+  CampoPantalla(Ed id, const Catalogo& textos, QWidget* padre);
 
   Ed id() const { return id_; }
   QWidget& widget() const { return *widget_; }
@@ -46,14 +46,12 @@ class CampoPantalla : public QObject {
   void entradaElegida(const QString& texto);
   void marcaCambiada(bool puesta);
   void opcionElegida(int opcion);
-  void pegadoRechazado(const QString& texto);
 
  protected:
   bool eventFilter(QObject* objeto, QEvent* suceso) override;
 
  private:
   Ed id_;
-  char separador_;
   const Catalogo& textos_;
   QWidget* widget_ = nullptr;
   QLabel* etiqueta_ = nullptr;

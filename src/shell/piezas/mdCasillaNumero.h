@@ -1,5 +1,5 @@
-// A field for a number. Both decimal separators are understood, typed or pasted, and become the
-// machine's; a text with group separators is refused, never read as another number.
+// A field for a number. It takes whatever is typed or pasted: what is no number, or could be read
+// as two, is told on leaving it, and nothing of it is dropped before.
 #pragma once
 
 #include <QLineEdit>
@@ -10,19 +10,11 @@ class CasillaNumero : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// @param soloCifras  only digits and one separator pass, so no sign can be typed
-  CasillaNumero(char separador, bool soloCifras, QWidget* padre = nullptr);
+  explicit CasillaNumero(QWidget* padre = nullptr);
 
   /// Selects the whole content, also while the press of the mouse that brought the focus is still
   /// to place the cursor.
   void Selecciona();
-
- signals:
-  /// What was pasted is no number, or could be read as two; the field stays as it was.
-  void pegadoRechazado(const QString& texto);
-
- private:
-  class Filtro;
 };
 
 }  // namespace zorbin

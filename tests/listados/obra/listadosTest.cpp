@@ -190,32 +190,49 @@ TEST(Listados, LoQueNoEsUnDisenoComoLosDemasSeDiceEnTodas) {
   auto tope = UnaPresion(Tramo(4, 40));
   auto sinSolucion = UnaPresion(Tramo(1, 3));
   sinSolucion.tramo.Icontes0 = true, sinSolucion.tramo.Adato = 3;
-  auto ajustado = UnaPresion(Tramo(1, 3));
-  ajustado.corrida.ajustes = {{4, 1, 3, {20, 0, 19.5}}};
-  auto corto = ajustado;
-  corto.corrida.ajustes = {{4, 1, 3, {15, 0, 9}}};
+  const auto ajustado = UnaPresion(Tramo(1, 3));
   struct Fila {
     const EstadoCalculo& e;
+    std::vector<EntradaAjuste> ajustes;
     std::string marca;      // of the row of Tabular
     std::string veredicto;  // in the others
     std::string dice;       // in all
     std::string calla;      // in none
   };
   const auto filas = std::to_array<Fila>({
-      {tope, "\n  *   40,00 ", "NO CUMPLE (uso 1,222)", "omento mayor que el momento límite",
+      {tope,
+       {},
+       "\n  *   40,00 ",
+       "NO CUMPLE (uso 1,222)",
+       "omento mayor que el momento límite",
        "ARMADURA INTERIOR  "},
-      {sinSolucion, "\n  *    3,00 ", "VEREDICTO: NO CUMPLE\n",
-       "sin solución con la armadura exterior máxima", "501"},
-      {ajustado, "\n  ?A   3,00 ", "SIN COMPROBAR (uso 0,", "interior 19,5", "redondos por"},
-      {corto, "\n  *A   3,00 ", "NO CUMPLE (uso 1,", "interior 19,5", "redondos por"},
+      {sinSolucion,
+       {},
+       "\n  *    3,00 ",
+       "VEREDICTO: NO CUMPLE\n",
+       "sin solución con la armadura exterior máxima",
+       "501"},
+      {ajustado,
+       {{4, 1, 3, {20, 0, 19.5}}},
+       "\n  ?A   3,00 ",
+       "SIN COMPROBAR (uso 0,",
+       "interior 19,5",
+       "redondos por"},
+      {ajustado,
+       {{4, 1, 3, {15, 0, 9}}},
+       "\n  *A   3,00 ",
+       "NO CUMPLE (uso 1,",
+       "interior 19,5",
+       "redondos por"},
   });
   const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   for (const auto& f : filas) {
     std::ostringstream flujo;
     Pantalla pantalla(flujo);
-    Resumen(pantalla, textos, {true, ','}).Tramo(pruebas::ResultadoDe(f.e), 1, "1", {});
+    Resumen(pantalla, textos, {true, ','}).Tramo(pruebas::ResultadoDe(f.e, f.ajustes), 1, "1", {});
     for (const std::string clase : {"normal", "tabular", "pantalla", "resumen"}) {
-      const auto texto = clase == "resumen" ? flujo.str() : ListadoDe({f.e}, clase);
+      const auto texto =
+          clase == "resumen" ? flujo.str() : ListadoDe({f.e}, clase, 1, ',', f.ajustes);
       EXPECT_NE(texto.find(clase == "tabular" ? f.marca : f.veredicto), std::string::npos) << texto;
       EXPECT_NE(texto.find(f.dice), std::string::npos) << clase << f.dice << texto;
       EXPECT_EQ(texto.find(f.calla), std::string::npos) << clase << f.calla << texto;

@@ -209,12 +209,12 @@ TEST(Comprobacion, TodaFilaDeTanteoBastaEnLosCasosTrabajados) {
         ++filas;
         const auto c = Calculo_Arm_Necesaria(d, {}, {fila.Interior, 0, fila.Exterior});
         for (int s = 1; s <= kSecciones; ++s) {
-          const auto& x = c.secciones(s);
+          const auto& y = c.secciones(s);
           // A layer that the moment alone takes beyond its strength is beyond any other layer.
-          if (x.interior && x.A1 * d.fyd * d.Brazo() <= d.secciones(s).M) continue;
-          EXPECT_LE(x.c.necesaria, x.A1 + 1e-7)
+          if (y.interior && y.A1 * d.fyd * d.Brazo() <= d.secciones(s).M) continue;
+          EXPECT_LE(y.c.necesaria, y.A1 + 1e-7)
               << f.path() << ' ' << d.Hr << ' ' << d.DP << ' ' << s;
-          if (x.c.traccion && std::fabs(x.c.necesaria - x.A1) < 1e-7) ++justas;
+          if (y.c.traccion && std::fabs(y.c.necesaria - y.A1) < 1e-7) ++justas;
         }
       }
     }

@@ -24,9 +24,15 @@ TEST(EntradaMedios, CadaCampoTieneSuDefecto) {
   Entra(e, kPH);
   EXPECT_EQ(e.txpH[kPH].texto, "7.00");
   EXPECT_TRUE(e.txpH[kPH].seleccionado);
-  EXPECT_EQ(Tecla(e, kPH, ','), 0);  // it holds a separator already
-  EXPECT_EQ(Tecla(e, kPH, '-'), 0);
-  EXPECT_EQ(Tecla(e, kPH, '6'), '6');
+}
+
+TEST(EntradaMedios, UnPHFueraDeEscalaSeDiceYSeToma) {
+  auto e = CargaProtecciones(',');
+  for (const auto& [texto, avisa] : {std::pair{"14", false}, {"14,1", true}, {"7", false}}) {
+    Cambia(e, kPH, texto);
+    EXPECT_FALSE(Sale(e, kPH)) << texto;
+    EXPECT_EQ(AvisoDePlausibilidad(e, kPH).has_value(), avisa) << texto;
+  }
 }
 
 TEST(EntradaMedios, UnValorRechazadoDejaElAnterior) {

@@ -16,14 +16,18 @@ namespace {
 using enum Ed;
 using enum SalidaCampo;
 
-TEST(Teclas, SoloCifrasYUnSeparador) {
-  Banco b('.');
-  b.Teclea(edPrsM1, "-1,2.5x");
-  EXPECT_EQ(b.e.obra.PrsM1, 1.25);  // "," is ".", the second one and the sign are dropped
-  NuevoTramo(b.c);
-  EXPECT_EQ(Tecla(b.c, edAdato, '-'), '\0');  // disabled
-  CambiaMarca(b.c, edIcontes0, true);
-  EXPECT_EQ(Tecla(b.c, edAdato, '-'), '-');  // a field without the filter
+// Nothing that is typed is dropped: it is taken, or refused with what it could mean.
+TEST(Teclas, LoQueNoEsUnNumeroNoPasaEnSilencio) {
+  Banco b;
+  b.Teclea({{edPrsM1, "1.5", Pasa, {{edPrsM1, "1,50"}}},
+            {edPrsM1, "210.000", Queda, {{edPrsM1, "210.000"}}},
+            {edPrsM1, "1.234,5", Queda},
+            {edPrsM1, "1/2", Queda},
+            {edPrsM1, "abc", Queda}});
+  ASSERT_EQ(b.voz.mensajes.size(), 4u);
+  EXPECT_NE(b.voz.mensajes[0].texto.find("210,000 o como 210000"), std::string::npos);
+  EXPECT_NE(b.voz.mensajes[1].texto.find("1.234,5"), std::string::npos);
+  EXPECT_EQ(b.e.obra.PrsM1, 1.5);
 }
 
 TEST(Campos, UnBlancoTomaSuDefectoAlEntrar) {
@@ -44,7 +48,8 @@ TEST(Campos, UnBlancoTomaSuDefectoAlEntrar) {
   entran({{edFckn, "400,00"}, {edSFck, "17000"}, {edEs, "210000"}, {edSf, "12750"}});
   EligePaginaTipologia(b.c, 0);
   entran({{edFck, "35,0"}, {edTipoControl, "Intenso"}, {edB0, ""}});  // there is no diameter yet
-  EXPECT_EQ(b.c[edFct].texto, "4,8");
+  EXPECT_EQ(b.c[edFct].texto, "2,2");
+  EXPECT_TRUE(b.c[edFct].bloqueado);
 }
 
 TEST(Campos, ElHormigonArrastraLaTraccionYTieneMinimo) {
@@ -280,7 +285,7 @@ TEST(Tipologias, LaLimpiezaDejaElTextoDelRevestimiento) {
   EXPECT_EQ(b.e.tramo.ICar, 1);  // 2 once the field is read
   EXPECT_EQ(b.c[edICar0].texto, "Eje de 13 Toneladas");
   DefectosArmado(b.c);
-  EXPECT_NEAR(b.e.tramo.Fct, 0.4815, 1e-3);  // a tenth of what any recalculation gives
+  EXPECT_NEAR(b.e.tramo.Fct, 2.2349, 1e-4);  // as every recalculation
 }
 
 TEST(Obra, NoHaberCalculadoElGolpeSeConfirma) {

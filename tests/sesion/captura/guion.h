@@ -62,13 +62,7 @@ struct Banco {
   /// Enters a field, types key by key over what it held, and leaves it.
   SalidaCampo Teclea(Ed campo, const std::string& teclas) {
     Entra(c, campo);
-    std::string texto;
-    for (const char letra : teclas) {
-      const char tecla = Tecla(c, campo, letra);
-      if (tecla == '\0') continue;
-      texto.push_back(tecla);
-      Cambia(c, campo, texto);
-    }
+    for (std::size_t n = 1; n <= teclas.size(); ++n) Cambia(c, campo, teclas.substr(0, n));
     if (teclas.empty()) Cambia(c, campo, "");
     return Sale(c, campo);
   }

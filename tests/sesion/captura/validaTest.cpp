@@ -169,6 +169,9 @@ const std::vector<Paso> kTramo{
      [](Banco& b) { b.e.tramo.Hr0Tramo = 3, b.e.tramo.Hr0Final = 2; }},
     {"P4_8", edHr0Delta, "", {}, "Debe seleccionar un incremento de alturas", AlturasDeTresACuatro},
     {"P4_8_NoEsNumero", edHr0Delta, "Incremento de Altura de tierras", {{edHr0Delta, "z"}}, kNoNumero, AlturasDeTresACuatro},
+    {"P4_MasDe32767", edHr0Delta, "ERROR:", {},
+     "el Tramo pasaría de 32767 Casos; aumente el incremento (Incremento de Altura de tierras) o acorte su intervalo",
+     [](Banco& b) { b.e.tramo.Hr0Tramo = 3, b.e.tramo.Hr0Final = 4000, b.e.tramo.Hr0Delta = 0.1; }},
     {"P4_9", edB0, "Ancho de Zanja (mts.)", {{edB0, ""}}, kValor, [](Banco& b) { b.c.AnchoZanjaAuto = false; }},
     {"P4_10", edGr0, "Densidad del Terreno", {{edGr0, "0"}}},
     {"P4_11", edFi0, "ERROR", {{edFi0, "90,1"}}, "Angulo de Rozamiento debe estar entre 0º y 90º"},
@@ -216,7 +219,7 @@ TEST(ValidaTramo, CalculaLoQueNadieTeclea) {
   EXPECT_EQ(b.c[edPrs1Tram].texto, "9,09");
   EXPECT_DOUBLE_EQ(t.Prs2Tram, 10 / 1.1);
   EXPECT_EQ(t.PrsM2Tram, 10.0);
-  EXPECT_NEAR(t.Fct, 4.815, 0.001);  // 0.45 (35^2)^(1/3)
+  EXPECT_NEAR(t.Fct, 2.2349, 1e-4);  // that of 350 kp/cm2, over 10
   EXPECT_DOUBLE_EQ(t.De, t.Di + 2 * t.Esp / 100);
   EXPECT_DOUBLE_EQ(t.B0, 1.4 * t.De + 0.68);  // automatic
   EXPECT_EQ(t.TipoApoyo, 12);
