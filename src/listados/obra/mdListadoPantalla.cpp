@@ -108,9 +108,9 @@ void ListadoPantalla::TablaHipotesis(const VistaCaso& v) {
   const auto& x = v.Armado().esfuerzos;
   Linea(42, Texto(txt::PantallaSecciones));
   Linea(18 + 4 + 17, Texto(txt::PantallaMN));
-  Linea(11, Texto(v.tramo.datos.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  Linea(4, FormatoTexto(Texto(txt::RotuloTubo), 26) + UnidadesDelAnillo());
   const std::string seccion = "  " + std::string(18, '-');
-  Linea(6, std::string(26, '-') + seccion + seccion + seccion);
+  Linea(4, std::string(26, '-') + seccion + seccion + seccion);
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = FormatoTexto(TextoDeHipotesis(h, textos_), 26);
     for (int s = 1; s <= kSecciones; ++s) {
@@ -154,7 +154,7 @@ void ListadoPantalla::Postesado(const VistaCaso& v) {
   }
   if (v.Postesado().fin != FinPostesado::Completo) return;
   SaltoSiHaceFalta(v, 6);
-  ListadoAlambre(v.Postesado());
+  ListadoAlambre(v);
 }
 
 void ListadoPantalla::CabezaPostesado(bool si) {
@@ -175,11 +175,13 @@ void ListadoPantalla::FilaHipotesis(const HipotesisPostesada& h) {
   Linea(11, linea);
 }
 
-void ListadoPantalla::ListadoAlambre(const ResultadoPostesado& r) {
+void ListadoPantalla::ListadoAlambre(const VistaCaso& v) {
+  const auto& r = v.Postesado();
   EnBlanco(1);
   Linea(14, Texto(txt::ResumenDiametro) + Blancos(5) + Numero(r.FIPRDEFI * 10.0, 5, 1) + "  mm");
   Linea(14, Texto(txt::ResumenEspiras) + Blancos(5) + Numero(r.NESPDEFI, 5, 0));
-  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) + Numero(r.PP, 7, 2, "Kp/cm2->MPa", true));
+  Linea(14, TextoPruebaFabrica(r, v.fila.PP, textos_, estilo_));
+  if (const auto pasada = TextoPasadaPP(r, textos_); !pasada.empty()) Linea(14, pasada);
 }
 
 }  // namespace zorbin

@@ -25,7 +25,7 @@ class ListadoPantalla : public ListadoPapel {
   void Postesado(const VistaCaso& v);
   void CabezaPostesado(bool si);
   void FilaHipotesis(const HipotesisPostesada& h);
-  void ListadoAlambre(const ResultadoPostesado& r);
+  void ListadoAlambre(const VistaCaso& v);
 };
 
 }  // namespace zorbin

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 
+#include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
 
@@ -18,6 +20,8 @@ constexpr int kFilaTramo = 9;
 constexpr int kCabezaTabla = 5;
 constexpr int kDatosPostesado = 6;
 constexpr int kCabezaPostesado = 4;
+constexpr std::size_t kHastaPP = 48;  // columns of the head up to the pressure obtained
+constexpr int kAnchoExigida = 10;     // of the pressure required [columns]
 
 // Value of the fill as the row shows it.
 std::string ValorRelleno(std::int16_t TipoRelleno) {
@@ -78,7 +82,7 @@ void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
                milimetros(t.Reci) + Blancos(2) + milimetros(t.Rece) + Blancos(4) +
                FormatoTexto(TextoCuna(t.TipoCuna), 14) + " " +
                FormatoTexto(TextoColocacionCabecera(t.TipoApoyo), 38) + Blancos(3) +
-               Numero(t.B0, 7, 3) + " " +
+               (t.TipoApoyo < 30 ? Numero(t.B0, 7, 3) : Blancos(7)) + " " +
                (t.TipoApoyo >= 20 ? Blancos(7) : ValorRelleno(t.TipoRelleno)) + " " +
                FormatoTexto(Texto(carga), 15));
   EnBlanco(2);
@@ -136,9 +140,17 @@ void ListadoTabular::DatosPostesado(const VistaCaso& v) {
 
 void ListadoTabular::CabeceraTabularPostesado(bool si) {
   papel_.Negrita(true);
-  for (const int n : txt::CabeceraPostesado) Linea(32, Texto(n));
-  Linea(32, Texto(si ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS));
-  Linea(32, Texto(txt::CabeceraPostesadoRaya));
+  const auto conExigida = [this](int cabeza, const std::string& exigida) {
+    const std::string& texto = Texto(cabeza);
+    const auto obtenida = Primeros(texto, kHastaPP);
+    Linea(32, std::string(obtenida) + exigida + texto.substr(obtenida.size()));
+  };
+  for (std::size_t i = 0; i < txt::CabeceraPostesado.size(); ++i) {
+    conExigida(txt::CabeceraPostesado[i], Texto(txt::PPExigidaTabular[i]));
+  }
+  si ? conExigida(txt::CabeceraPostesadoSI, Texto(txt::PPExigidaTabularSI))
+     : conExigida(txt::CabeceraPostesadoMKS, Texto(txt::PPExigidaTabularMKS));
+  conExigida(txt::CabeceraPostesadoRaya, std::string(kAnchoExigida, '*'));
   papel_.Negrita(false);
   LineasResto -= kCabezaPostesado;
 }
@@ -147,10 +159,16 @@ void ListadoTabular::CabeceraTabularPostesado(bool si) {
 void ListadoTabular::FilaTabular(const VistaCaso& v) {
   const auto& f = v.Postesado().fila;
   const std::string altura = CampoAltura(v.fila.Hr);
-  const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  const auto& r = v.Postesado();
+  const bool esPresion = r.PPHipotesis > 0 && f.PP < kPPAlambreCambia;
+  std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  std::string nota = TextoPasadaPP(r, textos_);
+  if (!esPresion) nota = "PP " + TextoPP(r, f.PP, textos_, estilo_);
+  if (!mensaje.empty() && !nota.empty()) mensaje += "; ";
   Linea(32, altura + Blancos(3) + Numero(v.fila.DP, 6, 2, "at->MPa") + Blancos(5) +
                 Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) + Blancos(8) +
-                Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
+                (esPresion ? Numero(f.PP, 6, 2, "at->MPa") : Blancos(6)) + Blancos(4) +
+                Numero(v.fila.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje + nota);
 }
 
 std::string ListadoTabular::CampoAltura(double Hr) {

@@ -133,7 +133,7 @@ void Resumen::Postesado(const VistaCaso& v) {
     avisosDe(h.h);
     if (h.Impresa()) ListadoHipotesis(v.tramo.datos.obra.EsSI(), h);
   }
-  if (v.Postesado().fin == FinPostesado::Completo) ListadoAlambre(v.Postesado());
+  if (v.Postesado().fin == FinPostesado::Completo) ListadoAlambre(v);
 }
 
 void Resumen::ListadoHipotesis(bool si, const HipotesisPostesada& h) {
@@ -152,14 +152,13 @@ void Resumen::ListadoHipotesis(bool si, const HipotesisPostesada& h) {
   Linea(linea);
 }
 
-void Resumen::ListadoAlambre(const ResultadoPostesado& r) {
+void Resumen::ListadoAlambre(const VistaCaso& v) {
+  const auto& r = v.Postesado();
   Linea(Blancos(14) + textos_.Texto(txt::ResumenDiametro) +
         estilo_.FormatoNumero(r.FIPRDEFI * 10.0, 5, 1) + "  " + textos_.Texto(txt::Milimetros));
   Linea(Blancos(14) + textos_.Texto(txt::ResumenEspiras) + estilo_.FormatoNumero(r.NESPDEFI, 5, 0));
-  pantalla_.EscribePantalla(1,
-                            Blancos(14) + textos_.Texto(txt::PresionNetaPrueba) + Blancos(5) +
-                                estilo_.FormatoNumero(r.PP, 7, 2, "Kp/cm2->MPa", true),
-                            1);
+  pantalla_.EscribePantalla(1, Blancos(14) + TextoPruebaFabrica(r, v.fila.PP, textos_, estilo_), 1);
+  if (const auto pasada = TextoPasadaPP(r, textos_); !pasada.empty()) Linea(Blancos(14) + pasada);
 }
 
 }  // namespace zorbin

@@ -23,7 +23,7 @@ Papel::Papel(DestinoHojas& destino, Orientacion orientacion)
 }
 
 void Papel::Linea(int margen, std::string_view texto) {
-  if (!CabeUnaLinea()) Entrega();
+  if (!Caben(1)) Entrega();
   std::string linea = Blancos(margen) + std::string(texto);
   const auto letras = static_cast<double>(
       Largo(std::string_view(linea).substr(0, linea.find_last_not_of(' ') + 1)));
@@ -35,11 +35,11 @@ void Papel::Linea(int margen, std::string_view texto) {
 }
 
 void Papel::LineasEnBlanco(int n) {
-  for (int i = 0; i < n && CabeUnaLinea(); ++i) Linea(0, " ");
+  for (int i = 0; i < n && Caben(1); ++i) Linea(0, " ");
 }
 
-bool Papel::CabeUnaLinea() const {
-  return y_ + AltoLinea(cuerpo_) <= hoja_.Alto() - kMargenInferior;
+bool Papel::Caben(int n) const {
+  return y_ + n * AltoLinea(cuerpo_) <= hoja_.Alto() - kMargenInferior;
 }
 
 void Papel::Regla(double x1, double x2, double bajo, int grosor) {

@@ -89,6 +89,9 @@ class Papel {
   /// A picture in a box at a place [mm].
   void Figura(const std::string& nombre, double x, double y, double ancho, double alto);
 
+  /// Whether n lines more stand on this sheet.
+  bool Caben(int n) const;
+
   double Y() const { return y_; }  // position of the next line [mm]
 
   void NuevaPagina();
@@ -102,7 +105,6 @@ class Papel {
   bool subrayado_ = false;
   double y_;
 
-  bool CabeUnaLinea() const;
   void Entrega();
 };
 
