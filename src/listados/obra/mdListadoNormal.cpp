@@ -7,6 +7,8 @@
 #include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
+#include "listados/obra/mdRotulos.h"
 #include "listados/papel/mdFiguras.h"
 
 namespace zorbin {
@@ -15,6 +17,11 @@ namespace {
 
 // Hypotheses of the ovalisation that are printed, a page each four.
 constexpr std::array<std::array<int, 4>, 2> kOvalizacionImpresa{{{1, 2, 8, 11}, {4, 5, 10, 9}}};
+
+// What a Caso brings to paper: of the first pass, the limit moment alone.
+bool SaleEnPapel(const Aviso& aviso) {
+  return aviso.fase == FaseAviso::Final || aviso.clase == ClaseAviso::MomentoTope;
+}
 
 // Tails of the fill and settlement texts, as the Anejo prints the values.
 struct Cola {
@@ -39,7 +46,7 @@ constexpr std::array<Cola, 3> kAsientos{{{1, txt::RocaNoAsentable, "1,0 - "},
 // Page heads
 
 void ListadoNormal::NumeraPagina() {
-  ++Pagina;
+  Pagina = papel_.NumeroHoja();
   EnBlanco(2);
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(6, Blancos(32 + 11) + Texto(txt::Pag) + FormatoEntero(Pagina, 5));
@@ -97,6 +104,9 @@ void ListadoNormal::Cabecera(const ResultadoTramo& r) {
   Colocacion(t);
   PaginaDeAltura(t, Hr);
   Relleno(t);
+  EnBlanco(1);
+  Titulo(txt::EntradasTitulo);
+  for (const auto& linea : TextoEntradas(r, textos_, estilo_, !t.EsArmado)) Linea(8, linea);
   Hipotesis(r);
   if (!t.EsArmado) DatosPostesado(r);
 }
@@ -368,11 +378,11 @@ void ListadoNormal::ArmaduraPorHipotesis(const VistaCaso& v) {
   EnBlanco(2);
   for (const int n : txt::ArmaduraCabeza) Linea(19, Texto(n));
   for (int h = 1; h <= kHipotesisArmado; ++h) {
-    // The only warning that the first pass brings to paper.
-    for (const auto& aviso : v.caso.avisos) {
-      if (aviso.fase == FaseAviso::Busqueda && aviso.hipotesis == h &&
-          aviso.clase == ClaseAviso::MomentoTope) {
-        UnAviso(aviso);
+    const std::span<const Aviso> avisos(v.caso.avisos);
+    for (std::size_t i = 0; i < avisos.size(); ++i) {
+      if (avisos[i].fase == FaseAviso::Busqueda && avisos[i].hipotesis == h &&
+          SaleEnPapel(avisos[i]) && !DichoAntes(avisos, i, SaleEnPapel)) {
+        UnAviso(avisos[i]);
       }
     }
     Linea(19, Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]) + Blancos(3) +
@@ -386,7 +396,9 @@ void ListadoNormal::CalculoQueRige(const VistaCaso& v) {
   const std::span<const Aviso> avisos(v.caso.avisos);
   for (std::size_t i = 0; i < avisos.size(); ++i) {
     if (bloque && i == r.sinFisuracion.avisos) SinFisuracionBloque(r.sinFisuracion);
-    if (avisos[i].fase == FaseAviso::Final) UnAviso(avisos[i]);
+    if (avisos[i].fase == FaseAviso::Final && !DichoAntes(avisos, i, SaleEnPapel)) {
+      UnAviso(avisos[i]);
+    }
   }
   if (bloque && r.sinFisuracion.avisos >= avisos.size()) SinFisuracionBloque(r.sinFisuracion);
 }
@@ -406,10 +418,12 @@ void ListadoNormal::SinFisuracionBloque(const SinFisuracion& s) {
 
 void ListadoNormal::UnAviso(const Aviso& aviso) {
   EnBlanco(1);
+  const std::string hipotesis = TextoHipotesisAviso(aviso, true, textos_);
   switch (aviso.clase) {
     case ClaseAviso::RetraccionLisas:
       EnNegrita(10, Texto(txt::MayorQueLaMaxima));
       EnNegrita(10, Texto(txt::PorRetraccionLisas));
+      Linea(10, hipotesis);
       EnBlanco(1);
       Linea(10, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
       EnBlanco(2);
@@ -418,10 +432,12 @@ void ListadoNormal::UnAviso(const Aviso& aviso) {
     case ClaseAviso::CapasExterior:
     case ClaseAviso::MomentoTope:
       EnNegrita(10, TextoAviso(aviso, textos_));
+      Linea(10, hipotesis);
       EnBlanco(1);
       break;
     default:
       EnNegrita(10, TextoAviso(aviso, textos_));
+      Linea(10, hipotesis);
       EnBlanco(2);
   }
 }

@@ -1,10 +1,9 @@
 #include "listados/obra/mdListadoPantalla.h"
 
-#include <cmath>
-
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
 #include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
@@ -24,15 +23,15 @@ void ListadoPantalla::SaltoSiHaceFalta(const VistaCaso& v, int lineas) {
   }
   papel_.NuevaPagina();
   EnBlanco(2);
-  // The label is the entry numbered by the pressure: a placeholder for most of them.
-  const int rotulo = textos_.IdiomaOffset() + static_cast<int>(std::nearbyint(v.fila.DP));
-  Linea(9, RotuloCaso(v.fila.NumCaso, v.Datos()) + Blancos(7) + textos_.LoadRes(rotulo) +
+  Linea(9, RotuloCaso(v.fila.NumCaso, v.Datos()) + Blancos(7) + Texto(txt::DP) +
                Numero(v.fila.DP, 6, 2, "at->MPa", true));
   LineasPagina = lineas;
 }
 
-void ListadoPantalla::CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP) {
-  if (LineasPagina + kLineasCaso > kLineasPagina) {
+// @param detras  lines that follow besides those of a Caso
+void ListadoPantalla::CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP,
+                                 int detras) {
+  if (LineasPagina + kLineasCaso + detras > kLineasPagina) {
     papel_.NuevaPagina();
     LineasPagina = kLineasCabeza;
   } else {
@@ -50,10 +49,18 @@ void ListadoPantalla::CasoSinAcabar(const ResultadoTramo& resultado, const Fallo
 }
 
 void ListadoPantalla::Caso(const VistaCaso& v) {
-  CabezaCaso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP);
+  std::vector<std::string> entradas;
+  if (v.primero) entradas = TextoEntradas(v.tramo, textos_, estilo_, true);
+  CabezaCaso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP, static_cast<int>(entradas.size()));
+  for (const auto& linea : entradas) Linea(9, linea);
+  LineasPagina += static_cast<int>(entradas.size());
   if (v.Datos().EsArmado) {
-    for (const auto& aviso : v.caso.avisos) {
-      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(v, aviso);
+    const auto sale = [](const zorbin::Aviso& a) {
+      return a.fase == FaseAviso::Final && a.pantalla;
+    };
+    const auto& avisos = v.caso.avisos;
+    for (std::size_t i = 0; i < avisos.size(); ++i) {
+      if (sale(avisos[i]) && !DichoAntes(avisos, i, sale)) Aviso(v, avisos[i]);
     }
     DatosCaso(v);
     TablaHipotesis(v);
@@ -71,7 +78,9 @@ void ListadoPantalla::Aviso(const VistaCaso& v, const zorbin::Aviso& aviso) {
   const bool retraccion = aviso.clase == ClaseAviso::RetraccionLisas;
   const bool capas =
       aviso.clase == ClaseAviso::CapasInterior || aviso.clase == ClaseAviso::CapasExterior;
-  SaltoSiHaceFalta(v, retraccion ? 4 : capas ? 3 : 2);
+  const std::string hipotesis = TextoHipotesisAviso(aviso, v.Datos().EsArmado, textos_);
+  const int conHipotesis = hipotesis.empty() ? 0 : 1;
+  SaltoSiHaceFalta(v, (retraccion ? 4 : capas ? 3 : 2) + conHipotesis);
   EnBlanco(1);
   if (retraccion) {
     EnNegrita(9, Texto(txt::RetraccionPantalla));
@@ -81,6 +90,7 @@ void ListadoPantalla::Aviso(const VistaCaso& v, const zorbin::Aviso& aviso) {
   } else {
     EnNegrita(9, "** " + TextoAviso(aviso, textos_) + " **");
   }
+  if (!hipotesis.empty()) Linea(9, hipotesis);
 }
 
 void ListadoPantalla::DatosCaso(const VistaCaso& v) {

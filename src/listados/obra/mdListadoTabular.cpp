@@ -6,6 +6,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
 #include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
@@ -22,6 +23,12 @@ constexpr int kDatosPostesado = 6;
 constexpr int kCabezaPostesado = 4;
 constexpr std::size_t kHastaPP = 48;  // columns of the head up to the pressure obtained
 constexpr int kAnchoExigida = 10;     // of the pressure required [columns]
+
+constexpr int kAnchoEntrada = 72;  // [columns]
+
+constexpr int LineasDeEntradas(std::size_t entradas) {
+  return static_cast<int>((entradas + 1) / 2) + 1;
+}
 
 // Value of the fill as the row shows it.
 std::string ValorRelleno(std::int16_t TipoRelleno) {
@@ -44,6 +51,7 @@ std::string ValorRelleno(std::int16_t TipoRelleno) {
 }  // namespace
 
 void ListadoTabular::CabeceraPagina(const Obra& obra) {
+  Pagina = papel_.NumeroHoja();
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(4, Blancos(12 + 64) + Texto(txt::PagTabular) + ":" + FormatoEntero(Pagina, 5));
   papel_.Cuerpo(kCuerpoNormal);
@@ -52,22 +60,35 @@ void ListadoTabular::CabeceraPagina(const Obra& obra) {
 }
 
 void ListadoTabular::PaginaNueva(const Obra& obra) {
-  ++Pagina;
   papel_.NuevaPagina();
   CabeceraPagina(obra);
 }
 
-void ListadoTabular::Cabecera(const DatosTramo& d) {
+void ListadoTabular::Cabecera(const ResultadoTramo& r) {
+  const auto& d = r.datos;
   HrAnterior = -1;
-  const int bloque = d.tramo.EsArmado ? kBloqueArmado : kBloquePostesado;
+  const auto entradas = TextoEntradas(r, textos_, estilo_, true);
+  const int bloque =
+      (d.tramo.EsArmado ? kBloqueArmado : kBloquePostesado) + LineasDeEntradas(entradas.size());
   if (Pagina == 0) {
-    Pagina = 1;
     CabeceraPagina(d.obra);
   } else if (LineasResto < bloque + 1) {
     PaginaNueva(d.obra);
   }
   FilaTramo(d.tramo);
+  EntradasDelTramo(entradas);
   if (d.tramo.EsArmado) ResumenTabular(d.obra.EsSI());
+}
+
+// In two columns, the ranges in the first one, and a blank line.
+void ListadoTabular::EntradasDelTramo(const std::vector<std::string>& entradas) {
+  const std::size_t filas = (entradas.size() + 1) / 2;
+  for (std::size_t i = 0; i < filas; ++i) {
+    const bool pareja = i + filas < entradas.size();
+    Linea(5, pareja ? FormatoTexto(entradas[i], kAnchoEntrada) + entradas[i + filas] : entradas[i]);
+  }
+  EnBlanco(1);
+  LineasResto -= LineasDeEntradas(entradas.size());
 }
 
 void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
@@ -97,14 +118,14 @@ void ListadoTabular::ResumenTabular(bool si) {
 }
 
 void ListadoTabular::CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida&) {
-  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado.datos);
+  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado);
 }
 
 void ListadoTabular::Caso(const VistaCaso& v) {
   const bool armado = v.Datos().EsArmado;
   const Obra& obra = v.tramo.datos.obra;
   if (v.primero) {
-    Cabecera(v.tramo.datos);
+    Cabecera(v.tramo);
     if (!armado) {
       DatosPostesado(v);
       CabeceraTabularPostesado(obra.EsSI());

@@ -38,8 +38,10 @@ void Resumen::Caso(const VistaCaso& v) {
 }
 
 void Resumen::Avisos(const VistaCaso& v) {
-  for (const auto& aviso : v.caso.avisos) {
-    if (!aviso.pantalla) continue;
+  const auto sale = [](const Aviso& a) { return a.pantalla; };
+  for (std::size_t i = 0; i < v.caso.avisos.size(); ++i) {
+    const Aviso& aviso = v.caso.avisos[i];
+    if (!sale(aviso) || DichoAntes(v.caso.avisos, i, sale)) continue;
     switch (aviso.clase) {
       case ClaseAviso::RetraccionLisas:
         pantalla_.EscribePantalla(1, "  " + textos_.Texto(txt::RetraccionPantalla), 1);
@@ -52,6 +54,7 @@ void Resumen::Avisos(const VistaCaso& v) {
       default:
         pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
     }
+    Linea("  " + TextoHipotesisAviso(aviso, true, textos_));
   }
 }
 
@@ -125,6 +128,7 @@ void Resumen::Postesado(const VistaCaso& v) {
     for (const auto& aviso : v.caso.avisos) {
       if (aviso.fase != FaseAviso::Final || aviso.hipotesis != h) continue;
       pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
+      if (h > 0) Linea("  " + TextoHipotesisAviso(aviso, false, textos_));
     }
   };
   avisosDe(0);

@@ -10,7 +10,6 @@ namespace zorbin {
 namespace {
 
 constexpr double kMargenSuperior = 4.0;  // [mm]
-constexpr double kMargenInferior = 3.0;  // [mm]
 constexpr double kMargenDerecho = 5.0;   // [mm]
 constexpr double kAireRegla = 0.6;       // between a rule and the line below it [mm]
 constexpr double kMmGrosor = 0.4 / 5.0;  // of a unit of line width [mm]
@@ -39,7 +38,7 @@ void Papel::LineasEnBlanco(int n) {
 }
 
 bool Papel::Caben(int n) const {
-  return y_ + n * AltoLinea(cuerpo_) <= hoja_.Alto() - kMargenInferior;
+  return y_ + n * AltoLinea(cuerpo_) <= hoja_.Alto() - kAltoPie;
 }
 
 void Papel::Regla(double x1, double x2, double bajo, int grosor) {
@@ -62,6 +61,7 @@ void Papel::FinDocumento() {
 
 void Papel::Entrega() {
   destino_.RecibeHoja(hoja_);
+  ++hojas_;
   hoja_.textos.clear();
   hoja_.reglas.clear();
   hoja_.figuras.clear();

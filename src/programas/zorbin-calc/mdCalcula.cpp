@@ -1,15 +1,16 @@
 #include "programas/zorbin-calc/mdCalcula.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/datos/mdJson.h"
+#include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/obra/mdResumen.h"
-#include "listados/obra/mdTipoListado.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
@@ -113,14 +114,33 @@ class Calculador {
   }
 
   int EnPaginas() {
+    struct Leido {
+      ResultadoTramo resultado;
+      const TramoPedido& pedido;
+    };
+    std::vector<Leido> leidos;
+    Corre([&leidos](ResultadoTramo& r, const TramoPedido& p) {
+      leidos.push_back({std::move(r), p});
+    });
+    const DocumentoObra documento(
+        TipoDeLinea(opciones_.listado),
+        {encargo_.obra.NombreObra, encargo_.obra.Cliente, opciones_.obra.filename().string(),
+         "ZORBIN " ZORBIN_VERSION, textos_, estilo_, FechaPedida()},
+        [&leidos](Listado& listado) {
+          for (const auto& [r, p] : leidos) listado.Tramo(r, p.posicion, p.numero, {});
+        });
+    if (documento.hojas() == 0) {
+      Queja(textos_.Texto(txt::DocumentoVacio));
+      return kFicheroRechazado;
+    }
     if (!opciones_.pdf.empty()) {
       EscribePdf(opciones_.pdf, encargo_.obra.NombreObra, textos_,
-                 [this](DestinoHojas& hojas) { Imprime(hojas); });
+                 [&documento](DestinoHojas& hojas) { documento.Escribe(hojas); });
       return Codigo();
     }
     Salida salida(opciones_.texto.empty() ? opciones_.salida : opciones_.texto);
     HojasTexto hojas(salida.flujo());
-    Imprime(hojas);
+    documento.Escribe(hojas);
     salida.Cierra();
     return Codigo();
   }
@@ -136,14 +156,20 @@ class Calculador {
   int Codigo() const { return hayFallo_ ? kFalloDeCorrida : kHecho; }
 
   void Lee(Listado& lector) {
+    Corre([&lector](const ResultadoTramo& r, const TramoPedido& p) {
+      lector.Tramo(r, p.posicion, p.numero, {});
+    });
+  }
+
+  void Corre(const std::function<void(ResultadoTramo&, const TramoPedido&)>& entrega) {
     const auto registros = opciones_.registros.empty() ? CarpetaRegistros() : opciones_.registros;
     Vigia vigia(opciones_.obra.string(), textos_, estilo_);
     for (const auto& p : encargo_.tramos) {
-      const auto resultado = CorreTramo(
+      auto resultado = CorreTramo(
           DatosDeCalculo(encargo_.obra, p.tramo, proyecto_.ajustes, proyecto_.SinAjustes),
           registros, vigia.Progreso(p.tramo.NumeroTramo));
       vigia.Acaba(resultado, p.numero);
-      lector.Tramo(resultado, p.posicion, p.numero, {});
+      entrega(resultado, p);
     }
     hayFallo_ = vigia.hayFallo();
   }
@@ -161,13 +187,6 @@ class Calculador {
     Pantalla pantalla(flujo);
     Resumen resumen(pantalla, textos_, estilo_);
     Lee(resumen);
-  }
-
-  void Imprime(DestinoHojas& hojas) {
-    const TipoListado tipo = TipoDeLinea(opciones_.listado);
-    Papel papel(hojas, OrientacionDe(tipo));
-    Lee(*CreaListado(tipo, {papel, textos_, estilo_, FechaPedida()}));
-    papel.FinDocumento();
   }
 
   Fecha FechaPedida() const {
@@ -211,6 +230,10 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
 
   Encargo encargo{proyecto.obra, TramosPedidos(proyecto, *posiciones)};
   const auto pedidos = encargo.tramos.size();
+  if (pedidos == 0) {
+    Queja(textos.Compone(txt::ObraSinTramos, {opciones.obra.string()}));
+    if (!opciones.listado.empty()) return kFicheroRechazado;
+  }
   if (!opciones.sinValidar) Comprueba(proyecto, opciones, textos, *posiciones, encargo);
   const bool faltan = encargo.tramos.size() < pedidos;
   if (faltan && encargo.tramos.empty()) return kFicheroRechazado;
