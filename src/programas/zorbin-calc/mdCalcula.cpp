@@ -95,6 +95,9 @@ ResultadoTramo CorreTramo(DatosTramo datos, const std::filesystem::path& registr
   }
 }
 
+// The listing has nothing to show: its file is given up.
+struct SinHojas {};
+
 // Calculates what was asked for and hands each Tramo to one reader.
 class Calculador {
  public:
@@ -113,36 +116,20 @@ class Calculador {
     return Codigo();
   }
 
-  int EnPaginas() {
-    struct Leido {
-      ResultadoTramo resultado;
-      const TramoPedido& pedido;
-    };
-    std::vector<Leido> leidos;
-    Corre([&leidos](ResultadoTramo& r, const TramoPedido& p) {
-      leidos.push_back({std::move(r), p});
-    });
-    const DocumentoObra documento(
-        TipoDeLinea(opciones_.listado),
-        {encargo_.obra.NombreObra, encargo_.obra.Cliente, opciones_.obra.filename().string(),
-         "ZORBIN " ZORBIN_VERSION, textos_, estilo_, FechaPedida()},
-        [&leidos](Listado& listado) {
-          for (const auto& [r, p] : leidos) listado.Tramo(r, p.posicion, p.numero, {});
-        });
-    if (documento.hojas() == 0) {
-      Queja(textos_.Texto(txt::DocumentoVacio));
-      return kFicheroRechazado;
-    }
+  int EnPaginas() try {
     if (!opciones_.pdf.empty()) {
       EscribePdf(opciones_.pdf, encargo_.obra.NombreObra, textos_,
-                 [&documento](DestinoHojas& hojas) { documento.Escribe(hojas); });
+                 [this](DestinoHojas& hojas) { Imprime(hojas); });
       return Codigo();
     }
     Salida salida(opciones_.texto.empty() ? opciones_.salida : opciones_.texto);
     HojasTexto hojas(salida.flujo());
-    documento.Escribe(hojas);
+    Imprime(hojas);
     salida.Cierra();
     return Codigo();
+  } catch (const SinHojas&) {
+    Queja(textos_.Texto(txt::DocumentoVacio));
+    return kFicheroRechazado;
   }
 
  private:
@@ -187,6 +174,27 @@ class Calculador {
     Pantalla pantalla(flujo);
     Resumen resumen(pantalla, textos_, estilo_);
     Lee(resumen);
+  }
+
+  // The output is open by now: one that cannot be written is told before anything is calculated.
+  void Imprime(DestinoHojas& hojas) {
+    struct Leido {
+      ResultadoTramo resultado;
+      const TramoPedido& pedido;
+    };
+    std::vector<Leido> leidos;
+    Corre([&leidos](ResultadoTramo& r, const TramoPedido& p) {
+      leidos.push_back({std::move(r), p});
+    });
+    const DocumentoObra documento(
+        TipoDeLinea(opciones_.listado),
+        {encargo_.obra.NombreObra, encargo_.obra.Cliente, opciones_.obra.filename().string(),
+         "ZORBIN " ZORBIN_VERSION, textos_, estilo_, FechaPedida()},
+        [&leidos](Listado& listado) {
+          for (const auto& [r, p] : leidos) listado.Tramo(r, p.posicion, p.numero, {});
+        });
+    if (documento.hojas() == 0) throw SinHojas();
+    documento.Escribe(hojas);
   }
 
   Fecha FechaPedida() const {

@@ -259,6 +259,8 @@ TEST(Listados, ElPieDeCadaHoja) {
       EXPECT_TRUE(pie.texto.ends_with(pagina)) << pie.texto;
       EXPECT_NE(pie.texto.find("Conducción de la Acequia Real · xxx"), std::string::npos);
       EXPECT_NE(pie.texto.find("… · acequia.zrb"), std::string::npos);
+      EXPECT_LE(static_cast<double>(Largo(pie.texto)) * AnchoColumna(pie.cuerpo),
+                hojas[i].Ancho() - 5.0);
       const auto& ultima = textos[textos.size() - 2];
       EXPECT_LE(ultima.y + AltoLinea(ultima.cuerpo), pie.y + 1e-9) << clase << i;
     }
