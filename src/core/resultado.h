@@ -42,10 +42,11 @@ struct DatosTramo {
 
 /// Loads of one fill height.
 struct CargasAltura {
-  double Hr = 0;         // fill height [m]
-  Cargas cargas;         // [t/m2]
-  double Landa = 0;      // active earth pressure coefficient [-]
-  bool acabada = false;  // its last pressure is done
+  double Hr = 0;                                  // fill height [m]
+  Cargas cargas;                                  // [t/m2]
+  double Landa = 0;                               // active earth pressure coefficient [-]
+  bool acabada = false;                           // its last pressure is done
+  std::optional<CargasContrastadas> contraste{};  // information; none without such a load
 };
 
 /// What every reader wants of a Caso, and no more: a long range is kept whole in memory.

@@ -25,6 +25,19 @@ struct Cargas {
   bool TerraplenRige = false;  // the embankment formula governs
 };
 
+/// One load by the method and by the full equation of equal settlement [t/m2 of De].
+struct CargaContrastada {
+  double metodo = 0;
+  double completa = 0;
+};
+
+/// Earth loads by both ways, without concentrated load.
+struct CargasContrastadas {
+  CargaContrastada terraplen;                // positive projection
+  std::optional<CargaContrastada> negativa;  // negative projection, of a trench under embankment
+  CargaContrastada adoptada;  // the lesser of both, each way of calculating by itself
+};
+
 /// One row of the vertical load table, all in t/m2; an empty column has no value.
 struct FilaCargas {
   double H;                         // fill height [m]

@@ -1,23 +1,20 @@
 #include "comun/listado.h"
 
-#include <memory>
 #include <sstream>
 #include <utility>
 
 #include "base/mdCarpetas.h"
-#include "listados/obra/mdListadoNormal.h"
-#include "listados/obra/mdListadoPantalla.h"
-#include "listados/obra/mdListadoTabular.h"
+#include "listados/obra/mdDocumento.h"
 #include "listados/papel/mdHojasTexto.h"
 
 namespace zorbin::pruebas {
 
 namespace {
 
-std::unique_ptr<Listado> Crea(const std::string& clase, const MediosPapel& medios) {
-  if (clase == "tabular") return std::make_unique<ListadoTabular>(medios);
-  if (clase == "pantalla") return std::make_unique<ListadoPantalla>(medios);
-  return std::make_unique<ListadoNormal>(medios, clase == "lame");
+TipoListado TipoDe(const std::string& clase) {
+  if (clase == "tabular") return TipoListado::Tabular;
+  if (clase == "pantalla") return TipoListado::Pantalla;
+  return clase == "lame" ? TipoListado::Lame : TipoListado::Normal;
 }
 
 struct Guarda : DestinoHojas {
@@ -29,14 +26,23 @@ void Lista(DestinoHojas& hojas, const std::vector<EstadoCalculo>& tramos, const 
            std::int16_t idioma, char separador, const std::vector<EntradaAjuste>& ajustes = {}) {
   Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
   textos.PonIdioma(idioma);
-  Papel papel(hojas, clase == "tabular" ? Orientacion::Apaisada : Orientacion::Vertical);
-  const EstiloNumeros estilo{tramos.at(0).obra.EsSI(), separador};
-  const auto listado = Crea(clase, {papel, textos, estilo, {"21/11/2026", "09:30:00"}});
-  for (const auto& e : tramos) {
-    const auto numero = e.tramo.NumeroTramo;
-    listado->Tramo(ResultadoDe(e, ajustes), numero, std::to_string(numero), {});
-  }
-  papel.FinDocumento();
+  const auto& obra = tramos.at(0).obra;
+  const DocumentoObra documento(TipoDe(clase),
+                                {obra.NombreObra,
+                                 obra.Cliente,
+                                 "acequia.zrb",
+                                 "ZORBIN 1.2.3",
+                                 textos,
+                                 {obra.EsSI(), separador},
+                                 {"21/11/2026", "09:30:00"}},
+                                [&](Listado& listado) {
+                                  for (const auto& e : tramos) {
+                                    const auto numero = e.tramo.NumeroTramo;
+                                    listado.Tramo(ResultadoDe(e, ajustes), numero,
+                                                  std::to_string(numero), {});
+                                  }
+                                });
+  documento.Escribe(hojas);
 }
 
 }  // namespace

@@ -71,6 +71,14 @@ TEST_F(Linea, ElResumenDeLaObraDeMuestra) {
   EXPECT_EQ(Lee(fichero), r.salida);
 }
 
+TEST_F(Linea, UnaObraSinTramosSeDiceYNoDejaHoja) {
+  const auto pdf = carpeta / "vacia.pdf";
+  const auto r = Llama("calcula " + Copia(20, "0") + " --listado normal --pdf " + pdf.string());
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_NE(r.quejas.find("no tiene ningún Tramo"), std::string::npos) << r.quejas;
+  EXPECT_FALSE(fs::exists(pdf));
+}
+
 TEST_F(Linea, UnTramoUOtroYEnQueOrden) {
   const auto r = Llama("calcula " + acequia + " --formato json --tramo 5 --tramo 2");
   ASSERT_EQ(r.codigo, 0) << r.quejas;

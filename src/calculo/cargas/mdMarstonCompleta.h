@@ -22,6 +22,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "core/resultados.h"
+
 namespace zorbin {
 
 /// Load of a prism of soil that friction loads or relieves.
@@ -58,18 +60,6 @@ struct DatosTerraplen {
   double Fi = 0;               // internal friction angle of the fill [degrees]
   std::int16_t IAs = 0;        // settlement ratio 1..3, of 31 alone
   bool cargaDada = false;      // the vertical load is given and not computed
-};
-
-/// One load by the method and by the full equation [t/m2 of De].
-struct CargaContrastada {
-  double metodo = 0;
-  double completa = 0;
-};
-
-struct CargasContrastadas {
-  CargaContrastada terraplen;                // positive projection
-  std::optional<CargaContrastada> negativa;  // negative projection, of 21 and 22
-  CargaContrastada adoptada;  // the lesser of both, each way of calculating by itself
 };
 
 /// Earth loads of a Tramo by both ways, without concentrated load. None for a trench, whose load

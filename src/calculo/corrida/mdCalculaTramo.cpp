@@ -5,6 +5,7 @@
 
 #include "calculo/armado/mdArmado.h"
 #include "calculo/cargas/mdMarston.h"
+#include "calculo/cargas/mdMarstonCompleta.h"
 #include "calculo/cargas/mdOvaliz.h"
 #include "calculo/cargas/mdTablaCargas.h"
 #include "calculo/corrida/mdVeredicto.h"
@@ -141,8 +142,19 @@ class CorridaTramo {
     fila_.NumCaso = 1;
     fila_.DP = r_.PrimeraDP;
     const Cargas q = t_.IndCar == 1 ? CargasMarston(t_, h, t_.ICar, dadas_) : dadas_;
-    x_.alturas.push_back({h, q, EmpujeActivo(t_.Fi), false});
+    x_.alturas.push_back({h, q, EmpujeActivo(t_.Fi), false, Contraste(h)});
     fila_.altura = static_cast<std::int32_t>(x_.alturas.size()) - 1;
+  }
+
+  // Beside the load of the method; where the full equation has no answer the run goes on without.
+  std::optional<CargasContrastadas> Contraste(double h) const {
+    const bool cargaDada = t_.IndCar != 1;
+    try {
+      return CargasCompletas({t_.TipoApoyo, t_.De, t_.B0, t_.Hr1, t_.Gr, t_.Fi, t_.IAs, cargaDada},
+                             h);
+    } catch (const ErrorEjecucion&) {
+      return std::nullopt;
+    }
   }
 
   // @return whether the run goes on

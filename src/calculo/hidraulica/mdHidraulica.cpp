@@ -205,6 +205,22 @@ Friccion CalculaF_P(double ks, double D, double VLlena) {
   return {VLlena, Re, FactorFriccion(Re, ks, D)};
 }
 
+namespace {
+
+// Beside the slope of an approximation, which stands where this one does not.
+std::optional<double> PendienteTurbulenta(double D, double V, double ks) {
+  try {
+    if (!(Reynolds(D, V) > kReCritico)) return std::nullopt;
+    return PendienteColebrook(D, V, ks);
+  } catch (const ErrorHidraulico&) {
+    return std::nullopt;
+  } catch (const ErrorEjecucion&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
 ResultadoHidraulico PrColeBrook_Pendiente(double J, double Rugosidad) {
   const double ks = Rugosidad / 1000.0;
   return Serie(MetodoHidraulico::PrandtlColebrook, DatoHidraulico::Pendiente, J, Rugosidad,
@@ -223,6 +239,7 @@ ResultadoHidraulico PrColeBrook_Caudal(double Q, double Rugosidad) {
                  f.VLlena = Div(Q, d.AreaLlena);
                  const double Landa = Calcula_CLANDA(d, f.VLlena, ks);
                  f.JLlena = Div(Potencia(f.VLlena, 2.0) * Landa, d.DiamM) / 2.0 / kG;
+                 f.JExacta = PendienteTurbulenta(d.DiamM, f.VLlena, ks);
                });
 }
 
@@ -247,6 +264,7 @@ ResultadoHidraulico DarcyWeiss_Caudal(double Q, double Rugosidad) {
                  const bool hay = r.F != -1.0;
                  f.JLlena = hay ? Div(r.F * f.VLlena * f.VLlena / 2.0 / kG, d.DiamM) : -1.0;
                  f.ReLlena = hay ? r.Re : -1.0;
+                 f.JExacta = PendienteTurbulenta(d.DiamM, f.VLlena, ks);
                });
 }
 

@@ -34,6 +34,7 @@ struct FilaHidraulica {
   std::optional<double> QParcial;  // [m3/s]
   std::optional<double> JLlena;    // [m/m]; -1 when no friction factor was found
   std::optional<double> JParcial;  // [m/m]
+  std::optional<double> JExacta;   // by PendienteColebrook, where the flow is turbulent [m/m]
   std::optional<double> ReLlena;   // [-]; -1 as JLlena
   std::optional<double> Cwh;       // Hazen coefficient of this diameter [-]
   bool critico = false;            // ReLlena above 2400 and at most 4000

@@ -31,6 +31,7 @@ constexpr int kAnchoCaudal = 6;
 constexpr int kAnchoPendiente = 9;
 constexpr int kAntesReynolds = 5;
 constexpr int kAnchoReynolds = 12;
+constexpr int kAnchoExacta = 14;
 constexpr int kEntreTitulos = 18;    // between the titles of the two sections
 constexpr int kEntreSecciones = 10;  // between the headings of the two sections
 
@@ -44,6 +45,7 @@ class Area {
     Titulos();
     Cabeza();
     for (const auto& fila : r_.filas) Linea(s_.reynolds ? ConReynolds(fila) : SinReynolds(fila));
+    if (s_.exacta()) SumaTextoCh(area_, 1, T(txt::NotaExacta), 1);
     return std::move(area_);
   }
 
@@ -89,6 +91,12 @@ class Area {
       cabeza += hueco + T(columna);
       raya += hueco + Subrayado(T(columna));
     }
+    if (s_.exacta()) {
+      const std::string hueco =
+          Blancos(kEntreColumnas + (s_.unidadEnFila ? static_cast<int>(Largo(T(txt::MPorKm))) : 0));
+      cabeza += hueco + T(txt::ColumnaExacta);
+      raya += hueco + Subrayado(T(txt::ColumnaExacta));
+    }
     if (s_.dosSecciones) {
       cabeza += Blancos(kEntreSecciones) + cabeza;
       raya += Blancos(kEntreSecciones) + raya;
@@ -110,7 +118,7 @@ class Area {
 
   std::string SinReynolds(const FilaHidraulica& fila) const {
     const std::string llena = Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena);
-    if (!s_.dosSecciones) return llena;
+    if (!s_.dosSecciones) return llena + PendienteExacta(estilo_, fila, kEntreColumnas);
     // The unit of the first section takes room of the gap, so that the second one stands under
     // its heading.
     const auto unidad = s_.unidadEnFila ? Largo(T(txt::MPorKm)) : 0;
@@ -121,7 +129,8 @@ class Area {
   std::string ConReynolds(const FilaHidraulica& fila) const {
     const std::string Re = Numero(fila.ReLlena.value_or(0.0), kAnchoReynolds, 0);
     if (!fila.critico) {
-      return Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena) + Blancos(kAntesReynolds) + Re;
+      return Seccion(fila, fila.VLlena, fila.QLlena, fila.JLlena) + Blancos(kAntesReynolds) + Re +
+             PendienteExacta(estilo_, fila, kEntreColumnas);
     }
     constexpr int hastaTercera = kAntesVelocidad + kAnchoVelocidad + kEntreColumnas;
     const int hastaReynolds =
@@ -180,6 +189,11 @@ std::string LineaCoeficiente(const Catalogo& catalogo, const EstiloNumeros& esti
 
 std::string Subrayado(std::string_view texto) {
   return std::string(Largo(texto), '=');
+}
+
+std::string PendienteExacta(const EstiloNumeros& estilo, const FilaHidraulica& fila, int hueco) {
+  if (!fila.JExacta) return {};
+  return Blancos(hueco) + estilo.FormatoNumero(*fila.JExacta * kMetrosPorKm, kAnchoExacta, 3);
 }
 
 std::string TerceraColumna(const SalidaHidraulica& s, const EstiloNumeros& estilo,

@@ -19,6 +19,9 @@ struct SalidaHidraulica {
   bool reynolds;      // with the column of the Reynolds number
   bool hazen;         // with the Hazen coefficient in place of viscosity and roughness
   bool unidadEnFila;  // the screen writes " m/km." after a slope
+
+  /// With the exact slope beside the one of the approximation.
+  constexpr bool exacta() const { return !porPendiente && !hazen; }
 };
 
 extern const SalidaHidraulica Sub3000, Sub3000_P, Sub3000_Hazen, Sub3000_Hazen_P, Sub3500,
@@ -42,6 +45,9 @@ std::string LineaValor(const Catalogo& catalogo, int antes, const std::string& v
 std::string LineaCoeficiente(const Catalogo& catalogo, const EstiloNumeros& estilo, double Cwh,
                              int ancho, int decimales);
 std::string Subrayado(std::string_view texto);
+
+/// The exact slope in the columns of its heading [m/km]; none is left out.
+std::string PendienteExacta(const EstiloNumeros& estilo, const FilaHidraulica& fila, int hueco);
 
 /// Third number of a row, in the columns that screen and paper share: the flow [m3/s], or the slope
 /// shown in m/km.

@@ -17,6 +17,7 @@ struct Columnas {
 };
 
 constexpr Columnas kSinReynolds{30, {12, 11, 0}};
+constexpr Columnas kConExacta{20, {12, 11, 0}};  // without Reynolds number
 constexpr Columnas kReynoldsCaudal{15, {7, 5, 8}};
 constexpr Columnas kReynoldsPendiente{15, {7, 6, 6}};
 
@@ -25,6 +26,8 @@ constexpr int kBajoDiametro = 3;
 constexpr int kBajoVelocidad = 4;
 constexpr int kBajoReynolds = 1;
 
+constexpr int kAntesExacta = 3;
+
 constexpr int kLineasCabeza = 4;  // blank lines at the head of the page
 constexpr int kMargen = 20;       // of the texts [columns]
 constexpr int kAntesCritico = 7;
@@ -32,7 +35,7 @@ constexpr int kAnchoCritico = 15;
 constexpr int kTrasCritico = 28;
 
 const Columnas& ColumnasDe(const SalidaHidraulica& s) {
-  if (!s.reynolds) return kSinReynolds;
+  if (!s.reynolds) return s.exacta() ? kConExacta : kSinReynolds;
   return s.porPendiente ? kReynoldsCaudal : kReynoldsPendiente;
 }
 
@@ -84,7 +87,7 @@ class Documento {
     papel_.Linea(kMargen, T(parcial ? txt::SeccionParcial : txt::SeccionLlena));
     if (parcial) papel_.Linea(kMargen, T(txt::LaminaLibre));
     papel_.LineasEnBlanco(2);
-    papel_.Linea(c_.margen, Dato(parcial));
+    papel_.Linea(c_.margen, Dato());
     papel_.LineasEnBlanco(2);
     Cabeza();
     papel_.LineasEnBlanco(1);
@@ -92,6 +95,7 @@ class Documento {
       papel_.Linea(c_.margen, Fila(fila, parcial));
       papel_.LineasEnBlanco(1);
     }
+    if (s_.exacta()) papel_.Linea(c_.margen, T(txt::NotaExacta));
   }
 
   void Parametros(bool parcial) {
@@ -101,21 +105,14 @@ class Documento {
                                              corto ? 0 : 2));
       return;
     }
-    papel_.Linea(kMargen, parcial ? ViscosidadParcial() : LineaViscosidad(catalogo_, estilo_));
+    papel_.Linea(kMargen, LineaViscosidad(catalogo_, estilo_));
     papel_.Linea(kMargen, LineaValor(catalogo_, s_.reynolds ? txt::RugosidadKa : txt::RugosidadKs,
                                      Numero(r_.rugosidad, 8, 5), txt::RugosidadMm));
   }
 
-  // The second block has never printed the viscosity but these words and a quotient that is
-  // always 0; kept so on purpose.
-  std::string ViscosidadParcial() const {
-    return T(txt::ViscosidadCinematica) + T(txt::ViscosidadSinValor) + Numero(0.0, 1, 0);
-  }
-
-  std::string Dato(bool parcial) const {
+  std::string Dato() const {
     if (s_.porPendiente) {
-      return T(txt::ColumnaPendiente) + " " + Numero(r_.dato, 8, 6) +
-             (parcial ? std::string() : T(txt::MPorM));
+      return T(txt::ColumnaPendiente) + " " + Numero(r_.dato, 8, 6) + T(txt::MPorM);
     }
     return T(txt::ColumnaCaudal) + " " + Numero(r_.dato, 7, s_.reynolds ? 6 : 3) + T(txt::M3PorSg);
   }
@@ -131,6 +128,10 @@ class Documento {
     suma(c_.entre[0], txt::ColumnaVelocidad);
     suma(c_.entre[1], tercera);
     if (s_.reynolds) suma(c_.entre[2], txt::ColumnaReynolds);
+    if (s_.exacta()) {
+      const int unidad = s_.reynolds ? 0 : static_cast<int>(Largo(T(txt::MPorKm)));
+      suma(kAntesExacta + unidad, txt::ColumnaExacta);
+    }
     papel_.Linea(c_.margen, cabeza);
     papel_.Linea(c_.margen, raya);
   }
@@ -152,8 +153,8 @@ class Documento {
       linea += T(txt::MPorKm);
       hueco = kBajoReynolds;  // the unit takes the room between the headings
     }
-    if (!s_.reynolds) return linea;
-    return linea + Blancos(hueco) + Numero(fila.ReLlena.value_or(0.0), 12, 0);
+    if (s_.reynolds) linea += Blancos(hueco) + Numero(fila.ReLlena.value_or(0.0), 12, 0);
+    return linea + PendienteExacta(estilo_, fila, kAntesExacta);
   }
 
   const ResultadoHidraulico& r_;

@@ -1,5 +1,7 @@
 #include "listados/obra/mdAvisos.h"
 
+#include <algorithm>
+
 #include "base/mdTextos.h"
 #include "base/textos.h"
 
@@ -44,6 +46,21 @@ std::string TextoAviso(ClaseAviso clase, const Catalogo& textos) {
 
 std::string TextoAviso(const Aviso& aviso, const Catalogo& textos) {
   return TextoAviso(aviso.clase, textos);
+}
+
+bool DichoAntes(std::span<const Aviso> avisos, std::size_t i, bool (*sale)(const Aviso&)) {
+  const Aviso& este = avisos[i];
+  const auto antes = avisos.first(i);
+  return std::any_of(antes.begin(), antes.end(), [&](const Aviso& otro) {
+    return sale(otro) && otro.clase == este.clase && otro.hipotesis == este.hipotesis;
+  });
+}
+
+std::string TextoHipotesisAviso(const Aviso& aviso, bool armado, const Catalogo& textos) {
+  if (aviso.hipotesis < 1) return {};
+  const auto i = static_cast<std::size_t>(aviso.hipotesis - 1);
+  const int nombre = armado ? txt::HipotesisDiseno[i] : txt::HipotesisPostesado[i];
+  return textos.Texto(txt::HipotesisRotulo) + std::string(Recorta(textos.Texto(nombre)));
 }
 
 std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {

@@ -8,6 +8,8 @@
 #include "base/textos.h"
 #include "core/mdUnidades.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
+#include "listados/obra/mdRotulos.h"
 #include "listados/papel/mdFiguras.h"
 
 namespace zorbin {
@@ -16,6 +18,11 @@ namespace {
 
 // Hypotheses of the ovalisation that are printed, a page each four.
 constexpr std::array<std::array<int, 4>, 2> kOvalizacionImpresa{{{1, 2, 8, 11}, {4, 5, 10, 9}}};
+
+// What a Caso brings to paper: of the first pass, the limit moment alone.
+bool SaleEnPapel(const Aviso& aviso) {
+  return aviso.fase == FaseAviso::Final || aviso.clase == ClaseAviso::MomentoTope;
+}
 
 // Tails of the fill and settlement texts, as the Anejo prints the values.
 struct Cola {
@@ -49,7 +56,7 @@ bool SinSolucion(const VistaCaso& v, int h) {
 // Page heads
 
 void ListadoNormal::NumeraPagina() {
-  ++Pagina;
+  Pagina = papel_.NumeroHoja();
   EnBlanco(2);
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(6, Blancos(32 + 11) + Texto(txt::Pag) + FormatoEntero(Pagina, 5));
@@ -107,6 +114,9 @@ void ListadoNormal::Cabecera(const ResultadoTramo& r) {
   Colocacion(t);
   PaginaDeAltura(t, Hr);
   Relleno(t);
+  EnBlanco(1);
+  Titulo(txt::EntradasTitulo);
+  for (const auto& linea : TextoEntradas(r, textos_, estilo_, !t.EsArmado)) Linea(8, linea);
   Hipotesis(r);
   if (!t.EsArmado) DatosPostesado(r);
 }
@@ -167,7 +177,6 @@ void ListadoNormal::Relleno(const zorbin::Tramo& t) {
   Titulo(txt::DatosRellenoContinuacion);
   Linea(8, Texto(txt::DensidadRelleno) + Numero(t.Gr, 7, 3) + " t/m3");
   Linea(8, Texto(txt::AnguloRozamiento) + Numero(t.Fi, 3, 0) + "º");
-  // The limits are literal: an embankment takes both of the later forms.
   if (t.TipoApoyo < 20) {
     Linea(8, Texto(txt::AnchoZanjaCorto) + Numero(t.B0, 7, 3) + " m");
     std::string relleno;
@@ -177,7 +186,7 @@ void ListadoNormal::Relleno(const zorbin::Tramo& t) {
     Linea(8, Texto(txt::CabTipoDeRelleno) + FormatoTexto(relleno, 37));
   }
   if (t.TipoApoyo > 20) {
-    Linea(8, Texto(txt::AnchoZanjaLargo) + Numero(t.B0, 7, 3) + " m");
+    if (t.TipoApoyo < 30) Linea(8, Texto(txt::AnchoZanjaLargo) + Numero(t.B0, 7, 3) + " m");
     Linea(8, Texto(txt::DistanciaGeneratriz1));
     Linea(8, Texto(txt::DistanciaGeneratriz2) + Numero(t.Hr1, 7, 3) + " m");
   }
@@ -194,41 +203,87 @@ void ListadoNormal::Hipotesis(const ResultadoTramo& r) {
   EnBlanco(2);
   Titulo(txt::DatosHipotesis);
   if (r.datos.tramo.IndCar == 1) TablaDeCargas(r);
-  const double Q = r.alturas.front().cargas.Q;
-  Linea(8, Texto(txt::CargaVerticalAdoptada) + Numero(Q, 7, 3) + " t/m2 -" +
-               Numero(Q * r.datos.tramo.De, 7, 3) + " t/m");
+  CargasPorAltura(r);
 }
 
 void ListadoNormal::TablaDeCargas(const ResultadoTramo& r) {
   const auto& t = r.datos.tramo;
-  const bool si = r.datos.obra.EsSI();
   const int carga =
       txt::TiposDeCarga[static_cast<std::size_t>(t.ICar >= 0 && t.ICar <= 4 ? t.ICar : 0)];
   Linea(8, Texto(txt::TablaCarga) + "  " + FormatoTexto(Texto(carga), 21));
-  Linea(8, Texto(txt::TablaImpacto) + Numero(r.alturas.front().cargas.Impacto, 6, 2));
   EnBlanco(1);
-  for (const int n : {txt::TablaCabeza1, txt::TablaCabeza2, txt::TablaRayas,
-                      si ? txt::TablaUnidadesSI : txt::TablaUnidadesMKS, txt::TablaRayas}) {
-    Linea(8, Texto(n));
-  }
+  CabezaDeCargas();
   for (const auto& fila : r.TablaCargas) {
-    Linea(8, FilaDeCargas(si, t.De, fila));
+    HaceSitio(r, 1, [this] { CabezaDeCargas(); });
+    Linea(8, FilaDeCargas(t.De, fila));
     EnBlanco(1);
   }
 }
 
-std::string ListadoNormal::FilaDeCargas(bool si, double De, const FilaCargas& fila) const {
-  const double factor = si ? kFactorFuerza : 1.0;
-  const auto pareja = [&](std::optional<double> carga, bool porMetro = true) {
+void ListadoNormal::CabezaDeCargas() {
+  for (const int n : {txt::TablaCabeza1, txt::TablaCabeza2, txt::TablaRayas,
+                      estilo_.si ? txt::TablaUnidadesSI : txt::TablaUnidadesMKS, txt::TablaRayas}) {
+    Linea(8, Texto(n));
+  }
+}
+
+std::string ListadoNormal::FilaDeCargas(double De, const FilaCargas& fila) const {
+  const double factor = estilo_.si ? kFactorFuerza : 1.0;
+  const auto pareja = [&](std::optional<double> carga) {
     if (!carga) return Blancos(15);
     const double q = *carga * factor;
-    return Numero(q, 7, 1) + " " + (porMetro ? Numero(q * De, 7, 1) : Blancos(7));
+    return Numero(q, 7, 1) + " " + Numero(q * De, 7, 1);
   };
-  // Where the embankment governs, the moving load per metre is left out under SI.
-  const bool movilPorMetro = !(si && fila.TerraplenRige);
   return Numero(fila.H, 5, 2) + " " + pareja(fila.Zanja) + " " + pareja(fila.Terraplen) + " " +
-         pareja(fila.Adoptada) + " " + pareja(fila.Moviles, movilPorMetro) + " " +
-         pareja(fila.Total);
+         pareja(fila.Adoptada) + " " + pareja(fila.Moviles) + " " + pareja(fila.Total);
+}
+
+void ListadoNormal::CargasPorAltura(const ResultadoTramo& r) {
+  constexpr int kLineasCabeza = 6;
+  const auto& contraste = r.alturas.front().contraste;
+  const auto cabeza = [&] { CabezaPorAltura(contraste); };
+  if (!papel_.Caben(kLineasCabeza + 1)) PaginaDeAltura(r.datos.tramo, r.alturas.front().Hr);
+  cabeza();
+  for (const auto& altura : r.alturas) {
+    HaceSitio(r, 1, cabeza);
+    Linea(8, FilaPorAltura(r.datos.tramo.De, altura));
+  }
+  if (contraste) Linea(8, Texto(txt::NotaCompleta));
+}
+
+void ListadoNormal::CabezaPorAltura(const std::optional<CargasContrastadas>& contraste) {
+  const std::string porArea = estilo_.si ? "kN/m2" : "t/m2";
+  std::string grupos = Blancos(16) + ALaDerecha(Texto(txt::AlturaCargaTotal), 20);
+  std::string columnas =
+      ALaDerecha("HR", 6) + ALaDerecha(Texto(txt::AlturaImpacto), 10) + Blancos(20);
+  std::string unidades = ALaDerecha("m", 6) + Blancos(10) + ALaDerecha(porArea, 10) +
+                         ALaDerecha(estilo_.si ? "kN/m" : "t/m", 10);
+  const auto pareja = [&](int grupo) {
+    grupos += ALaDerecha(Texto(grupo), 22);
+    columnas +=
+        ALaDerecha(Texto(txt::AlturaMetodo), 12) + ALaDerecha(Texto(txt::AlturaCompleta), 10);
+    unidades += ALaDerecha(porArea, 12) + ALaDerecha(porArea, 10);
+  };
+  if (contraste) pareja(txt::AlturaTerraplen);
+  if (contraste && contraste->negativa) pareja(txt::AlturaNegativa);
+  EnBlanco(1);
+  EnNegrita(8, Texto(txt::CargasDeCadaAltura));
+  for (const auto& linea : {grupos, columnas, unidades}) Linea(8, linea);
+  Linea(8, std::string(Largo(unidades), '-'));
+}
+
+std::string ListadoNormal::FilaPorAltura(double De, const CargasAltura& altura) const {
+  const auto carga = [this](double q, int ancho) { return Numero(q, ancho, 3, "T/M2->kN/M2"); };
+  const double Q = altura.cargas.Q;
+  const double i = altura.cargas.Impacto;
+  const std::string impacto = i > 0 ? Numero(i, 10, 2) : Blancos(10);
+  std::string fila = Numero(altura.Hr, 6, 2) + impacto + carga(Q, 10) + carga(Q * De, 10);
+  const auto pareja = [&](const CargaContrastada& c) {
+    fila += carga(c.metodo, 12) + carga(c.completa, 10);
+  };
+  if (altura.contraste) pareja(altura.contraste->terraplen);
+  if (altura.contraste && altura.contraste->negativa) pareja(*altura.contraste->negativa);
+  return fila;
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -291,6 +346,9 @@ void ListadoNormal::DisenoArmado(const VistaCaso& v) {
   const auto& t = v.Datos();
   PaginaDeCaso(v);
   Linea(17, Texto(txt::DisenoCabeza));
+  const std::string tension = ALaDerecha(estilo_.si ? "(MPa)" : "(kp/cm2)", 10);
+  const std::string metros = ALaDerecha("(m)", 10);
+  Linea(10, tension + tension + tension + metros + metros + metros);
   papel_.Regla(32, 155, 2);
   EnBlanco(1);
   Linea(10, Numero(t.Fck, 10, 0, "Kp/cm2->MPa") + Numero(t.Fct, 10, 1, "Kp/cm2->MPa") +
@@ -317,6 +375,7 @@ void ListadoNormal::EsfuerzosDeDiseno(const VistaCaso& v) {
   EnBlanco(1);
   Linea(7, Texto(txt::DisenoSecciones));
   Linea(7, Texto(txt::DisenoMN));
+  Linea(7, Blancos(26) + UnidadesDelAnillo());
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]);
     for (int s = 1; s <= kSecciones; ++s) {
@@ -330,11 +389,11 @@ void ListadoNormal::ArmaduraPorHipotesis(const VistaCaso& v) {
   EnBlanco(2);
   for (const int n : txt::ArmaduraCabeza) Linea(19, Texto(n));
   for (int h = 1; h <= kHipotesisArmado; ++h) {
-    // The only warning that the first pass brings to paper.
-    for (const auto& aviso : v.caso.avisos) {
-      if (aviso.fase == FaseAviso::Busqueda && aviso.hipotesis == h &&
-          aviso.clase == ClaseAviso::MomentoTope) {
-        UnAviso(aviso);
+    const std::span<const Aviso> avisos(v.caso.avisos);
+    for (std::size_t i = 0; i < avisos.size(); ++i) {
+      if (avisos[i].fase == FaseAviso::Busqueda && avisos[i].hipotesis == h &&
+          SaleEnPapel(avisos[i]) && !DichoAntes(avisos, i, SaleEnPapel)) {
+        UnAviso(avisos[i]);
       }
     }
     Linea(19,
@@ -349,7 +408,9 @@ void ListadoNormal::CalculoQueRige(const VistaCaso& v) {
   const std::span<const Aviso> avisos(v.caso.avisos);
   for (std::size_t i = 0; i < avisos.size(); ++i) {
     if (bloque && i == r.sinFisuracion.avisos) SinFisuracionBloque(r.sinFisuracion);
-    if (avisos[i].fase == FaseAviso::Final) UnAviso(avisos[i]);
+    if (avisos[i].fase == FaseAviso::Final && !DichoAntes(avisos, i, SaleEnPapel)) {
+      UnAviso(avisos[i]);
+    }
   }
   if (bloque && r.sinFisuracion.avisos >= avisos.size()) SinFisuracionBloque(r.sinFisuracion);
 }
@@ -369,10 +430,12 @@ void ListadoNormal::SinFisuracionBloque(const SinFisuracion& s) {
 
 void ListadoNormal::UnAviso(const Aviso& aviso) {
   EnBlanco(1);
+  const std::string hipotesis = TextoHipotesisAviso(aviso, true, textos_);
   switch (aviso.clase) {
     case ClaseAviso::RetraccionLisas:
       EnNegrita(10, Texto(txt::MayorQueLaMaxima));
       EnNegrita(10, Texto(txt::PorRetraccionLisas));
+      Linea(10, hipotesis);
       EnBlanco(1);
       Linea(10, Texto(txt::AsAcr) + Numero(*aviso.valor, 9, 4));
       EnBlanco(2);
@@ -381,10 +444,12 @@ void ListadoNormal::UnAviso(const Aviso& aviso) {
     case ClaseAviso::CapasExterior:
     case ClaseAviso::MomentoTope:
       EnNegrita(10, TextoAviso(aviso, textos_));
+      Linea(10, hipotesis);
       EnBlanco(1);
       break;
     default:
       EnNegrita(10, TextoAviso(aviso, textos_));
+      Linea(10, hipotesis);
       EnBlanco(2);
   }
 }
@@ -411,8 +476,8 @@ void ListadoNormal::Resultado(const VistaCaso& v) {
     EnBlanco(2);
     EnNegrita(8, Texto(txt::Fisuracion));
     EnBlanco(1);
-    Linea(8, Texto(txt::TensionMaxima) + Numero(r.TensionMax, 10, 2) + Texto(txt::KpPorCm2));
-    Linea(8, Texto(txt::TensionAdmisible) + Numero(r.TensionAdm, 10, 2) + Texto(txt::KpPorCm2));
+    Linea(8, Texto(txt::TensionMaxima) + Numero(r.TensionMax, 10, 2, "Kp/cm2->MPa", true));
+    Linea(8, Texto(txt::TensionAdmisible) + Numero(r.TensionAdm, 10, 2, "Kp/cm2->MPa", true));
   }
 }
 

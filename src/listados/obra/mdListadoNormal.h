@@ -1,6 +1,8 @@
 // The listing "Normal": every datum, load, moment and hypothesis, page by page.
 #pragma once
 
+#include <optional>
+
 #include "listados/obra/mdListadoPapel.h"
 
 namespace zorbin {
@@ -33,7 +35,19 @@ class ListadoNormal : public ListadoPapel {
   void Relleno(const zorbin::Tramo& t);
   void Hipotesis(const ResultadoTramo& r);
   void TablaDeCargas(const ResultadoTramo& r);
-  std::string FilaDeCargas(bool si, double De, const FilaCargas& fila) const;
+  void CabezaDeCargas();
+  std::string FilaDeCargas(double De, const FilaCargas& fila) const;
+  void CargasPorAltura(const ResultadoTramo& r);
+  void CabezaPorAltura(const std::optional<CargasContrastadas>& contraste);
+  std::string FilaPorAltura(double De, const CargasAltura& altura) const;
+
+  /// Makes room for lines of a table: where the sheet has none, another one repeats its head.
+  template <typename Cabeza>
+  void HaceSitio(const ResultadoTramo& r, int lineas, Cabeza cabeza) {
+    if (papel_.Caben(lineas)) return;
+    PaginaDeAltura(r.datos.tramo, r.alturas.front().Hr);
+    cabeza();
+  }
 
   // Ovalisation, at the first pressure of a height
   void Ovalizacion(const VistaCaso& v);

@@ -6,6 +6,7 @@
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdListadoNormal.h"
+#include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr double kCuerpoAviso = 12.0;     // [pt]
 constexpr double kLimiteZunchado = 0.55;  // of Fckno, compression at winding [-]
+constexpr double kExcesoNulo = 1e-9;      // of the tensioning stress, rounding of a sum [-]
 constexpr std::string_view kTension = "Kp/cm2->MPa";
 
 std::string UnidadTension(bool si) {
@@ -98,7 +100,7 @@ void ListadoNormal::CabeceraHipotesis(const VistaCaso& v, const Alambre& alambre
   std::string stp = Texto(txt::DisenoSTP);
   stp.erase(stp.find('='), 1);
   papel_.Negrita(true);
-  Linea(8, Texto(txt::PresionNetaPrueba) + " " + presion(v.Postesado().PP) + Blancos(5) +
+  Linea(8, TextoPruebaFabrica(v.Postesado(), v.fila.PP, textos_, estilo_) + Blancos(3) +
                std::string(Recorta(stp)) + ": " + presion(v.fila.STP));
   Linea(8, Texto(txt::DiametroAlambre) + " " + Numero(alambre.FIPR * 10.0, 10, 1) + " mm" +
                Blancos(6) + Texto(txt::EspirasPorMetro) + " " + Numero(alambre.NESP, 4, 0));
@@ -109,7 +111,9 @@ void ListadoNormal::CabeceraHipotesis(const VistaCaso& v, const Alambre& alambre
           Texto(txt::HipotesisDeCalculo) + "  " + TextoEntero(hipotesis) + ".- " + Texto(nombre));
   }
   papel_.Negrita(false);
-  EnBlanco(1);
+  // In place of the blank line: the page of the Lamé coefficients has no line to spare.
+  const auto pasada = TextoPasadaPP(v.Postesado(), textos_);
+  pasada.empty() ? EnBlanco(1) : Linea(8, pasada);
 }
 
 void ListadoNormal::AvisoPostesado(const VistaCaso& v, const Aviso& aviso) {
@@ -133,10 +137,15 @@ void ListadoNormal::PerdidasYTensiones(const VistaCaso& v, const HipotesisPostes
   const auto tension = [this](int rotulo, int hueco, double valor) {
     Linea(8, Texto(rotulo) + Blancos(hueco) + Numero(valor, 10, 2, kTension, true));
   };
+  // What the losses leave is what the wire keeps, but for the cap on it.
+  const double Sf = v.Datos().Sf;
+  const double exceso = Sf - h.PerdElastica - h.PerdRelaj - h.PerdFluRet - h.SigRes;
   Encabezado(txt::Perdidas);
+  tension(txt::TensionTesado, 5, Sf);
   tension(txt::Acortamiento, 6, h.PerdElastica);
   tension(txt::Relajacion, 6, h.PerdRelaj);
   tension(txt::FluenciaYRetraccion, 6, h.PerdFluRet);
+  if (exceso > kExcesoNulo * Sf) tension(txt::PerdidaTope, 6, exceso);
   Encabezado(txt::Tensiones);
   tension(txt::Residual, 6, h.SigRes);
   Encabezado(txt::TensionesIniciales);

@@ -1,10 +1,9 @@
 #include "listados/obra/mdListadoPantalla.h"
 
-#include <cmath>
-
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
 #include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
@@ -24,15 +23,15 @@ void ListadoPantalla::SaltoSiHaceFalta(const VistaCaso& v, int lineas) {
   }
   papel_.NuevaPagina();
   EnBlanco(2);
-  // The label is the entry numbered by the pressure: a placeholder for most of them.
-  const int rotulo = textos_.IdiomaOffset() + static_cast<int>(std::nearbyint(v.fila.DP));
-  Linea(9, RotuloCaso(v.fila.NumCaso, v.Datos()) + Blancos(7) + textos_.LoadRes(rotulo) +
+  Linea(9, RotuloCaso(v.fila.NumCaso, v.Datos()) + Blancos(7) + Texto(txt::DP) +
                Numero(v.fila.DP, 6, 2, "at->MPa", true));
   LineasPagina = lineas;
 }
 
-void ListadoPantalla::CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP) {
-  if (LineasPagina + kLineasCaso > kLineasPagina) {
+// @param detras  lines that follow besides those of a Caso
+void ListadoPantalla::CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP,
+                                 int detras) {
+  if (LineasPagina + kLineasCaso + detras > kLineasPagina) {
     papel_.NuevaPagina();
     LineasPagina = kLineasCabeza;
   } else {
@@ -50,10 +49,18 @@ void ListadoPantalla::CasoSinAcabar(const ResultadoTramo& resultado, const Fallo
 }
 
 void ListadoPantalla::Caso(const VistaCaso& v) {
-  CabezaCaso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP);
+  std::vector<std::string> entradas;
+  if (v.primero) entradas = TextoEntradas(v.tramo, textos_, estilo_, true);
+  CabezaCaso(v.Datos(), v.fila.NumCaso, v.fila.DP, v.fila.MDP, static_cast<int>(entradas.size()));
+  for (const auto& linea : entradas) Linea(9, linea);
+  LineasPagina += static_cast<int>(entradas.size());
   if (v.Datos().EsArmado) {
-    for (const auto& aviso : v.caso.avisos) {
-      if (aviso.fase == FaseAviso::Final && aviso.pantalla) Aviso(v, aviso);
+    const auto sale = [](const zorbin::Aviso& a) {
+      return a.fase == FaseAviso::Final && a.pantalla;
+    };
+    const auto& avisos = v.caso.avisos;
+    for (std::size_t i = 0; i < avisos.size(); ++i) {
+      if (sale(avisos[i]) && !DichoAntes(avisos, i, sale)) Aviso(v, avisos[i]);
     }
     DatosCaso(v);
     TablaHipotesis(v);
@@ -72,7 +79,9 @@ void ListadoPantalla::Aviso(const VistaCaso& v, const zorbin::Aviso& aviso) {
   const bool retraccion = aviso.clase == ClaseAviso::RetraccionLisas;
   const bool capas =
       aviso.clase == ClaseAviso::CapasInterior || aviso.clase == ClaseAviso::CapasExterior;
-  SaltoSiHaceFalta(v, retraccion ? 4 : capas ? 3 : 2);
+  const std::string hipotesis = TextoHipotesisAviso(aviso, v.Datos().EsArmado, textos_);
+  const int conHipotesis = hipotesis.empty() ? 0 : 1;
+  SaltoSiHaceFalta(v, (retraccion ? 4 : capas ? 3 : 2) + conHipotesis);
   EnBlanco(1);
   if (retraccion) {
     EnNegrita(9, Texto(txt::RetraccionPantalla));
@@ -82,6 +91,7 @@ void ListadoPantalla::Aviso(const VistaCaso& v, const zorbin::Aviso& aviso) {
   } else {
     EnNegrita(9, "** " + TextoAviso(aviso, textos_) + " **");
   }
+  if (!hipotesis.empty()) Linea(9, hipotesis);
 }
 
 void ListadoPantalla::DatosCaso(const VistaCaso& v) {
@@ -109,9 +119,9 @@ void ListadoPantalla::TablaHipotesis(const VistaCaso& v) {
   const auto& x = v.Armado().esfuerzos;
   Linea(42, Texto(txt::PantallaSecciones));
   Linea(18 + 4 + 17, Texto(txt::PantallaMN));
-  Linea(11, Texto(v.tramo.datos.obra.EsSI() ? txt::PantallaUnidadesSI : txt::PantallaUnidadesMKS));
+  Linea(4, FormatoTexto(Texto(txt::RotuloTubo), 26) + UnidadesDelAnillo());
   const std::string seccion = "  " + std::string(18, '-');
-  Linea(6, std::string(26, '-') + seccion + seccion + seccion);
+  Linea(4, std::string(26, '-') + seccion + seccion + seccion);
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = FormatoTexto(TextoDeHipotesis(h, textos_), 26);
     for (int s = 1; s <= kSecciones; ++s) {
@@ -163,7 +173,7 @@ void ListadoPantalla::Postesado(const VistaCaso& v) {
   }
   if (v.Postesado().fin != FinPostesado::Completo) return;
   SaltoSiHaceFalta(v, 6);
-  ListadoAlambre(v.Postesado());
+  ListadoAlambre(v);
 }
 
 void ListadoPantalla::CabezaPostesado(bool si) {
@@ -184,11 +194,13 @@ void ListadoPantalla::FilaHipotesis(const HipotesisPostesada& h) {
   Linea(11, linea);
 }
 
-void ListadoPantalla::ListadoAlambre(const ResultadoPostesado& r) {
+void ListadoPantalla::ListadoAlambre(const VistaCaso& v) {
+  const auto& r = v.Postesado();
   EnBlanco(1);
   Linea(14, Texto(txt::ResumenDiametro) + Blancos(5) + Numero(r.FIPRDEFI * 10.0, 5, 1) + "  mm");
   Linea(14, Texto(txt::ResumenEspiras) + Blancos(5) + Numero(r.NESPDEFI, 5, 0));
-  Linea(14, Texto(txt::PresionNetaPrueba) + Blancos(10) + Numero(r.PP, 7, 2, "Kp/cm2->MPa", true));
+  Linea(14, TextoPruebaFabrica(r, v.fila.PP, textos_, estilo_));
+  if (const auto pasada = TextoPasadaPP(r, textos_); !pasada.empty()) Linea(14, pasada);
 }
 
 }  // namespace zorbin

@@ -16,7 +16,7 @@ class ListadoPantalla : public ListadoPapel {
   void CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) override;
   void Ocupa(int lineas) override { LineasPagina += lineas; }
 
-  void CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP);
+  void CabezaCaso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP, int detras = 0);
   void SaltoSiHaceFalta(const VistaCaso& v, int lineas);
   void Aviso(const VistaCaso& v, const zorbin::Aviso& aviso);
   void DatosCaso(const VistaCaso& v);
@@ -26,7 +26,7 @@ class ListadoPantalla : public ListadoPapel {
   void Veredicto(const VistaCaso& v);
   void CabezaPostesado(bool si);
   void FilaHipotesis(const HipotesisPostesada& h);
-  void ListadoAlambre(const ResultadoPostesado& r);
+  void ListadoAlambre(const VistaCaso& v);
 };
 
 }  // namespace zorbin

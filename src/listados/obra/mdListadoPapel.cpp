@@ -124,6 +124,15 @@ std::string ListadoPapel::RotuloCaso(int NumCaso, const zorbin::Tramo& t) const 
          FormatoEntero(t.NumeroTramo, 4) + " : " + FormatoTexto(t.DescriTramo, 40);
 }
 
+std::string ListadoPapel::UnidadesDelAnillo() const {
+  std::string linea;
+  for (int s = 1; s <= kSecciones; ++s) {
+    linea += ALaDerecha(estilo_.si ? "(m.kN/m)" : "(m.t/m)", 10) +
+             ALaDerecha(estilo_.si ? "(kN/m)" : "(t/m)", 10);
+  }
+  return linea;
+}
+
 std::string ListadoPapel::TextoTipologia(std::int16_t Tipologia) const {
   std::string texto;
   for (const auto& t : kTipologias) {

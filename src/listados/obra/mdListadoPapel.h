@@ -84,6 +84,10 @@ class ListadoPapel : public Listado {
   /// "CASO NUMERO: n/Tramo : description".
   std::string RotuloCaso(int NumCaso, const zorbin::Tramo& t) const;
 
+  /// Units of moment and axial force under the three sections of a table of the ring, each in ten
+  /// columns.
+  std::string UnidadesDelAnillo() const;
+
   std::string TextoTipologia(std::int16_t Tipologia) const;
   std::string TextoCuna(std::int16_t TipoCuna) const;  // value of the run
   std::string TextoColocacionCabecera(std::int16_t TipoApoyo) const;

@@ -6,6 +6,8 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
+#include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
 
@@ -24,6 +26,14 @@ constexpr int kAnchoFila = 72;     // of a reinforced row without its verdict
 constexpr int kAnchoAlambre = 27;  // of the verdict before a post-tensioned row
 constexpr int kAnchoMotivo = 52;   // that the sheet leaves behind a row without steel
 constexpr int kAnchoBarras = 9;
+constexpr std::size_t kHastaPP = 48;  // columns of the head up to the pressure obtained
+constexpr int kAnchoExigida = 10;     // of the pressure required [columns]
+
+constexpr int kAnchoEntrada = 72;  // [columns]
+
+constexpr int LineasDeEntradas(std::size_t entradas) {
+  return static_cast<int>((entradas + 1) / 2) + 1;
+}
 
 // Value of the fill as the row shows it.
 std::string ValorRelleno(std::int16_t TipoRelleno) {
@@ -64,6 +74,7 @@ std::string ALaDerecha(const std::string& texto, int ancho) {
 }  // namespace
 
 void ListadoTabular::CabeceraPagina(const Obra& obra) {
+  Pagina = papel_.NumeroHoja();
   papel_.Cuerpo(kCuerpoTitulo);
   EnNegrita(4, Blancos(12 + 64) + Texto(txt::PagTabular) + ":" + FormatoEntero(Pagina, 5));
   papel_.Cuerpo(kCuerpoNormal);
@@ -72,22 +83,35 @@ void ListadoTabular::CabeceraPagina(const Obra& obra) {
 }
 
 void ListadoTabular::PaginaNueva(const Obra& obra) {
-  ++Pagina;
   papel_.NuevaPagina();
   CabeceraPagina(obra);
 }
 
-void ListadoTabular::Cabecera(const DatosTramo& d) {
+void ListadoTabular::Cabecera(const ResultadoTramo& r) {
+  const auto& d = r.datos;
   HrAnterior = -1;
-  const int bloque = d.tramo.EsArmado ? kBloqueArmado : kBloquePostesado;
+  const auto entradas = TextoEntradas(r, textos_, estilo_, true);
+  const int bloque =
+      (d.tramo.EsArmado ? kBloqueArmado : kBloquePostesado) + LineasDeEntradas(entradas.size());
   if (Pagina == 0) {
-    Pagina = 1;
     CabeceraPagina(d.obra);
   } else if (LineasResto < bloque + 1) {
     PaginaNueva(d.obra);
   }
   FilaTramo(d.tramo);
+  EntradasDelTramo(entradas);
   if (d.tramo.EsArmado) ResumenTabular(d);
+}
+
+// In two columns, the ranges in the first one, and a blank line.
+void ListadoTabular::EntradasDelTramo(const std::vector<std::string>& entradas) {
+  const std::size_t filas = (entradas.size() + 1) / 2;
+  for (std::size_t i = 0; i < filas; ++i) {
+    const bool pareja = i + filas < entradas.size();
+    Linea(5, pareja ? FormatoTexto(entradas[i], kAnchoEntrada) + entradas[i + filas] : entradas[i]);
+  }
+  EnBlanco(1);
+  LineasResto -= LineasDeEntradas(entradas.size());
 }
 
 void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
@@ -102,7 +126,7 @@ void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
                milimetros(t.Reci) + Blancos(2) + milimetros(t.Rece) + Blancos(4) +
                FormatoTexto(TextoCuna(t.TipoCuna), 14) + " " +
                FormatoTexto(TextoColocacionCabecera(t.TipoApoyo), 38) + Blancos(3) +
-               Numero(t.B0, 7, 3) + " " +
+               (t.TipoApoyo < 30 ? Numero(t.B0, 7, 3) : Blancos(7)) + " " +
                (t.TipoApoyo >= 20 ? Blancos(7) : ValorRelleno(t.TipoRelleno)) + " " +
                FormatoTexto(Texto(carga), 15));
   EnBlanco(2);
@@ -129,14 +153,14 @@ void ListadoTabular::ResumenTabular(const DatosTramo& d) {
 }
 
 void ListadoTabular::CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida&) {
-  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado.datos);
+  if (resultado.filas.empty() && resultado.hayCabecera) Cabecera(resultado);
 }
 
 void ListadoTabular::Caso(const VistaCaso& v) {
   const bool armado = v.Datos().EsArmado;
   const DatosTramo& datos = v.tramo.datos;
   if (v.primero) {
-    Cabecera(datos);
+    Cabecera(v.tramo);
     if (!armado) {
       DatosPostesado(v);
       CabeceraTabularPostesado(datos);
@@ -173,13 +197,22 @@ void ListadoTabular::DatosPostesado(const VistaCaso& v) {
 void ListadoTabular::CabeceraTabularPostesado(const DatosTramo& d) {
   Leyenda(d);
   papel_.Negrita(true);
-  const auto con = [this](int delante, int n) {
-    Linea(5, FormatoTexto(Texto(delante), kAnchoAlambre) + Texto(n));
+  const auto conExigida = [this](int cabeza, const std::string& exigida) {
+    const std::string& texto = Texto(cabeza);
+    const auto obtenida = Primeros(texto, kHastaPP);
+    return std::string(obtenida) + exigida + texto.substr(obtenida.size());
   };
-  Linea(32, Texto(txt::CabeceraPostesado[0]));
-  con(txt::TabularAlambre[0], txt::CabeceraPostesado[1]);
-  con(txt::TabularAlambre[1], d.obra.EsSI() ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS);
-  Linea(32, Texto(txt::CabeceraPostesadoRaya));
+  const auto con = [this](int delante, const std::string& texto) {
+    Linea(5, FormatoTexto(Texto(delante), kAnchoAlambre) + texto);
+  };
+  const bool si = d.obra.EsSI();
+  Linea(32, conExigida(txt::CabeceraPostesado[0], Texto(txt::PPExigidaTabular[0])));
+  con(txt::TabularAlambre[0],
+      conExigida(txt::CabeceraPostesado[1], Texto(txt::PPExigidaTabular[1])));
+  con(txt::TabularAlambre[1],
+      conExigida(si ? txt::CabeceraPostesadoSI : txt::CabeceraPostesadoMKS,
+                 Texto(si ? txt::PPExigidaTabularSI : txt::PPExigidaTabularMKS)));
+  Linea(32, conExigida(txt::CabeceraPostesadoRaya, std::string(kAnchoExigida, '*')));
   papel_.Negrita(false);
   LineasResto -= kCabezaPostesado;
 }
@@ -196,11 +229,18 @@ std::string ListadoTabular::VeredictoPostesado(const VistaCaso& v) const {
 void ListadoTabular::FilaTabular(const VistaCaso& v) {
   const auto& f = v.Postesado().fila;
   const std::string altura = CampoAltura(v.fila.Hr);
-  const std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  const auto& r = v.Postesado();
+  const bool esPresion = r.PPHipotesis > 0 && f.PP < kPPAlambreCambia;
+  std::string mensaje = f.MensajePostesado ? TextoAviso(*f.MensajePostesado, textos_) : "";
+  std::string nota = TextoPasadaPP(r, textos_);
+  if (!esPresion) nota = "PP " + TextoPP(r, f.PP, textos_, estilo_);
+  if (!mensaje.empty() && !nota.empty()) mensaje += "; ";
   Linea(5 - kAnchoMarca, Marca(v.fila) + FormatoTexto(VeredictoPostesado(v), kAnchoAlambre) +
                              altura + Blancos(3) + Numero(v.fila.DP, 6, 2, "at->MPa") + Blancos(5) +
                              Numero(f.FIPR * 10.0, 5, 1) + Blancos(4) + Numero(f.NESP, 5, 0) +
-                             Blancos(8) + Numero(f.PP, 6, 2, "at->MPa") + Blancos(4) + mensaje);
+                             Blancos(8) + (esPresion ? Numero(f.PP, 6, 2, "at->MPa") : Blancos(6)) +
+                             Blancos(4) + Numero(v.fila.PP, 6, 2, "at->MPa") + Blancos(4) +
+                             mensaje + nota);
 }
 
 std::string ListadoTabular::CampoAltura(double Hr) {

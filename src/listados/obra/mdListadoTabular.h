@@ -17,7 +17,8 @@ class ListadoTabular : public ListadoPapel {
   void CasoSinAcabar(const ResultadoTramo& resultado, const FalloCorrida& roto) override;
   void Ocupa(int lineas) override { LineasResto -= lineas; }
 
-  void Cabecera(const DatosTramo& d);
+  void Cabecera(const ResultadoTramo& r);
+  void EntradasDelTramo(const std::vector<std::string>& entradas);
   void CabeceraPagina(const Obra& obra);
   void PaginaNueva(const Obra& obra);
   void FilaTramo(const zorbin::Tramo& t);

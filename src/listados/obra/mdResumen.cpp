@@ -73,8 +73,10 @@ void Resumen::Caso(const VistaCaso& v) {
 }
 
 void Resumen::Avisos(const VistaCaso& v) {
-  for (const auto& aviso : v.caso.avisos) {
-    if (!aviso.pantalla) continue;
+  const auto sale = [](const Aviso& a) { return a.pantalla; };
+  for (std::size_t i = 0; i < v.caso.avisos.size(); ++i) {
+    const Aviso& aviso = v.caso.avisos[i];
+    if (!sale(aviso) || DichoAntes(v.caso.avisos, i, sale)) continue;
     switch (aviso.clase) {
       case ClaseAviso::RetraccionLisas:
         pantalla_.EscribePantalla(1, "  " + textos_.Texto(txt::RetraccionPantalla), 1);
@@ -87,6 +89,7 @@ void Resumen::Avisos(const VistaCaso& v) {
       default:
         pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
     }
+    Linea("  " + TextoHipotesisAviso(aviso, true, textos_));
   }
 }
 
@@ -161,6 +164,7 @@ void Resumen::Postesado(const VistaCaso& v) {
     for (const auto& aviso : v.caso.avisos) {
       if (aviso.fase != FaseAviso::Final || aviso.hipotesis != h) continue;
       pantalla_.EscribePantalla(1, "  ** " + TextoAviso(aviso, textos_) + " **", 1);
+      if (h > 0) Linea("  " + TextoHipotesisAviso(aviso, false, textos_));
     }
   };
   avisosDe(0);
@@ -169,7 +173,7 @@ void Resumen::Postesado(const VistaCaso& v) {
     avisosDe(h.h);
     if (h.Impresa()) ListadoHipotesis(v.tramo.datos.obra.EsSI(), h);
   }
-  if (v.Postesado().fin == FinPostesado::Completo) ListadoAlambre(v.Postesado());
+  if (v.Postesado().fin == FinPostesado::Completo) ListadoAlambre(v);
 }
 
 void Resumen::ListadoHipotesis(bool si, const HipotesisPostesada& h) {
@@ -188,14 +192,13 @@ void Resumen::ListadoHipotesis(bool si, const HipotesisPostesada& h) {
   Linea(linea);
 }
 
-void Resumen::ListadoAlambre(const ResultadoPostesado& r) {
+void Resumen::ListadoAlambre(const VistaCaso& v) {
+  const auto& r = v.Postesado();
   Linea(Blancos(14) + textos_.Texto(txt::ResumenDiametro) +
         estilo_.FormatoNumero(r.FIPRDEFI * 10.0, 5, 1) + "  " + textos_.Texto(txt::Milimetros));
   Linea(Blancos(14) + textos_.Texto(txt::ResumenEspiras) + estilo_.FormatoNumero(r.NESPDEFI, 5, 0));
-  pantalla_.EscribePantalla(1,
-                            Blancos(14) + textos_.Texto(txt::PresionNetaPrueba) + Blancos(5) +
-                                estilo_.FormatoNumero(r.PP, 7, 2, "Kp/cm2->MPa", true),
-                            1);
+  pantalla_.EscribePantalla(1, Blancos(14) + TextoPruebaFabrica(r, v.fila.PP, textos_, estilo_), 1);
+  if (const auto pasada = TextoPasadaPP(r, textos_); !pasada.empty()) Linea(Blancos(14) + pasada);
 }
 
 }  // namespace zorbin

@@ -41,7 +41,7 @@ class Resumen : public Listado {
   void Armadura(const VistaCaso& v);
   void Postesado(const VistaCaso& v);
   void ListadoHipotesis(bool si, const HipotesisPostesada& h);
-  void ListadoAlambre(const ResultadoPostesado& r);
+  void ListadoAlambre(const VistaCaso& v);
   std::string DatoEnMm(int rotulo, double metros, int decimales) const;
 };
 

@@ -2,6 +2,8 @@
 
 #include <span>
 
+#include "base/mdNumeros.h"
+#include "base/mdTextos.h"
 #include "base/textos.h"
 
 namespace zorbin {
@@ -56,6 +58,26 @@ std::string TextoDeColocacion(std::int16_t TipoApoyo, const Catalogo& textos) {
 
 std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos) {
   return PorLugar(txt::Cargas, ICar, textos);
+}
+
+std::string TextoPP(const ResultadoPostesado& r, double PP, const Catalogo& textos,
+                    const EstiloNumeros& estilo) {
+  if (PP == kPPAlambreCambia) return textos.Texto(txt::PPAlambreCambia);
+  // Without a pass that got to its stresses nothing was compared, and so nothing limits it.
+  if (r.PPHipotesis == 0) return textos.Texto(txt::PPSinComprobar);
+  if (PP == kPPSinLimite) return textos.Texto(txt::PPSinLimite);
+  return std::string(Recorta(estilo.FormatoNumero(PP, 0, 2, "at->MPa", true)));
+}
+
+std::string TextoPruebaFabrica(const ResultadoPostesado& r, double exigida, const Catalogo& textos,
+                               const EstiloNumeros& estilo) {
+  const std::string pedida(Recorta(estilo.FormatoNumero(exigida, 0, 2, "at->MPa", true)));
+  return textos.Compone(txt::PPExigidaYObtenida, {pedida, TextoPP(r, r.PP, textos, estilo)});
+}
+
+std::string TextoPasadaPP(const ResultadoPostesado& r, const Catalogo& textos) {
+  if (r.PPHipotesis == 0 || r.PPConAlambreFinal) return {};
+  return textos.Compone(txt::PPOtraPasada, {TextoEntero(r.PPHipotesis)});
 }
 
 std::string TextoDeHipotesis(int h, const Catalogo& textos) {

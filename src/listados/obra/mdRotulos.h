@@ -6,6 +6,8 @@
 #include <string>
 
 #include "base/mdCatalogo.h"
+#include "core/resultadoPostesado.h"
+#include "listados/papel/mdFormato.h"
 
 namespace zorbin {
 
@@ -14,5 +16,15 @@ std::string TextoDeCuna(std::int16_t TipoCuna, const Catalogo& textos);  // valu
 std::string TextoDeColocacion(std::int16_t TipoApoyo, const Catalogo& textos);
 std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos);
 std::string TextoDeHipotesis(int h, const Catalogo& textos);  // reinforced design, 1..5
+
+/// Factory test pressure obtained [at], or words where it is no pressure.
+std::string TextoPP(const ResultadoPostesado& r, double PP, const Catalogo& textos,
+                    const EstiloNumeros& estilo);
+
+/// "PP required ..., obtained ..." of a Caso, and what the obtained one rests on where that is
+/// another pass than the one of MDP with the final wire; empty otherwise.
+std::string TextoPruebaFabrica(const ResultadoPostesado& r, double exigida, const Catalogo& textos,
+                               const EstiloNumeros& estilo);
+std::string TextoPasadaPP(const ResultadoPostesado& r, const Catalogo& textos);
 
 }  // namespace zorbin

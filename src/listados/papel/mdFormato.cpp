@@ -8,11 +8,6 @@ namespace zorbin {
 
 namespace {
 
-std::string ALaDerecha(std::string texto, int ancho) {
-  const int falta = ancho - static_cast<int>(Largo(texto));
-  return falta > 0 ? Blancos(falta) + texto : texto;
-}
-
 // Bytes of the first `n` characters.
 std::size_t Bytes(std::string_view texto, std::size_t n) {
   return Primeros(texto, n).size();
@@ -22,6 +17,11 @@ std::size_t Bytes(std::string_view texto, std::size_t n) {
 
 std::string Blancos(int n) {
   return std::string(n > 0 ? static_cast<std::size_t>(n) : 0, ' ');
+}
+
+std::string ALaDerecha(std::string texto, int ancho) {
+  const int falta = ancho - static_cast<int>(Largo(texto));
+  return falta > 0 ? Blancos(falta) + texto : texto;
 }
 
 std::string FormatoEntero(int n, int ancho) {

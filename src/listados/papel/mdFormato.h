@@ -13,6 +13,9 @@ std::string FormatoEntero(int n, int ancho);
 /// `texto` with blanks on the right up to `ancho`, or its first `ancho` characters.
 std::string FormatoTexto(std::string_view texto, int ancho);
 
+/// `texto` with blanks on the left up to `ancho`; a longer one isn't cut.
+std::string ALaDerecha(std::string texto, int ancho);
+
 /// n blanks.
 std::string Blancos(int n);
 

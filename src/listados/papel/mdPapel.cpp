@@ -10,7 +10,6 @@ namespace zorbin {
 namespace {
 
 constexpr double kMargenSuperior = 4.0;  // [mm]
-constexpr double kMargenInferior = 3.0;  // [mm]
 constexpr double kMargenDerecho = 5.0;   // [mm]
 constexpr double kAireRegla = 0.6;       // between a rule and the line below it [mm]
 constexpr double kMmGrosor = 0.4 / 5.0;  // of a unit of line width [mm]
@@ -23,7 +22,7 @@ Papel::Papel(DestinoHojas& destino, Orientacion orientacion)
 }
 
 void Papel::Linea(int margen, std::string_view texto) {
-  if (!CabeUnaLinea()) Entrega();
+  if (!Caben(1)) Entrega();
   std::string linea = Blancos(margen) + std::string(texto);
   const auto letras = static_cast<double>(
       Largo(std::string_view(linea).substr(0, linea.find_last_not_of(' ') + 1)));
@@ -35,15 +34,15 @@ void Papel::Linea(int margen, std::string_view texto) {
 }
 
 void Papel::LineasEnBlanco(int n) {
-  for (int i = 0; i < n && CabeUnaLinea(); ++i) Linea(0, " ");
+  for (int i = 0; i < n && Caben(1); ++i) Linea(0, " ");
 }
 
 int Papel::LineasQueCaben() const {
-  return static_cast<int>((hoja_.Alto() - kMargenInferior - y_) / AltoLinea(cuerpo_));
+  return static_cast<int>((hoja_.Alto() - kAltoPie - y_) / AltoLinea(cuerpo_));
 }
 
-bool Papel::CabeUnaLinea() const {
-  return y_ + AltoLinea(cuerpo_) <= hoja_.Alto() - kMargenInferior;
+bool Papel::Caben(int n) const {
+  return y_ + n * AltoLinea(cuerpo_) <= hoja_.Alto() - kAltoPie;
 }
 
 void Papel::Regla(double x1, double x2, double bajo, int grosor) {
@@ -66,6 +65,7 @@ void Papel::FinDocumento() {
 
 void Papel::Entrega() {
   destino_.RecibeHoja(hoja_);
+  ++hojas_;
   hoja_.textos.clear();
   hoja_.reglas.clear();
   hoja_.figuras.clear();

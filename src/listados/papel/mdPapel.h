@@ -5,7 +5,7 @@
 // Geometry. A4; places are measured from the edge of the paper. Columns are those of a monospaced
 // font whose advance is 0.6 of its size (Courier New and its metric twins): 2.117 mm at size 10.
 // A line at size 10 takes 3.95 mm, so that 72 of them stand on a portrait sheet with 4 mm above
-// and 3 mm below, and 50 on a landscape one.
+// and 6.9 mm below, and 50 on a landscape one.
 #pragma once
 
 #include <string>
@@ -19,6 +19,7 @@ enum class Orientacion { Vertical, Apaisada };
 inline constexpr double kCuerpoNormal = 10.0;  // [pt]
 inline constexpr double kCuerpoTitulo = 14.0;  // [pt]
 inline constexpr double kAvance = 0.6;         // of a character, in sizes of the font [-]
+inline constexpr double kAltoPie = 6.9;        // under the last line, where a foot may stand [mm]
 inline constexpr double kMmPunto = 25.4 / 72.0;
 
 /// Width of a column at a size [mm].
@@ -89,8 +90,13 @@ class Papel {
   /// A picture in a box at a place [mm].
   void Figura(const std::string& nombre, double x, double y, double ancho, double alto);
 
+  /// Whether n lines more stand on this sheet.
+  bool Caben(int n) const;
+
   double Y() const { return y_; }  // position of the next line [mm]
   int LineasQueCaben() const;      // on the rest of the sheet
+
+  int NumeroHoja() const { return hojas_ + 1; }  // of the sheet in hand, from 1
 
   void NuevaPagina();
   void FinDocumento();
@@ -102,8 +108,8 @@ class Papel {
   bool negrita_ = false;
   bool subrayado_ = false;
   double y_;
+  int hojas_ = 0;  // handed over
 
-  bool CabeUnaLinea() const;
   void Entrega();
 };
 

@@ -1,15 +1,16 @@
 #include "programas/zorbin-calc/mdCalcula.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/datos/mdJson.h"
+#include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/obra/mdResumen.h"
-#include "listados/obra/mdTipoListado.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
@@ -94,6 +95,9 @@ ResultadoTramo CorreTramo(DatosTramo datos, const std::filesystem::path& registr
   }
 }
 
+// The listing has nothing to show: its file is given up.
+struct SinHojas {};
+
 // Calculates what was asked for and hands each Tramo to one reader.
 class Calculador {
  public:
@@ -112,7 +116,7 @@ class Calculador {
     return Codigo();
   }
 
-  int EnPaginas() {
+  int EnPaginas() try {
     if (!opciones_.pdf.empty()) {
       EscribePdf(opciones_.pdf, encargo_.obra.NombreObra, textos_,
                  [this](DestinoHojas& hojas) { Imprime(hojas); });
@@ -123,6 +127,9 @@ class Calculador {
     Imprime(hojas);
     salida.Cierra();
     return Codigo();
+  } catch (const SinHojas&) {
+    Queja(textos_.Texto(txt::DocumentoVacio));
+    return kFicheroRechazado;
   }
 
  private:
@@ -201,11 +208,25 @@ class Calculador {
     }
   }
 
+  // The output is open by now: one that cannot be written is told before anything is calculated.
   void Imprime(DestinoHojas& hojas) {
-    const TipoListado tipo = TipoDeLinea(opciones_.listado);
-    Papel papel(hojas, OrientacionDe(tipo));
-    Lee(*CreaListado(tipo, {papel, textos_, estilo_, FechaPedida()}));
-    papel.FinDocumento();
+    struct Leido {
+      ResultadoTramo resultado;
+      const TramoPedido& pedido;
+    };
+    std::vector<Leido> leidos;
+    Corre([&leidos](ResultadoTramo&& r, const TramoPedido& p) {
+      leidos.push_back({std::move(r), p});
+    });
+    const DocumentoObra documento(
+        TipoDeLinea(opciones_.listado),
+        {encargo_.obra.NombreObra, encargo_.obra.Cliente, opciones_.obra.filename().string(),
+         "ZORBIN " ZORBIN_VERSION, textos_, estilo_, FechaPedida()},
+        [&leidos](Listado& listado) {
+          for (const auto& [r, p] : leidos) listado.Tramo(r, p.posicion, p.numero, {});
+        });
+    if (documento.hojas() == 0) throw SinHojas();
+    documento.Escribe(hojas);
   }
 
   Fecha FechaPedida() const {
@@ -249,6 +270,10 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
 
   Encargo encargo{proyecto.obra, TramosPedidos(proyecto, *posiciones)};
   const auto pedidos = encargo.tramos.size();
+  if (pedidos == 0) {
+    Queja(textos.Compone(txt::ObraSinTramos, {opciones.obra.string()}));
+    if (!opciones.listado.empty()) return kFicheroRechazado;
+  }
   if (!opciones.sinValidar) Comprueba(proyecto, opciones, textos, *posiciones, encargo);
   const bool faltan = encargo.tramos.size() < pedidos;
   if (faltan && encargo.tramos.empty()) return kFicheroRechazado;

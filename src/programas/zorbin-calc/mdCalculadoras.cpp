@@ -71,6 +71,7 @@ Json JsonHidraulico(const OpcionesHidraulica& o, const ResultadoHidraulico& r) {
                      {"VParcial", Valor(f.VParcial)},
                      {"QParcial", Valor(f.QParcial)},
                      {"JLlena", Valor(f.JLlena)},
+                     {"JExacta", Valor(f.JExacta)},
                      {"JParcial", Valor(f.JParcial)},
                      {"ReLlena", Valor(f.ReLlena)},
                      {"Cwh", Valor(f.Cwh)},

@@ -9,6 +9,7 @@
 #include "base/textos.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdResumen.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "sesion/captura/mdAjustesTramo.h"
@@ -101,7 +102,11 @@ bool PuedeRecorrerse(Captura& c) {
   };
   if (c.EnCambio()) return aviso(txt::SalvePrimero);
   if (!ValidaObra(c)) return false;
-  return c.fichero ? true : aviso(txt::DebeSalvarObra);
+  if (!c.fichero) return aviso(txt::DebeSalvarObra);
+  if (!Posiciones(c.lista).empty()) return true;
+  const auto fichero = std::filesystem::path(c.e.obra.NombreFichero).filename().string();
+  c.voz.Muestra(c.textos.Compone(txt::ObraSinTramos, {fichero}), Texto(c, txt::TituloAviso));
+  return false;
 }
 
 // Takes a Tramo of the file into the capture. @return why it is refused; what there was to show has
@@ -120,7 +125,6 @@ std::optional<std::string> TraeTramo(Captura& c, int posicion) {
 
 void TomaTramos(Captura& c, Encargante& encargante, const std::function<void()>& respira) {
   const auto posiciones = Posiciones(c.lista);
-  if (posiciones.empty()) return;
   // The same file gives the same listing, whatever was on the screen: a blank record keeps the
   // value of the Tramo before.
   LimpiaCaptura(c, 0);
@@ -326,13 +330,18 @@ std::string Resume(Calculo& calculo, const Sigue& sigue) {
 
 void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,
                     const Fecha& fecha) {
-  Papel papel(hojas, OrientacionDe(tipo));
-  const auto listado =
-      CreaListado(tipo, {papel, calculo.encargo.textos, calculo.encargo.estilo, fecha});
-  for (std::size_t i = 0; i < calculo.tramos.size(); ++i) {
-    listado->Tramo(calculo.tramos[i], static_cast<int>(i) + 1, calculo.numeros[i], {});
-  }
-  papel.FinDocumento();
+  const auto& e = calculo.encargo;
+  const Obra obra = calculo.tramos.empty() ? Obra{} : calculo.tramos.front().datos.obra;
+  const DocumentoObra documento(
+      tipo,
+      {obra.NombreObra, obra.Cliente, std::filesystem::path(e.fichero).filename().string(),
+       "ZORBIN " ZORBIN_VERSION, e.textos, e.estilo, fecha},
+      [&](Listado& listado) {
+        for (std::size_t i = 0; i < calculo.tramos.size(); ++i) {
+          listado.Tramo(calculo.tramos[i], static_cast<int>(i) + 1, calculo.numeros[i], {});
+        }
+      });
+  documento.Escribe(hojas);
 }
 
 }  // namespace zorbin

@@ -71,7 +71,7 @@ TEST(ListadoHidraulico, DiferenciasDeLasPaginasImpresas) {
                                       std::string(20, ' ') + "Coeficiente Cwh =  110"}));
   EXPECT_EQ(Con(hazen, "PENDIENTE 0"),
             (std::vector<std::string>{std::string(30, ' ') + "PENDIENTE 0,002500 m/m",
-                                      std::string(30, ' ') + "PENDIENTE 0,002500"}));
+                                      std::string(30, ' ') + "PENDIENTE 0,002500 m/m"}));
   EXPECT_TRUE(Con(hazen, "Viscosidad").empty());
   const std::string caudal = EnPapel(Hazen_Caudal(0.5, 0));
   EXPECT_EQ(Con(caudal, "139.3 + 6.65 * DIAM. (M)").size(), 2u);
@@ -90,6 +90,7 @@ TEST(ListadoHidraulico, SinFactorDeFriccionQuedaUnMenosUno) {
   auto r = DarcyWeiss_Caudal(0.5, 0.05);
   r.filas[0].JLlena = -1.0;
   r.filas[0].ReLlena = -1.0;
+  r.filas[0].JExacta.reset();
   EXPECT_EQ(Con(Pantalla(r), " 600 ").at(0), "     600         1,77    -1000,000               -1");
   const auto textos = Impreso(r).hojas.at(0).textos;
   EXPECT_EQ(textos.at(1).texto, "SE HA PRODUCIDO UN ERROR (SUBRUTINA CALCULO F DE DARCY)");

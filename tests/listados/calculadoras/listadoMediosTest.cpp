@@ -36,7 +36,7 @@ TEST(ListadoMedios, SinFactoresNoHayTitulosPeroSiMedidas) {
   EXPECT_EQ(Pantalla({}),
             "ANÁLISIS DE MEDIOS AGRESIVOS\n============================\n\n"
             "Terrenos y aguas exteriores al tubo\n"
-            "Dosificación de cemento         400,00 kg/m2\n"
+            "Dosificación de cemento         400,00 kg/m3\n"
             "Relación a/c                      0,45\n"
             "Tipo de cemento                     Normal\n"
             "Necesidades adicionales             Sí\n");

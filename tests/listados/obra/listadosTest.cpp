@@ -10,6 +10,7 @@
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
 #include "listados/obra/mdResumen.h"
+#include "listados/obra/mdRotulos.h"
 #include "listados/obra/mdTipoListado.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "listados/papel/mdPapel.h"
@@ -92,9 +93,9 @@ TEST(ListadoTabular, FilasAlturasYAjustes) {
   EXPECT_EQ(Compara("tabular-si.txt", texto), "");
 }
 
-// A page takes 44 lines after its head (50 less 6): 9 of the Tramo and 6 of the table's head on
-// the first one, 6 on the others, and the row that would leave none goes over. 16 heights of 3
-// pressures, two blank lines after each height.
+// A page takes 44 lines after its head (50 less 6): 9 of the Tramo, 4 of its data and 6 of the
+// table's head on the first one, 6 on the others, and the row that would leave none goes over. 16
+// heights of 3 pressures, two blank lines after each height.
 TEST(ListadoTabular, SaltaDePaginaConSusCabezas) {
   auto e = Tramo(1, 2);
   e.tramo.Hr0Final = 3.5, e.tramo.Hr0Delta = 0.1;
@@ -112,8 +113,8 @@ TEST(ListadoTabular, SaltaDePaginaConSusCabezas) {
       }
     }
   }
-  // 29 lines of rows and gaps fit on the first page, 38 on the next: by groups of 5.
-  EXPECT_EQ(porPagina, (std::vector<int>{18, 24, 6}));
+  // 26 lines of rows and gaps fit on the first page, 39 on the next: by groups of 5.
+  EXPECT_EQ(porPagina, (std::vector<int>{15, 24, 9}));
 }
 
 TEST(ListadoPantalla, CasosEnSusPaginas) {
@@ -266,7 +267,7 @@ TEST(Listados, LetraDeLosTitulosYDiagnosticos) {
 }
 
 // A Tramo that breaks off says so on its page. A dozen of them leave little of the page, and the
-// next Caso breaks its own block: the label of that break is kept, odd as it is.
+// next Caso breaks its own block, whose rest says of which Caso and pressure it is.
 TEST(ListadoPantalla, TramosFallidosYSaltoDentroDeUnCaso) {
   auto fallido = UnaPresion(Tramo(2, 3));
   fallido.tramo.Fi = 0;
@@ -296,6 +297,76 @@ TEST(Listados, SeCancelanEntreCasoYCaso) {
     papel.FinDocumento();
     EXPECT_EQ(salida.str().find("0,500"), std::string::npos) << i;
     EXPECT_NE(salida.str().find("0,4"), std::string::npos) << i;
+  }
+}
+
+// The foot tells which sheet of how many, whatever the listing, and stands under every line.
+TEST(Listados, ElPieDeCadaHoja) {
+  auto largo = Tramo(1, 1);
+  largo.tramo.Hr0Final = 60, largo.tramo.Hr0Delta = 1;
+  largo.obra.Cliente = std::string(200, 'x');
+  for (const char* clase : {"normal", "tabular", "pantalla"}) {
+    const auto hojas = HojasDe({largo}, clase);
+    ASSERT_GT(hojas.size(), 2u);
+    for (std::size_t i = 0; i < hojas.size(); ++i) {
+      const auto& textos = hojas[i].textos;
+      const auto& pie = textos.back();
+      const auto pagina = "ZORBIN 1.2.3 · 21/11/2026 · Página " + std::to_string(i + 1) + " de " +
+                          std::to_string(hojas.size());
+      EXPECT_TRUE(pie.texto.ends_with(pagina)) << pie.texto;
+      EXPECT_NE(pie.texto.find("Conducción de la Acequia Real · xxx"), std::string::npos);
+      EXPECT_NE(pie.texto.find("… · acequia.zrb"), std::string::npos);
+      EXPECT_LE(static_cast<double>(Largo(pie.texto)) * AnchoColumna(pie.cuerpo),
+                hojas[i].Ancho() - 5.0);
+      const auto& ultima = textos[textos.size() - 2];
+      EXPECT_LE(ultima.y + AltoLinea(ultima.cuerpo), pie.y + 1e-9) << clase << i;
+    }
+  }
+}
+
+// Sixty heights take several sheets: none of them shows rows without the head of their table.
+TEST(ListadoNormal, LasTablasQueSiguenRepitenSuCabeza) {
+  auto e = UnaPresion(Tramo(4, 1));
+  e.tramo.Hr0Final = 60, e.tramo.Hr0Delta = 1;
+  int conFilas = 0;
+  for (const auto& hoja : HojasDe({e}, "normal")) {
+    int cabezas = 0;
+    int filas = 0;
+    for (const auto& t : hoja.textos) {
+      if (t.texto.find("CARGAS DE CADA ALTURA") != std::string::npos) ++cabezas;
+      if (t.texto.find("Tierr Carg de tierras") != std::string::npos) ++cabezas;
+      const auto numeros = t.texto.find_first_not_of(" ,0123456789") == std::string::npos;
+      if (numeros && t.texto.size() > 55 && t.texto.find("  0,") == std::string::npos) ++filas;
+    }
+    if (filas > 10) ++conFilas;
+    EXPECT_TRUE(filas <= 10 || cabezas > 0) << hoja.textos.at(0).texto;
+  }
+  EXPECT_GE(conFilas, 3);
+}
+
+// No mark is ever printed as a pressure; 99999 at is 9999.9 MPa.
+TEST(ListadosPostesado, LaPruebaObtenidaQueNoEsPresion) {
+  const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+  struct Fila {
+    double PP;
+    int hipotesis;
+    bool final;
+    std::string texto, pasada;
+  };
+  const std::vector<Fila> filas{{16.2, 4, true, "1,620", ""},
+                                {16.2, 6, false, "1,620", "hipótesis 6"},
+                                {kPPSinLimite, 4, true, "sin límite", ""},
+                                {kPPSinLimite, 0, false, "sin comprobar", ""},
+                                {kPPAlambreCambia, 0, false, "cambia el alambre", ""},
+                                {16.8, 0, false, "sin comprobar", ""}};
+  for (const auto& f : filas) {
+    ResultadoPostesado r;
+    r.PP = f.PP, r.PPHipotesis = f.hipotesis, r.PPConAlambreFinal = f.final;
+    const auto texto = TextoPruebaFabrica(r, 16.8, textos, {true, ','});
+    EXPECT_NE(texto.find("exigida 1,68"), std::string::npos) << texto;
+    EXPECT_NE(texto.find("obtenida " + f.texto), std::string::npos) << texto;
+    EXPECT_NE(TextoPasadaPP(r, textos).find(f.pasada), std::string::npos);
+    EXPECT_EQ(TextoPasadaPP(r, textos).empty(), f.pasada.empty());
   }
 }
 

@@ -44,7 +44,8 @@ TEST_F(Pdf, LaTablaDeCargasTieneSusColumnasEnSuSitio) {
   EXPECT_NE(Imprime("--listado normal --tramo 1", &codigo).find("l.pdf"), std::string::npos);
   ASSERT_EQ(codigo, 0);
   // Word boxes in points; a column at size 10 is 6 pt.
-  const auto cajas = Orden("pdftotext -f 2 -l 2 -bbox " + pdf.string() + " -");
+  const auto hoja = Orden("pdftotext -f 2 -l 2 -bbox " + pdf.string() + " -");
+  const auto cajas = hoja.substr(hoja.find(">kN/m2<"));
   const auto derecha = [&cajas](const std::string& palabra) {
     const auto i = cajas.find(">" + palabra + "<");
     const auto x = cajas.rfind("xMax=\"", i);

@@ -12,6 +12,7 @@
 #include "base/textos.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "comun/comparaFichero.h"
+#include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdResumen.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "persistencia/dpe/mdDpe.h"
@@ -130,9 +131,17 @@ std::string ResumenSinPantalla(Oficina& o, int posicion) {
 std::string PapelSinPantalla(Oficina& o, const std::vector<int>& posiciones, TipoListado tipo) {
   std::ostringstream salida;
   HojasTexto hojas(salida);
-  Papel papel(hojas, OrientacionDe(tipo));
-  SinPantalla(o, posiciones, *CreaListado(tipo, {papel, o.b.textos, {true, ','}, kFecha}));
-  papel.FinDocumento();
+  const Obra obra = LeeProyecto(o.obra).obra;
+  const DocumentoObra documento(tipo,
+                                {obra.NombreObra,
+                                 obra.Cliente,
+                                 "copia.zrb",
+                                 "ZORBIN " ZORBIN_VERSION,
+                                 o.b.textos,
+                                 {true, ','},
+                                 kFecha},
+                                [&](Listado& listado) { SinPantalla(o, posiciones, listado); });
+  documento.Escribe(hojas);
   return salida.str();
 }
 
@@ -237,12 +246,10 @@ TEST(Trabajo, SinGrabarOConCambiosNoEmpieza) {
   EXPECT_EQ(nueva.voz.Ultimo(), "Debe primero salvar la obra");
 }
 
-TEST(Trabajo, UnaObraSinTramosDaUnResumenVacio) {
+TEST(Trabajo, UnaObraSinTramosSeDice) {
   Oficina o(20, "0");
-  const auto r = o.LaObra();
-  EXPECT_EQ(r->fin, FinTrabajo::Completo);
-  EXPECT_EQ(r.resumen, "");
-  EXPECT_EQ(EnTexto(*r.calculo, TipoListado::Normal), "");
+  EXPECT_FALSE(EncargaObra(o.b.c));
+  EXPECT_EQ(o.b.voz.Ultimo(), o.b.textos.Compone(txt::ObraSinTramos, {"copia.zrb"}));
   EXPECT_EQ(o.b.c.EstadoCaptura, kSinTramo);
 }
 
