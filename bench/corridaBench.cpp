@@ -9,6 +9,7 @@
 #include "calculo/cargas/mdOvaliz.h"
 #include "calculo/cargas/mdTablaCargas.h"
 #include "calculo/corrida/mdCalculaTramo.h"
+#include "calculo/corrida/mdVeredicto.h"
 #include "comun/estadoDeJson.h"
 #include "persistencia/disco/mdLog.h"
 
@@ -17,7 +18,6 @@ namespace {
 
 constexpr int kAlturas = 100;
 constexpr int kPresiones = 50;
-constexpr int kCasos = kAlturas * kPresiones;
 
 // Tramo 1 to 4 of the sample Obra (trench, compacted trench, trench under embankment,
 // embankment) over a grid of heights and pressures; 0 a pipe without sheet, whose cracking check
@@ -95,30 +95,29 @@ void CasosEnteros(benchmark::State& state) {
 }
 BENCHMARK(CasosEnteros)->DenseRange(0, 4);
 
-// The same formulas in a bare loop: the loads and the ring once a height, the design once a Caso.
+// The same formulas over the same Casos in a bare loop: the loads and the ring once a height, the
+// design and its verdict once a Caso.
 void BuclePelado(benchmark::State& state) {
   const auto datos = Malla(static_cast<int>(state.range(0)));
   const auto& t = datos.tramo;
   const auto unMetro = CargasUnMetro(t);
-  std::int64_t casos = 0;
+  const auto x = CalculaTramo(datos, RangoDe(datos));
+  VeredictoTramo veredicto(datos);
+  TerminosAnillo anillo;
   Marcha marcha;
   for (auto _ : state) {
     marcha.vueltas = {};
-    for (int h = 0; h < kAlturas; ++h) {
-      const auto q = CargasMarston(t, 2.0 + 0.02 * h, t.ICar);
-      const auto anillo = Ovalizacion(t, q, unMetro, EmpujeActivo(t.Fi));
-      for (int p = 0; p < kPresiones; ++p) {
-        const double DP = (state.range(0) == 0 ? 1.0 : 4.0) + 0.02 * p;
-        const double MDP = 1.2 * DP;
-        marcha.vueltas.EmpiezaCaso();
-        marcha.avisos.clear();
-        benchmark::DoNotOptimize(
-            DisenoArmado(t, anillo, {DP, MDP, MDP + 1.0, MDP + 2.0}, {}, marcha));
-        ++casos;
+    for (const auto& fila : x.filas) {
+      if (fila.NumCaso == 1) {
+        anillo = Ovalizacion(t, CargasMarston(t, fila.Hr, t.ICar), unMetro, EmpujeActivo(t.Fi));
       }
+      marcha.vueltas.EmpiezaCaso();
+      marcha.avisos.clear();
+      auto diseno = DisenoArmado(t, anillo, fila, {}, marcha);
+      benchmark::DoNotOptimize(veredicto.Resume(diseno, marcha.avisos));
     }
   }
-  state.SetItemsProcessed(casos);
+  state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(x.filas.size()));
 }
 BENCHMARK(BuclePelado)->DenseRange(0, 4);
 

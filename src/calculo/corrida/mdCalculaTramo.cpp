@@ -94,6 +94,7 @@ class CorridaTramo {
       dadas_ = CargasDadas(t_, RangoDe(x_.datos).Hr0);
       ExigeRango(r_);
       casos_ = CuentaDe(r_).Casos();
+      x_.filas.reserve(static_cast<std::size_t>(std::min(casos_, double{kMaxCasosCorrida})));
       RecorreAlturas();
       if (marcha_.registro != nullptr) marcha_.registro->Vuelca();
     } catch (const ErrorEjecucion& error) {

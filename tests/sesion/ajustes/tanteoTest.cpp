@@ -198,10 +198,10 @@ TEST(Comprobacion, TodaFilaDeTanteoBastaEnLosCasosTrabajados) {
   for (const auto& f : std::filesystem::directory_iterator(pruebas::Datos("casos"))) {
     const auto e = pruebas::EstadoDe(pruebas::LeeJson(f.path()).at("entrada"));
     const auto datos = pruebas::EnCalculo(e);
-    const auto x = CalculaTramo(datos, RangoDe(datos));
-    for (const auto& caso : x.filas) {
+    const auto corrida = CalculaTramo(datos, RangoDe(datos));
+    for (const auto& caso : corrida.filas) {
       if (!datos.tramo.EsArmado || caso.HipotesisRige == 1) continue;
-      const auto d = DatosCaso(datos.tramo, caso, CasoEntero(x, caso).Armado(),
+      const auto d = DatosCaso(datos.tramo, caso, CasoEntero(corrida, caso).Armado(),
                                {e.tramo.Esp, e.tramo.Reci, e.tramo.Rece});
       const auto t = Tantea(d, serie, 4);
       for (const auto& fila : t.filas.v) {
