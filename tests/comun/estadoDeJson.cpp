@@ -51,7 +51,7 @@ void RellenaTramo(EstadoCalculo& e, const nlohmann::json& j) {
   for (const auto& c : kNumerosTramo) Lee(j, c.nombre, destino.*c.campo);
   for (const auto& c : kCodigosTramo) Lee(j, c.nombre, destino.*c.campo);
   Deriva(destino);
-  if (destino.Fct == 0) destino.Fct = FctDeFck(destino.Fck);
+  if (destino.Fct == 0) destino.Fct = FctEnSistema(destino.Fck, e.obra.EsSI());
 }
 
 #undef LEE

@@ -67,10 +67,6 @@ std::string ALaIzquierda(const std::string& texto, int ancho) {
   return texto + Blancos(ancho - static_cast<int>(Largo(texto)));
 }
 
-std::string ALaDerecha(const std::string& texto, int ancho) {
-  return Blancos(ancho - static_cast<int>(Largo(texto))) + texto;
-}
-
 }  // namespace
 
 void ListadoTabular::CabeceraPagina(const Obra& obra) {

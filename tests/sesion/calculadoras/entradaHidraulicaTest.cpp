@@ -95,7 +95,8 @@ TEST(EntradaHidraulica, AlSalirSeRechazaYVuelveElValorPorDefecto) {
   EXPECT_EQ(e.txRugosidad.texto, "0,050");
   Teclea(e, Rugosidad, "");  // an empty field is 0
   EXPECT_TRUE(Sale(e, Rugosidad));
-  Teclea(e, DatoOrigen, "");
+  Teclea(e, DatoOrigen, "5");
+  Cambia(e, DatoOrigen, "");
   EXPECT_TRUE(Sale(e, DatoOrigen));
 
   CambiaMetodo(e, HazenWilliams);

@@ -37,7 +37,7 @@ TEST(EntradaMedios, UnPHFueraDeEscalaSeDiceYSeToma) {
 
 TEST(EntradaMedios, UnValorRechazadoDejaElAnterior) {
   auto e = CargaProtecciones(',');
-  Cambia(e, kCO2, "14.996");
+  Cambia(e, kCO2, "14,996");
   EXPECT_FALSE(Sale(e, kCO2));
   EXPECT_EQ(e.txpH[kCO2].texto, "15,00");
   Cambia(e, kCO2, "-3");
@@ -71,7 +71,7 @@ TEST(EntradaMedios, UnCampoVacioGuardaElValorLeidoAntes) {
   EXPECT_EQ(v[kSO4Suelo], 250);
   EXPECT_EQ(v[kCorriente], 9.5);
   Cambia(e, kMg, "1.000,5");
-  EXPECT_EQ(TextoDe(Analiza(e)), "Mg (2+)|Seleccione un valor númerico ");
+  EXPECT_NE(TextoDe(Analiza(e)).find("Mg (2+)|«1.000,5»"), std::string::npos);
   EXPECT_EQ(e.resultado->muestra.valor[kMg], 0);  // the last result stays
 }
 
