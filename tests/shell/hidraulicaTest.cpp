@@ -115,7 +115,7 @@ TEST(PantallaHidraulica, LoQueNoSirveSeRechazaUnaVezConSuTexto) {
 
   QApplication::clipboard()->setText("1.234,5");
   QTest::keyClick(Foco(p.pantalla), Qt::Key_V, Qt::ControlModifier);
-  QTest::qWait(50);
+  QTest::keyClick(Foco(p.pantalla), Qt::Key_Tab);
   ASSERT_EQ(p.persona.cajas.size(), 3u);
   EXPECT_TRUE(p.persona.Ultima().contains("«1.234,5»"));
 
