@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -155,12 +156,14 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   const auto r = CalculaTramo(datos, RangoDe(datos));
   const EstiloNumeros estilo{true, ','};
   std::ostringstream json;
-  ListadoJson lector(json, "o.zrb", {{1, pedido.tramo}}, b.textos, estilo);
+  const std::map<int, Tramo> capturados{{1, pedido.tramo}};
+  ListadoJson lector(json, "o.zrb", capturados, b.textos, estilo);
   lector.EmpiezaObra(proyecto.obra);
   lector.Tramo(r, 1, "1", {});
   lector.AcabaObra();
   int ajustados = 0;
-  for (const auto& caso : nlohmann::json::parse(json.str())["tramos"][0]["casos"]) {
+  const auto leido = nlohmann::json::parse(json.str());
+  for (const auto& caso : leido["tramos"][0]["casos"]) {
     const auto& armado = caso["armado"];
     if (!armado["HayAjuste"].get<bool>()) continue;
     ++ajustados;
