@@ -161,9 +161,9 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   lector.EmpiezaObra(proyecto.obra);
   lector.Tramo(r, 1, "1", {});
   lector.AcabaObra();
-  const auto casos = nlohmann::json::parse(json.str())["tramos"][0]["casos"];
   int ajustados = 0;
-  for (const auto& caso : casos) {
+  const auto leido = nlohmann::json::parse(json.str());
+  for (const auto& caso : leido["tramos"][0]["casos"]) {
     const auto& armado = caso["armado"];
     if (!armado["HayAjuste"].get<bool>()) continue;
     ++ajustados;
