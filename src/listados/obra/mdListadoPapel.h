@@ -30,7 +30,7 @@ struct MediosPapel {
 };
 
 inline constexpr int kLineasPagina = 72;   // of a portrait page
-inline constexpr int kLineasTabular = 50;  // of a landscape page
+inline constexpr int kLineasTabular = 49;  // of a landscape page
 
 class ListadoPapel : public Listado {
  public:
