@@ -91,9 +91,18 @@ const Catalogo& Textos() {
 }
 
 std::string HuecoDeJson(const std::string& json) {
+  // Where a null says something: what a Caso does not have, and a use without a bound, which none
+  // that complies may have.
+  constexpr std::array<std::string_view, 7> kPuedenFaltar{
+      "\"ajuste\":",  "\"error\":", "\"motivo\":", "\"hipotesis\":",
+      "\"seccion\":", "\"cara\":",  "\"uso\":"};
   for (auto i = json.find("null"); i != std::string::npos; i = json.find("null", i + 4)) {
     const auto antes = std::string_view(json).substr(0, i);
-    if (antes.ends_with("\"ajuste\":") || antes.ends_with("\"error\":")) continue;
+    if (!antes.ends_with("\"cumple\",\"uso\":") &&
+        std::any_of(kPuedenFaltar.begin(), kPuedenFaltar.end(),
+                    [&](std::string_view clave) { return antes.ends_with(clave); })) {
+      continue;
+    }
     return json.substr(i < 30 ? 0 : i - 30, 40);
   }
   return {};
