@@ -296,9 +296,9 @@ TEST_F(Zrb, LaListaLlegaHastaLaCuentaYConservaLosHuecos) {
   EXPECT_EQ(lista, (ListaTramos{"1", "", "5"}));
   EXPECT_EQ(PosicionDe(lista, 5), 3);
   EXPECT_EQ(PosicionDe(lista, 2), 0);
-  const auto todos = TramosPedidos(proyecto);  // numbered by their places
+  const auto todos = TramosPedidos(proyecto);
   ASSERT_EQ(todos.size(), 2u);
-  EXPECT_EQ(todos[1].tramo.NumeroTramo, 3);
+  EXPECT_EQ(todos[1].tramo.NumeroTramo, 5);  // not its place: adjustments go by the number
   EXPECT_EQ(TramosPedidos(proyecto, {3})[0].tramo.NumeroTramo, 5);
 }
 

@@ -37,15 +37,14 @@ Proyecto LeeProyecto(const std::filesystem::path& ruta) {
 
 std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,
                                        const std::vector<int>& posiciones) {
-  const bool todos = posiciones.empty();
   EstadoCalculo e;  // keeps the Tramo before
   e.obra = proyecto.obra;
   std::vector<TramoPedido> pedidos;
-  for (const int posicion : todos ? PosicionesDe(proyecto.lista) : posiciones) {
+  for (const int posicion : posiciones.empty() ? PosicionesDe(proyecto.lista) : posiciones) {
     const std::string& numero = proyecto.lista[static_cast<std::size_t>(posicion - 1)];
     CargaTramo(e, proyecto.fichero, posicion);
     pedidos.push_back({posicion, numero, e.tramo});
-    pedidos.back().tramo.NumeroTramo = todos ? I16(posicion) : NumeroDe(numero);
+    pedidos.back().tramo.NumeroTramo = NumeroDe(numero);
   }
   return pedidos;
 }

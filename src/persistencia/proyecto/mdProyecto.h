@@ -36,7 +36,7 @@ struct TramoPedido {
 
 /// The Tramos at some positions in the order given, as stored; without positions those of the whole
 /// Obra in file order. A blank record has the value of the Tramo before it here, and NumeroTramo
-/// counts positions in a whole Obra: it is the number of the list where Tramos were chosen.
+/// is the number of the list, by which adjusted Casos are looked up.
 /// @throws ErrorFichero
 std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,
                                        const std::vector<int>& posiciones = {});

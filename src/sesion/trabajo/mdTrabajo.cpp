@@ -134,7 +134,7 @@ void TomaTramos(Captura& c, Encargante& encargante, const std::function<void()>&
       encargante.encargo.detenido = c.textos.Compone(txt::TrabajoDetenido, {numero, *causa});
       return;
     }
-    encargante.Toma(numero, I16(posicion));
+    encargante.Toma(numero, I16(NumeroTexto(numero).value_or(0.0)));
     if (respira) respira();
   }
 }
