@@ -6,8 +6,8 @@
 
 namespace zorbin {
 
-/// Fields of the capture screen, in tab order. `rdTipoCamisa` chooses between the two
-/// post-tensioned typologies.
+/// Fields of the capture screen, in tab order. `rdTipologia` chooses between reinforced and
+/// post-tensioned, `rdTipoCamisa` between the two post-tensioned typologies.
 enum class Ed : int {
   edObra,
   edCliente,
@@ -29,6 +29,7 @@ enum class Ed : int {
   edPrs3Tram,
   edPrsM1Tram,
   edPrsM2Tram,
+  rdTipologia,
   edIcontes0,
   edAdato,
   edTipoControl,

@@ -69,7 +69,6 @@ void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const 
   const auto lista = BuscaFaltas(proyecto, opciones.tablas,
                                  {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
   for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos));
-  for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
   PonComprobada(encargo.obra, lista.obra);
   std::erase_if(encargo.tramos, [&](const TramoPedido& p) { return !lista.Vale(p.posicion); });
   for (auto& p : encargo.tramos) {

@@ -41,11 +41,6 @@ std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos) {
   return textos.Compone(txt::FaltaDelTramo, {falta.numero, falta.campo, falta.valor, mensaje});
 }
 
-std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos) {
-  return textos.Compone(txt::PreguntaDelTramo,
-                        {pregunta.numero, ConTitulo(pregunta.titulo, pregunta.texto)});
-}
-
 std::string TextoAviso(const AvisoDeObra& aviso, const Catalogo& textos) {
   if (aviso.numero.empty()) {
     return textos.Compone(txt::AvisoDeLaObra, {aviso.campo, Seguido(aviso.texto)});
@@ -57,8 +52,7 @@ ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& t
                         const PeticionValida& peticion, const Catalogo& textos) {
   const TablasCatalogo dimensiones =
       LeeTablas(tablas.empty() ? CarpetaRecursos() / "tablas" : tablas);
-  Catalogo deLaObra = textos;
-  return ValidaProyecto(proyecto, deLaObra, dimensiones, peticion);
+  return ValidaProyecto(proyecto, textos, dimensiones, peticion);
 }
 
 int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
@@ -69,7 +63,6 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
   if (!posiciones) return kPalabrasMalas;
   const auto lista = BuscaFaltas(proyecto, opciones.tablas,
                                  {*posiciones, SeparadorDeLinea(opciones.separador)}, textos);
-  for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos));
   for (const auto& a : lista.avisos) Queja(TextoAviso(a, textos));
   Salida salida({});
   for (const auto& f : lista.faltas) salida.flujo() << TextoFalta(f, textos) << '\n';

@@ -12,10 +12,8 @@
 #include "sesion/ajustes/mdFilas.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
 #include "sesion/ajustes/mdTecleado.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdCiclo.h"
-#include "sesion/captura/mdPresenta.h"
-#include "sesion/captura/mdValidaTramo.h"
+#include "sesion/captura/mdComprueba.h"
 
 namespace zorbin {
 
@@ -27,46 +25,14 @@ constexpr double kEngancheLimite = 0.01;  // a pressure this near to the end of 
 // ---------------------------------------------------------------------------------------------
 // The Tramo
 
-// Speaks for the rules of the Tramo, which run over data that a person has accepted already: their
-// messages are shown, and a question is not put a second time.
-class VozDeAjustes : public Interlocutor {
- public:
-  explicit VozDeAjustes(Interlocutor& voz) : voz_(voz) {}
-  void Muestra(const std::string& texto, const std::string& titulo) override {
-    voz_.Muestra(texto, titulo);
-  }
-  bool Pregunta(const std::string&, const std::string&) override { return true; }
-  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
-  void VaA(Ed) override {}
-
- private:
-  Interlocutor& voz_;
-};
-
-// The rules complete the data in a capture of their own. A file that cannot be read, and data that
-// they refuse, have been told.
-std::optional<TramoAjustado> LeeElTramo(Captura& c, int posicion) {
-  const auto numero = c.e.tramo.NumeroTramo;
-  EstadoCalculo e;
-  e.obra = c.e.obra;
-  e.tramo = c.e.tramo;
-  VozDeAjustes voz(c.voz);
-  Captura copia(e, c.textos, c.tablas, voz, c.SeparadorDecimal);
-  PreparaPantalla(copia);
-  MuestraObra(copia);
-  try {
-    CargaTramo(e, *c.fichero, posicion);
-  } catch (const ErrorFichero& error) {
-    c.voz.Muestra(TextoDeError(c, error), {});
-    return std::nullopt;
-  }
-  e.tramo.NumeroTramo = numero;
-  Escribe(copia, Ed::edTramo, TextoEntero(numero));
-  MuestraTramo(copia);
-  if (!ValidaTramo(copia, false)) return std::nullopt;
-  auto datos = DatosDeCalculo(e.obra, e.tramo);
+// The Tramo in hand with what the rules complete; it has been saved, so that they refuse nothing.
+std::optional<TramoAjustado> TomaElTramo(Captura& c) {
+  auto comprobado = Comprueba(c, {c.enMano});
+  const auto* t = Busca(comprobado.version, c.enMano);
+  if (t == nullptr || !comprobado.Vale(c.enMano)) return std::nullopt;
+  auto datos = DatosDeCalculo(comprobado.version.obra, t->datos);
   const Rango rango = RangoDe(datos);
-  return TramoAjustado{e.tramo, std::move(datos), rango, copia.EsComercial};
+  return TramoAjustado{t->datos, std::move(datos), rango, c.EsComercial};
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -167,6 +133,7 @@ bool Guarda(Ajustes& a) {
 bool Cierra(Ajustes& a) {
   a.t.RecAltActivo = false;
   a.dpe.reset();
+  RecogeAjustes(a.c);
   return true;
 }
 
@@ -212,13 +179,9 @@ Ajustes::Ajustes(Captura& captura, TramoAjustado suTramo, std::filesystem::path 
 
 std::unique_ptr<Ajustes> AjustaArmaduras(Captura& c, const std::filesystem::path& registros,
                                          PideCerrojo pide) {
-  if (!c.e.tramo.EsArmado || !PreparaCalculo(c, true)) return nullptr;
-  const int posicion = c.fichero ? PosicionDelTramo(c, c.e.tramo.NumeroTramo) : 0;
-  if (posicion == 0) {
-    c.voz.Muestra(Texto(c, txt::NoExisteEseTramo), {});
-    return nullptr;
-  }
-  auto tramo = LeeElTramo(c, posicion);
+  // What is chosen is kept beside the file at once, so the file has to hold the Tramo first.
+  if (c.SinTramoEnMano() || !c.e.tramo.EsArmado || !Graba(c) || c.SoloLectura()) return nullptr;
+  auto tramo = TomaElTramo(c);
   if (!tramo) return nullptr;
   try {
     auto a = std::make_unique<Ajustes>(c, std::move(*tramo), registros, pide);

@@ -22,7 +22,7 @@
 
 namespace zorbin {
 
-/// The Tramo whose Casos are adjusted, as its file has it, with what the validation completes.
+/// The Tramo whose Casos are adjusted, with what the validation completes.
 struct TramoAjustado {
   Tramo tramo;               // as captured: thickness and covers in cm
   DatosTramo datos;          // what its Casos are calculated from
@@ -63,8 +63,8 @@ struct Ajustes {
   bool DpeAbierto() const { return dpe.has_value(); }
 };
 
-/// The button and the menu entry. Validates Obra and Tramo, asks for a saved file without edits,
-/// opens the file of adjustments and calculates the first Caso.
+/// The button and the menu entry. Saves what is unsaved, opens the file of adjustments and
+/// calculates the first Caso.
 /// @return nothing where it is refused; why has been shown
 std::unique_ptr<Ajustes> AjustaArmaduras(
     Captura& c, const std::filesystem::path& registros = CarpetaRegistros(),

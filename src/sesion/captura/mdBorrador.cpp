@@ -5,151 +5,72 @@
 #include "base/mdNumeros.h"
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdComprueba.h"
 #include "sesion/captura/mdEtiquetas.h"
-#include "sesion/captura/mdOrdenes.h"
-#include "sesion/captura/mdPresenta.h"
-#include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdTramos.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr auto kDeTramo = std::to_array<Ed>({Ed::edTramo, Ed::edTramo2});
-
-int NumeroEnLista(const std::string& texto) {
-  return static_cast<int>(NumeroTexto(texto).value_or(0));
-}
-
 std::string FicheroDe(const Captura& c) {
-  return c.e.obra.ObraAbierta ? c.e.obra.NombreFichero : std::string{};
-}
-
-// What can't be read has the mark of nothing.
-std::uint64_t HuellaActual(const FicheroRegistros& f, int posicion) {
-  try {
-    return HuellaDe(f, posicion);
-  } catch (const ErrorFichero&) {
-    return 0;
-  }
-}
-
-int PosicionGuardada(const Captura& c, const Borrador& b) {
-  return b.estado == kModificaciones ? PosicionDelTramo(c, b.tramo.NumeroTramo) : 0;
-}
-
-// ---- Taking
-
-CampoTecleado TomaCampo(const Captura& c, Ed id) {
-  const auto& control = c[id];
-  const int entrada = Fila(id).clase == Clase::Lista ? PosicionEnLista(c, id) : 0;
-  return {control.texto,
-          entrada,
-          control.opcion,
-          control.habilitado,
-          control.etiquetaHabilitada,
-          control.bloqueado,
-          control.gris,
-          control.tabulador,
-          control.tocado};
-}
-
-MemoriaReglas TomaMemoria(const Captura& c) {
-  return {c.AjustesPorBorrar, c.AnchoZanjaAuto, c.SFckEditado, c.EsComercial, c.SinAvisoGeom,
-          c.BandaReci,        c.BandaRece,      c.FykAnterior, c.EspRecomMin, c.EspRecomMax};
+  return c.fichero ? c.fichero->Nombre() : std::string{};
 }
 
 // ---- Putting back
 
-void PonObra(Captura& c, const Borrador& b) {
-  auto& o = c.e.obra;
-  auto nueva = b.obra;
-  nueva.RutaApp = o.RutaApp;
-  nueva.NombreFichero = o.NombreFichero;
-  nueva.ObraAbierta = o.ObraAbierta;
-  o = std::move(nueva);
-  MuestraObra(c);
+// The Tramo of the file that one of a draft was.
+const TramoEnObra* DelFichero(const Version& fichero, const OrigenTramo& origen) {
+  if (origen.posicion == 0) return nullptr;
+  const auto lugar = static_cast<std::size_t>(origen.posicion - 1);
+  if (lugar < fichero.tramos.size() && fichero.tramos[lugar]->numero == origen.numero) {
+    return fichero.tramos[lugar].get();
+  }
+  const auto otro = LugarDeNumero(fichero, NumeroDe(origen.numero));
+  return otro ? fichero.tramos[*otro].get() : nullptr;
 }
 
-int NumeroSiguiente(const Captura& c) {
-  int mayor = 0;
-  for (const auto& numero : c.lista) mayor = std::max(mayor, NumeroEnLista(numero));
-  return mayor + 1;
+bool Tiene(const std::vector<TramoFijo>& tramos, const std::string& numero) {
+  return std::ranges::any_of(tramos, [&](const TramoFijo& t) { return t->numero == numero; });
 }
 
-void PonTramo(Captura& c, const Borrador& b) {
-  const bool guardado = PosicionGuardada(c, b) != 0;
-  int numero = b.tramo.NumeroTramo;
-  const bool tomado = PosicionDelTramo(c, numero) != 0;
-  if (numero <= 0 || (tomado && !guardado)) numero = NumeroSiguiente(c);
-  c.e.tramo = b.tramo;
-  MuestraTramo(c);
-  TomaEnMano(c, numero, guardado ? kModificaciones : kAltas);
-}
-
-void PonCampo(Captura& c, Ed id, const CampoTecleado& campo) {
-  auto& control = c[id];
-  const auto numero = std::find(kDeTramo.begin(), kDeTramo.end(), id);
-  if (numero == kDeTramo.end()) control.texto = campo.texto;
-  if (campo.entrada > 0) EligeEntrada(c, id, campo.entrada);
-  control.opcion = campo.opcion;
-  control.habilitado = campo.habilitado;
-  control.etiquetaHabilitada = campo.etiquetaHabilitada;
-  control.bloqueado = campo.bloqueado;
-  control.gris = campo.gris;
-  control.tabulador = campo.tabulador;
-  control.tocado = campo.tocado;
-}
-
-void PonMemoria(Captura& c, const MemoriaReglas& m) {
-  c.AjustesPorBorrar = m.AjustesPorBorrar;
-  c.AnchoZanjaAuto = m.AnchoZanjaAuto;
-  c.SFckEditado = m.SFckEditado;
-  c.EsComercial = m.EsComercial;
-  c.SinAvisoGeom = m.SinAvisoGeom;
-  c.BandaReci = m.BandaReci;
-  c.BandaRece = m.BandaRece;
-  c.FykAnterior = m.FykAnterior;
-  c.EspRecomMin = m.EspRecomMin;
-  c.EspRecomMax = m.EspRecomMax;
+// The version of a draft, over what the file holds now.
+Version SobreElFichero(Captura& c, const Borrador& b) {
+  Version v = b.version;
+  std::vector<TramoFijo> tramos;
+  const auto llegados = [&](const TramoFijo& t) {
+    return std::ranges::find(b.lista, t->numero) == b.lista.end();
+  };
+  for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+    auto t = std::make_shared<TramoEnObra>(*v.tramos[i]);
+    const auto* suyo = DelFichero(c.guardada, b.origenes[i]);
+    t->id = suyo != nullptr ? suyo->id : ++c.ultimoId;
+    if (suyo != nullptr) {
+      t->ajustes = suyo->ajustes;
+      t->extras = suyo->extras;
+    }
+    for (auto& ajuste : t->ajustes) ajuste.Tramo = t->datos.NumeroTramo;
+    tramos.push_back(std::move(t));
+  }
+  for (const auto& t : c.guardada.tramos) {
+    if (!llegados(t)) continue;
+    tramos.push_back(t);
+    // The number of a new Tramo gives way to the one that the file has by now.
+    for (auto& nuevo : tramos) {
+      if (nuevo == t || nuevo->numero != t->numero) continue;
+      v.tramos = tramos;
+      auto otro = std::make_shared<TramoEnObra>(*nuevo);
+      const int numero = NumeroLibre(v);
+      otro->numero = TextoEntero(numero);
+      otro->datos.NumeroTramo = static_cast<std::int16_t>(numero);
+      nuevo = std::move(otro);
+    }
+  }
+  v.tramos = std::move(tramos);
+  return v;
 }
 
 // ---- Both versions
-
-// Nobody is there to be asked.
-class Mudo : public Interlocutor {
- public:
-  void Muestra(const std::string&, const std::string&) override {}
-  bool Pregunta(const std::string&, const std::string&) override { return false; }
-  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
-  void VaA(Ed) override {}
-};
-
-// A capture that nobody sees, over its own state and texts.
-struct Sombra {
-  Sombra(const Catalogo& catalogo, const TablasCatalogo& tablas, char separador)
-      : textos(catalogo), c(e, textos, tablas, voz, separador) {
-    NuevaObra(c);
-  }
-
-  EstadoCalculo e;
-  Catalogo textos;
-  Mudo voz;
-  Captura c;
-};
-
-// The Obra as its file has it, in the units of the draft; the Tramo too where it has it.
-// @throws ErrorFichero
-void AbreSombra(Captura& c, const Borrador& b) {
-  if (!b.fichero.empty()) {
-    c.fichero.emplace(b.fichero, FicheroRegistros::Modo::Lectura);
-    c.lista = CargaObra(c.e, *c.fichero).lista;
-    MuestraObra(c);
-    MuestraListaTramos(c);
-  }
-  RevisaUnidades(c, b.obra.SisUnid);
-  const int posicion = PosicionGuardada(c, b);
-  if (posicion != 0) LeeTramo(c, posicion);
-}
 
 std::string Valor(const Captura& c, Ed campo) {
   const auto& control = c[campo];
@@ -173,34 +94,25 @@ bool SonIguales(const FilaCampo& fila, const std::string& a, const std::string& 
   return x && x == NumeroTexto(b);
 }
 
-std::string NombreDe(const Captura& c, const FilaCampo& fila) {
-  const auto& control = c[fila.id];
-  const std::string etiqueta = SinDosPuntos(control.etiqueta);
-  const std::string grupo = SinDosPuntos(control.grupo);
-  if (etiqueta.empty()) return grupo.empty() ? SinDosPuntos(control.consejo) : grupo;
-  return grupo.empty() ? etiqueta : grupo + ": " + etiqueta;
-}
-
-std::vector<RenglonVersion> Renglones(const Captura& fichero, const Captura& tecleado,
-                                      bool conTramo, bool tramoEnFichero) {
-  std::vector<RenglonVersion> renglones;
+// The fields that differ, of the Obra or of the Tramos in hand. @param delante  of each datum
+void Compara(std::vector<RenglonVersion>& renglones, const Captura& fichero,
+             const Captura& tecleado, bool deTramo, const std::string& delante) {
   for (const auto& fila : TablaCampos()) {
-    const bool deTramo = fila.pagina.TabPrincipal != 0;
-    if (EsCopia(fila.id) || fila.id == Ed::edTramo || (deTramo && !conTramo)) continue;
+    if (EsCopia(fila.id) || fila.id == Ed::edTramo) continue;
+    if ((fila.pagina.TabPrincipal != 0) != deTramo) continue;
     if (!tecleado[fila.id].habilitado && !fichero[fila.id].habilitado) continue;
-    const std::string antes = deTramo && !tramoEnFichero ? std::string{} : Valor(fichero, fila.id);
+    const bool sinTramo = deTramo && fichero.SinTramoEnMano();
+    const std::string antes = sinTramo ? std::string{} : Valor(fichero, fila.id);
     const std::string ahora = Valor(tecleado, fila.id);
-    if (!SonIguales(fila, antes, ahora)) {
-      renglones.push_back({NombreDe(tecleado, fila), antes, ahora});
-    }
+    if (SonIguales(fila, antes, ahora)) continue;
+    renglones.push_back({delante + NombreDeCampo(tecleado, fila.id), antes, ahora});
   }
-  return renglones;
 }
 
 }  // namespace
 
 bool HayTrabajoSinGuardar(const Captura& c) {
-  return c.ObraCargada && !c.SoloLectura() && (c.EnCambio() || c.EnAltas());
+  return c.ObraCargada && !c.SoloLectura() && c.EnCambio();
 }
 
 Borrador TomaBorrador(const Captura& c) {
@@ -208,45 +120,40 @@ Borrador TomaBorrador(const Captura& c) {
   b.autor = EsteTitular();
   b.cuando = b.autor.desde;
   b.fichero = FicheroDe(c);
-  b.estado = c.EstadoCaptura;
-  b.obraEditada = c.ObraEditada;
-  b.tramoEditado = c.TramoEditado;
-  b.obra = c.e.obra;
-  b.tramo = c.e.tramo;
-  b.memoria = TomaMemoria(c);
+  b.huella = c.huella;
+  b.version = VersionActual(c);
+  b.lista = ListaDe(c.guardada);
+  for (const auto& t : b.version.tramos) {
+    const auto lugar = LugarDe(c.guardada, t->id);
+    b.origenes.push_back(lugar ? OrigenTramo{static_cast<int>(*lugar) + 1,
+                                             c.guardada.tramos[*lugar]->numero}
+                               : OrigenTramo{});
+  }
+  const auto enMano = LugarDe(b.version, c.enMano);
+  b.enMano = enMano ? static_cast<int>(*enMano) : -1;
+  b.AnchoZanjaAuto = c.AnchoZanjaAuto;
   b.pagina = c.pantalla.pagina;
   b.foco = c.pantalla.foco;
-  b.avCargas1 = c.pantalla.avCargas1;
-  b.figuraColocacion = c.pantalla.figuraColocacion;
-  b.figuraTubo = c.pantalla.figuraTubo;
-  for (const auto& fila : TablaCampos()) {
-    b.campos[static_cast<std::size_t>(fila.id)] = TomaCampo(c, fila.id);
-  }
-  if (c.fichero) b.huella = HuellaActual(*c.fichero, PosicionGuardada(c, b));
+  if (c.Tecleando && c[b.foco].tocado) b.tecleado = CampoTecleado{b.foco, c[b.foco].texto};
   return b;
 }
 
 void PonBorrador(Captura& c, const Borrador& b) {
-  PonObra(c, b);
-  if (b.ConTramo()) {
-    PonTramo(c, b);
-  } else {
-    c.e.tramo = b.tramo;
-  }
-  for (const auto& fila : TablaCampos()) {
-    PonCampo(c, fila.id, b.campos[static_cast<std::size_t>(fila.id)]);
-  }
-  PonMemoria(c, b.memoria);
+  const EnUnPaso paso(c, Texto(c, txt::PasoRecupera));
+  const Version v = SobreElFichero(c, b);
+  VuelveA(c, v, b.ConTramo() ? v.tramos[static_cast<std::size_t>(b.enMano)]->id : 0);
+  c.AnchoZanjaAuto = b.AnchoZanjaAuto;
+  const int tipologia = c.pantalla.pagina.TabTipologia;
   c.pantalla.pagina = b.pagina;
+  c.pantalla.pagina.TabTipologia = tipologia;
   c.pantalla.foco = b.foco;
-  c.pantalla.avCargas1 = b.avCargas1;
-  c.pantalla.figuraColocacion = b.figuraColocacion;
-  c.pantalla.figuraTubo = b.figuraTubo;
+  if (b.tecleado) {
+    auto& control = c[b.tecleado->campo];
+    control.texto = b.tecleado->texto;
+    control.tocado = c.Tecleando = true;
+  }
   RenuevaEtiquetas(c);
   RenuevaTitulo(c);
-  ActualizaMenus(c);
-  c.ObraEditada = b.obraEditada;
-  c.TramoEditado = b.tramoEditado;
 }
 
 Versiones ComparaVersiones(const Borrador& b, const Catalogo& textos, const TablasCatalogo& tablas,
@@ -254,25 +161,32 @@ Versiones ComparaVersiones(const Borrador& b, const Catalogo& textos, const Tabl
   Versiones v;
   Sombra fichero(textos, tablas, separador);
   Sombra tecleado(textos, tablas, separador);
-  for (auto* sombra : {&fichero, &tecleado}) {
+  for (auto* c : {&fichero.c, &tecleado.c}) {
+    if (b.fichero.empty()) continue;
     try {
-      AbreSombra(sombra->c, b);
+      AbreParaMirar(*c, b.fichero);
     } catch (const ErrorFichero& error) {
       v.causa = textos.Compone(error.mensaje());
-      sombra->c.fichero.reset();
-      sombra->c.lista.clear();
-      NuevaObra(sombra->c);
+      NuevaObra(*c);
     }
   }
-  const int posicion = PosicionGuardada(fichero.c, b);
-  v.tramoEsNuevo = posicion == 0;
-  v.cambiado = !b.fichero.empty() && v.causa.empty() &&
-               HuellaActual(*fichero.c.fichero, posicion) != b.huella;
+  v.cambiado = !b.fichero.empty() && v.causa.empty() && fichero.c.huella != b.huella;
   PonBorrador(tecleado.c, b);
-  const auto idioma = static_cast<std::int16_t>(textos.IdiomaOffset() / kPasoIdioma + 1);
-  CambiaIdioma(tecleado.c, idioma);
-  CambiaIdioma(fichero.c, idioma);
-  v.renglones = Renglones(fichero.c, tecleado.c, b.ConTramo(), !v.tramoEsNuevo);
+  RevisaUnidades(fichero.c, b.version.obra.EsSI());
+  Compara(v.renglones, fichero.c, tecleado.c, false, {});
+  for (const auto& t : tecleado.c.version.tramos) {
+    const auto* suyo = Busca(fichero.c.version, t->id);
+    if (suyo != nullptr && *suyo == *t && t->id != tecleado.c.enMano) continue;
+    const std::string delante = textos.Compone(txt::DatoDelTramo, {t->numero});
+    PonEnMano(fichero.c, t->id);
+    if (t->id != tecleado.c.enMano) PonEnMano(tecleado.c, t->id);
+    Compara(v.renglones, fichero.c, tecleado.c, true, delante);
+  }
+  for (const auto& t : fichero.c.version.tramos) {
+    if (Busca(tecleado.c.version, t->id) != nullptr) continue;
+    v.renglones.push_back({textos.Compone(txt::DatoDelTramo, {t->numero}), t->datos.DescriTramo,
+                           textos.Texto(txt::TramoBorrado)});
+  }
   return v;
 }
 

@@ -12,8 +12,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr int kVersion = 1;
-constexpr std::size_t kMaxBytes = 1'000'000;
+constexpr int kVersion = 2;
+constexpr std::size_t kMaxBytes = 16'000'000;
 
 struct Ilegible {};
 
@@ -75,36 +75,11 @@ void RecorreBloque(auto& b, const auto& v) {
   }
 }
 
-void RecorreMemoria(auto& m, const auto& v) {
-  v("AjustesPorBorrar", m.AjustesPorBorrar);
-  v("AnchoZanjaAuto", m.AnchoZanjaAuto);
-  v("SFckEditado", m.SFckEditado);
-  v("EsComercial", m.EsComercial);
-  v("SinAvisoGeom", m.SinAvisoGeom);
-  v("BandaReci", m.BandaReci);
-  v("BandaRece", m.BandaRece);
-  v("FykAnterior", m.FykAnterior);
-  v("EspRecomMin", m.EspRecomMin);
-  v("EspRecomMax", m.EspRecomMax);
-}
-
 void RecorrePagina(auto& p, const auto& v) {
   v("TabPrincipal", p.TabPrincipal);
   v("TabTipologia", p.TabTipologia);
   v("TabPostesados", p.TabPostesados);
   v("TabDatosColocacion", p.TabDatosColocacion);
-}
-
-void RecorreCampo(auto& campo, const auto& v) {
-  v("texto", campo.texto);
-  v("entrada", campo.entrada);
-  v("opcion", campo.opcion);
-  v("habilitado", campo.habilitado);
-  v("etiquetaHabilitada", campo.etiquetaHabilitada);
-  v("bloqueado", campo.bloqueado);
-  v("gris", campo.gris);
-  v("tabulador", campo.tabulador);
-  v("tocado", campo.tocado);
 }
 
 void RecorreAutor(auto& t, const auto& v) {
@@ -115,15 +90,26 @@ void RecorreAutor(auto& t, const auto& v) {
   v("arranque", t.arranque);
 }
 
-void RecorreBorrador(auto& b, const auto& v) {
-  v("cuando", b.cuando);
-  v("huella", b.huella);
-  v("estado", b.estado);
-  v("obraEditada", b.obraEditada);
-  v("tramoEditado", b.tramoEditado);
-  v("avCargas1", b.avCargas1);
-  v("figuraColocacion", b.figuraColocacion);
-  v("figuraTubo", b.figuraTubo);
+// The texts that rules refused.
+void PonPendientes(Json& j, const std::vector<TextoPendiente>& pendientes) {
+  for (const auto& p : pendientes) {
+    j.push_back({{"campo", Fila(p.campo).nombre}, {"texto", p.texto}, {"mensaje", p.mensaje}});
+  }
+}
+
+Ed CampoDe(const Json& j) {
+  const auto campo = CampoPorNombre(j.get<std::string>());
+  Exige(campo.has_value());
+  return *campo;
+}
+
+std::vector<TextoPendiente> PendientesDe(const Json& j) {
+  std::vector<TextoPendiente> pendientes;
+  for (const auto& p : j) {
+    pendientes.push_back({CampoDe(p.at("campo")), p.at("texto").get<std::string>(),
+                          p.at("mensaje").get<std::string>()});
+  }
+  return pendientes;
 }
 
 // ---- The file's name, whose bytes need not be a text: those that are not plain go as %XX
@@ -174,37 +160,63 @@ bool Entre(int n, int primero, int ultimo) {
   return n >= primero && n <= ultimo;
 }
 
-// What the screen takes as an index, or as the name of a figure, must be one.
+// What the screen takes as an index must be one.
 void Comprueba(const Borrador& b) {
-  Exige(b.estado == kSinTramo || b.estado == kAltas || b.estado == kModificaciones);
-  Exige(b.obra.SisUnid == "SI" || b.obra.SisUnid == "MKS");
-  Exige(Entre(b.obra.Idioma, 1, kIdiomas) && Entre(b.tramo.TipoColocacion, 0, 2));
-  Exige(b.tramo.NumeroTramo >= 0);
-  Exige((b.figuraColocacion + b.figuraTubo).find('/') == std::string::npos);
+  const auto& o = b.version.obra;
+  Exige(o.SisUnid == "SI" || o.SisUnid == "MKS");
+  Exige(Entre(o.Idioma, 1, kIdiomas));
   Exige(Entre(b.pagina.TabPrincipal, 0, 2) && Entre(b.pagina.TabTipologia, 0, 1) &&
         Entre(b.pagina.TabPostesados, 0, 3) && Entre(b.pagina.TabDatosColocacion, 0, 2));
-  for (const auto& fila : TablaCampos()) {
-    const int ultima = fila.id == Ed::rdTipoColocacion ? 2 : 1;
-    Exige(Entre(b.campos[static_cast<std::size_t>(fila.id)].opcion, -1, ultima));
+  Exige(Entre(b.enMano, -1, static_cast<int>(b.version.tramos.size()) - 1));
+  Exige(b.version.tramos.size() <= kMaxTramos && b.lista.size() <= kMaxTramos);
+  for (const auto& t : b.version.tramos) {
+    Exige(Entre(t->datos.TipoColocacion, 0, 2) && t->datos.NumeroTramo >= 0);
+    Exige(NumeroDe(t->numero) == t->datos.NumeroTramo);
   }
+}
+
+Json TramoEnJson(const TramoEnObra& t, const OrigenTramo& origen) {
+  Json j;
+  j["numero"] = t.numero;
+  j["posicion"] = origen.posicion;
+  j["numeroEnFichero"] = origen.numero;
+  RecorreBloque(t.datos, Escritor(j["datos"]));
+  PonPendientes(j["pendientes"] = Json::array(), t.pendientes);
+  return j;
+}
+
+void LeeTramo(const Json& j, Borrador& b) {
+  auto t = std::make_shared<TramoEnObra>();
+  OrigenTramo origen;
+  Lee(j, "numero", t->numero);
+  Lee(j, "posicion", origen.posicion);
+  Lee(j, "numeroEnFichero", origen.numero);
+  RecorreBloque(t->datos, Lector(j.at("datos")));
+  t->pendientes = PendientesDe(j.at("pendientes"));
+  Exige(origen.posicion >= 0);
+  b.version.tramos.push_back(std::move(t));
+  b.origenes.push_back(std::move(origen));
 }
 
 Borrador BorradorDe(const Json& j) {
   Exige(j.is_object() && EnteroDe<int>(j.at("version")) == kVersion);
   Borrador b;
   b.fichero = NombreDeLlano(j.at("fichero").get<std::string>());
-  RecorreBorrador(b, Lector(j));
+  Lee(j, "cuando", b.cuando);
+  Lee(j, "huella", b.huella);
+  Lee(j, "lista", b.lista);
+  Lee(j, "enMano", b.enMano);
+  Lee(j, "AnchoZanjaAuto", b.AnchoZanjaAuto);
   RecorreAutor(b.autor, Lector(j.at("autor")));
-  RecorreBloque(b.obra, Lector(j.at("obra")));
-  RecorreBloque(b.tramo, Lector(j.at("tramo")));
-  RecorreMemoria(b.memoria, Lector(j.at("memoria")));
+  RecorreBloque(b.version.obra, Lector(j.at("obra")));
+  b.version.pendientes = PendientesDe(j.at("pendientes"));
+  for (const auto& tramo : j.at("tramos")) LeeTramo(tramo, b);
   RecorrePagina(b.pagina, Lector(j.at("pagina")));
-  const auto foco = CampoPorNombre(j.at("foco").get<std::string>());
-  Exige(foco.has_value());
-  b.foco = *foco;
-  const auto& campos = j.at("campos");
-  for (const auto& fila : TablaCampos()) {
-    RecorreCampo(b.campos[static_cast<std::size_t>(fila.id)], Lector(campos.at(fila.nombre)));
+  b.foco = CampoDe(j.at("foco"));
+  if (j.contains("tecleado")) {
+    const auto& tecleado = j.at("tecleado");
+    b.tecleado = CampoTecleado{CampoDe(tecleado.at("campo")),
+                               tecleado.at("texto").get<std::string>()};
   }
   Comprueba(b);
   return b;
@@ -216,17 +228,22 @@ std::string TextoDeBorrador(const Borrador& b) {
   Json j;
   j["version"] = kVersion;
   j["fichero"] = NombreLlano(b.fichero);
-  RecorreBorrador(b, Escritor(j));
+  Escribe(j, "cuando", b.cuando);
+  Escribe(j, "huella", b.huella);
+  Escribe(j, "lista", b.lista);
+  Escribe(j, "enMano", b.enMano);
+  Escribe(j, "AnchoZanjaAuto", b.AnchoZanjaAuto);
   RecorreAutor(b.autor, Escritor(j["autor"]));
-  RecorreBloque(b.obra, Escritor(j["obra"]));
-  RecorreBloque(b.tramo, Escritor(j["tramo"]));
-  RecorreMemoria(b.memoria, Escritor(j["memoria"]));
+  RecorreBloque(b.version.obra, Escritor(j["obra"]));
+  PonPendientes(j["pendientes"] = Json::array(), b.version.pendientes);
+  auto& tramos = j["tramos"] = Json::array();
+  for (std::size_t i = 0; i < b.version.tramos.size(); ++i) {
+    tramos.push_back(TramoEnJson(*b.version.tramos[i], b.origenes[i]));
+  }
   RecorrePagina(b.pagina, Escritor(j["pagina"]));
   j["foco"] = Fila(b.foco).nombre;
-  auto& campos = j["campos"];
-  for (const auto& fila : TablaCampos()) {
-    RecorreCampo(b.campos[static_cast<std::size_t>(fila.id)],
-                 Escritor(campos[std::string(fila.nombre)]));
+  if (b.tecleado) {
+    j["tecleado"] = {{"campo", Fila(b.tecleado->campo).nombre}, {"texto", b.tecleado->texto}};
   }
   return j.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
 }

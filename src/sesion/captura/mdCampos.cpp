@@ -13,6 +13,7 @@ namespace {
 // clang-format off
 constexpr auto kSinDato = std::to_array<Campo>({
     {.id = Ed::edTramo, .nombre = "edTramo", .clase = Clase::Texto, .pagina = kPaginaTramo, .etiqueta = txt::EtNumeroTramo, .rotulo = txt::RotTramo, .consejo = txt::TipTramo},
+    {.id = Ed::rdTipologia, .nombre = "rdTipologia", .clase = Clase::Opcion, .pagina = kPaginaTramo, .grupo = txt::GrupoTipologia, .consejo = txt::TipTipologia},
     {.id = Ed::rdTipoCamisa, .nombre = "rdTipoCamisa", .clase = Clase::Opcion, .pagina = kPaginaPostesado, .consejo = txt::TipOpcionCamisa},
     {.id = Ed::edObra2, .nombre = "edObra2", .clase = Clase::Texto, .pagina = kPaginaColocacion, .rotulo = txt::RotObra, .consejo = txt::TipObra},
     {.id = Ed::edTramo2, .nombre = "edTramo2", .clase = Clase::Texto, .pagina = kPaginaColocacion, .rotulo = txt::RotTramo, .consejo = txt::TipTramo},

@@ -32,12 +32,77 @@ void AdelantaSi(int& pagina, int pedida) {
 
 }  // namespace
 
-void OlvidaCambios(Captura& c) {
-  c.ObraEditada = c.TramoEditado = false;
+namespace {
+
+std::vector<TextoPendiente> Pendientes(const Captura& c, bool deObra) {
+  std::vector<TextoPendiente> pendientes;
+  for (const auto& fila : TablaCampos()) {
+    const auto& control = c[fila.id];
+    if (control.falta.empty() || (fila.pagina.TabPrincipal == 0) != deObra) continue;
+    pendientes.push_back({fila.id, control.texto, control.falta});
+  }
+  return pendientes;
+}
+
+}  // namespace
+
+Version VersionActual(const Captura& c) {
+  Version v = c.version;
+  v.obra = SinSesion(c.e.obra);
+  v.pendientes = Pendientes(c, true);
+  const auto lugar = LugarDe(v, c.enMano);
+  if (!lugar) return v;
+  TramoEnObra actual = *v.tramos[*lugar];
+  actual.datos = c.e.tramo;
+  actual.pendientes = Pendientes(c, false);
+  if (actual != *v.tramos[*lugar]) {
+    v.tramos[*lugar] = std::make_shared<TramoEnObra>(std::move(actual));
+  }
+  return v;
+}
+
+bool Captura::EnCambio() const {
+  return Tecleando || VersionActual(*this) != guardada;
+}
+
+bool SinGrabar(const Captura& c, int id) {
+  const Version ahora = VersionActual(c);
+  const auto lugar = LugarDe(ahora, id);
+  const auto antes = LugarDe(c.guardada, id);
+  return !lugar || !antes || *ahora.tramos[*lugar] != *c.guardada.tramos[*antes];
+}
+
+EnUnPaso::EnUnPaso(Captura& c, std::string nombre)
+    : c_(c), nombre_(std::move(nombre)), antes_(c.version), enManoAntes_(c.enMano) {
+  ++c_.pasosAbiertos;
+}
+
+EnUnPaso::~EnUnPaso() {
+  if (--c_.pasosAbiertos > 0) return;
+  c_.version = VersionActual(c_);
+  if (c_.version == antes_ || !c_.alDarPaso) return;
+  c_.alDarPaso({std::move(antes_), c_.version, enManoAntes_, c_.enMano, std::move(nombre_)});
+}
+
+std::string TextoDeError(const Captura& c, const ErrorFichero& error) {
+  return c.textos.Compone(error.mensaje());
 }
 
 const std::string& Texto(const Captura& c, int entrada) {
   return c.textos.Texto(entrada);
+}
+
+std::string NombreDeCampo(const Captura& c, Ed campo) {
+  const auto& control = c[campo];
+  const std::string etiqueta = SinDosPuntos(control.etiqueta);
+  const std::string grupo = SinDosPuntos(control.grupo);
+  if (etiqueta.empty()) return grupo.empty() ? SinDosPuntos(control.consejo) : grupo;
+  return grupo.empty() ? etiqueta : grupo + ": " + etiqueta;
+}
+
+std::string SinMarcas(std::string texto) {
+  std::erase(texto, '&');
+  return texto;
 }
 
 std::string SinDosPuntos(const std::string& texto) {
@@ -68,6 +133,7 @@ std::string UnidadTension(const Captura& c, int codigo) {
 void Escribe(Captura& c, Ed campo, std::string texto) {
   auto& control = c[campo];
   control.texto = std::move(texto);
+  control.falta.clear();
   control.tocado = false;
   control.seleccionado = false;
 }
@@ -135,8 +201,8 @@ void EligeEntrada(Captura& c, Ed campo, int posicion) {
 }
 
 void Rechaza(Captura& c, Ed campo, const std::string& texto, const std::string& titulo) {
-  c.falta = Falta{campo, c[campo].texto, titulo, texto};
-  c.voz.Muestra(texto, titulo);
+  c.faltas.push_back({campo, c[campo].texto, titulo, texto, 0});
+  c[campo].falta = titulo.empty() ? texto : SinDosPuntos(titulo) + ": " + texto;
 }
 
 void MuestraPagina(Captura& c, const Paginas& pagina) {
@@ -158,6 +224,22 @@ std::string TextoDeFalta(const Captura& c, const Tecleado& leido) {
   return leido.valor ? Texto(c, txt::NoEsValorNumerico) : c.textos.Compone(leido.falta);
 }
 
+namespace {
+
+// What a number below its least value is told.
+std::string TextoDeMinimo(const Captura& c, Ed campo, double minimo) {
+  if (minimo <= 0.0) return Texto(c, txt::NoPuedeSerNegativo);
+  if (minimo <= kAlgo) return Texto(c, txt::DebeSerMayorQueCero);
+  const auto& ficha = *Fila(campo).ficha;
+  const auto& unidades = UnidadesDe(ficha.magnitud);
+  std::string limite = Formato(c, minimo, minimo < 0.001 ? "0.0000" : "0.000");
+  const std::string_view unidad = c.EsSI() ? unidades.si : unidades.mks;
+  if (!unidad.empty() && unidad != "-") limite += " " + std::string(unidad);
+  return c.textos.Compone(txt::DebeSerAlMenos, {limite});
+}
+
+}  // namespace
+
 bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino,
                   const std::string& etiqueta) {
   const auto leido = NumeroTecleado(c[campo].texto, c.SeparadorDecimal);
@@ -167,7 +249,7 @@ bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino,
   }
   destino = *leido.valor;
   if (destino >= minimo) return true;
-  Rechaza(c, campo, Texto(c, txt::ValorIncorrecto), etiqueta);
+  Rechaza(c, campo, TextoDeMinimo(c, campo, minimo), etiqueta);
   return false;
 }
 

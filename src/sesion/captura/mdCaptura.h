@@ -1,9 +1,13 @@
-// The capture: the screen model and the state that it feeds, and the helpers that every rule of
-// the fields uses. The state holds the units of the Obra's system throughout.
+// The capture: the screen model, the state that it feeds, and the helpers that every rule of the
+// fields uses. The state holds the units of the Obra's system throughout.
 //
-// An edit of a person raises `ObraEditada` or `TramoEditado`; what the program writes does not.
+// The Obra with all its Tramos is in memory. `version` is how it stood after the last step; the
+// data of the Obra and those of the Tramo in hand are newer in `e` while a step is under way.
 #pragma once
 
+#include <algorithm>
+#include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +19,7 @@
 #include "persistencia/zrb/mdZrb.h"
 #include "sesion/captura/mdInterlocutor.h"
 #include "sesion/captura/mdModelo.h"
+#include "sesion/captura/mdVersion.h"
 
 namespace zorbin {
 
@@ -22,24 +27,28 @@ namespace zorbin {
 /// fits in the file.
 inline constexpr double kMayorTecleado = 1e9;
 
-/// Values of EstadoCaptura.
-inline constexpr std::string_view kSinTramo = " ";
-inline constexpr std::string_view kAltas = "ALTAS";
-inline constexpr std::string_view kModificaciones = "MODIFICACIONES";
-
-/// The last refusal of a rule: the field, what it held, and what was said.
+/// A refusal of a rule: the field, what it held, and what was said.
 struct Falta {
   Ed campo = Ed::edObra;
   std::string valor;
   std::string titulo;
   std::string mensaje;
+  int tramo = 0;  // id of the Tramo; 0 for the Obra, or the one in hand
 };
 
-/// What leaving a field comes to.
+/// What the rule of a field comes to. The focus goes where the person goes all the same.
 enum class SalidaCampo {
-  Pasa,    // the focus may go where it was going
-  Queda,   // refused: it stays
-  VaOtro,  // it goes to the field that the model names in `foco`
+  Pasa,   // taken
+  Queda,  // refused: the text stays in its field, with the reason beside it
+};
+
+/// A step that can be undone: how the Obra stood before and after, and what was done.
+struct Paso {
+  Version antes;
+  Version despues;
+  int enManoAntes = 0;  // id of the Tramo in hand
+  int enManoDespues = 0;
+  std::string nombre;  // in the words of the language in force
 };
 
 struct Captura {
@@ -58,44 +67,73 @@ struct Captura {
   char SeparadorDecimal;
 
   Modelo pantalla;
-  ListaTramos lista;
-  int UltimoTramo = 0;
+  Version version;
+  Version guardada;  // what the file holds
+  int enMano = 0;    // id of the Tramo in hand; 0 for none
+  int ultimoId = 0;
   std::optional<FicheroRegistros> fichero;
-  std::string EstadoCaptura{kSinTramo};
+  std::uint64_t huella = 0;  // of what the file holds
+  std::string sinAjustes;    // why its hand adjustments were refused; empty where they were not
+  std::function<void(Paso)> alDarPaso;  // of whoever undoes
+  int pasosAbiertos = 0;                // a step within another is a part of it
   bool ObraCargada = false;
-  bool ObraEditada = false;
-  bool TramoEditado = false;
-  bool AjustesPorBorrar = false;  // a change could not void the hand adjustments of the Tramo
-  bool LeyendoDatos = false;      // fields are being filled by the program: rules of change are off
-  bool AnchoZanjaAuto = false;    // B0 follows De
-  bool SFckEditado = false;       // edSFck changed since it took the focus
-  double FykAnterior = 0;         // value of edFyk on entering it
-  bool EsComercial = false;       // the diameter is in the catalogue
-  bool SinAvisoGeom = false;      // the recommended dimensions are not asked about
-  double EspRecomMin = 0;         // band of the thickness [cm]; 0 and 0 for none
+  bool Danada = false;         // not all of the file could be read: it is never written
+  bool Tecleando = false;      // a field holds what its rule has not seen yet
+  bool LeyendoDatos = false;   // fields are being filled by the program: rules of change are off
+  bool AnchoZanjaAuto = false; // B0 follows De
+  bool SFckEditado = false;    // edSFck changed since it took the focus
+  double FykAnterior = 0;      // value of edFyk on entering it
+  bool EsComercial = false;    // the diameter is in the catalogue
+  double EspRecomMin = 0;      // band of the thickness [cm]; 0 and 0 for none
   double EspRecomMax = 0;
   bool BandaReci = false;  // the label of the cover shows its band
   bool BandaRece = false;
-  std::optional<Falta> falta;
+  std::vector<Falta> faltas;  // of the last validation, or of the last field that was left
 
-  /// The Obra is open for reading: another program has it, or its rights forbid writing.
-  bool SoloLectura() const { return fichero && fichero->SoloLectura(); }
-  bool EnCambio() const { return ObraEditada || TramoEditado; }
+  /// The Obra is open for reading: another program has it, its rights forbid writing, or it is
+  /// damaged.
+  bool SoloLectura() const { return Danada || (fichero && fichero->SoloLectura()); }
+  /// There is something that the file does not hold.
+  bool EnCambio() const;
   bool EsSI() const { return e.obra.EsSI(); }
-  bool EnAltas() const { return EstadoCaptura == kAltas; }
-  bool EnModificaciones() const { return EstadoCaptura == kModificaciones; }
-  bool SinTramoEnMano() const { return EstadoCaptura == kSinTramo; }
+  bool SinTramoEnMano() const { return enMano == 0; }
+  /// The Tramo in hand is not in the file yet.
+  bool EnAltas() const { return enMano != 0 && Busca(guardada, enMano) == nullptr; }
+  bool EnModificaciones() const { return enMano != 0 && !EnAltas(); }
 
   Control& operator[](Ed id) { return pantalla[id]; }
   const Control& operator[](Ed id) const { return pantalla[id]; }
 };
 
-/// There are no unsaved edits from now on.
-void OlvidaCambios(Captura& c);
+/// How the Obra stands now, with what is in hand.
+Version VersionActual(const Captura& c);
+/// Whether a Tramo differs from what the file holds, or is not in it.
+bool SinGrabar(const Captura& c, int id);
+
+/// A step. What its life changes can be undone at once; where it changes nothing there is none.
+class EnUnPaso {
+ public:
+  EnUnPaso(Captura& c, std::string nombre);
+  ~EnUnPaso();
+  EnUnPaso(const EnUnPaso&) = delete;
+  EnUnPaso& operator=(const EnUnPaso&) = delete;
+
+ private:
+  Captura& c_;
+  std::string nombre_;
+  Version antes_;
+  int enManoAntes_;
+};
 
 // ---- Texts
 
 const std::string& Texto(const Captura& c, int entrada);
+
+/// What a field is called where it stands alone, as in a list.
+std::string NombreDeCampo(const Captura& c, Ed campo);
+
+/// Without the marks of its key.
+std::string SinMarcas(std::string texto);
 
 /// Without the colon that ends a caption.
 std::string SinDosPuntos(const std::string& texto);
@@ -143,7 +181,7 @@ void EligeEntrada(Captura& c, Ed campo, int posicion);
 
 // ---- Messages
 
-/// Shows a message and keeps it as the refusal of a field. An empty title is the application's.
+/// Keeps the refusal of a field: beside it, and among the faults. The title is the subject.
 void Rechaza(Captura& c, Ed campo, const std::string& texto, const std::string& titulo = {});
 
 /// Brings the page of a field to the front and gives it the focus.
@@ -153,6 +191,11 @@ void MuestraPagina(Captura& c, const Paginas& pagina);
 
 /// Why what was typed is no quantity: it is no number, or is beyond kMayorTecleado.
 std::string TextoDeFalta(const Captura& c, const Tecleado& leido);
+
+/// Whether all of them pass. A braced list looks at each, in its order, so that every fault is told.
+inline bool Cada(std::initializer_list<bool> pasan) {
+  return std::ranges::all_of(pasan, [](bool pasa) { return pasa; });
+}
 
 /// Reads a field into `destino`: an empty text is 0. A text that is no number (or is beyond
 /// kMayorTecleado) is refused and leaves `destino`; a value below the minimum is refused and is
@@ -164,6 +207,9 @@ bool ValidaNumero(Captura& c, Ed campo, double minimo, double& destino, int etiq
 /// As ValidaNumero on leaving a field: a text that shows the variable as the program wrote it is
 /// not read again, since a mask loses digits.
 bool LeeAlSalir(Captura& c, Ed campo, double minimo, double& destino, int etiqueta);
+
+/// A message of a file, in the language in force.
+std::string TextoDeError(const Captura& c, const ErrorFichero& error);
 
 /// A real rounded half to even, as a 32-bit integer held in a double, so that nothing overflows.
 double Redondea(double x);

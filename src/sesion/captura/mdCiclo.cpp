@@ -6,14 +6,14 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
-#include "core/mdUnidades.h"
-#include "sesion/captura/mdAjustesTramo.h"
+#include "persistencia/proyecto/mdAcompanantes.h"
+#include "persistencia/proyecto/mdGrabaProyecto.h"
+#include "sesion/captura/mdComprueba.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdOrdenes.h"
 #include "sesion/captura/mdPresenta.h"
 #include "sesion/captura/mdTipologias.h"
-#include "sesion/captura/mdValidaObra.h"
-#include "sesion/captura/mdValidaTramo.h"
+#include "sesion/captura/mdTramos.h"
 
 namespace zorbin {
 
@@ -21,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kErrorDeTipo = 13;
-constexpr int kMayorNumeroTramo = 32767;
 constexpr double kAlturaNuevaObra = 3.0;  // [m]
 constexpr std::string_view kExtension = ".zrb";
 
@@ -30,90 +28,138 @@ void MuestraError(Captura& c, const ErrorFichero& error) {
   c.voz.Muestra(TextoDeError(c, error), {});
 }
 
-bool Confirma(Captura& c, int texto, int titulo) {
-  return c.voz.Pregunta(Texto(c, texto), Texto(c, titulo));
-}
-
-void Avisa(Captura& c, int texto) {
-  c.voz.Muestra(Texto(c, texto), Texto(c, txt::TituloAviso));
-}
-
-int NumeroDe(const std::string& texto) {
-  const auto valor = NumeroTexto(texto);
-  return valor && *valor >= 0 && *valor <= kMayorNumeroTramo ? static_cast<int>(Redondea(*valor))
-                                                             : 0;
-}
-
-void PonNumero(Captura& c, int numero) {
-  c.e.tramo.NumeroTramo = static_cast<std::int16_t>(numero);
-  const std::string texto = numero == 0 ? std::string{} : TextoEntero(numero);
-  Escribe(c, Ed::edTramo, texto);
-  Escribe(c, Ed::edTramo2, texto);
-}
-
-void PonEstado(Captura& c, std::string_view estado) {
-  c.EstadoCaptura = estado;
-  RenuevaTitulo(c);
-  ActualizaMenus(c);
-}
-
-// Nothing of an Obra before survives: not its file, not its Tramo.
+// Nothing of an Obra before survives: not its file, not its Tramos.
 void Vacia(Captura& c) {
   const std::string carpeta = c.e.obra.RutaApp;
   c.fichero.reset();
-  c.lista.clear();
-  c.UltimoTramo = 0;
-  c.ObraCargada = false;
-  c.AjustesPorBorrar = false;
-  c.falta.reset();
+  c.version = c.guardada = Version{};
+  c.enMano = 0;
+  c.faltas.clear();
+  c.sinAjustes.clear();
+  c.ObraCargada = c.Danada = c.Tecleando = false;
   c.e.obra = Obra{};
   c.e.tramo = Tramo{};
   c.e.obra.RutaApp = carpeta;
-  c.EstadoCaptura = kSinTramo;
   PreparaPantalla(c);
   LimpiaCaptura(c, 0);
 }
 
+// ---- Opening
+
+void TomaFichero(Captura& c, FicheroRegistros f) {
+  c.fichero.emplace(std::move(f));
+  c.fichero->PreparaGrabado();
+  for (const auto& aviso : c.fichero->avisos()) c.voz.Anuncia(c.textos.Compone(aviso));
+}
+
+void AbreFichero(Captura& c, const fs::path& ruta) {
+  try {
+    TomaFichero(c, {ruta, FicheroRegistros::Modo::LecturaEscritura});
+  } catch (const SoloParaLeer& error) {
+    TomaFichero(c, {ruta, FicheroRegistros::Modo::Lectura});
+    c.voz.Anuncia(TextoDeError(c, error) + " " +
+                  c.textos.Compone(txt::AbiertoParaLeer, {c.fichero->Nombre()}));
+  }
+}
+
+// What lies beside the file; what of it is refused is told.
+Acompanantes LeeDeAlLado(Captura& c) {
+  auto suyos = LeeAcompanantes(*c.fichero);
+  c.sinAjustes.clear();
+  for (const auto& aviso : suyos.avisos) {
+    c.voz.Anuncia(c.textos.Compone(aviso));
+    if (suyos.SinAjustes && c.sinAjustes.empty()) c.sinAjustes = c.textos.Compone(aviso);
+  }
+  return suyos;
+}
+
+std::vector<EntradaAjuste> LosDe(const std::vector<EntradaAjuste>& ajustes, int numero) {
+  std::vector<EntradaAjuste> suyos;
+  std::ranges::copy_if(ajustes, std::back_inserter(suyos), [numero](const EntradaAjuste& x) {
+    return !x.Libre() && Redondea(x.Tramo) == numero;
+  });
+  return suyos;
+}
+
+// Whether the file is still the same. What can't be read has the mark of nothing.
+std::uint64_t HuellaDeTodo(const Captura& c) {
+  std::uint64_t huella = HuellaDe(*c.fichero, 0);
+  for (std::size_t i = 1; i <= c.version.tramos.size(); ++i) {
+    try {
+      huella = huella * 31 + HuellaDe(*c.fichero, static_cast<int>(i));
+    } catch (const ErrorFichero&) {
+      huella *= 31;
+    }
+  }
+  return huella;
+}
+
+// All the Tramos of the file. A block that cannot be read gives its place and why.
+std::vector<TramoFijo> LeeTramos(Captura& c, const ListaTramos& lista, Acompanantes& suyos) {
+  EstadoCalculo e;  // a blank record keeps the value of the Tramo before
+  e.obra = c.e.obra;
+  std::vector<TramoFijo> tramos;
+  for (std::size_t i = 0; i < lista.size(); ++i) {
+    TramoEnObra t;
+    t.id = ++c.ultimoId;
+    t.numero = lista[i];
+    const int numero = NumeroDe(t.numero);
+    if (!t.numero.empty()) {
+      try {
+        CargaTramo(e, *c.fichero, static_cast<int>(i) + 1);
+        t.datos = e.tramo;
+        t.datos.Envolvente = false;
+        t.ajustes = LosDe(suyos.ajustes, numero);
+        if (auto extras = TomaExtras(suyos.extras, t.numero, t.datos.DescriTramo)) {
+          t.datos.Envolvente = extras->Envolvente;
+          t.extras = std::move(extras->otras);
+        }
+      } catch (const ErrorFichero& error) {
+        t.dano = TextoDeError(c, error);
+      }
+    }
+    t.datos.NumeroTramo = static_cast<std::int16_t>(numero);
+    tramos.push_back(std::make_shared<TramoEnObra>(std::move(t)));
+  }
+  return tramos;
+}
+
+// Header and Tramos of the file that is open. @throws ErrorFichero
+void LeeTodo(Captura& c) {
+  const auto leida = CargaObra(c.e, *c.fichero);
+  for (const auto& aviso : leida.avisos) c.voz.Anuncia(c.textos.Compone(aviso));
+  auto suyos = LeeDeAlLado(c);
+  c.version.tramos = LeeTramos(c, leida.lista, suyos);
+  for (const auto& aviso : AvisosDeExtras(suyos.extras, RutaZrx(c.fichero->ruta()))) {
+    c.voz.Anuncia(c.textos.Compone(aviso));
+  }
+  c.version.extras = std::move(suyos.extras);
+  c.huella = HuellaDeTodo(c);
+  c.ObraCargada = true;
+  MuestraObra(c);
+  c.version = c.guardada = VersionActual(c);
+  MuestraTodo(c);
+}
+
+// What could not be read, told at once.
+void DiDanos(Captura& c) {
+  std::string danos;
+  for (const auto& t : c.version.tramos) {
+    if (!t->dano.empty()) danos += "\n" + t->dano;
+  }
+  c.Danada = !danos.empty();
+  if (c.Danada) {
+    c.voz.Muestra(c.textos.Compone(txt::ObraDanada, {c.fichero->Nombre()}) + danos, {});
+  }
+}
+
 // ---- Saving
 
-// Whether a number is read from its text again before it is written. Fct follows from Fck, and the
-// other numbers of a Tramo were read by their rules.
-bool SeRelee(const FilaCampo& fila, bool deObra) {
-  if (fila.clase != Clase::Numero || (fila.obra != nullptr) != deObra) return false;
-  return deObra || (fila.ficha->Escala() && fila.id != Ed::edFct);
-}
-
-// Texts into variables. A text that is no number leaves everything as it was, and is the refusal.
-bool LeeTextos(Captura& c, bool deObra) {
-  std::vector<std::pair<Ed, double>> leidos;
-  for (const auto& fila : TablaCampos()) {
-    if (!SeRelee(fila, deObra)) continue;
-    const auto leido = NumeroTecleado(c[fila.id].texto, c.SeparadorDecimal);
-    if (!leido.valor || *leido.valor > kMayorTecleado) {
-      c.falta = Falta{fila.id, c[fila.id].texto, {}, TextoDeFalta(c, leido)};
-      return false;
-    }
-    leidos.emplace_back(fila.id, *leido.valor);
-  }
-  for (const auto& [campo, valor] : leidos) Variable(c, campo) = valor;
-  return true;
-}
-
-// Texts that may not fit in a record, in the order of the file.
-void CompruebaTextos(const Captura& c, const std::string& fichero, bool conTramo) {
-  BytesDeCampo(fichero, "NombreObra", c[Ed::edObra].texto);
-  BytesDeCampo(fichero, "Cliente", c[Ed::edCliente].texto);
-  if (conTramo) BytesDeCampo(fichero, "DescriTramo", c[Ed::edDescriTramo].texto);
-}
-
-// Name of the file of a new Obra, with its extension; empty when none was given, and told.
-std::string PideNombre(Captura& c) {
-  const auto nombre = c.voz.PideFichero(Texto(c, txt::TituloGrabar));
-  if (!nombre) {
-    c.e.obra.NombreFichero = " ";
-    c.voz.Muestra(Texto(c, txt::NoHaSalvado), {});
-    return {};
-  }
+// Name of a file with its extension; empty where none was given.
+std::string PideNombre(Captura& c, int titulo) {
+  const std::string actual = c.fichero ? c.fichero->Nombre() : std::string{};
+  const auto nombre = c.voz.PideFichero(Texto(c, titulo), actual);
+  if (!nombre) return {};
   const std::string corto = nombre->substr(0, nombre->find('\0'));
   if (Recorta(corto).empty()) {
     c.voz.Muestra(Texto(c, txt::SinNombreDeFichero), {});
@@ -123,401 +169,219 @@ std::string PideNombre(Captura& c) {
   return conPunto ? corto : corto + std::string(kExtension);
 }
 
-void TomaFichero(Captura& c, FicheroRegistros f) {
-  c.fichero.emplace(std::move(f));
-  c.fichero->PreparaGrabado();
-  for (const auto& aviso : c.fichero->avisos()) c.voz.Anuncia(c.textos.Compone(aviso));
+std::vector<int> Cambiados(const Captura& c, const Version& ahora) {
+  std::vector<int> ids;
+  for (const auto& t : ahora.tramos) {
+    const auto antes = LugarDe(c.guardada, t->id);
+    if (!t->numero.empty() && t->dano.empty() &&
+        (!antes || *c.guardada.tramos[*antes] != *t)) {
+      ids.push_back(t->id);
+    }
+  }
+  return ids;
 }
 
-// The file of the Obra, asked for when there is none.
-bool TieneFichero(Captura& c) {
-  if (c.fichero) return true;
-  const std::string nombre = PideNombre(c);
-  if (nombre.empty()) return false;
-  TomaFichero(c, {nombre, FicheroRegistros::Modo::LecturaEscritura});
-  c.e.obra.NombreFichero = nombre;
-  c.e.obra.ObraAbierta = true;
-  ActualizaMenus(c);
-  return true;
-}
-
-void TraeTextosObra(Captura& c) {
-  c.e.obra.NombreObra = c[Ed::edObra].texto;
-  c.e.obra.Cliente = c[Ed::edCliente].texto;
-}
-
-// ---- Choosing a Tramo
-
-bool AceptaPerderCambios(Captura& c) {
-  return !c.EnCambio() ||
-         c.voz.Pregunta(Texto(c, txt::HaCambiadoDatos) + "\n" + Texto(c, txt::DeseaContinuar),
+// Whether the person wants the adjustments that a change makes void to go.
+bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
+  if (r.anulados.empty()) return true;
+  std::string cuales;
+  for (const auto& [tramo, cuantos] : r.anulados) {
+    cuales += "\n" + c.textos.Compone(txt::AjustesDelTramo, {tramo, TextoEntero(cuantos)});
+  }
+  return c.voz.Pregunta(Texto(c, txt::AjustesQueSeAnulan) + cuales + "\n\n" +
+                            Texto(c, txt::GrabaDeTodosModos),
                         Texto(c, txt::TituloAviso));
 }
 
-// Reads another Tramo into the screen. @return whether it could be read
-bool LeeYEdita(Captura& c, int posicion) {
+// What is to be written: complete and without a fault. Nothing where there are some, which are
+// listed and shown, or where the person thinks better of it.
+std::optional<Version> QueGrabar(Captura& c) {
+  const Version ahora = VersionActual(c);
+  auto comprobado = Comprueba(c, Cambiados(c, ahora));
+  c.faltas = comprobado.faltas;
+  if (!c.faltas.empty()) {
+    LlevaALaFalta(c, Falta(c.faltas.front()));
+    c.faltas = std::move(comprobado.faltas);
+    return std::nullopt;
+  }
+  auto sinVanos = SinAjustesVanos(c.guardada, std::move(comprobado.version));
+  if (!AceptaAnular(c, sinVanos)) return std::nullopt;
+  return std::move(sinVanos.version);
+}
+
+// Blocks that the file has already, at the same place, stay as they are.
+ProyectoAGrabar AGrabar(const Captura& c, const Version& v, bool todos) {
+  ProyectoAGrabar p{v.obra, {}, {}, v.extras};
+  for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+    const auto& t = *v.tramos[i];
+    const bool esta = !todos && i < c.guardada.tramos.size() && *c.guardada.tramos[i] == t;
+    p.tramos.push_back({t.numero, esta ? std::nullopt : std::optional(t.datos), t.extras});
+    p.ajustes.insert(p.ajustes.end(), t.ajustes.begin(), t.ajustes.end());
+  }
+  return p;
+}
+
+// The file holds a version from now on.
+void QuedaGrabada(Captura& c, Version v) {
+  const EnUnPaso paso(c, Texto(c, txt::PasoCompleta));
+  c.guardada = v;
+  const auto& o = c.e.obra;
+  v.obra.RutaApp = o.RutaApp;
+  v.obra.NombreFichero = c.fichero->Nombre();
+  v.obra.ObraAbierta = true;
+  c.e.obra = v.obra;
+  v.obra = SinSesion(v.obra);
+  c.version = std::move(v);
+  c.huella = HuellaDeTodo(c);
+  c.Tecleando = false;
+  MuestraObra(c);
+  PonEnMano(c, c.enMano);
+}
+
+bool GrabaEn(Captura& c, const std::string& nombre, Version v) {
   try {
-    LeeTramo(c, posicion);
-    PonEstado(c, kModificaciones);
-    return true;
+    std::erase_if(v.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
+    auto f = GrabaProyectoComo(nombre, AGrabar(c, v, true), nullptr, c.textos, c.SeparadorDecimal);
+    c.fichero.reset();
+    c.Danada = false;
+    TomaFichero(c, std::move(f));
   } catch (const ErrorFichero& error) {
-    PonEstado(c, kSinTramo);
     MuestraError(c, error);
     return false;
   }
+  QuedaGrabada(c, std::move(v));
+  return true;
 }
 
-// A number that is not there, or a block that cannot be read, brings the number before back.
-void CambiaDeTramo(Captura& c, int numero, int anterior) {
-  const int posicion = PosicionDelTramo(c, numero);
-  if (posicion != 0 && LeeYEdita(c, posicion)) return;
-  c.TramoEditado = false;  // the person agreed to lose those edits, and nothing is in hand now
-  PonEstado(c, kSinTramo);
-  PonNumero(c, anterior);
-  if (posicion == 0) Rechaza(c, Ed::edTramo, Texto(c, txt::NoExisteEseTramo));
-}
-
-// The texts of the Tramo in its state; says what cannot be read and goes to the field.
-bool TextosEnElEstado(Captura& c) {
-  if (LeeTextos(c, false)) {
-    c.e.tramo.Fct = FctEnSistema(c.e.tramo.Fck, c.EsSI());
-    return true;
-  }
-  c.voz.Muestra(Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) +
-                    Texto(c, txt::AlCambiarUnidadesTramo),
-                {});
-  if (c.falta) VaA(c, c.falta->campo);
-  return false;
-}
-
-// Brings the texts of the Obra into the state and has a file to write them to. What keeps it from
-// that is told. @throws ErrorFichero
-bool DisponeObra(Captura& c) {
-  CompruebaTextos(c, c.e.obra.NombreFichero, false);
-  TraeTextosObra(c);
-  if (LeeTextos(c, true)) return TieneFichero(c);
-  c.voz.Muestra(
-      Texto(c, txt::ErrorNumero) + TextoEntero(kErrorDeTipo) + Texto(c, txt::AlCambiarUnidades),
-      {});
-  c.pantalla.pagina.TabPrincipal = 0;
-  c[Ed::edPrs3].gris = false;
-  VaA(c, Ed::edPrs3);
-  return false;
-}
-
-void EscribeCabecera(Captura& c) {
-  EscribeObra(*c.fichero, c.e, c.lista, c.textos, c.SeparadorDecimal);
-}
-
-void EscribeBloque(Captura& c) {
-  const int posicion = PosicionDelTramo(c, c.e.tramo.NumeroTramo);
-  EscribeTramo(*c.fichero, c.e, c.lista, posicion, c.SeparadorDecimal);
-}
-
-bool EstaEnLista(Captura& c) {
-  if (PosicionDelTramo(c, c.e.tramo.NumeroTramo) != 0) return true;
-  c.voz.Muestra(Texto(c, txt::NoEstaEnLista), {});
-  return false;
-}
-
-void TramoEscrito(Captura& c) {
-  if (std::exchange(c.AjustesPorBorrar, false)) RegistraCambios(c);
-}
-
-// Header and block of the Tramo in hand: in the file both, or neither.
-void EscribeObraYTramo(Captura& c) {
-  Transaccion juntos(*c.fichero);
-  EscribeCabecera(c);
-  EscribeBloque(c);
-  juntos.Confirma();
-}
-
-bool EscribeTramoEnMano(Captura& c) {
-  const bool nuevo = c.EnAltas();
-  const ListaTramos lista = c.lista;
-  if (!TextosEnElEstado(c)) return false;
-  if (nuevo) c.lista.push_back(TextoEntero(c.e.tramo.NumeroTramo));
-  try {
-    if (EstaEnLista(c) && DisponeObra(c)) {
-      EscribeObraYTramo(c);
-      c.ObraEditada = false;
-      TramoEscrito(c);
-      return true;
-    }
-  } catch (const ErrorFichero& error) {
-    MuestraError(c, error);
-  }
-  c.lista = lista;
-  return false;
-}
-
-// ---- Reading only
-
-// One that another program has is asked about: it may be a slip. @return whether it is open
-bool AbreParaLeer(Captura& c, const fs::path& ruta, const SoloParaLeer& error) {
-  if (error.motivo() == SoloParaLeer::Motivo::Ocupado &&
-      !c.voz.Pregunta(TextoDeError(c, error) + "\n" + Texto(c, txt::AbrirParaLeer),
+// The error of a save that another file would not have.
+bool OfreceOtroFichero(Captura& c, const ErrorFichero& error, const Version& v) {
+  if (!c.voz.Pregunta(TextoDeError(c, error) + "\n" + Texto(c, txt::GrabarEnOtro),
                       Texto(c, txt::TituloAviso))) {
     return false;
   }
-  TomaFichero(c, {ruta, FicheroRegistros::Modo::Lectura});
-  c.voz.Anuncia(c.textos.Compone(txt::AbiertoParaLeer, {c.fichero->Nombre()}));
-  return true;
-}
-
-bool AbreFichero(Captura& c, const fs::path& ruta) {
-  try {
-    TomaFichero(c, {ruta, FicheroRegistros::Modo::LecturaEscritura});
-    return true;
-  } catch (const SoloParaLeer& error) {
-    return AbreParaLeer(c, ruta, error);
-  }
-}
-
-bool NiegaGrabar(Captura& c) {
-  if (!c.SoloLectura()) return false;
-  c.voz.Muestra(c.textos.Compone(txt::SoloLecturaNoGraba, {c.fichero->Nombre()}), {});
-  return true;
-}
-
-// In an Obra that is only read there is nothing to save first.
-bool AceptaCerrarSinGrabar(Captura& c) {
-  return c.SoloLectura() &&
-         c.voz.Pregunta(Texto(c, txt::CerrarSinGrabar), Texto(c, txt::TituloAviso));
+  const std::string nombre = PideNombre(c, txt::TituloGrabarComo);
+  return !nombre.empty() && GrabaEn(c, nombre, v);
 }
 
 }  // namespace
 
 // ---------------------------------------------------------------------------------------------
-// The Obra
 
-void NuevaObra(Captura& c) {
+void NuevaObra(Captura& c, int idioma) {
   Vacia(c);
   auto& o = c.e.obra;
-  o.Idioma = static_cast<std::int16_t>(c.textos.IdiomaOffset() / kPasoIdioma + 1);
+  o.Idioma = static_cast<std::int16_t>(idioma);
   o.GolpeCalculado = true;
   o.Alt1 = kAlturaNuevaObra;
   MuestraObra(c);
   Desbloquea(c, Ed::edPrs2);
   Desbloquea(c, Ed::edAlt3);
   c.ObraCargada = true;
-  OlvidaCambios(c);
+  c.version = c.guardada = VersionActual(c);
   ActualizaMenus(c);
   c.pantalla.pagina.TabPrincipal = 0;
   c.pantalla.foco = Ed::edObra;
 }
 
+void AbreParaMirar(Captura& c, const fs::path& ruta) {
+  Vacia(c);
+  c.fichero.emplace(ruta, FicheroRegistros::Modo::Lectura);
+  LeeTodo(c);
+}
+
 bool AbreObra(Captura& c, const fs::path& ruta) {
   Vacia(c);
   try {
-    if (!AbreFichero(c, ruta)) {
-      ActualizaMenus(c);
-      return false;
-    }
-    auto leida = CargaObra(c.e, *c.fichero);
-    c.lista = std::move(leida.lista);
-    for (const auto& aviso : leida.avisos) c.voz.Muestra(c.textos.Compone(aviso), {});
+    AbreFichero(c, ruta);
+    LeeTodo(c);
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);
     Vacia(c);
     ActualizaMenus(c);
     return false;
   }
-  c.ObraCargada = true;
-  c.UltimoTramo = static_cast<int>(c.lista.size());
-  MuestraObra(c);
-  MuestraListaTramos(c);
-  OlvidaCambios(c);
-  ActualizaMenus(c);
+  DiDanos(c);
   return true;
 }
 
-bool GrabaObra(Captura& c) {
+bool Graba(Captura& c) {
+  if (c.SoloLectura()) return GrabaComo(c);
+  if (c.fichero && !c.EnCambio()) return true;
+  auto v = QueGrabar(c);
+  if (!v) return false;
+  if (!c.fichero) {
+    const std::string nombre = PideNombre(c, txt::TituloGrabar);
+    return !nombre.empty() && GrabaEn(c, nombre, std::move(*v));
+  }
   try {
-    if (!DisponeObra(c)) return false;
-    EscribeCabecera(c);
+    const auto avisos =
+        GrabaProyecto(*c.fichero, AGrabar(c, *v, v->obra.SisUnid != c.guardada.obra.SisUnid),
+                      c.textos, c.SeparadorDecimal);
+    for (const auto& aviso : avisos) c.voz.Anuncia(c.textos.Compone(aviso));
   } catch (const ErrorFichero& error) {
-    MuestraError(c, error);
-    return false;
+    return OfreceOtroFichero(c, error, *v);
   }
-  c.ObraEditada = false;
+  QuedaGrabada(c, std::move(*v));
   return true;
 }
 
-bool GrabaTramo(Captura& c) {
-  if (!c.fichero || !EstaEnLista(c) || !TextosEnElEstado(c)) return false;
-  try {
-    EscribeBloque(c);
-  } catch (const ErrorFichero& error) {
-    MuestraError(c, error);
-    return false;
+bool GrabaComo(Captura& c) {
+  auto v = QueGrabar(c);
+  if (!v) return false;
+  const std::string nombre = PideNombre(c, txt::TituloGrabarComo);
+  return !nombre.empty() && GrabaEn(c, nombre, std::move(*v));
+}
+
+bool PuedeIrse(Captura& c) {
+  if (!c.ObraCargada || !c.EnCambio()) return true;
+  const std::string nombre =
+      c.fichero ? c.fichero->ruta().filename().string() : Texto(c, txt::ObraSinNombre);
+  switch (c.voz.PreguntaGrabar(c.textos.Compone(txt::HayCambiosEn, {nombre}))) {
+    case Respuesta::Grabar:
+      return Graba(c);
+    case Respuesta::Descartar:
+      return true;
+    case Respuesta::Cancelar:
+      break;
   }
-  TramoEscrito(c);
-  return true;
-}
-
-bool AccionGrabaObra(Captura& c) {
-  return !NiegaGrabar(c) && ValidaObra(c) && GrabaObra(c);
-}
-
-bool CierraObra(Captura& c) {
-  if (c.EnCambio() && !AceptaCerrarSinGrabar(c)) {
-    if (!c.SoloLectura()) Avisa(c, txt::SalvePrimero);
-    return false;
-  }
-  Vacia(c);
-  ActualizaMenus(c);
-  return true;
-}
-
-bool CierraFormulario(Captura& c) {
-  if (!c.EnCambio() || AceptaCerrarSinGrabar(c)) return true;
-  if (c.SoloLectura()) return false;
-  c.voz.Muestra(Texto(c, txt::NoPuedeCerrar) + "\n" + Texto(c, txt::DatosCambiados), {});
   return false;
 }
 
-// ---------------------------------------------------------------------------------------------
-// The Tramo
-
-int PosicionDelTramo(const Captura& c, int numero) {
-  // The last of equal ones: a new Tramo never takes the block of another.
-  const auto f = std::find_if(c.lista.rbegin(), c.lista.rend(), [&](const std::string& texto) {
-    return !texto.empty() && NumeroDe(texto) == numero;
-  });
-  return static_cast<int>(c.lista.rend() - f);
+bool CierraObra(Captura& c) {
+  if (!PuedeIrse(c)) return false;
+  Descarta(c);
+  return true;
 }
 
-void LeeTramo(Captura& c, int posicion) {
-  LeeTramo(c, *c.fichero, posicion);
+void Descarta(Captura& c) {
+  Vacia(c);
+  ActualizaMenus(c);
 }
 
-void LeeTramo(Captura& c, const FicheroRegistros& f, int posicion) {
-  CargaTramo(c.e, f, posicion);
-  c.AjustesPorBorrar = false;
-  PonNumero(c, NumeroDe(c.lista[static_cast<std::size_t>(posicion - 1)]));
-  MuestraTramo(c);
+void VuelveA(Captura& c, const Version& v, int enMano) {
+  const auto& o = c.e.obra;
+  Obra obra = v.obra;
+  obra.RutaApp = o.RutaApp;
+  obra.NombreFichero = o.NombreFichero;
+  obra.ObraAbierta = o.ObraAbierta;
+  c.e.obra = std::move(obra);
+  c.version = v;
+  c.Tecleando = false;
+  MuestraObra(c);
+  PonEnMano(c, enMano);
 }
 
-void NuevoTramo(Captura& c) {
-  const auto& entradas = c[Ed::edTramo].entradas;
-  const int numero = entradas.empty() ? 1 : NumeroDe(entradas.back()) + 1;
-  if (static_cast<int>(c.lista.size()) >= kMaxTramos || numero > kMayorNumeroTramo) {
-    c.voz.Muestra(c.textos.Compone(txt::DemasiadosTramos, {TextoEntero(kMaxTramos)}), {});
-    return;
-  }
-  if (!EnBlanco(c, Ed::edTramo)) {
-    if (Confirma(c, txt::LimpiaDatos, txt::TituloConfirmacion)) {
-      LimpiaCaptura(c, 0);
-      DefectosArmado(c);
+void RecogeAjustes(Captura& c) {
+  if (!c.fichero) return;
+  const EnUnPaso paso(c, Texto(c, txt::PasoAjusta));
+  const auto ajustes = LeeDeAlLado(c).ajustes;
+  for (auto* v : {&c.version, &c.guardada}) {
+    for (auto& t : v->tramos) {
+      auto otro = std::make_shared<TramoEnObra>(*t);
+      otro->ajustes = LosDe(ajustes, NumeroDe(t->numero));
+      if (otro->ajustes != t->ajustes) t = std::move(otro);
     }
-  } else if (c.e.tramo.Tipologia == kArmada && EnBlanco(c, Ed::edFck)) {
-    DefectosArmado(c);  // the screen as a reset left it
   }
-  PonNumero(c, numero);
-  c.UltimoTramo = static_cast<int>(c.lista.size()) + 1;
-  PonEstado(c, kAltas);
-  Bloquea(c, Ed::edTramo);
-  c.TramoEditado = true;
-  if (c.pantalla.pagina.TabPrincipal == 0) c.pantalla.pagina.TabPrincipal = 1;
-  RenuevaTitulo(c);
-  VaA(c, Ed::edDescriTramo);
-}
-
-bool AccionGrabaTramo(Captura& c) {
-  if (c.SinTramoEnMano() || NiegaGrabar(c)) return false;
-  if (!Confirma(c, txt::SalvaElTramo, txt::TituloConfirmacion)) return false;
-  if (!ValidaObra(c) || !ValidaTramo(c, true)) return false;
-  try {
-    CompruebaTextos(c, c.e.obra.NombreFichero, true);
-  } catch (const ErrorFichero& error) {
-    MuestraError(c, error);
-    return false;
-  }
-  if (!EscribeTramoEnMano(c)) return false;
-  MuestraListaTramos(c);
-  c.UltimoTramo = static_cast<int>(c.lista.size());
-  Desbloquea(c, Ed::edTramo);
-  OlvidaCambios(c);
-  c.pantalla.pagina.TabPrincipal = 0;
-  PonEstado(c, kModificaciones);
-  c.pantalla.foco = Ed::edTramo;
-  c.voz.VaA(Ed::edTramo);
-  return true;
-}
-
-void CancelaCaptura(Captura& c) {
-  if (c.SinTramoEnMano()) return;
-  if ((c.EnAltas() || c.EnCambio()) && !Confirma(c, txt::DeseaCancelar, txt::TituloAviso)) return;
-  Desbloquea(c, Ed::edTramo);
-  if (c.EnAltas()) {
-    LimpiaCaptura(c, 0);
-    c.e.tramo.NumeroTramo = 0;
-    c.UltimoTramo = static_cast<int>(c.lista.size());
-  } else {
-    c.EstadoCaptura = kSinTramo;
-    const int posicion = PosicionDelTramo(c, NumeroDe(c[Ed::edTramo].texto));
-    if (posicion != 0) LeeYEdita(c, posicion);
-  }
-  OlvidaCambios(c);
-  c.pantalla.pagina.TabPrincipal = 1;
-  PonEstado(c, c.EstadoCaptura);
-  c.pantalla.foco = Ed::edTramo;
-  c.voz.VaA(Ed::edTramo);
-}
-
-bool EligeTramo(Captura& c) {
-  if (EnBlanco(c, Ed::edTramo)) return true;
-  const int anterior = c.e.tramo.NumeroTramo;
-  double valor = 0;
-  if (!ValidaNumero(c, Ed::edTramo, 0.0, valor, txt::EtNumeroTramo)) return false;
-  if (valor > kMayorNumeroTramo) {
-    Rechaza(c, Ed::edTramo, Texto(c, txt::ValorIncorrecto), Texto(c, txt::EtNumeroTramo));
-    return false;
-  }
-  const int numero = static_cast<int>(Redondea(valor));
-  if (numero == 0) {
-    c.e.tramo.NumeroTramo = 0;
-    if (Confirma(c, txt::CreaNuevoTramo, txt::TituloAviso)) NuevoTramo(c);
-    return true;
-  }
-  if (numero == anterior && !c.SinTramoEnMano()) {
-    PonNumero(c, numero);
-    c[Ed::edTramo].bloqueado = true;
-    return true;
-  }
-  if (!AceptaPerderCambios(c)) {
-    PonNumero(c, anterior);
-    return true;
-  }
-  CambiaDeTramo(c, numero, anterior);
-  // Another Tramo is chosen once this one is saved or cancelled.
-  c[Ed::edTramo].bloqueado = c.EnModificaciones();
-  return true;
-}
-
-void TomaEnMano(Captura& c, int numero, std::string_view estado) {
-  PonNumero(c, numero);
-  c.UltimoTramo = static_cast<int>(c.lista.size()) + (estado == kAltas ? 1 : 0);
-  PonEstado(c, estado);
-  Bloquea(c, Ed::edTramo);
-}
-
-bool PreparaCalculo(Captura& c, bool ajuste) {
-  if (!ValidaObra(c) || !ValidaTramo(c, true)) return false;
-  if (!c.e.obra.ObraAbierta) {
-    Avisa(c, txt::DebeSalvarObra);
-    return false;
-  }
-  if (ajuste && NiegaGrabar(c)) return false;
-  if (ajuste && c.EnCambio()) {
-    Avisa(c, txt::DebeSalvarCambios);
-    return false;
-  }
-  c.e.obra.NombreObra = c[Ed::edObra].texto;
-  c.e.tramo.DescriTramo = c[Ed::edDescriTramo].texto;
-  c.e.tramo.NumeroTramo = static_cast<std::int16_t>(NumeroDe(c[Ed::edTramo].texto));
-  return true;
 }
 
 }  // namespace zorbin

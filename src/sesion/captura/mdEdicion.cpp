@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/textos.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdReglas.h"
 #include "sesion/captura/mdTipologias.h"
@@ -12,23 +11,19 @@ namespace zorbin {
 
 namespace {
 
-bool EsDeObra(Ed campo) {
-  return Fila(campo).pagina.TabPrincipal == 0;
+std::string NombrePaso(const Captura& c, Ed campo) {
+  return c.textos.Compone(txt::PasoDato, {NombreDeCampo(c, campo)});
 }
 
-void MarcaCambio(Captura& c, Ed campo) {
-  (EsDeObra(campo) ? c.ObraEditada : c.TramoEditado) = true;
-}
-
-void EligeGolpe(Captura& c, int opcion) {
-  const bool no = opcion == 1;
-  if (no && !c.e.obra.ObraAbierta &&
-      !c.voz.Pregunta(Texto(c, txt::GolpeNoCalculado), Texto(c, txt::TituloAviso))) {
-    opcion = 0;
-  }
-  c[Ed::rdGolpeAriete].opcion = opcion;
-  if (c.e.obra.GolpeCalculado != (opcion == 0)) c.ObraEditada = true;
-  c.e.obra.GolpeCalculado = opcion == 0;
+// What its rule refuses changes nothing: the text stays as it was typed, with the reason beside it.
+SalidaCampo Rehusa(Captura& c, Ed campo, std::string tecleado, EstadoCalculo antes) {
+  c.e = std::move(antes);
+  auto& control = c[campo];
+  const std::string falta = control.falta;
+  Escribe(c, campo, std::move(tecleado));
+  control.falta = falta;
+  if (control.falta.empty() && !c.faltas.empty()) control.falta = c.faltas.back().mensaje;
+  return SalidaCampo::Queda;
 }
 
 }  // namespace
@@ -37,13 +32,11 @@ void Entra(Captura& c, Ed campo) {
   auto& control = c[campo];
   if (!control.habilitado) return;
   const auto& pagina = Fila(campo).pagina;
-  // The page of loads has rules of its own on arriving.
-  if (pagina.TabDatosColocacion == 2 && c.pantalla.pagina.TabDatosColocacion != 2 &&
-      !c.LeyendoDatos && !CambiaPaginaColocacion(c, 2)) {
-    return;
-  }
   MuestraPagina(c, pagina);
-  if (!control.bloqueado && EnBlanco(c, campo)) Rellena(c, campo);
+  if (!control.bloqueado && EnBlanco(c, campo)) {
+    const EnUnPaso paso(c, NombrePaso(c, campo));
+    Rellena(c, campo);
+  }
   if (campo == Ed::edFyk) c.FykAnterior = c.e.tramo.Fyk;
   if (campo == Ed::edSFck) c.SFckEditado = false;
   control.seleccionado = true;
@@ -56,23 +49,32 @@ void Cambia(Captura& c, Ed campo, std::string texto) {
   if (control.bloqueado || !control.habilitado || control.texto == texto) return;
   control.texto = std::move(texto);
   control.tocado = true;
-  const auto& fila = Fila(campo);
-  // Neither the language nor the choice of a Tramo is a datum.
-  if (campo == Ed::edIdioma || campo == Ed::edTramo) return;
-  MarcaCambio(c, campo);
-  if (fila.ficha->anulaAjustes && fila.clase == Clase::Numero) RegistraCambios(c);
+  control.falta.clear();
+  // The choice of a Tramo is no datum.
+  if (campo == Ed::edTramo) return;
+  c.Tecleando = true;
   if (campo == Ed::edDi0) c.AnchoZanjaAuto = true;
   if (campo == Ed::edB0) c.AnchoZanjaAuto = false;
   if (campo == Ed::edSFck) c.SFckEditado = true;
 }
 
 SalidaCampo Sale(Captura& c, Ed campo) {
-  c.falta.reset();
-  c[campo].seleccionado = false;
-  if (c[campo].bloqueado || !c[campo].habilitado) return SalidaCampo::Pasa;
-  const SalidaCampo salida = AplicaRegla(c, campo);
+  auto& control = c[campo];
+  control.seleccionado = false;
+  if (control.bloqueado || !control.habilitado) return SalidaCampo::Pasa;
+  // A refusal that was left stands until the text is another.
+  if (!control.falta.empty() && !control.tocado) return SalidaCampo::Queda;
+  c.faltas.clear();
+  const EnUnPaso paso(c, NombrePaso(c, campo));
+  std::string tecleado = control.texto;
+  EstadoCalculo antes = c.e;
+  SalidaCampo salida = AplicaRegla(c, campo);
+  if (salida == SalidaCampo::Queda) {
+    salida = Rehusa(c, campo, std::move(tecleado), std::move(antes));
+  }
+  control.tocado = false;
+  c.Tecleando = false;
   RenuevaEtiquetas(c);
-  if (salida == SalidaCampo::Queda) c.pantalla.foco = campo;
   return salida;
 }
 
@@ -81,7 +83,7 @@ void CambiaMarca(Captura& c, Ed marca, bool puesta) {
   const bool deArmado = marca == Ed::edIcontes0;
   const Ed campo = deArmado ? Ed::edAdato : Ed::edCoepre1;
   bool& indicador = deArmado ? t.Icontes0 : t.Icontes1;
-  const bool cambia = (c[marca].opcion == 1) != puesta;
+  const EnUnPaso paso(c, NombrePaso(c, marca));
   c[marca].opcion = puesta ? 1 : 0;
   indicador = puesta;
   if (puesta) {
@@ -91,23 +93,23 @@ void CambiaMarca(Captura& c, Ed marca, bool puesta) {
     Escribe(c, campo, "");
     Variable(c, campo) = 0.0;
   }
-  if (!cambia || c.LeyendoDatos) return;
-  c.TramoEditado = true;
-  if (Fila(marca).ficha->anulaAjustes) RegistraCambios(c);
 }
 
 void EligeOpcion(Captura& c, Ed grupo, int opcion) {
   if (!c[grupo].habilitado || opcion < 0 || opcion >= static_cast<int>(c[grupo].entradas.size())) {
     return;
   }
+  const EnUnPaso paso(c, NombrePaso(c, grupo));
   switch (grupo) {
     case Ed::rdSistemaUnidades:
-      if (opcion != c[grupo].opcion && RevisaUnidades(c, opcion == 0 ? "SI" : "MKS")) {
-        c.ObraEditada = true;
-      }
+      RevisaUnidades(c, opcion == 0);
       break;
     case Ed::rdGolpeAriete:
-      EligeGolpe(c, opcion);
+      c[grupo].opcion = opcion;
+      c.e.obra.GolpeCalculado = opcion == 0;
+      break;
+    case Ed::rdTipologia:
+      EligeTipologia(c, opcion == 1);
       break;
     case Ed::rdTipoCamisa:
       EligeOpcionCamisa(c, opcion);

@@ -4,7 +4,9 @@
 
 #include "base/aritmetica.h"
 #include "base/textos.h"
+#include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdPlausibilidad.h"
+#include "sesion/captura/mdTipologias.h"
 
 namespace zorbin {
 
@@ -73,34 +75,10 @@ void RenuevaLista(Captura& c, const FilaCampo& fila) {
 void RenuevaOpciones(Captura& c) {
   c[Ed::rdSistemaUnidades].entradas = Entradas(c, {txt::RotSI, txt::RotMKS});
   c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::Si, txt::No});
+  c[Ed::rdTipologia].entradas = {SinMarcas(Texto(c, txt::PagArmado)), SinMarcas(Texto(c, txt::PagPostesado))};
   c[Ed::rdTipoCamisa].entradas = Entradas(c, {txt::OpcionEmbebida, txt::OpcionRevestida});
   c[Ed::rdTipoColocacion].entradas =
       Entradas(c, {txt::OpcionZanja, txt::OpcionZanjaTerraplenada, txt::OpcionTerraplen});
-}
-
-// ---- Change of system
-
-// The load loses its third decimal at a change of system.
-std::string_view MascaraUnidades(const FilaCampo& fila, bool si) {
-  return fila.id == Ed::edQDato0 ? "#####0.00" : fila.ficha->Mascara(si);
-}
-
-struct Convertido {
-  const FilaCampo* fila;
-  double valor;
-  bool blanco;
-};
-
-// Every field with units, converted; none when a text is no number.
-bool ConvierteTextos(Captura& c, bool aSI, std::vector<Convertido>& convertidos) {
-  for (const auto& fila : TablaCampos()) {
-    if (!fila.ficha->Escala()) continue;
-    double valor = 0;
-    if (!ValidaNumero(c, fila.id, -kMayorTecleado, valor, EtiquetaDe(c, fila))) return false;
-    const auto par = Pareja(valor, !aSI, fila.ficha->magnitud);
-    convertidos.push_back({&fila, aSI ? par.si : par.mks, EnBlanco(c, fila.id)});
-  }
-  return true;
 }
 
 }  // namespace
@@ -127,8 +105,7 @@ void RenuevaTitulo(Captura& c) {
   p.titulo = TextoUnidades(c);
   if (p.pagina.TabPrincipal > 0 && marca != 0) p.titulo += Texto(c, marca) + " ";
   p.titulo += Texto(c, txt::CapturaDatos);
-  p.textoCancelar = Texto(c, c.EnModificaciones() ? txt::BotonReleer : txt::BotonCancelar);
-  c[Ed::rdSistemaUnidades].habilitado = c.SinTramoEnMano();
+  p.textoCancelar = Texto(c, c.EnAltas() ? txt::BotonCancelar : txt::BotonReleer);
 }
 
 void PoneTextosCaptura(Captura& c) {
@@ -142,28 +119,16 @@ void PoneTextosCaptura(Captura& c) {
 }
 
 void CambiaIdioma(Captura& c, std::int16_t idioma) {
-  c.e.obra.Idioma = c.textos.PonIdioma(idioma);
-  c.e.obra.IdiomaOffset = I16(c.textos.IdiomaOffset());
+  c.textos.PonIdioma(idioma);
   PoneTextosCaptura(c);
-  auto& arco = c.pantalla.avCargas1;
-  if (!arco.empty()) arco = Texto(c, txt::AvisoArco1) + " " + Texto(c, txt::AvisoArco2);
-  EligeEntrada(c, Ed::edIdioma, c.e.obra.Idioma);
+  RenuevaFiguras(c);
 }
 
-bool RevisaUnidades(Captura& c, const std::string& nuevo) {
-  const bool aSI = nuevo == "SI";
-  if (c.LeyendoDatos || !c.SinTramoEnMano() || aSI == c.EsSI()) return aSI == c.EsSI();
-  std::vector<Convertido> convertidos;
-  if (!ConvierteTextos(c, aSI, convertidos)) return false;
-  c.e.obra.SisUnid = aSI ? "SI" : "MKS";
-  for (const auto& x : convertidos) {
-    Variable(c, x.fila->id) = x.valor;
-    if (!x.blanco) Escribe(c, x.fila->id, x.valor, MascaraUnidades(*x.fila, aSI));
-  }
-  c[Ed::rdSistemaUnidades].opcion = aSI ? 0 : 1;
-  RenuevaEtiquetas(c);
-  RenuevaTitulo(c);
-  return true;
+void RevisaUnidades(Captura& c, bool aSI) {
+  if (c.LeyendoDatos || aSI == c.EsSI()) return;
+  Version v = VersionActual(c);
+  CambiaUnidades(v, aSI);
+  VuelveA(c, v, c.enMano);
 }
 
 }  // namespace zorbin

@@ -13,19 +13,16 @@ std::string TextoUnidades(const Captura& c);
 /// included.
 void RenuevaEtiquetas(Captura& c);
 
-/// Window title of the page in front and of the state of the capture, text of btCancelar, and the
-/// unit option, which is enabled while no Tramo is in hand.
+/// Window title of the page in front and of the state of the capture, and text of btCancelar.
 void RenuevaTitulo(Captura& c);
 
 /// All texts of the screen. Lists keep the entry chosen, fields what was typed.
 void PoneTextosCaptura(Captura& c);
 
-/// Another language, 1 to 5.
+/// Another language of the screen, 1 to 5. That of the paper is a datum of the Obra.
 void CambiaIdioma(Captura& c, std::int16_t idioma);
 
-/// The unit system of the screen: every field with units is converted from its text and shown with
-/// the mask of the other system. Nothing happens while fields are loaded or a Tramo is in hand.
-/// @return whether the system in force is the one asked for: a text that is no number is refused
-bool RevisaUnidades(Captura& c, const std::string& nuevo);
+/// The unit system of the Obra: every datum with units is converted, of all its Tramos.
+void RevisaUnidades(Captura& c, bool aSI);
 
 }  // namespace zorbin

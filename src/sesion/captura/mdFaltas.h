@@ -21,14 +21,6 @@ struct FaltaDeObra {
   std::string mensaje;  // several lines at times
 };
 
-/// A question that was answered "go on".
-struct PreguntaDeObra {
-  int posicion = 0;
-  std::string numero;
-  std::string titulo;
-  std::string texto;
-};
-
 /// What is unusual, and refused by nothing.
 struct AvisoDeObra {
   std::string numero;  // of the Tramo, as the list has it; empty for the Obra
@@ -37,8 +29,7 @@ struct AvisoDeObra {
 };
 
 struct ListaFaltas {
-  std::vector<FaltaDeObra> faltas;        // of the Obra first, then one a faulty Tramo at most
-  std::vector<PreguntaDeObra> preguntas;  // in the order they were asked
+  std::vector<FaltaDeObra> faltas;        // of the Obra first, then of the Tramos in their order
   std::vector<AvisoDeObra> avisos;        // of the Obra first, then of the Tramos without a fault
   Obra obra;                              // completed, in the units of its system
   std::map<int, Tramo> tramos;            // those without a fault, completed, by position
@@ -56,9 +47,8 @@ struct PeticionValida {
 /// Pressures and heights of a validated Obra in another state of the same Obra.
 void PonComprobada(Obra& obra, const Obra& comprobada);
 
-/// Validates Obra and Tramos of a project, each to its first fault and then on to the next Tramo,
-/// in the manner of a batch. The catalogue takes the language of the Obra.
-ListaFaltas ValidaProyecto(const Proyecto& proyecto, Catalogo& textos, const TablasCatalogo& tablas,
+/// Validates Obra and Tramos of a project, in the language of the catalogue.
+ListaFaltas ValidaProyecto(const Proyecto& proyecto, const Catalogo& textos, const TablasCatalogo& tablas,
                            const PeticionValida& peticion);
 
 }  // namespace zorbin

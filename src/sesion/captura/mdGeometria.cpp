@@ -1,6 +1,7 @@
 #include "sesion/captura/mdGeometria.h"
 
 #include <array>
+#include <cmath>
 
 #include "base/textos.h"
 
@@ -31,20 +32,6 @@ struct Medidas {
   double Esp, Reci, Rece;  // [mm]
 };
 
-std::string Linea(const Captura& c, int nombre, double usada, double recomendada) {
-  constexpr std::string_view mascara = "#####0.00";
-  return Texto(c, nombre) + Formato(c, usada, mascara) + Texto(c, txt::RecRecomendado) +
-         Formato(c, recomendada, mascara) + "\n";
-}
-
-// Whether the person wants to change what differs from the table.
-bool QuiereCambiar(Captura& c, const Medidas& u, const DimensionesGrupo& t) {
-  return c.voz.Pregunta(
-      Linea(c, txt::RecEspesor, u.Esp, t.Esp) + Linea(c, txt::RecInterior, u.Reci, t.Reci) +
-          Linea(c, txt::RecExterior, u.Rece, t.Rece) + "\n" + Texto(c, txt::RecDeseaCambiarlos),
-      Texto(c, txt::RecTitulo));
-}
-
 // Of a lined cylinder only the inner cover is tested, which there is the computed one.
 bool Aceptables(const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
   const auto enBanda = [](double x) { return x >= kRecubMin && x <= kRecubMax; };
@@ -53,10 +40,9 @@ bool Aceptables(const Medidas& u, const DimensionesGrupo& t, double D, int tipol
   return espesor && enBanda(u.Reci) && (tipologia == kRevestida || enBanda(u.Rece));
 }
 
-int Compara(Captura& c, const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
+int Compara(const Medidas& u, const DimensionesGrupo& t, double D, int tipologia) {
   const bool iguales = u.Esp == t.Esp && u.Reci == t.Reci && u.Rece == t.Rece;
-  if (iguales || c.SinAvisoGeom || Aceptables(u, t, D, tipologia)) return kGeomHallado;
-  return QuiereCambiar(c, u, t) ? kGeomPorCambiar : kGeomHallado;
+  return iguales || Aceptables(u, t, D, tipologia) ? kGeomHallado : kGeomPorCambiar;
 }
 
 }  // namespace
@@ -68,7 +54,7 @@ int GrupoDeTipologia(int tipologia) {
   return 0;
 }
 
-int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
+int RecomendadosGeom(const Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
                      ModoGeom modo) {
   const int grupo = GrupoDeTipologia(Tipologia);
   if (grupo == 0) return kGeomNoListado;
@@ -80,7 +66,7 @@ int RecomendadosGeom(Captura& c, double& Esp, double& Reci, double& Rece, int Ti
   if (modo == ModoGeom::Exterior || modo == ModoGeom::Todo) Rece = t->Rece / kMmPorCm;
   if (modo != ModoGeom::Compara) return kGeomHallado;
   const auto mm = [](double cm) { return Redondea(cm * kMmPorCm + 0.01); };
-  return Compara(c, {mm(Esp), mm(Reci), mm(Rece)}, *t, Redondea(Di * 1000.0 + 0.0001), Tipologia);
+  return Compara({mm(Esp), mm(Reci), mm(Rece)}, *t, Redondea(Di * 1000.0 + 0.0001), Tipologia);
 }
 
 int BuscaEnTramo(Captura& c, ModoGeom modo) {
@@ -88,10 +74,27 @@ int BuscaEnTramo(Captura& c, ModoGeom modo) {
   return RecomendadosGeom(c, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di, modo);
 }
 
-int CompruebaRecomendados(Captura& c) {
-  const auto& t = c.e.tramo;
-  if (!c.EsComercial || t.Esp <= 0 || t.Reci <= 0 || t.Rece <= 0 || t.Di <= 0) return kGeomHallado;
-  return BuscaEnTramo(c, ModoGeom::Compara);
+std::optional<Recomendadas> RecomendadasDistintas(const Captura& c) {
+  Tramo t = c.e.tramo;
+  if (!c.EsComercial || t.Esp <= 0 || t.Reci <= 0 || t.Rece <= 0 || t.Di <= 0) return std::nullopt;
+  const auto mira = [&](ModoGeom modo) {
+    return RecomendadosGeom(c, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di, modo);
+  };
+  if (mira(ModoGeom::Compara) != kGeomPorCambiar) return std::nullopt;
+  mira(ModoGeom::Todo);
+  return Recomendadas{t.Esp, t.Reci, t.Rece};
+}
+
+std::optional<double> DiametroCercano(const Captura& c) {
+  const double D = c.e.tramo.Di * 1000.0;
+  std::optional<double> cercano;
+  for (const auto& fila : c.tablas.TablaDimensiones) {
+    if (!cercano || std::fabs(fila.Diametro - D) < std::fabs(*cercano - D)) {
+      cercano = fila.Diametro;
+    }
+  }
+  if (!cercano) return std::nullopt;
+  return *cercano / 1000.0;
 }
 
 void CargaListasGeom(Captura& c, int grupo) {

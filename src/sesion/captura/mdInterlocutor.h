@@ -10,6 +10,9 @@
 
 namespace zorbin {
 
+/// What to do with unsaved changes.
+enum class Respuesta { Grabar, Descartar, Cancelar };
+
 class Interlocutor {
  public:
   Interlocutor() = default;
@@ -26,8 +29,13 @@ class Interlocutor {
   /// Asks with Yes and No. @return whether the answer was Yes
   virtual bool Pregunta(const std::string& texto, const std::string& titulo) = 0;
 
-  /// Asks for the file of an Obra that has none. No value: cancelled.
-  virtual std::optional<std::string> PideFichero(const std::string& titulo) = 0;
+  /// Asks whether unsaved changes are to be saved.
+  virtual Respuesta PreguntaGrabar(const std::string& texto) = 0;
+
+  /// Asks for a file to save an Obra in. No value: cancelled.
+  /// @param actual  the file that it has; empty for none
+  virtual std::optional<std::string> PideFichero(const std::string& titulo,
+                                                 const std::string& actual) = 0;
 
   /// The rules brought a field to the front and gave it the focus; the model already says so.
   virtual void VaA(Ed campo) = 0;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "sesion/captura/mdCampos.h"
@@ -15,6 +16,7 @@ struct Control {
   std::string etiqueta;               // label, in the language and units in force
   std::string grupo;                  // caption of the frame around it, if any
   std::string consejo;                // tip
+  std::string falta;                  // why its rule refuses what stands in it; else empty
   std::vector<std::string> entradas;  // of a list, and values offered by the dimensions
   int opcion = -1;                    // chosen option from 0, -1 none; of a tick box 0 or 1
   bool habilitado = true;
@@ -30,7 +32,6 @@ struct Control {
 enum class Orden : int {
   btNuevoTramo,
   btCancelar,
-  btGrabar,
   btAjustar,
   btCalcular,
   btCerrarObra,
@@ -46,17 +47,27 @@ enum class Orden : int {
   mnSalir,
   mnNuevoTramo,
   mnCancelar,
-  mnGrabaTramo,
   mnCalculaTramo,
   mnAjustarArmaduras,
+  mnGrabarComo,
+  mnDuplicaTramos,
+  mnBorraTramos,
+  mnSubeTramos,
+  mnBajaTramos,
+  mnRenumeraTramo,
+  mnRenumeraTodos,
+  mnCopiaTramos,
+  mnPegaTramos,
 };
-inline constexpr int kOrdenes = static_cast<int>(Orden::mnAjustarArmaduras) + 1;
+inline constexpr int kOrdenes = static_cast<int>(Orden::mnPegaTramos) + 1;
 
 /// A notice of what is unusual in the data. It refuses nothing.
 struct AvisoDeCampo {
   Ed campo = Ed::edObra;  // near which it is told
   std::string texto;
-  double incremento = 0;  // of the heights, offered so that they reach the last one [m]; 0 for none
+  /// Values offered in place of what stands in some fields; none for no offer.
+  std::vector<std::pair<Ed, double>> remedio = {};
+  std::string boton = {};  // that takes them
 };
 
 struct Modelo {
@@ -65,11 +76,10 @@ struct Modelo {
   Paginas pagina{0, 0, 0, 0};  // in front on each tab
   Ed foco = Ed::edObra;
   std::string titulo;
-  std::string textoCancelar;     // of btCancelar: cancel, or reread
+  std::string textoCancelar;     // of btCancelar: cancel what is new, or reread
   std::string figuraColocacion;  // file names; empty for none
   std::string figuraTubo;
   std::vector<AvisoDeCampo> avisos;  // of all the pages
-  std::string avCargas1;             // notice of the page of loads; empty for none
 
   Control& operator[](Ed id) { return controles[static_cast<std::size_t>(id)]; }
   const Control& operator[](Ed id) const { return controles[static_cast<std::size_t>(id)]; }

@@ -16,22 +16,20 @@ void Pon(Captura& c, std::initializer_list<Orden> ordenes, bool habilitadas) {
 
 void ActualizaMenus(Captura& c) {
   const bool obra = c.ObraCargada;
-  const bool fichero = obra && c.e.obra.ObraAbierta;
   const bool tramo = obra && !c.SinTramoEnMano();
-  const bool armado = c.pantalla.pagina.TabTipologia == 0;
-  Pon(c, {Orden::mnSalir}, true);
-  Pon(c, {Orden::MnAbriFichero, Orden::MnNuevaObra}, !obra);
+  Pon(c, {Orden::mnSalir, Orden::MnAbriFichero, Orden::MnNuevaObra, Orden::MnSeleccionarImpresora},
+      true);
   Pon(c,
-      {Orden::mnCerrarObra, Orden::mnGrabaObra, Orden::mnTramos, Orden::btCerrarObra,
-       Orden::btGrabaObra},
+      {Orden::mnCerrarObra, Orden::mnGrabaObra, Orden::mnGrabarComo, Orden::mnTramos,
+       Orden::btCerrarObra, Orden::btGrabaObra, Orden::MnImprimir, Orden::btImprimir,
+       Orden::mnNuevoTramo, Orden::btNuevoTramo, Orden::mnPegaTramos},
       obra);
-  Pon(c, {Orden::MnImprimir, Orden::MnSeleccionarImpresora, Orden::btImprimir}, fichero);
-  Pon(c, {Orden::mnNuevoTramo, Orden::btNuevoTramo}, obra && !c.EnAltas());
   Pon(c,
-      {Orden::mnCancelar, Orden::mnGrabaTramo, Orden::mnCalculaTramo, Orden::btCancelar,
-       Orden::btGrabar, Orden::btCalcular},
+      {Orden::mnCancelar, Orden::mnCalculaTramo, Orden::btCancelar, Orden::btCalcular,
+       Orden::mnDuplicaTramos, Orden::mnBorraTramos, Orden::mnSubeTramos, Orden::mnBajaTramos,
+       Orden::mnRenumeraTramo, Orden::mnRenumeraTodos, Orden::mnCopiaTramos},
       tramo);
-  Pon(c, {Orden::mnAjustarArmaduras, Orden::btAjustar}, tramo && armado);
+  Pon(c, {Orden::mnAjustarArmaduras, Orden::btAjustar}, tramo && c.e.tramo.EsArmado);
 }
 
 }  // namespace zorbin

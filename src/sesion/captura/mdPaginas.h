@@ -1,14 +1,14 @@
-// The pages of the screen, and what must hold before one comes to the front.
+// The pages of the screen. Any of them may be looked at, whatever is typed.
 #pragma once
 
 #include "sesion/captura/mdCaptura.h"
 
 namespace zorbin {
 
-/// A person chose a page of TabPrincipal. @return whether it stands in front
-bool CambiaPagina(Captura& c, int pagina);
-/// A page of TabDatosColocacion. As CambiaPagina.
-bool CambiaPaginaColocacion(Captura& c, int pagina);
+/// A person chose a page of TabPrincipal.
+void CambiaPagina(Captura& c, int pagina);
+/// A page of TabDatosColocacion.
+void CambiaPaginaColocacion(Captura& c, int pagina);
 /// A page of TabPostesados.
 void CambiaPaginaPostesados(Captura& c, int pagina);
 

@@ -10,6 +10,9 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "core/mdUnidades.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdGeometria.h"
+#include "sesion/captura/mdReglas.h"
 
 namespace zorbin {
 
@@ -20,6 +23,8 @@ constexpr std::string_view kMascaraAltura = "#####0.00";  // and of ratios
 constexpr double kSinTope = std::numeric_limits<double>::infinity();
 constexpr double kParedMinima = 0.07;  // of the internal diameter; manufacturers go down to 0.077
 constexpr double kTraficoSobre = 0.6;  // cover below which wheels act almost as they stand [m]
+constexpr double kDosCapas = 35.06;    // outer reinforcement that takes two layers [cm2/m]
+constexpr double kFydUsual = 1400.0;   // above it cracks open wider than 0.1 mm [kp/cm2]
 constexpr double kArcoDesde = 5.0;     // height and multiple of De beyond which soil arches [m, -]
 
 double AlturaInicial(const Obra& o, const Tramo& t) {
@@ -97,6 +102,17 @@ constexpr auto
                        return Limites{0.1, 4.0};
                      },
                      txt::PorCuantia},
+                    {Ed::edAdato, 0, Magnitud::Cuantia,
+                     [](const Tramo& t) { return Armado(t) && t.Icontes0; }, Valor<&Tramo::Adato>,
+                     [](const Tramo&) {
+                       return Limites{-kSinTope, kDosCapas};
+                     },
+                     txt::PorDosCapas},
+                    {Ed::edFyd, 0, Magnitud::Tension, Armado, Valor<&Tramo::Fyd>,
+                     [](const Tramo&) {
+                       return Limites{-kSinTope, kFydUsual};
+                     },
+                     txt::PorFyd},
                     {Ed::edFck, 0, Magnitud::Tension, Armado, Valor<&Tramo::Fck>, Entre<250, 700>,
                      txt::PorMaterial},
                     {Ed::edFyk, 0, Magnitud::Tension, Armado, Valor<&Tramo::Fyk>, Entre<2000, 6000>,
@@ -150,14 +166,19 @@ class Recogida {
   Recogida(const Catalogo& textos, char separador) : textos_(textos), separador_(separador) {}
 
   // The steps of a range of heights that miss the last one.
-  void Alturas(Ed campo, double primera, double ultima, double paso) {
+  void Alturas(Ed campo, Ed incremento, double primera, double ultima, double paso) {
     const auto fuera = AlturaFueraDe(primera, ultima, paso);
     if (!fuera) return;
     const auto metros = [this](double h) { return Numero(h, kMascaraAltura); };
     std::string texto = textos_.Compone(
         txt::AlturaFinalFuera,
         {metros(fuera->ultima), metros(primera), metros(paso), metros(fuera->alcanzada)});
-    avisos_.push_back({campo, std::move(texto), fuera->incremento});
+    AvisoDeCampo aviso{campo, std::move(texto)};
+    if (fuera->incremento > 0) {
+      aviso.remedio = {{incremento, fuera->incremento}};
+      aviso.boton = textos_.Compone(txt::TomarIncremento, {metros(fuera->incremento)});
+    }
+    avisos_.push_back(std::move(aviso));
   }
 
   // A datum without value is asked for elsewhere.
@@ -200,6 +221,36 @@ class Recogida {
   std::vector<AvisoDeCampo> avisos_;
 };
 
+// What the table of dimensions says of the Tramo in hand.
+void AvisosDeTabla(const Captura& c, std::vector<AvisoDeCampo>& avisos) {
+  const auto& t = c.e.tramo;
+  const auto numero = [&c](double x, std::string_view mascara) { return Formato(c, x, mascara); };
+  constexpr std::string_view kMetros = "#####0.000";
+  constexpr std::string_view kCm = "#####0.0";
+  if (const auto cercano = DiametroCercano(c); cercano && t.Di > 0 && !c.EsComercial) {
+    avisos.push_back({Ed::edDi0, c.textos.Compone(txt::DiametroNoComercial, {numero(t.Di, kMetros)}),
+                      {{Ed::edDi0, *cercano}},
+                      c.textos.Compone(txt::TomarDiametro, {numero(*cercano, kMetros)})});
+  }
+  if (const auto r = RecomendadasDistintas(c)) {
+    AvisoDeCampo aviso{Ed::edEsp0,
+                       c.textos.Compone(txt::FueraDeRecomendadas,
+                                        {numero(t.Esp, kCm), numero(t.Reci, kCm),
+                                         numero(t.Rece, kCm), numero(r->Esp, kCm),
+                                         numero(r->Reci, kCm), numero(r->Rece, kCm)}),
+                       {{Ed::edEsp0, r->Esp}},
+                       Texto(c, txt::TomarRecomendadas)};
+    if (t.Tipologia != kRevestida) aviso.remedio.emplace_back(Ed::edReci0, r->Reci);
+    aviso.remedio.emplace_back(Ed::edRece0, r->Rece);
+    avisos.push_back(std::move(aviso));
+  }
+  const int veces = c.tablas.MaxAnchoZanja;
+  if (veces > 0 && t.TipoColocacion == 1 && t.Di > 0 && t.B0 > veces * t.Di) {
+    avisos.push_back({Ed::edB0, c.textos.Compone(txt::ZanjaMuyAncha, {numero(t.B0, kMascaraAltura),
+                                                                     std::to_string(veces)})});
+  }
+}
+
 // Whether all the tabs that a field stands on show it.
 bool Delante(const Paginas& delante, const Paginas& pagina) {
   const auto cabe = [](int pedida, int puesta) { return pedida < 0 || pedida == puesta; };
@@ -213,14 +264,14 @@ bool Delante(const Paginas& delante, const Paginas& pagina) {
 
 std::vector<AvisoDeCampo> AvisosDeObra(const Obra& obra, const Catalogo& textos, char separador) {
   Recogida recogida(textos, separador);
-  recogida.Alturas(Ed::edAlt2, obra.Alt1, obra.Alt2, obra.Alt3);
+  recogida.Alturas(Ed::edAlt2, Ed::edAlt3, obra.Alt1, obra.Alt2, obra.Alt3);
   return std::move(recogida).Avisos();
 }
 
 std::vector<AvisoDeCampo> AvisosDePlausibilidad(const Obra& obra, const Tramo& tramo,
                                                 const Catalogo& textos, char separador) {
   Recogida recogida(textos, separador);
-  recogida.Alturas(Ed::edHr0Final, tramo.Hr0Tramo, tramo.Hr0Final, tramo.Hr0Delta);
+  recogida.Alturas(Ed::edHr0Final, Ed::edHr0Delta, tramo.Hr0Tramo, tramo.Hr0Final, tramo.Hr0Delta);
   const Tramo enCalculo = TramoEnCalculo(tramo, obra.EsSI());
   for (const auto& regla : kReglas) recogida.Usual(regla, obra, enCalculo);
   return std::move(recogida).Avisos();
@@ -231,9 +282,8 @@ void RenuevaAvisos(Captura& c) {
   avisos = AvisosDeObra(c.e.obra, c.textos, c.SeparadorDecimal);
   if (c.SinTramoEnMano()) return;
   auto delTramo = AvisosDePlausibilidad(c.e.obra, c.e.tramo, c.textos, c.SeparadorDecimal);
-  // The page of loads shows the one of arching by itself, in avCargas1.
-  std::erase_if(delTramo, [](const AvisoDeCampo& a) { return a.campo == Ed::edQDato0; });
   std::ranges::move(delTramo, std::back_inserter(avisos));
+  AvisosDeTabla(c, avisos);
 }
 
 std::vector<AvisoDeCampo> AvisosDelante(const Modelo& pantalla) {
@@ -244,14 +294,16 @@ std::vector<AvisoDeCampo> AvisosDelante(const Modelo& pantalla) {
   return avisos;
 }
 
-void TomaIncremento(Captura& c, const AvisoDeCampo& aviso) {
-  if (!(aviso.incremento > 0)) return;
-  const bool deObra = aviso.campo == Ed::edAlt2;
-  const Ed campo = deObra ? Ed::edAlt3 : Ed::edHr0Delta;
-  Variable(c, campo) = aviso.incremento;
-  MuestraVariable(c, campo);
-  (deObra ? c.ObraEditada : c.TramoEditado) = true;
-  RenuevaAvisos(c);
+void TomaRemedio(Captura& c, const AvisoDeCampo& aviso) {
+  if (aviso.remedio.empty()) return;
+  const EnUnPaso paso(c, aviso.boton);
+  for (const auto& [campo, valor] : aviso.remedio) {
+    Escribe(c, campo, valor, Fila(campo).ficha->MascaraTecleada(c.EsSI()));
+    c[campo].tocado = true;
+    AplicaRegla(c, campo);
+    c[campo].tocado = false;
+  }
+  RenuevaEtiquetas(c);
 }
 
 }  // namespace zorbin

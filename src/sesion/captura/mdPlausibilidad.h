@@ -22,7 +22,8 @@ void RenuevaAvisos(Captura& c);
 /// Those of the page in front.
 std::vector<AvisoDeCampo> AvisosDelante(const Modelo& pantalla);
 
-/// Takes the increment that a notice offers. Nothing happens while it offers none.
-void TomaIncremento(Captura& c, const AvisoDeCampo& aviso);
+/// Takes the values that a notice offers, by the rules of their fields. Nothing happens where it
+/// offers none.
+void TomaRemedio(Captura& c, const AvisoDeCampo& aviso);
 
 }  // namespace zorbin

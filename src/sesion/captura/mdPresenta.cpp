@@ -44,6 +44,7 @@ void MuestraMarca(Captura& c, Ed marca, Ed campo, bool puesta) {
 void MuestraOpciones(Captura& c) {
   const auto& t = c.e.tramo;
   c.pantalla.pagina.TabTipologia = t.EsArmado ? 0 : 1;
+  c[Ed::rdTipologia].opcion = t.EsArmado ? 0 : 1;
   c[Ed::rdTipoCamisa].opcion = t.Tipologia == kEmbebida ? 0 : t.Tipologia == kRevestida ? 1 : -1;
   c[Ed::rdTipoColocacion].opcion = t.TipoColocacion;
   MuestraMarca(c, Ed::edIcontes0, Ed::edAdato, t.Icontes0);
@@ -69,7 +70,7 @@ void PreparaPantalla(Captura& c) {
 void MuestraObra(Captura& c) {
   const auto& o = c.e.obra;
   c.LeyendoDatos = true;
-  CambiaIdioma(c, o.Idioma);
+  EligeEntrada(c, Ed::edIdioma, o.Idioma);
   Escribe(c, Ed::edObra, o.NombreObra);
   Escribe(c, Ed::edObra2, o.NombreObra);
   Escribe(c, Ed::edCliente, o.Cliente);
@@ -99,15 +100,15 @@ void MuestraTramo(Captura& c) {
   BloqueosTramo(c);
   RenuevaFiguras(c);
   RenuevaEtiquetas(c);
+  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
   c.LeyendoDatos = false;
-  OlvidaCambios(c);
 }
 
 void MuestraListaTramos(Captura& c) {
   auto& entradas = c[Ed::edTramo].entradas;
   entradas.clear();
-  for (const auto& numero : c.lista) {
-    if (!numero.empty()) entradas.push_back(numero);
+  for (const auto& t : c.version.tramos) {
+    if (!t->numero.empty()) entradas.push_back(t->numero);
   }
 }
 

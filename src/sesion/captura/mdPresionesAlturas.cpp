@@ -54,7 +54,7 @@ SalidaCampo SalePrsM2(Captura& c, const Presiones& p) {
   if (final > 0 && final == inicial) {
     // The increment of the Tramo keeps its value behind the field, as it always did.
     if (!p.deTramo) Variable(c, p.prs3) = 0.0;
-    Escribe(c, p.prs3, 0.0, "#####0");
+    p.deTramo ? Escribe(c, p.prs3, "") : Escribe(c, p.prs3, 0.0, "#####0");
   }
   Muestra(c, p, p.prsM2);
   SigueAMDP(c, p, p.prs2, p.prsM2);
@@ -111,7 +111,7 @@ SalidaCampo SalePrs3(Captura& c, const Presiones& p) {
   const double final = Variable(c, p.prsM2);
   double& incremento = Variable(c, p.prs3);
   if (final > inicial) {
-    if (!Lee(c, p.prs3, kAlgo)) return SalidaCampo::Queda;
+    if (!Lee(c, p.prs3, kIncrementoMinimo)) return SalidaCampo::Queda;
   } else {
     incremento = 0.0;
   }

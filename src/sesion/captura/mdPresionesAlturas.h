@@ -5,6 +5,9 @@
 
 namespace zorbin {
 
+/// Least increment of a range of pressures: the last digit that its mask shows.
+inline constexpr double kIncrementoMinimo = 0.01;
+
 SalidaCampo SalePresion(Captura& c, Ed campo);
 SalidaCampo SaleAlturaObra(Captura& c, Ed campo);
 SalidaCampo SaleAlturaTramo(Captura& c, Ed campo);

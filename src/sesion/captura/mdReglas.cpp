@@ -5,21 +5,19 @@
 
 #include "base/textos.h"
 #include "core/mdUnidades.h"
-#include "sesion/captura/mdAjustesTramo.h"
-#include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdPaginas.h"
 #include "sesion/captura/mdPresionesAlturas.h"
 #include "sesion/captura/mdReglasDimensiones.h"
 #include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdTramos.h"
 #include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kExteriorSinPregunta = 35.06;  // outer reinforcement of two layers [cm2/m]
 constexpr double kFckMinimo = 275.0;            // [kp/cm2]
 
 bool LeeFila(Captura& c, Ed campo) {
@@ -74,31 +72,14 @@ SalidaCampo SaleNumero(Captura& c, Ed campo) {
   return leido ? SalidaCampo::Pasa : SalidaCampo::Queda;
 }
 
-SalidaCampo SaleAdato(Captura& c, Ed campo) {
-  if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  if (c.e.tramo.Adato <= kExteriorSinPregunta) return SalidaCampo::Pasa;
-  const bool sigue = c.voz.Pregunta(
-      Texto(c, txt::ExteriorExcesiva1) + "\n" + Texto(c, txt::ExteriorExcesiva2) + "\n" +
-          Texto(c, txt::ExteriorExcesiva3) + " " + Texto(c, txt::ContinuaPregunta),
-      Texto(c, txt::TituloAviso));
-  return sigue ? SalidaCampo::Pasa : SalidaCampo::Queda;
-}
-
-// The last field of the post-tensioned pages leads to the page of the laying.
-SalidaCampo SaleEpsr(Captura& c, Ed campo) {
-  if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  if (!CambiaPagina(c, 2)) return SalidaCampo::VaOtro;
-  CambiaPaginaColocacion(c, 0);
-  return SalidaCampo::Pasa;
-}
-
 SalidaCampo SaleFck(Captura& c, Ed campo) {
   if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
   const double minimo = c.EsSI() ? kFckMinimo / kFactorTension : kFckMinimo;
   if (c.e.tramo.Fck < minimo) {
+    const std::string tecleado = c[campo].texto;
     PonDefecto(c, campo, minimo);
-    c.voz.Muestra(Texto(c, txt::TituloAviso) + ": " + Texto(c, txt::ValorMinimo) + "  ",
-                  Texto(c, txt::EtFck));
+    c.voz.Anuncia(c.textos.Compone(
+        txt::PuestoElMinimo, {NombreDeCampo(c, campo), tecleado, c[campo].texto}));
   }
   CalculaFct(c);
   return SalidaCampo::Pasa;
@@ -116,7 +97,7 @@ SalidaCampo SaleFyd(Captura& c, Ed campo) {
     return SalidaCampo::Queda;
   }
   MuestraVariable(c, campo);
-  return CompruebaFyd(c) ? SalidaCampo::Pasa : SalidaCampo::Queda;
+  return SalidaCampo::Pasa;
 }
 
 SalidaCampo SaleSFck(Captura& c, Ed campo) {
@@ -142,7 +123,7 @@ SalidaCampo SaleHr1(Captura& c, Ed campo) {
   const auto colocacion = c.e.tramo.TipoColocacion;
   if (colocacion == 0) return SalidaCampo::Pasa;
   if (SaleNumero(c, campo) != SalidaCampo::Pasa) return SalidaCampo::Queda;
-  const double altura = EligeAlturas(c).Hr0;
+  const double altura = AlturasDe(c.e.obra, c.e.tramo).Hr0;
   if (colocacion != 1 || c.e.tramo.Hr1 <= altura) return SalidaCampo::Pasa;
   return Queda(c, campo, Texto(c, txt::GeneratrizSuperior) + "\n" + Texto(c, txt::MayorQueRelleno),
                Texto(c, txt::TituloErrorCaptura));
@@ -169,15 +150,12 @@ bool ListaEnUso(const Captura& c, Ed campo) {
 SalidaCampo RechazaLista(Captura& c, Ed campo, int texto) {
   const auto& fila = Fila(campo);
   Rechaza(c, campo, Texto(c, texto), SinDosPuntos(Texto(c, fila.etiqueta)));
-  EligeEntrada(c, campo, fila.entradaDefecto);
   return SalidaCampo::Queda;
 }
 
 SalidaCampo SaleIdioma(Captura& c, int posicion) {
-  if (posicion != c.e.obra.Idioma) {
-    CambiaIdioma(c, static_cast<std::int16_t>(posicion));
-    RenuevaFiguras(c);
-  }
+  c.e.obra.Idioma = static_cast<std::int16_t>(posicion);
+  c.e.obra.IdiomaOffset = static_cast<std::int16_t>((posicion - 1) * kPasoIdioma);
   return SalidaCampo::Pasa;
 }
 
@@ -188,12 +166,7 @@ SalidaCampo SaleLista(Captura& c, Ed campo) {
   if (posicion == 0) return RechazaLista(c, campo, txt::ValorIncorrecto);
   if (campo == Ed::edIdioma) return SaleIdioma(c, posicion);
   auto& codigo = c.e.tramo.*Fila(campo).codigo;
-  const auto valor = ValorDeLista(c, campo, posicion);
-  if (valor != codigo) {
-    codigo = valor;
-    c.TramoEditado = true;
-    RegistraCambios(c);
-  }
+  codigo = ValorDeLista(c, campo, posicion);
   if (campo == Ed::edTipoCuna0) RenuevaFiguras(c);
   return SalidaCampo::Pasa;
 }
@@ -210,7 +183,7 @@ SalidaCampo SaleObra(Captura& c, Ed campo) {
 }
 
 SalidaCampo SaleTramo(Captura& c, Ed) {
-  return EligeTramo(c) ? SalidaCampo::Pasa : SalidaCampo::Queda;
+  return EligeTramo(c);
 }
 
 SalidaCampo SinRegla(Captura&, Ed) {
@@ -241,13 +214,11 @@ constexpr auto kReglas = std::to_array<ReglaDeCampo>({
     {Ed::edPrs3Tram, SalePresion},
     {Ed::edPrsM1Tram, SalePresion},
     {Ed::edPrsM2Tram, SalePresion},
-    {Ed::edAdato, SaleAdato},
     {Ed::edFck, SaleFck},
     {Ed::edFyk, SaleFyk},
     {Ed::edFyd, SaleFyd},
     {Ed::edSFck, SaleSFck},
     {Ed::edSf, SaleSf},
-    {Ed::edEpsr, SaleEpsr},
     {Ed::edDi0, SaleDi},
     {Ed::edEsp0, SaleDimension},
     {Ed::edReci0, SaleDimension},

@@ -1,7 +1,8 @@
 #include "sesion/captura/mdReglasDimensiones.h"
 
+#include <array>
+
 #include "base/textos.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 
@@ -23,12 +24,30 @@ void RecubrimientoRevestida(Captura& c) {
   MuestraVariable(c, Ed::edReci0);
 }
 
-// The width follows a dimension; where it changes, the adjustments are void.
-void AnchoPorDimension(Captura& c) {
-  const std::string anterior = c[Ed::edB0].texto;
-  RecalculaB0(c);
-  if (c[Ed::edB0].texto != anterior) RegistraCambios(c);
-}
+// What a diameter brought with it, so that nothing typed goes in silence.
+class LoQueTrae {
+ public:
+  explicit LoQueTrae(Captura& c) : c_(c) {
+    for (std::size_t i = 0; i < kSiguen.size(); ++i) antes_[i] = c[kSiguen[i]].texto;
+  }
+
+  void Di() const {
+    std::string cambios;
+    for (std::size_t i = 0; i < kSiguen.size(); ++i) {
+      const std::string& ahora = c_[kSiguen[i]].texto;
+      if (ahora == antes_[i] || antes_[i].empty()) continue;
+      if (!cambios.empty()) cambios += "; ";
+      cambios += c_.textos.Compone(txt::CambioDe,
+                                   {NombreDeCampo(c_, kSiguen[i]), antes_[i], ahora});
+    }
+    if (!cambios.empty()) c_.voz.Anuncia(c_.textos.Compone(txt::DiametroTrae, {cambios}));
+  }
+
+ private:
+  static constexpr std::array kSiguen{Ed::edEsp0, Ed::edReci0, Ed::edRece0, Ed::edB0};
+  Captura& c_;
+  std::array<std::string, kSiguen.size()> antes_;
+};
 
 // A diameter of the table brings its dimensions; any other has none, and no band.
 void TomaDimensiones(Captura& c, bool otroDi) {
@@ -71,20 +90,6 @@ void SigueADimension(Captura& c, Ed campo) {
   CalculaDe(c);
 }
 
-SalidaCampo VuelveADi(Captura& c) {
-  VaA(c, Ed::edDi0);
-  return SalidaCampo::VaOtro;
-}
-
-void AvisaZanjaAncha(Captura& c, double anterior) {
-  const auto& t = c.e.tramo;
-  const int veces = c.tablas.MaxAnchoZanja;
-  if (veces <= 0 || t.TipoColocacion != 1 || t.B0 == anterior || t.B0 <= veces * t.Di) return;
-  c.voz.Muestra(
-      Texto(c, txt::ZanjaAncha1) + " " + std::to_string(veces) + "\n" + Texto(c, txt::ZanjaAncha2),
-      Texto(c, txt::TituloAtencion));
-}
-
 }  // namespace
 
 SalidaCampo SaleDi(Captura& c, Ed campo) {
@@ -93,21 +98,17 @@ SalidaCampo SaleDi(Captura& c, Ed campo) {
   c.AnchoZanjaAuto = false;
   if (!LeeAlSalir(c, campo, kMinimo, t.Di, Fila(campo).etiqueta)) return SalidaCampo::Queda;
   c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
-  if (!c.EsComercial &&
-      c.voz.Pregunta(Texto(c, txt::DeseaCambiarlo), Texto(c, txt::NoEsComercial))) {
-    t.Di = anterior;  // the diameter that comes instead is a change against this one
-    return SalidaCampo::Queda;
-  }
   const bool otro = t.Di != anterior;
+  const LoQueTrae trae(c);
   TomaDimensiones(c, otro);
   RenuevaEtiquetas(c);
   CalculaDe(c);
   MuestraVariable(c, campo);
   if (otro) {
     c.AnchoZanjaAuto = true;
-    c.TramoEditado = true;
-    AnchoPorDimension(c);
+    RecalculaB0(c);
   }
+  trae.Di();
   return SalidaCampo::Pasa;
 }
 
@@ -118,14 +119,15 @@ SalidaCampo SaleDimension(Captura& c, Ed campo) {
   const int etiqueta = Fila(campo).etiqueta;
   if (!c.EsComercial && !LeeAlSalir(c, campo, kMinimo, valor, etiqueta)) return SalidaCampo::Queda;
   if (!LeeAlSalir(c, campo, 0.0, valor, etiqueta) || !TieneDimension(c, campo)) {
-    return VuelveADi(c);
+    return SalidaCampo::Queda;
   }
   SigueADimension(c, campo);
   MuestraVariable(c, campo);
-  if (valor != anterior) {
-    c.TramoEditado = true;
-    // A new thickness overwrites a width typed by hand.
-    if (campo == Ed::edEsp0) AnchoPorDimension(c);
+  // A new thickness overwrites a width typed by hand.
+  if (valor != anterior && campo == Ed::edEsp0) {
+    const LoQueTrae trae(c);
+    RecalculaB0(c);
+    trae.Di();
   }
   return SalidaCampo::Pasa;
 }
@@ -133,12 +135,10 @@ SalidaCampo SaleDimension(Captura& c, Ed campo) {
 SalidaCampo SaleB0(Captura& c, Ed campo) {
   auto& t = c.e.tramo;
   if (t.TipoColocacion == 2) return SalidaCampo::Pasa;
-  const double anterior = t.B0;
   const bool leido = LeeAlSalir(c, campo, 0.0, t.B0, Fila(campo).etiqueta);
   if (!leido || t.B0 < kMinimo) RecalculaB0(c);
   if (!leido) return SalidaCampo::Queda;
   MuestraVariable(c, campo);
-  AvisaZanjaAncha(c, anterior);
   return SalidaCampo::Pasa;
 }
 

@@ -4,7 +4,6 @@
 
 #include "base/textos.h"
 #include "core/mdUnidades.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdOrdenes.h"
@@ -18,7 +17,7 @@ constexpr auto kDefectosArmado = std::to_array<Ed>({
     Ed::edCamMax, Ed::edGamaB, Ed::edFck, Ed::edFyk});
 constexpr auto kDefectosPostesado = std::to_array<Ed>({
     Ed::edDelca, Ed::edRel, Ed::edFic, Ed::edFir, Ed::edEpsc, Ed::edEpsr, Ed::edFyk, Ed::edEs,
-    Ed::edEp, Ed::edFckno, Ed::edFckn, Ed::edFckr, Ed::edSFck});
+    Ed::edEp, Ed::edFYKPost, Ed::edFckno, Ed::edFckn, Ed::edFckr, Ed::edSFck});
 constexpr auto kDefectosSeccion = std::to_array<Ed>({Ed::edGc0, Ed::edGr0, Ed::edFi0});
 
 // Numbers cleared at every depth. Fckr is apart: its text stays.
@@ -51,14 +50,6 @@ void Borra(Captura& c, std::span<const Ed> campos) {
   }
 }
 
-void PonTipologia(Captura& c, std::int16_t tipologia) {
-  auto& t = c.e.tramo;
-  t.Tipologia = tipologia;
-  t.EsArmado = tipologia < kPrimeraPostesada;
-  t.SubTipo = t.EsArmado ? 3 : 0;
-  t.PostFlag = t.EsArmado ? 0 : 1;
-}
-
 void LimpiaMarcas(Captura& c) {
   c.e.tramo.Icontes0 = c.e.tramo.Icontes1 = false;
   c[Ed::edIcontes0].opcion = c[Ed::edIcontes1].opcion = 0;
@@ -67,15 +58,16 @@ void LimpiaMarcas(Captura& c) {
 }
 
 void LimpiaCabecera(Captura& c) {
-  c.EstadoCaptura = std::string(kSinTramo);
   for (const Ed campo : {Ed::edTramo, Ed::edDescriTramo, Ed::edTramo2, Ed::edDescriTramo2}) {
     Escribe(c, campo, "");
   }
   Desbloquea(c, Ed::edTramo);
   c.e.tramo.DescriTramo.clear();
   c.e.tramo.Tipologia = 0;
+  PonTipologia(c, kArmada);
+  CargaListasGeom(c, GrupoDeTipologia(kArmada));
+  c[Ed::rdTipologia].opcion = 0;
   c.pantalla.pagina.TabTipologia = 0;
-  CambiaTipologia(c, false);
   Borra(c, kPresionesTramo);
   Desbloquea(c, Ed::edPrsM2Tram);
   Bloquea(c, Ed::edPrs3Tram);
@@ -112,30 +104,21 @@ void LimpiaSeccion(Captura& c) {
   AplicaColocacion(c);
 }
 
-// Whether a change of typology may clear the screen.
-bool AceptaLimpieza(Captura& c) {
-  if (!c.EnModificaciones() && !c.EnCambio()) return true;
-  return c.voz.Pregunta(Texto(c, txt::CambioTipologia1) + "\n" + Texto(c, txt::CambioTipologia2) +
-                            "\n" + Texto(c, txt::CambioTipologia3) + "\n" +
-                            Texto(c, txt::DeseaContinuar),
-                        Texto(c, txt::TituloAviso));
-}
-
 std::int16_t CandidataPostesada(Captura& c) {
   auto& opcion = c[Ed::rdTipoCamisa].opcion;
   if (opcion < 0) opcion = 0;
   return opcion == 1 ? kRevestida : kEmbebida;
 }
 
-void PasaAArmado(Captura& c, bool Limpiar) {
-  if (Limpiar) LimpiaCaptura(c, 1);
+void PasaAArmado(Captura& c) {
+  LimpiaCaptura(c, 1);
   PonTipologia(c, kArmada);
   Enciende(c, Ed::edReci0);
   DefectosArmado(c);
 }
 
 void PasaAPostesado(Captura& c, std::int16_t candidata) {
-  if (c.e.tramo.Tipologia < kPrimeraPostesada) LimpiaCaptura(c, 2);
+  LimpiaCaptura(c, 2);
   PonTipologia(c, candidata);
   Enciende(c, Ed::edReci0);
   // The reverse of what the option does, as it always was.
@@ -155,6 +138,14 @@ void RellenaB0(Captura& c) {
 }
 
 }  // namespace
+
+void PonTipologia(Captura& c, std::int16_t tipologia) {
+  auto& t = c.e.tramo;
+  t.Tipologia = tipologia;
+  t.EsArmado = tipologia < kPrimeraPostesada;
+  t.SubTipo = t.EsArmado ? 3 : 0;
+  t.PostFlag = t.EsArmado ? 0 : 1;
+}
 
 double FydDeFyk(double Fyk) {
   return 2.0 * Fyk / 3.0;
@@ -176,14 +167,12 @@ void DefectosArmado(Captura& c) {
   PonDefecto(c, Ed::edFyd, FydDeFyk(t.Fyk));
   t.Fct = FctEnSistema(t.Fck, c.EsSI());
   MuestraVariable(c, Ed::edFct);
-  OlvidaCambios(c);
 }
 
 void DefectosPostesado(Captura& c) {
   Aplica(c, kDefectosPostesado);
   PonDefecto(c, Ed::edSf, SfDeSFck(c.e.tramo.SFck));
   RenuevaEtiquetas(c);
-  OlvidaCambios(c);
 }
 
 void LimpiaCaptura(Captura& c, int Profundidad) {
@@ -204,35 +193,19 @@ void LimpiaCaptura(Captura& c, int Profundidad) {
   RenuevaTitulo(c);
   if (Profundidad == 0) c.pantalla.titulo = TextoUnidades(c) + Texto(c, txt::CapturaDeDatos);
   ActualizaMenus(c);
-  OlvidaCambios(c);
 }
 
-void CambiaTipologia(Captura& c, bool Limpiar) {
-  auto& t = c.e.tramo;
-  auto& pagina = c.pantalla.pagina.TabTipologia;
-  const bool aArmado = pagina == 0;
-  const bool deOtra = aArmado ? t.Tipologia != kArmada && t.Tipologia != 0 : t.Tipologia == kArmada;
-  if (deOtra && !AceptaLimpieza(c)) {
-    pagina = aArmado ? 1 : 0;
-    return;
-  }
-  const std::int16_t candidata = aArmado ? kArmada : CandidataPostesada(c);
-  if (candidata != t.Tipologia) {
-    aArmado ? PasaAArmado(c, Limpiar) : PasaAPostesado(c, candidata);
-    CargaListasGeom(c, GrupoDeTipologia(candidata));
-  }
+void EligeTipologia(Captura& c, bool postesada) {
+  if (c.LeyendoDatos || postesada == !c.e.tramo.EsArmado) return;
+  const std::int16_t nueva = postesada ? CandidataPostesada(c) : kArmada;
+  postesada ? PasaAPostesado(c, nueva) : PasaAArmado(c);
+  c[Ed::rdTipologia].opcion = postesada ? 1 : 0;
+  c.pantalla.pagina.TabTipologia = postesada ? 1 : 0;
+  CargaListasGeom(c, GrupoDeTipologia(nueva));
+  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
   RenuevaFiguras(c);
-}
-
-void EligePaginaTipologia(Captura& c, int pagina) {
-  if (c.LeyendoDatos || pagina == c.pantalla.pagina.TabTipologia) return;
-  const auto anterior = c.e.tramo.Tipologia;
-  c.pantalla.pagina.TabTipologia = pagina;
-  if (c.pantalla.pagina.TabPrincipal == 2) c.pantalla.pagina.TabPrincipal = 1;
-  CambiaTipologia(c, true);
   ActualizaMenus(c);
   RenuevaTitulo(c);
-  if (c.e.tramo.Tipologia != anterior) RegistraCambios(c);
 }
 
 void EligeOpcionCamisa(Captura& c, int opcion) {
@@ -241,7 +214,6 @@ void EligeOpcionCamisa(Captura& c, int opcion) {
   PonTipologia(c, opcion == 1 ? kRevestida : kEmbebida);
   AplicaTipologia(c);
   if (opcion == 1) Escribe(c, Ed::edReci0, "");
-  c.TramoEditado = true;
   CargaListasGeom(c, GrupoDeTipologia(c.e.tramo.Tipologia));
   RenuevaFiguras(c);
 }
@@ -270,9 +242,7 @@ void EligeColocacion(Captura& c, int opcion) {
     if (EnBlanco(c, Ed::edTipoApoyo0)) EligeEntrada(c, Ed::edTipoApoyo0, 2);
     RellenaB0(c);
   }
-  c.TramoEditado = true;
   AplicaColocacion(c);
-  RegistraCambios(c);
 }
 
 void AplicaColocacion(Captura& c) {

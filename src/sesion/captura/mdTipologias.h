@@ -14,18 +14,19 @@ double SfDeSFck(double SFck);
 /// Defaults of materials of a reinforced Tramo. Fct under SI is a tenth of what every later
 /// recalculation gives, on purpose.
 void DefectosArmado(Captura& c);
-/// Defaults of a post-tensioned Tramo. It fills Fyk and leaves edFYKPost blank, on purpose.
+/// Defaults of a post-tensioned Tramo.
 void DefectosPostesado(Captura& c);
 
 /// Clears the Tramo: 0 all of it, 1 all but header and section, 2 as 1 but for the cylinder option.
 /// edFckr keeps its text, on purpose.
 void LimpiaCaptura(Captura& c, int Profundidad);
 
-/// Applies the page of TabTipologia to Tipologia. Asks before it clears what was typed.
-void CambiaTipologia(Captura& c, bool Limpiar);
+/// The codes that go with a typology.
+void PonTipologia(Captura& c, std::int16_t tipologia);
 
-/// A person chose a page of TabTipologia.
-void EligePaginaTipologia(Captura& c, int pagina);
+/// A person chose between reinforced and post-tensioned: what the other one asked for is cleared,
+/// and this one has its defaults.
+void EligeTipologia(Captura& c, bool postesada);
 /// A person chose an option of rdTipoCamisa: 0 embedded, 1 lined.
 void EligeOpcionCamisa(Captura& c, int opcion);
 /// A person chose a laying: 0 trench, 1 trench under embankment, 2 embankment.

@@ -2,23 +2,23 @@
 
 #include "base/textos.h"
 #include "core/mdUnidades.h"
+#include "sesion/captura/mdPresionesAlturas.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kAlturaMinima = 1.0;       // [m]
-constexpr double kIncrementoMinimo = 0.01;  // of a pressure
+constexpr double kAlturaMinima = 1.0;  // [m]
 
-bool VuelveA(Captura& c, Ed campo) {
+// A fault is no use in a field that is locked.
+bool Abre(Captura& c, Ed campo) {
   Desbloquea(c, campo);
-  VaA(c, campo);
   return false;
 }
 
 bool Falla(Captura& c, Ed campo, int texto, const std::string& titulo = {}) {
   Rechaza(c, campo, Texto(c, texto), titulo);
-  return VuelveA(c, campo);
+  return Abre(c, campo);
 }
 
 std::string TituloError(const Captura& c) {
@@ -31,7 +31,7 @@ bool Completa(Captura& c, Ed campo, double minimo, int etiqueta, double enBlanco
   if (EnBlanco(c, campo)) {
     variable = enBlanco;
   } else if (!ValidaNumero(c, campo, minimo, variable, etiqueta)) {
-    return VuelveA(c, campo);
+    return Abre(c, campo);
   }
   MuestraVariable(c, campo);
   return true;
@@ -46,7 +46,7 @@ bool CompruebaIncremento(Captura& c) {
   }
   double copia = o.Prs3;
   if (!ValidaNumero(c, Ed::edPrs3, kNadaBajoCero, copia, txt::EtPrs3)) {
-    return VuelveA(c, Ed::edPrs3);
+    return Abre(c, Ed::edPrs3);
   }
   MuestraVariable(c, Ed::edPrs3);
   return true;
@@ -54,10 +54,10 @@ bool CompruebaIncremento(Captura& c) {
 
 bool CompletaPresiones(Captura& c) {
   const auto& o = c.e.obra;
-  return Completa(c, Ed::edPrs1, kNadaBajoCero, txt::EtPrs1, o.PrsM1 / kRelacionMDPDP) &&
-         Completa(c, Ed::edPrs2, kNadaBajoCero, txt::EtPrs2, o.PrsM2 / kRelacionMDPDP) &&
-         CompruebaIncremento(c) && Completa(c, Ed::edPrsM1, kNadaBajoCero, txt::EtPrsM1, 0.0) &&
-         Completa(c, Ed::edPrsM2, kNadaBajoCero, txt::EtPrsM2, 0.0);
+  return Cada({Completa(c, Ed::edPrs1, kNadaBajoCero, txt::EtPrs1, o.PrsM1 / kRelacionMDPDP),
+               Completa(c, Ed::edPrs2, kNadaBajoCero, txt::EtPrs2, o.PrsM2 / kRelacionMDPDP),
+               CompruebaIncremento(c), Completa(c, Ed::edPrsM1, kNadaBajoCero, txt::EtPrsM1, 0.0),
+               Completa(c, Ed::edPrsM2, kNadaBajoCero, txt::EtPrsM2, 0.0)});
 }
 
 bool ComparaPresiones(Captura& c) {
@@ -84,7 +84,7 @@ bool CompruebaAlturas(Captura& c) {
   if (o.Alt1 < kAlturaMinima) return Falla(c, Ed::edAlt1, txt::AlturaMinima1m);
   if (!Completa(c, Ed::edAlt2, kAlgo, txt::EtAlt2, o.Alt1)) return false;
   if (o.Alt2 > o.Alt1) {
-    if (!ValidaNumero(c, Ed::edAlt3, kAlgo, o.Alt3, txt::EtAlt3)) return VuelveA(c, Ed::edAlt3);
+    if (!ValidaNumero(c, Ed::edAlt3, kAlgo, o.Alt3, txt::EtAlt3)) return Abre(c, Ed::edAlt3);
   } else {
     o.Alt3 = 0.0;
   }
@@ -95,9 +95,10 @@ bool CompruebaAlturas(Captura& c) {
 }  // namespace
 
 bool ValidaObra(Captura& c) {
-  c.falta.reset();
+  c.faltas.clear();
   // The last two guards of the increments can't be reached: the tests before them are as strict.
-  return CompletaPresiones(c) && ComparaPresiones(c) && CompruebaAlturas(c);
+  const bool presiones = CompletaPresiones(c) && ComparaPresiones(c);
+  return CompruebaAlturas(c) && presiones;
 }
 
 }  // namespace zorbin

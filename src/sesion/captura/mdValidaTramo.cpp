@@ -15,7 +15,6 @@ namespace {
 
 constexpr double kMinimo = 0.001;
 constexpr double kMinimoRetraccion = 0.0001;
-constexpr double kLimiteFyd = 1400.0;   // [kp/cm2]
 constexpr double kAnguloMaximo = 90.0;  // [degrees]
 constexpr std::int16_t kTerraplen = 31;
 constexpr std::array<std::int16_t, 5> kCodigosRelleno{11, 12, 21, 22, 23};
@@ -42,22 +41,21 @@ Cuenta CuentaCasos(const Rango& r) {
 // One validation, with its way of failing.
 class Validacion {
  public:
-  Validacion(Captura& c, bool interactivo) : c_(c), interactivo_(interactivo) {}
+  explicit Validacion(Captura& c) : c_(c) {}
 
+  // Each part, so that all the faults are told at once; how many Casos there are can be asked of
+  // data without a fault.
   bool Todo() {
-    return Presiones() && Tipologia() && (c_.e.tramo.EsArmado ? Armado() : Postesado()) &&
-           Dimensiones() && Apoyo() && Alturas() && Relleno() && Cargas() && Casos();
+    const bool vale =
+        Cada({Presiones(), Tipologia() && (c_.e.tramo.EsArmado ? Armado() : Postesado()),
+              Dimensiones(), Apoyo(), Alturas(), Relleno(), Cargas()});
+    return vale && Casos();
   }
 
  private:
-  bool Foco(Ed foco) {
-    if (interactivo_) VaA(c_, foco);
+  bool Falla(Ed campo, const std::string& texto, const std::string& titulo) {
+    Rechaza(c_, campo, texto, titulo);
     return false;
-  }
-
-  bool Falla(Ed foco, const std::string& texto, const std::string& titulo) {
-    Rechaza(c_, foco, texto, titulo);
-    return Foco(foco);
   }
   bool Falla(Ed foco, int texto, const std::string& titulo) {
     return Falla(foco, Texto(c_, texto), titulo);
@@ -65,18 +63,15 @@ class Validacion {
 
   std::string Error() const { return Texto(c_, txt::TituloErrorCaptura) + ":"; }
 
-  // A number of the field into its variable; the focus of a failure may be another field.
-  bool Numero(Ed campo, double minimo, int etiqueta, Ed foco) {
-    return ValidaNumero(c_, campo, minimo, Variable(c_, campo), etiqueta) || Foco(foco);
-  }
+  // A number of the field into its variable.
   bool Numero(Ed campo, double minimo, int etiqueta) {
-    return Numero(campo, minimo, etiqueta, campo);
+    return ValidaNumero(c_, campo, minimo, Variable(c_, campo), etiqueta);
   }
   // As Numero; a failure makes the field available again.
   bool NumeroQueEnciende(Ed campo, double minimo, int etiqueta) {
-    if (ValidaNumero(c_, campo, minimo, Variable(c_, campo), etiqueta)) return true;
+    if (Numero(campo, minimo, etiqueta)) return true;
     Enciende(c_, campo);
-    return Foco(campo);
+    return false;
   }
 
   // A list: something chosen, and an entry of it.
@@ -97,11 +92,6 @@ class Validacion {
                    Texto(c_, txt::ValorIncorrectoDel) + nombre, Error());
   }
 
-  // A derived text of a batch must not look like an edit.
-  void Derivado() {
-    if (!interactivo_) OlvidaCambios(c_);
-  }
-
   bool Presiones() {
     auto& t = c_.e.tramo;
     if (EnBlanco(c_, Ed::edTramo)) {
@@ -109,16 +99,13 @@ class Validacion {
       return Falla(Ed::edTramo, txt::SinNumeroDeTramo, Error());
     }
     t.DescriTramo = c_[Ed::edDescriTramo].texto;
-    // The focus of the final pressures is that of the initial ones.
-    if (!Numero(Ed::edPrs1Tram, kNadaBajoCero, txt::EtPrs1) ||
-        !Numero(Ed::edPrs2Tram, kNadaBajoCero, txt::EtPrs2, Ed::edPrs1Tram)) {
+    if (!Cada({Numero(Ed::edPrs1Tram, kNadaBajoCero, txt::EtPrs1),
+               Numero(Ed::edPrs2Tram, kNadaBajoCero, txt::EtPrs2),
+               Numero(Ed::edPrsM1Tram, kNadaBajoCero, txt::EtPrsM1),
+               Numero(Ed::edPrsM2Tram, kNadaBajoCero, txt::EtPrsM2)})) {
       return false;
     }
     if (t.Prs2Tram > t.Prs1Tram && !Numero(Ed::edPrs3Tram, kAlgo, txt::EtPrs3)) return false;
-    if (!Numero(Ed::edPrsM1Tram, kNadaBajoCero, txt::EtPrsM1) ||
-        !Numero(Ed::edPrsM2Tram, kNadaBajoCero, txt::EtPrsM2, Ed::edPrsM1Tram)) {
-      return false;
-    }
     if (t.PrsM2Tram > 0 && t.PrsM2Tram < t.PrsM1Tram) {
       return Falla(Ed::edPrsM1Tram, txt::MDPFinalInferior, {});
     }
@@ -139,9 +126,7 @@ class Validacion {
   bool Tipologia() {
     auto& t = c_.e.tramo;
     if (t.Tipologia != kArmada && t.Tipologia != kEmbebida && t.Tipologia != kRevestida) {
-      Rechaza(c_, Ed::edTipoControl, Texto(c_, txt::SinTipologia), Error());
-      if (interactivo_) MuestraPagina(c_, {1, 0});
-      return false;
+      return Falla(Ed::edTipoControl, txt::SinTipologia, Error());
     }
     t.EsArmado = t.Tipologia < kPrimeraPostesada;
     t.PostFlag = t.EsArmado ? 0 : 1;
@@ -162,42 +147,25 @@ class Validacion {
 
   bool Armado() {
     auto& t = c_.e.tramo;
-    if (!Marcado(Ed::edIcontes0, Ed::edAdato, t.Icontes0, txt::EtAdato) ||
-        !EnLista(Ed::edTipoControl, Texto(c_, txt::SinTipoControl), Texto(c_, txt::ValorIncorrecto),
-                 Texto(c_, txt::EtTipoControl)) ||
-        !EnLista(Ed::edTipoCamisa, txt::SinTipoCamisa, txt::TipoCamisaIncorrecto)) {
-      return false;
-    }
     t.SubTipo = 3;
-    if (!Numero(Ed::edCamMax, 0.0, txt::EtCamMax) || !Numero(Ed::edFck, kMinimo, txt::EtFck)) {
-      return false;
-    }
-    t.Fct = FctEnSistema(t.Fck, c_.EsSI());
-    MuestraVariable(c_, Ed::edFct);
-    Derivado();
-    if (!(t.Fct > 0)) return Falla(Ed::edFck, txt::FctIncorrecto, Error());
-    if (!Numero(Ed::edFyk, kMinimo, txt::EtFyk) || !Numero(Ed::edFyd, kMinimo, txt::EtFyd) ||
-        !Numero(Ed::edGamaB, kMinimo, txt::EtGamaB)) {
-      return false;
-    }
     t.GamaY = t.GamaF = 1.0;
-    if (!AceptaFyd()) return false;
-    OlvidaPostesado(t);
-    return true;
+    const bool vale = Cada(
+        {Marcado(Ed::edIcontes0, Ed::edAdato, t.Icontes0, txt::EtAdato),
+         EnLista(Ed::edTipoControl, Texto(c_, txt::SinTipoControl), Texto(c_, txt::ValorIncorrecto),
+                 Texto(c_, txt::EtTipoControl)),
+         EnLista(Ed::edTipoCamisa, txt::SinTipoCamisa, txt::TipoCamisaIncorrecto),
+         Numero(Ed::edCamMax, 0.0, txt::EtCamMax), Hormigon(), Numero(Ed::edFyk, kMinimo, txt::EtFyk),
+         Numero(Ed::edFyd, kMinimo, txt::EtFyd), Numero(Ed::edGamaB, kMinimo, txt::EtGamaB)});
+    if (vale) OlvidaPostesado(t);
+    return vale;
   }
 
-  bool AceptaFyd() {
-    if (CompruebaFyd(c_)) return true;
-    if (interactivo_) {
-      VaA(c_, Ed::edFyd);
-      c_.TramoEditado = true;
-    } else {
-      OlvidaCambios(c_);
-    }
-    for (const Orden o : {Orden::btCancelar, Orden::btGrabar}) {
-      c_.pantalla.habilitadas[static_cast<std::size_t>(o)] = true;
-    }
-    return false;
+  bool Hormigon() {
+    auto& t = c_.e.tramo;
+    if (!Numero(Ed::edFck, kMinimo, txt::EtFck)) return false;
+    t.Fct = FctEnSistema(t.Fck, c_.EsSI());
+    MuestraVariable(c_, Ed::edFct);
+    return t.Fct > 0 || Falla(Ed::edFck, txt::FctIncorrecto, Error());
   }
 
   // FYKPost stays as it is.
@@ -219,24 +187,18 @@ class Validacion {
 
   bool Postesado() {
     auto& t = c_.e.tramo;
-    if (!Marcado(Ed::edIcontes1, Ed::edCoepre1, t.Icontes1, txt::EtCoepre1)) return false;
-    for (const Ed campo :
-         {Ed::edDelca, Ed::edEs, Ed::edEp, Ed::edFYKPost, Ed::edFckno, Ed::edFckn}) {
-      if (!Numero(campo, kMinimo, Fila(campo).etiqueta)) return false;
+    bool vale = Marcado(Ed::edIcontes1, Ed::edCoepre1, t.Icontes1, txt::EtCoepre1);
+    for (const Ed campo : {Ed::edDelca, Ed::edEs, Ed::edEp, Ed::edFYKPost, Ed::edFckno, Ed::edFckn,
+                           Ed::edFckr, Ed::edSFck}) {
+      vale = Cada({Numero(campo, kMinimo, Fila(campo).etiqueta), vale});
     }
-    if (t.Fckn < t.Fckno) return Falla(Ed::edFckn, txt::FcknMenorQueFckno, Error());
-    if (!Numero(Ed::edFckr, kMinimo, txt::EtFckr) || !Numero(Ed::edSFck, kMinimo, txt::EtSFck) ||
-        !Tesado() || !Numero(Ed::edRel, kMinimo, txt::EtRel) ||
-        !Numero(Ed::edFic, kMinimo, txt::EtFic) || !Numero(Ed::edFir, kMinimo, txt::EtFir)) {
-      return false;
-    }
-    // The same field twice: that of the coating is not read here.
-    if (!Numero(Ed::edEpsc, kMinimoRetraccion, txt::EtEpsc) ||
-        !Numero(Ed::edEpsc, kMinimoRetraccion, txt::EtEpsr, Ed::edEpsr)) {
-      return false;
-    }
-    OlvidaArmado(t);
-    return true;
+    // The shrinkage of the coating is taken as it stands.
+    vale = Cada({t.Fckn >= t.Fckno || Falla(Ed::edFckn, txt::FcknMenorQueFckno, Error()), Tesado(),
+                 Numero(Ed::edRel, kMinimo, txt::EtRel), Numero(Ed::edFic, kMinimo, txt::EtFic),
+                 Numero(Ed::edFir, kMinimo, txt::EtFir),
+                 Numero(Ed::edEpsc, kMinimoRetraccion, txt::EtEpsc), vale});
+    if (vale) OlvidaArmado(t);
+    return vale;
   }
 
   bool Tesado() {
@@ -249,31 +211,22 @@ class Validacion {
 
   bool Dimensiones() {
     auto& t = c_.e.tramo;
-    if (!Numero(Ed::edDi0, kMinimo, txt::EtDi)) return false;
-    c_.EsComercial = RecomendadosGeom(c_, t.Esp, t.Reci, t.Rece, t.Tipologia, t.Di,
-                                      ModoGeom::Busca) == kGeomHallado;
-    if (!Numero(Ed::edEsp0, kMinimo, txt::EtEsp)) return false;
-    t.De = t.Di + 2.0 * t.Esp / 100.0;
-    MuestraVariable(c_, Ed::edDe0);
-    Derivado();
-    if (c_.AnchoZanjaAuto) RecalculaB0(c_);
     const bool revestida = t.Tipologia == kRevestida;
-    if (!revestida && !NumeroQueEnciende(Ed::edReci0, kMinimo, txt::EtReci)) return false;
-    if (!Numero(Ed::edRece0, kMinimo, txt::EtRece)) return false;
-    if (revestida) {
+    const bool diametro = Numero(Ed::edDi0, kMinimo, txt::EtDi);
+    c_.EsComercial = diametro && BuscaEnTramo(c_, ModoGeom::Busca) == kGeomHallado;
+    const bool espesor = Numero(Ed::edEsp0, kMinimo, txt::EtEsp);
+    if (diametro && espesor) {
+      t.De = t.Di + 2.0 * t.Esp / 100.0;
+      MuestraVariable(c_, Ed::edDe0);
+      if (c_.AnchoZanjaAuto) RecalculaB0(c_);
+    }
+    const bool interior = revestida || NumeroQueEnciende(Ed::edReci0, kMinimo, txt::EtReci);
+    const bool exterior = Numero(Ed::edRece0, kMinimo, txt::EtRece);
+    if (revestida && espesor && exterior) {
       t.Reci = t.Esp - t.Rece;
       MuestraVariable(c_, Ed::edReci0);
     }
-    return AceptaDimensiones() && Numero(Ed::edGc0, kMinimo, txt::EtGc);
-  }
-
-  bool AceptaDimensiones() {
-    c_.SinAvisoGeom = !interactivo_;
-    const int codigo = CompruebaRecomendados(c_);
-    c_.SinAvisoGeom = false;
-    if (codigo == kGeomHallado || !interactivo_) return true;
-    c_.falta = Falta{Ed::edDi0, c_[Ed::edDi0].texto, {}, Texto(c_, txt::RecTitulo)};
-    return Foco(Ed::edDi0);
+    return Cada({diametro, espesor, interior, exterior, Numero(Ed::edGc0, kMinimo, txt::EtGc)});
   }
 
   bool Apoyo() {
@@ -284,12 +237,7 @@ class Validacion {
     return true;
   }
 
-  // Page and focus first, the message after them.
-  bool FallaAltura(Ed campo, int texto) {
-    Foco(campo);
-    Rechaza(c_, campo, Texto(c_, texto), {});
-    return false;
-  }
+  bool FallaAltura(Ed campo, int texto) { return Falla(campo, texto, {}); }
 
   bool Alturas() {
     const auto r = EligeAlturas(c_);
@@ -307,7 +255,7 @@ class Validacion {
     auto& t = c_.e.tramo;
     if (t.Hr0Delta < 0.01 &&
         !ValidaNumero(c_, Ed::edHr0Delta, -kMayorTecleado, t.Hr0Delta, txt::EtAlt3)) {
-      return Foco(Ed::edHr0Delta);
+      return false;
     }
     if (t.Hr0Delta <= 0 && r.Hr0Final != r.Hr0) {
       return FallaAltura(Ed::edHr0Delta, txt::DebeIncrementoAlturas);
@@ -317,21 +265,18 @@ class Validacion {
 
   bool Relleno() {
     auto& t = c_.e.tramo;
-    if (t.TipoApoyo == kTerraplen) {
-      t.B0 = 0.0;
-    } else if (!NumeroQueEnciende(Ed::edB0, kMinimo, txt::EtB0)) {
-      return false;
-    }
-    if (!Numero(Ed::edGr0, kMinimo, txt::EtGr) || !Numero(Ed::edFi0, 0.0, txt::EtFi)) return false;
-    if (t.Fi > kAnguloMaximo) {
-      return Falla(Ed::edFi0, txt::AnguloFueraDeRango, Texto(c_, txt::TituloErrorCaptura));
-    }
-    if (t.TipoApoyo >= 20) {
-      t.TipoRelleno = 0;
-    } else if (!EnListaConNombre(Ed::edTipoRelleno0)) {
-      return false;
-    }
-    return Generatriz() && Asentamiento();
+    if (t.TipoApoyo == kTerraplen) t.B0 = 0.0;
+    if (t.TipoApoyo >= 20) t.TipoRelleno = 0;
+    return Cada({t.TipoApoyo == kTerraplen || NumeroQueEnciende(Ed::edB0, kMinimo, txt::EtB0),
+                 Numero(Ed::edGr0, kMinimo, txt::EtGr), Rozamiento(),
+                 t.TipoApoyo >= 20 || EnListaConNombre(Ed::edTipoRelleno0), Generatriz(),
+                 Asentamiento()});
+  }
+
+  bool Rozamiento() {
+    if (!Numero(Ed::edFi0, 0.0, txt::EtFi)) return false;
+    return c_.e.tramo.Fi <= kAnguloMaximo ||
+           Falla(Ed::edFi0, txt::AnguloFueraDeRango, Texto(c_, txt::TituloErrorCaptura));
   }
 
   bool Generatriz() {
@@ -358,7 +303,7 @@ class Validacion {
     auto& t = c_.e.tramo;
     if (!ValidaNumero(c_, Ed::edQDato0, 0.0, t.QDato, txt::EtQDato)) {
       Desbloquea(c_, Ed::edQDato0);
-      return Foco(Ed::edQDato0);
+      return false;
     }
     EligeCarga(t);
     if (t.IndCar == 0) return true;
@@ -381,28 +326,15 @@ class Validacion {
   }
 
   Captura& c_;
-  bool interactivo_;
 };
 
 }  // namespace
 
-bool ValidaTramo(Captura& c, bool Interactivo) {
-  c.falta.reset();
-  const bool vale = Validacion(c, Interactivo).Todo();
+bool ValidaTramo(Captura& c) {
+  c.faltas.clear();
+  const bool vale = Validacion(c).Todo();
   RenuevaEtiquetas(c);
   return vale;
-}
-
-bool CompruebaFyd(Captura& c) {
-  const double limite = c.EsSI() ? kLimiteFyd / kFactorTension : kLimiteFyd;
-  if (c.e.tramo.Fyd <= limite) return true;
-  const std::string texto =
-      Texto(c, txt::FydSuperaElValor) + Formato(c, limite, "#####0.000") + UnidadTension(c, 1);
-  if (c.voz.Pregunta(texto + "\n" + Texto(c, txt::DeseaContinuar), Texto(c, txt::TituloAviso))) {
-    return true;
-  }
-  c.falta = Falta{Ed::edFyd, c[Ed::edFyd].texto, Texto(c, txt::TituloAviso), texto};
-  return false;
 }
 
 Alturas EligeAlturas(Captura& c) {

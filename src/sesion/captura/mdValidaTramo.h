@@ -7,17 +7,11 @@
 
 namespace zorbin {
 
-/// Brings the fields into the state and checks them in a fixed order, stopping at the first
-/// failure; what passed stays written. It also computes what nobody types: Fct, De, B0 when
-/// automatic, Sf when blank, Reci of a lined cylinder, pressures that follow from MDP, the codes of
-/// laying and fill, and the load fields. The refusal is kept in `falta`.
-/// @param Interactivo  a failure moves page and focus, and the recommended dimensions are asked
-///                     about. Otherwise, for a batch, messages are shown all the same, and the
-///                     texts it writes leave no unsaved edit.
-bool ValidaTramo(Captura& c, bool Interactivo);
-
-/// Asks about a design strength of the steel over 1400 kp/cm2. @return whether to go on
-bool CompruebaFyd(Captura& c);
+/// Brings the fields into the state and checks them all in a fixed order; what passed stays written.
+/// It also computes what nobody types: Fct, De, B0 when automatic, Sf when blank, Reci of a lined
+/// cylinder, pressures that follow from MDP, the codes of laying and fill, and the load fields. The
+/// refusals are kept in `faltas`.
+bool ValidaTramo(Captura& c);
 
 /// The fill heights in force. Where they are the Obra's, so is the increment of the Tramo.
 Alturas EligeAlturas(Captura& c);

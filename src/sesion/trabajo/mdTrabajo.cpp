@@ -11,15 +11,8 @@
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdResumen.h"
-#include "persistencia/dpe/mdDpe.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdCiclo.h"
-#include "sesion/captura/mdEtiquetas.h"
-#include "sesion/captura/mdOrdenes.h"
-#include "sesion/captura/mdPresenta.h"
-#include "sesion/captura/mdTipologias.h"
-#include "sesion/captura/mdValidaObra.h"
-#include "sesion/captura/mdValidaTramo.h"
+#include "sesion/captura/mdComprueba.h"
 
 namespace zorbin {
 
@@ -28,39 +21,7 @@ namespace {
 // ---------------------------------------------------------------------------------------------
 // What is to be calculated
 
-// Takes the data of Tramos out of the capture, with the hand adjustments of each.
-class Encargante {
- public:
-  explicit Encargante(const Captura& c) : c_(c) {
-    encargo.textos = c.textos;
-    encargo.estilo = {c.EsSI(), c.SeparadorDecimal};
-    encargo.fichero = std::filesystem::path(c.e.obra.NombreFichero).filename().string();
-    try {
-      ajustes_ = LeeAjustes(RutaDpe(c.e.obra.NombreFichero));
-    } catch (const ErrorFichero& error) {  // it takes nothing else with it
-      encargo.sinAjustes = TextoDeError(c, error);
-    }
-  }
-
-  /// The Tramo of the capture. `mostrado` is the number of the listing.
-  void Toma(const std::string& numero, std::int16_t mostrado) {
-    Tramo tramo = c_.e.tramo;
-    tramo.NumeroTramo = mostrado;
-    std::vector<EntradaAjuste> suyos;
-    std::copy_if(ajustes_.begin(), ajustes_.end(), std::back_inserter(suyos),
-                 [mostrado](const EntradaAjuste& x) { return x.Tramo == mostrado; });
-    encargo.tramos.push_back(
-        {DatosDeCalculo(c_.e.obra, tramo, std::move(suyos), !encargo.sinAjustes.empty()), numero});
-  }
-
-  Encargo encargo;
-
- private:
-  const Captura& c_;
-  std::vector<EntradaAjuste> ajustes_;
-};
-
-// A message of several lines, with its title, in one line.
+// A fault in one line.
 std::string Causa(const Falta& falta) {
   std::string texto = falta.titulo.empty() ? falta.mensaje : falta.titulo + ": " + falta.mensaje;
   std::string linea;
@@ -75,68 +36,20 @@ std::string Causa(const Falta& falta) {
   return std::string(Recorta(linea));
 }
 
-std::vector<int> Posiciones(const ListaTramos& lista) {
-  std::vector<int> posiciones;
-  for (std::size_t i = 0; i < lista.size(); ++i) {
-    if (!lista[i].empty()) posiciones.push_back(static_cast<int>(i) + 1);
-  }
-  return posiciones;
+// The words and the file of an order without Tramos yet. Its language is that of the paper.
+Encargo EncargoVacio(const Captura& c) {
+  Encargo encargo;
+  encargo.textos = c.textos;
+  encargo.textos.PonIdioma(c.e.obra.Idioma);
+  encargo.estilo = {c.EsSI(), c.SeparadorDecimal};
+  encargo.fichero = c.fichero ? c.fichero->ruta().filename().string()
+                              : Texto(c, txt::ObraSinNombre);
+  return encargo;
 }
 
-// The Tramo that the screen was left with is the one being modified.
-void QuedaEnPantalla(Captura& c) {
-  OlvidaCambios(c);
-  if (!EnBlanco(c, Ed::edTramo)) {
-    c.EstadoCaptura = std::string(kModificaciones);
-    c[Ed::edTramo].bloqueado = true;
-  }
-  RenuevaTitulo(c);
-  ActualizaMenus(c);
-}
-
-// What stands before the Tramos of an Obra are taken from its file.
-bool PuedeRecorrerse(Captura& c) {
-  const auto aviso = [&](int texto) {
-    c.voz.Muestra(Texto(c, texto), Texto(c, txt::TituloAviso));
-    return false;
-  };
-  if (c.EnCambio()) return aviso(txt::SalvePrimero);
-  if (!ValidaObra(c)) return false;
-  if (!c.fichero) return aviso(txt::DebeSalvarObra);
-  if (!Posiciones(c.lista).empty()) return true;
-  const auto fichero = std::filesystem::path(c.e.obra.NombreFichero).filename().string();
-  c.voz.Muestra(c.textos.Compone(txt::ObraSinTramos, {fichero}), Texto(c, txt::TituloAviso));
-  return false;
-}
-
-// Takes a Tramo of the file into the capture. @return why it is refused; what there was to show has
-// been shown
-std::optional<std::string> TraeTramo(Captura& c, int posicion) {
-  try {
-    LeeTramo(c, posicion);
-  } catch (const ErrorFichero& error) {
-    const std::string causa = TextoDeError(c, error);
-    c.voz.Muestra(causa, {});
-    return causa;
-  }
-  if (ValidaTramo(c, false)) return std::nullopt;
-  return c.falta ? Causa(*c.falta) : std::string{};
-}
-
-void TomaTramos(Captura& c, Encargante& encargante, const std::function<void()>& respira) {
-  const auto posiciones = Posiciones(c.lista);
-  // The same file gives the same listing, whatever was on the screen: a blank record keeps the
-  // value of the Tramo before.
-  LimpiaCaptura(c, 0);
-  for (const int posicion : posiciones) {
-    const std::string& numero = c.lista[static_cast<std::size_t>(posicion - 1)];
-    if (const auto causa = TraeTramo(c, posicion)) {
-      encargante.encargo.detenido = c.textos.Compone(txt::TrabajoDetenido, {numero, *causa});
-      return;
-    }
-    encargante.Toma(numero, I16(NumeroTexto(numero).value_or(0.0)));
-    if (respira) respira();
-  }
+// Calculating is asked of an Obra that has a file: its listings name it.
+bool TieneFichero(Captura& c) {
+  return c.fichero || Graba(c);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -209,8 +122,6 @@ std::string NotaFinal(const Calculo& calculo) {
   switch (calculo.fin) {
     case FinTrabajo::Completo:
       break;
-    case FinTrabajo::Detenido:
-      return calculo.encargo.detenido;
     case FinTrabajo::Cancelado:
       return textos.Compone(txt::TrabajoCancelado, {TextoEntero(calculo.cancelado.tramo),
                                                     TextoEntero(calculo.cancelado.caso)});
@@ -220,20 +131,46 @@ std::string NotaFinal(const Calculo& calculo) {
 
 }  // namespace
 
-std::optional<Encargo> EncargaTramo(Captura& c) {
-  if (!PreparaCalculo(c, false)) return std::nullopt;
-  Encargante encargante(c);
-  encargante.Toma(TextoEntero(c.e.tramo.NumeroTramo), c.e.tramo.NumeroTramo);
-  return std::move(encargante.encargo);
+std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
+  auto comprobado = Comprueba(c, ids);
+  c.faltas = comprobado.faltas;
+  const auto primera = std::ranges::find_if(c.faltas, [&](const Falta& f) { return f.tramo == 0; });
+  if (primera != c.faltas.end() || (ids.size() == 1 && !c.faltas.empty())) {
+    auto faltas = c.faltas;
+    LlevaALaFalta(c, faltas.front());
+    c.faltas = std::move(faltas);
+    return std::nullopt;
+  }
+  if (!TieneFichero(c)) return std::nullopt;
+  Encargo encargo = EncargoVacio(c);
+  encargo.sinAjustes = c.sinAjustes;
+  const auto& v = comprobado.version;
+  for (const auto& t : v.tramos) {
+    if (std::ranges::find(ids, t->id) == ids.end()) continue;
+    if (!comprobado.Vale(t->id)) {
+      const auto falta = std::ranges::find(comprobado.faltas, t->id, &Falta::tramo);
+      encargo.rechazados.push_back(
+          c.textos.Compone(txt::TramoConFaltas, {t->numero, Causa(*falta)}));
+      continue;
+    }
+    encargo.tramos.push_back({DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
+  }
+  return encargo;
 }
 
-std::optional<Encargo> EncargaObra(Captura& c, const std::function<void()>& respira) {
-  if (!PuedeRecorrerse(c)) return std::nullopt;
-  c.e.obra.NombreObra = c[Ed::edObra].texto;
-  Encargante encargante(c);
-  TomaTramos(c, encargante, respira);
-  QuedaEnPantalla(c);
-  return std::move(encargante.encargo);
+std::optional<Encargo> EncargaTramo(Captura& c) {
+  if (c.SinTramoEnMano()) return std::nullopt;
+  return EncargaTramos(c, {c.enMano});
+}
+
+std::optional<Encargo> EncargaObra(Captura& c) {
+  const auto ids = IdsDe(c.version);
+  if (ids.empty()) {
+    c.voz.Muestra(c.textos.Compone(txt::ObraSinTramos, {EncargoVacio(c).fichero}),
+                  Texto(c, txt::TituloAviso));
+    return std::nullopt;
+  }
+  return EncargaTramos(c, ids);
 }
 
 bool Calculo::HayPostesado() const {
@@ -266,7 +203,6 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
     avance.casos = a.casos;
     return !sigue || sigue(avance);
   };
-  if (!encargo.detenido.empty()) calculo.fin = FinTrabajo::Detenido;
   for (const auto& [datos, numero] : encargo.tramos) {
     avance.posicion = static_cast<int>(calculo.tramos.size()) + 1;
     avance.tramo = datos.tramo.NumeroTramo;

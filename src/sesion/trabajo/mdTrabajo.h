@@ -1,5 +1,5 @@
 // The work behind "Calcular el Tramo" and "Imprimir Obra", in three steps. What is to be calculated
-// is taken from the capture, with every message that a refusal has; it is calculated; and from the
+// is taken from the capture, with every fault that it has; it is calculated; and from the
 // results come the text of the summary and the sheets of a listing. Only the first step knows the
 // capture: the others have values of their own, and may go on another thread.
 #pragma once
@@ -29,21 +29,18 @@ struct Encargo {
   Catalogo textos;
   EstiloNumeros estilo;
   std::string fichero;     // name of that of the Obra
-  std::string sinAjustes;  // why its hand adjustments were refused; empty where they were not
-  std::string detenido;    // which Tramo of the Obra was refused, and why; empty for none
+  std::string sinAjustes;               // why its hand adjustments were refused; empty where they were not
+  std::vector<std::string> rechazados;  // Tramos with faults, each with its first one
 };
 
-/// mnCalculaTramo: validates Obra and Tramo in hand with messages.
-/// @return nothing where they are refused; why has been shown
+/// mnCalculaTramo: the Tramo in hand. Its faults, and those of the Obra, are listed in `faltas`, and
+/// the first one leads to its field.
+/// @return nothing where there are some, or no file was given to an Obra without one
 std::optional<Encargo> EncargaTramo(Captura& c);
 
-/// MnImprimir: refuses unsaved edits, validates the Obra, and takes its Tramos from the file one
-/// after another, each validated without moving the screen. Stops at the first that is refused (its
-/// message has been shown). The last one taken stays on the screen, being modified: whoever shows
-/// the capture has to draw it again, whatever comes of it.
-/// @param respira  called between Tramos, of which there may be hundreds
-/// @return nothing where the Obra is refused; why has been shown
-std::optional<Encargo> EncargaObra(Captura& c, const std::function<void()>& respira = {});
+/// MnImprimir: all the Tramos as they are in memory. One with faults is left out and named.
+/// @return nothing where the Obra has faults or no Tramos; why has been shown
+std::optional<Encargo> EncargaObra(Captura& c);
 
 /// How far a calculation has come. A Caso is about to be calculated, or written.
 struct Avance {
@@ -59,7 +56,6 @@ using Sigue = std::function<bool(const Avance&)>;
 
 enum class FinTrabajo {
   Completo,   // every Tramo was calculated, with arithmetic failures or without
-  Detenido,   // a Tramo of the Obra was refused; those before it are done
   Cancelado,  // whoever was asked said no
 };
 

@@ -1,7 +1,5 @@
 #include "shell/resultados/mdCalculos.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <filesystem>
 
 #include "base/mdTextos.h"
@@ -18,7 +16,6 @@ namespace {
 
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
 constexpr double kParteCalculo = 0.3;      // of the time; the rest writes the summary
-constexpr qint64 kRespiro = 20;            // of the window, while Tramos are taken [ms]
 
 double Hecho(const Avance& a) {
   return (a.posicion - 1 + (a.caso - 1.0) / a.casos) / a.posiciones;
@@ -53,8 +50,10 @@ void MuestraFallos(const Entorno& entorno, QWidget* padre, const Calculo& calcul
 
 // What the summary says that a listing of it will not have.
 std::string Reparo(const Calculo& calculo) {
-  if (calculo.fin != FinTrabajo::Detenido) return {};
-  return calculo.encargo.textos.Compone(txt::ListadoDetenido, {calculo.encargo.detenido});
+  const auto& rechazados = calculo.encargo.rechazados;
+  std::string reparo;
+  for (const auto& rechazado : rechazados) reparo += (reparo.empty() ? "" : "\n") + rechazado;
+  return reparo;
 }
 
 void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
@@ -97,14 +96,7 @@ void CalculaElTramo(Captura& c, const Entorno& entorno, QWidget* padre) {
 }
 
 void ImprimeLaObra(Captura& c, const Entorno& entorno, QWidget* padre) {
-  QElapsedTimer reloj;
-  reloj.start();
-  // What is typed waits: nobody touches the capture that the Tramos pass through.
-  auto encargo = EncargaObra(c, [&reloj] {
-    if (reloj.elapsed() < kRespiro) return;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    reloj.restart();
-  });
+  auto encargo = EncargaObra(c);
   if (!encargo) return;
   CalculaYMuestra(entorno, padre, std::move(*encargo), Q(NombreObra(c)));
 }

@@ -1,0 +1,267 @@
+#include "sesion/captura/mdTramos.h"
+
+#include <algorithm>
+
+#include "base/mdNumeros.h"
+#include "base/textos.h"
+#include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdOrdenes.h"
+#include "sesion/captura/mdPresenta.h"
+#include "sesion/captura/mdTipologias.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kMayorNumeroTramo = 32767;
+
+bool Esta(const std::vector<int>& ids, int id) {
+  return std::ranges::find(ids, id) != ids.end();
+}
+
+std::string TextoTipologia(const Captura& c, int tipologia) {
+  const std::string armado = SinMarcas(Texto(c, txt::PagArmado));
+  if (tipologia < kPrimeraPostesada) return armado;
+  const int camisa = tipologia == kRevestida ? txt::OpcionRevestida : txt::OpcionEmbebida;
+  return SinMarcas(Texto(c, txt::PagPostesado)) + ", " + Texto(c, camisa);
+}
+
+RenglonTramo Renglon(const Captura& c, const TramoEnObra& t, bool sinGrabar) {
+  if (!t.dano.empty()) return {t.id, t.numero, t.dano, {}, {}, {}, {}, false, true};
+  const int colocacion = txt::OpcionZanja + std::clamp<int>(t.datos.TipoColocacion, 0, 2);
+  return {t.id,
+          t.numero,
+          t.datos.DescriTramo,
+          TextoTipologia(c, t.datos.Tipologia),
+          t.datos.Di > 0 ? Formato(c, t.datos.Di, "#####0.000") : std::string{},
+          t.datos.Esp > 0 ? Formato(c, t.datos.Esp, "#####0.0") : std::string{},
+          Texto(c, colocacion),
+          sinGrabar,
+          !t.pendientes.empty()};
+}
+
+// Whether so many Tramos more fit; what keeps them from it is told.
+bool Caben(Captura& c, std::size_t cuantos) {
+  if (c.version.tramos.size() + cuantos <= kMaxTramos &&
+      NumeroLibre(c.version) + static_cast<int>(cuantos) - 1 <= kMayorNumeroTramo) {
+    return true;
+  }
+  c.voz.Muestra(c.textos.Compone(txt::DemasiadosTramos, {TextoEntero(kMaxTramos)}), {});
+  return false;
+}
+
+TramoFijo ConNumero(TramoEnObra t, int numero) {
+  t.numero = TextoEntero(numero);
+  t.datos.NumeroTramo = static_cast<std::int16_t>(numero);
+  for (auto& ajuste : t.ajustes) ajuste.Tramo = numero;
+  return std::make_shared<TramoEnObra>(std::move(t));
+}
+
+// The screen of a Tramo that nobody has.
+void SinTramo(Captura& c) {
+  c.enMano = 0;
+  c.e.tramo = Tramo{};
+  LimpiaCaptura(c, 0);
+  RenuevaTitulo(c);
+  ActualizaMenus(c);
+}
+
+// A change of the list itself: what is in hand goes into its version first, and is shown anew.
+template <class F>
+void CambiaLista(Captura& c, const F& cambia) {
+  c.version = VersionActual(c);
+  cambia(c.version);
+  MuestraListaTramos(c);
+  PonEnMano(c, LugarDe(c.version, c.enMano) ? c.enMano : 0);
+}
+
+std::string NombreDeIds(const Captura& c, int texto, const std::vector<int>& ids) {
+  if (ids.size() != 1) return c.textos.Compone(texto, {TextoEntero(static_cast<int>(ids.size()))});
+  const auto* t = Busca(c.version, ids.front());
+  return c.textos.Compone(texto, {t == nullptr ? std::string{} : t->numero});
+}
+
+}  // namespace
+
+void PonEnMano(Captura& c, int id) {
+  const auto* t = Busca(c.version, id);
+  if (t == nullptr || !t->dano.empty()) return SinTramo(c);
+  c.enMano = id;
+  c.e.tramo = t->datos;
+  MuestraTodo(c);
+}
+
+void MuestraTodo(Captura& c) {
+  MuestraListaTramos(c);
+  const auto* t = Busca(c.version, c.enMano);
+  if (t != nullptr) {
+    Escribe(c, Ed::edTramo, t->numero);
+    Escribe(c, Ed::edTramo2, t->numero);
+    MuestraTramo(c);
+    for (const auto& p : t->pendientes) {
+      c[p.campo].texto = p.texto;
+      c[p.campo].falta = p.mensaje;
+    }
+  }
+  for (const auto& p : c.version.pendientes) {
+    c[p.campo].texto = p.texto;
+    c[p.campo].falta = p.mensaje;
+  }
+  RenuevaTitulo(c);
+  ActualizaMenus(c);
+}
+
+bool NuevoTramo(Captura& c) {
+  if (!Caben(c, 1)) return false;
+  const int numero = NumeroLibre(c.version);
+  const EnUnPaso paso(c, c.textos.Compone(txt::PasoNuevoTramo, {TextoEntero(numero)}));
+  c.version = VersionActual(c);
+  c.enMano = 0;
+  c.e.tramo = Tramo{};
+  LimpiaCaptura(c, 0);
+  PonTipologia(c, kArmada);
+  DefectosArmado(c);
+  TramoEnObra t;
+  t.id = ++c.ultimoId;
+  t.datos = c.e.tramo;
+  c.version.tramos.push_back(ConNumero(std::move(t), numero));
+  PonEnMano(c, c.ultimoId);
+  c.pantalla.pagina.TabPrincipal = std::max(c.pantalla.pagina.TabPrincipal, 1);
+  RenuevaTitulo(c);
+  VaA(c, Ed::edDescriTramo);
+  return true;
+}
+
+bool DuplicaTramos(Captura& c, const std::vector<int>& ids) {
+  if (ids.empty() || !Caben(c, ids.size())) return false;
+  const EnUnPaso paso(c, NombreDeIds(c, txt::PasoDuplica, ids));
+  const int primero = c.ultimoId + 1;
+  CambiaLista(c, [&](Version& v) {
+    std::vector<TramoFijo> copias;
+    std::size_t tras = 0;
+    int numero = NumeroLibre(v);
+    for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+      if (!Esta(ids, v.tramos[i]->id) || !v.tramos[i]->dano.empty()) continue;
+      TramoEnObra copia = *v.tramos[i];
+      copia.id = ++c.ultimoId;
+      copias.push_back(ConNumero(std::move(copia), numero++));
+      tras = i + 1;
+    }
+    v.tramos.insert(v.tramos.begin() + static_cast<std::ptrdiff_t>(tras), copias.begin(),
+                    copias.end());
+  });
+  if (c.ultimoId >= primero) PonEnMano(c, primero);
+  return c.ultimoId >= primero;
+}
+
+void BorraTramos(Captura& c, const std::vector<int>& ids) {
+  if (ids.empty()) return;
+  const EnUnPaso paso(c, NombreDeIds(c, txt::PasoBorra, ids));
+  int siguiente = c.enMano;
+  CambiaLista(c, [&](Version& v) {
+    const auto lugar = LugarDe(v, c.enMano);
+    std::erase_if(v.tramos, [&](const TramoFijo& t) { return Esta(ids, t->id); });
+    if (LugarDe(v, c.enMano) || v.tramos.empty()) return;
+    siguiente = v.tramos[std::min(lugar.value_or(0), v.tramos.size() - 1)]->id;
+  });
+  PonEnMano(c, siguiente);
+}
+
+bool MueveTramos(Captura& c, const std::vector<int>& ids, int paso) {
+  auto tramos = c.version.tramos;
+  const auto mueve = [&](auto primero, auto ultimo) {
+    // From the end that they move to, so that neighbours move together.
+    for (auto i = primero; i != ultimo; ++i) {
+      if (!Esta(ids, (*i)->id)) continue;
+      if (i == primero || Esta(ids, (*std::prev(i))->id)) continue;
+      std::iter_swap(std::prev(i), i);
+    }
+  };
+  paso < 0 ? mueve(tramos.begin(), tramos.end()) : mueve(tramos.rbegin(), tramos.rend());
+  if (tramos == c.version.tramos) return false;
+  const EnUnPaso este(c, NombreDeIds(c, txt::PasoMueve, ids));
+  CambiaLista(c, [&](Version& v) {
+    // The order of before, with what is in hand by now.
+    for (auto& t : tramos) t = v.tramos[*LugarDe(v, t->id)];
+    v.tramos = tramos;
+  });
+  return true;
+}
+
+std::string RenumeraTramo(Captura& c, int id, const std::string& texto) {
+  const auto leido = NumeroTecleado(texto, c.SeparadorDecimal);
+  const int numero = NumeroDe(texto);
+  if (!leido.valor || numero < 1 || *leido.valor != numero) {
+    return c.textos.Compone(txt::NumeroDeTramoMalo, {texto, TextoEntero(kMayorNumeroTramo)});
+  }
+  const auto otro = LugarDeNumero(c.version, numero);
+  if (otro && c.version.tramos[*otro]->id != id) {
+    return c.textos.Compone(txt::NumeroDeTramoTomado, {TextoEntero(numero)});
+  }
+  const EnUnPaso paso(c, NombreDeIds(c, txt::PasoRenumera, {id}));
+  CambiaLista(c, [&](Version& v) {
+    if (const auto lugar = LugarDe(v, id)) v.tramos[*lugar] = ConNumero(*v.tramos[*lugar], numero);
+  });
+  return {};
+}
+
+void RenumeraTodos(Captura& c) {
+  const EnUnPaso paso(c, Texto(c, txt::PasoRenumeraTodos));
+  CambiaLista(c, [](Version& v) {
+    int numero = 0;
+    for (auto& t : v.tramos) {
+      if (!t->numero.empty()) t = ConNumero(*t, ++numero);
+    }
+  });
+}
+
+void Relee(Captura& c) {
+  if (c.SinTramoEnMano()) return;
+  if (c.EnAltas()) return BorraTramos(c, {c.enMano});
+  const EnUnPaso paso(c, NombreDeIds(c, txt::PasoRelee, {c.enMano}));
+  const TramoFijo antes = c.guardada.tramos[*LugarDe(c.guardada, c.enMano)];
+  c.Tecleando = false;
+  CambiaLista(c, [&](Version& v) { v.tramos[*LugarDe(v, c.enMano)] = antes; });
+}
+
+SalidaCampo EligeTramo(Captura& c) {
+  const auto* actual = Busca(c.version, c.enMano);
+  if (actual != nullptr && c[Ed::edTramo].texto == actual->numero) return SalidaCampo::Pasa;
+  if (EnBlanco(c, Ed::edTramo)) {
+    if (actual != nullptr) Escribe(c, Ed::edTramo, actual->numero);
+    return SalidaCampo::Pasa;
+  }
+  double valor = 0;
+  if (!ValidaNumero(c, Ed::edTramo, 0.0, valor, txt::EtNumeroTramo)) return SalidaCampo::Queda;
+  if (valor == 0.0) {
+    Escribe(c, Ed::edTramo, actual == nullptr ? std::string{} : actual->numero);
+    NuevoTramo(c);
+    return SalidaCampo::Pasa;
+  }
+  const auto lugar = valor <= kMayorNumeroTramo && valor == Redondea(valor)
+                         ? LugarDeNumero(c.version, static_cast<int>(valor))
+                         : std::nullopt;
+  if (!lugar) {
+    Rechaza(c, Ed::edTramo, Texto(c, txt::NoExisteEseTramo));
+    return SalidaCampo::Queda;
+  }
+  c[Ed::edTramo].falta.clear();
+  c.version = VersionActual(c);
+  PonEnMano(c, c.version.tramos[*lugar]->id);
+  return SalidaCampo::Pasa;
+}
+
+std::vector<RenglonTramo> RenglonesTramos(const Captura& c) {
+  const Version ahora = VersionActual(c);
+  std::vector<RenglonTramo> renglones;
+  for (const auto& t : ahora.tramos) {
+    if (t->numero.empty()) continue;
+    const auto antes = LugarDe(c.guardada, t->id);
+    const bool sinGrabar =
+        !antes || (c.guardada.tramos[*antes] != t && *c.guardada.tramos[*antes] != *t);
+    renglones.push_back(Renglon(c, *t, sinGrabar));
+  }
+  return renglones;
+}
+
+}  // namespace zorbin
