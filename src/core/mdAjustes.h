@@ -16,6 +16,7 @@ struct EntradaAjuste {
   Ajuste areas;
 
   bool Libre() const { return DP == 0 && Tramo == 0 && Hr == 0; }
+  bool operator==(const EntradaAjuste&) const = default;
 };
 
 /// Position of the entry of a Caso, from 1; or minus the position of the last free entry, 0 when

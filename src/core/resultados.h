@@ -110,6 +110,8 @@ struct Ajuste {
   double Camisa = 0;
   double Espiras = 0;
   double Exterior = 0;
+
+  bool operator==(const Ajuste&) const = default;
 };
 
 /// Combined hypotheses of the reinforced design: m·t/m and t/m, tension positive.

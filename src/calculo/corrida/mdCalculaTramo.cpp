@@ -230,7 +230,8 @@ DatosTramo DatosDeCalculo(const Obra& obra, const Tramo& tramo, std::vector<Entr
   t.Esp = t.Esp / 100.0;
   t.Reci = t.Reci / 100.0;
   t.Rece = t.Rece / 100.0;
-  return {ObraEnCalculo(obra), std::move(t), std::move(ajustes), sinAjustes};
+  const bool envolvente = t.Envolvente;
+  return {ObraEnCalculo(obra), std::move(t), std::move(ajustes), sinAjustes, envolvente};
 }
 
 ResultadoTramo CalculaTramo(const DatosTramo& datos, const Rango& rango, const SigueCorrida& sigue,

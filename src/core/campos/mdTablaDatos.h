@@ -25,7 +25,8 @@ inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
 // Oddities that are meant: the titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and
-// a blank strength of core, coating or wire takes the default of MKS under SI.
+// a blank strength of core, coating or wire takes the default of MKS under SI. The choice of the
+// enveloping design has no record: the file beside the Obra keeps it. Results tell it of the run.
 // clang-format off
 inline constexpr auto kDatosObra = std::to_array<Dato<Obra>>({
     {&Obra::Idioma,
@@ -412,6 +413,8 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
       .campo = {.id = Ed::edHr0Delta, .nombre = "edHr0Delta", .pagina = kPaginaRelleno,
        .ceroEnBlanco = true, .etiqueta = txt::EtAlt3,
        .rotulo = txt::RotIncrementoAltura, .consejo = txt::TipHr0Delta}}},
+    {&Tramo::Envolvente,
+     {.nombre = "Envolvente", .magnitud = Magnitud::Marca, .enResultados = false}},
 });
 // clang-format on
 

@@ -26,6 +26,7 @@ struct Obra {
   bool ObraAbierta = false;             // a file is attached
 
   bool EsSI() const { return SisUnid == "SI"; }
+  bool operator==(const Obra&) const = default;
 };
 
 }  // namespace zorbin

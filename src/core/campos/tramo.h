@@ -63,8 +63,10 @@ struct Tramo {
   double Prs1Tram = 0, Prs2Tram = 0, Prs3Tram = 0;  // [*] own DP range and increment of MDP [at]
   double PrsM1Tram = 0, PrsM2Tram = 0;              // [*] own MDP range [at]
   double Hr0Tramo = 0, Hr0Final = 0, Hr0Delta = 0;  // own fill heights and increment [m]
+  bool Envolvente = false;                          // its design grows until all of it complies
 
   bool TieneDPPropia() const { return Prs1Tram > 0 || Prs2Tram > 0; }
+  bool operator==(const Tramo&) const = default;
 };
 
 }  // namespace zorbin

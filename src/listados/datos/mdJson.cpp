@@ -223,6 +223,8 @@ bool ListadoJson::Tramo(const ResultadoTramo& resultado, int posicion, const std
   j_.Campo("posicion", posicion);
   j_.Campo("NumeroTramo", I16(NumeroTexto(numero).value_or(0.0)));
   DeDatos(j_, capturados_.at(posicion));
+  // The run's, not the Tramo's: it may be asked for from outside. Its absence says no.
+  if (resultado.datos.envolvente) j_.Campo("Envolvente", true);
   j_.Clave("casos");
   j_.Abre('[');
   const auto deCaso = [this](const VistaCaso& v) { DeCaso(j_, v, textos_); };

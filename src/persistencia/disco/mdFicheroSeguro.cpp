@@ -167,6 +167,11 @@ void FicheroSeguro::Graba(const Bloques& bloques) {
   suma_ = mismoLargo ? SumaDespues(cambios) : SumaDeRegistros(contenido_);
 }
 
+void FicheroSeguro::Asienta() {
+  DeshacePendiente();
+  FijaNombre();
+}
+
 void FicheroSeguro::GrabaCambios(const Cambios& cambios) {
   if (const Causa causa = diario_->Escribe(cambios, permisos_)) {
     diario_->Anula();

@@ -73,6 +73,10 @@ class FicheroSeguro {
   /// and the message says which
   void Graba(const Bloques& bloques);
 
+  /// What a save that was refused left in doubt, the file half written or its name not yet on the
+  /// disk, is settled. @throws ErrorFichero where the disk still refuses it
+  void Asienta();
+
  private:
   void AbreExistente(PideCerrojo pide);
   void AbreNuevo(PideCerrojo pide);

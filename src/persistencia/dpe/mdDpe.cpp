@@ -9,6 +9,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "core/mdAjustes.h"
+#include "persistencia/disco/mdConjunto.h"
 
 namespace zorbin {
 
@@ -69,15 +70,9 @@ int CuentaEntradas(const FicheroRegistros& f) {
   return cuenta;
 }
 
-std::vector<EntradaAjuste> LeeEntradas(const FicheroRegistros& f) {
-  std::vector<EntradaAjuste> entradas(static_cast<std::size_t>(CuentaEntradas(f)));
-  int registro = PrimerRegistro(1);
-  for (auto& x : entradas) {
-    int r = registro;
-    for (const auto& c : kCampos) c.campo(x) = LeeNumero(f, r++, c.nombre);
-    registro += kRegistrosEntrada;
-  }
-  return entradas;
+void CompruebaQueCaben(const FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas) {
+  if (entradas.size() <= static_cast<std::size_t>(kMaxEntradas)) return;
+  throw ErrorFichero({txt::DpeLleno, {f.Nombre(), TextoEntero(kMaxEntradas)}});
 }
 
 // The entry as it reads back from its texts.
@@ -100,8 +95,14 @@ void EscribeEntrada(FicheroRegistros& f, int posicion, EntradaAjuste x, char sep
   }
 }
 
+}  // namespace
+
+std::filesystem::path RutaDpe(const std::filesystem::path& obra) {
+  return RutaCompanera(obra, kExtensionDpe);
+}
+
 // Who holds it has the adjustment of reinforcement open, and it is there that it is let go.
-FicheroRegistros Abre(const std::filesystem::path& ruta, PideCerrojo pide) {
+FicheroRegistros AbreDpe(const std::filesystem::path& ruta, PideCerrojo pide) {
   try {
     return {ruta, FicheroRegistros::Modo::LecturaEscritura, pide};
   } catch (const SoloParaLeer& error) {
@@ -110,29 +111,27 @@ FicheroRegistros Abre(const std::filesystem::path& ruta, PideCerrojo pide) {
   }
 }
 
-bool Iguales(EntradaAjuste a, EntradaAjuste b) {
-  return std::all_of(kCampos.begin(), kCampos.end(),
-                     [&](const CampoEntrada& c) { return c.campo(a) == c.campo(b); });
-}
-
-}  // namespace
-
-std::filesystem::path RutaDpe(const std::filesystem::path& obra) {
-  auto ruta = obra;
-  ruta.replace_extension(".dpe");
-  if (ruta == obra) ruta += ".dpe";
-  return ruta;
-}
-
 std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe) {
   std::error_code error;
   // A link without a file, or a name that can't be looked at, is an error of its opening.
   if (symlink_status(dpe, error).type() == std::filesystem::file_type::not_found) return {};
-  return LeeEntradas(FicheroRegistros(dpe, FicheroRegistros::Modo::Lectura));
+  return LeeAjustes(FicheroRegistros(dpe, FicheroRegistros::Modo::Lectura));
+}
+
+std::vector<EntradaAjuste> LeeAjustes(const FicheroRegistros& f) {
+  std::vector<EntradaAjuste> entradas(static_cast<std::size_t>(CuentaEntradas(f)));
+  int registro = PrimerRegistro(1);
+  for (auto& x : entradas) {
+    int r = registro;
+    for (const auto& c : kCampos) c.campo(x) = LeeNumero(f, r++, c.nombre);
+    registro += kRegistrosEntrada;
+  }
+  return entradas;
 }
 
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,
                     char separador) {
+  CompruebaQueCaben(f, entradas);
   Transaccion juntos(f);
   f.EscribeRegistro(1, TextoEntero(TotalRegistros(entradas.size())));
   for (std::size_t i = 0; i < entradas.size(); ++i) {
@@ -142,7 +141,7 @@ void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entra
 }
 
 FicheroDpe::FicheroDpe(const std::filesystem::path& ruta, char separador, PideCerrojo pide)
-    : f_(Abre(ruta, pide)), separador_(separador), entradas_(LeeEntradas(f_)) {
+    : f_(AbreDpe(ruta, pide)), separador_(separador), entradas_(LeeAjustes(f_)) {
   if (!f_.LeeRegistro(1).empty()) return;
   f_.EscribeRegistro(1, TextoEntero(0));
   f_.Vacia();
@@ -179,12 +178,10 @@ void FicheroDpe::BorraTramo(int NumeroTramo) {
 
 // The entries that differ from those of the file, and their count.
 void FicheroDpe::Graba(std::vector<EntradaAjuste> entradas) {
-  if (entradas.size() > static_cast<std::size_t>(kMaxEntradas)) {
-    throw ErrorFichero({txt::DpeLleno, {f_.Nombre(), TextoEntero(kMaxEntradas)}});
-  }
+  CompruebaQueCaben(f_, entradas);
   Transaccion juntas(f_);
   for (std::size_t i = 0; i < entradas.size(); ++i) {
-    if (i < entradas_.size() && Iguales(entradas[i], entradas_[i])) continue;
+    if (i < entradas_.size() && entradas[i] == entradas_[i]) continue;
     entradas[i] = Guardada(entradas[i]);
     EscribeEntrada(f_, static_cast<int>(i) + 1, entradas[i], separador_);
   }

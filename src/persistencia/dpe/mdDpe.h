@@ -19,6 +19,12 @@ std::filesystem::path RutaDpe(const std::filesystem::path& obra);
 /// the last of the entries that its first record counts
 std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe);
 
+/// The same of records that are open. @throws ErrorFichero
+std::vector<EntradaAjuste> LeeAjustes(const FicheroRegistros& f);
+
+/// Opens the file for writing. @throws ErrorFichero where another program, or another window, has it
+FicheroRegistros AbreDpe(const std::filesystem::path& ruta, PideCerrojo pide = CerrojoDelSistema);
+
 /// Writes the entries from the first record on, all or none.
 /// @throws ErrorFichero
 void EscribeAjustes(FicheroRegistros& f, const std::vector<EntradaAjuste>& entradas,

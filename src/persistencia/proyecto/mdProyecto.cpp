@@ -1,7 +1,7 @@
 #include "persistencia/proyecto/mdProyecto.h"
 
 #include "base/mdNumeros.h"
-#include "persistencia/dpe/mdDpe.h"
+#include "persistencia/proyecto/mdAcompanantes.h"
 
 namespace zorbin {
 
@@ -11,27 +11,37 @@ std::int16_t NumeroDe(const std::string& texto) {
   return I16(NumeroTexto(texto).value_or(0.0));
 }
 
-void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
-  try {
-    proyecto.ajustes = LeeAjustes(RutaDpe(ruta));
-  } catch (const ErrorFichero& error) {
-    proyecto.SinAjustes = true;
-    proyecto.avisos.push_back(error.mensaje());
-  }
+void Anade(std::vector<Mensaje>& avisos, std::vector<Mensaje> otros) {
+  for (auto& aviso : otros) avisos.push_back(std::move(aviso));
+}
+
+// The entries that no Tramo of the whole Obra takes are told.
+std::vector<Mensaje> AvisosDeSusExtras(const Proyecto& proyecto,
+                                       const std::vector<TramoPedido>& todos) {
+  Extras sobrantes = proyecto.extras;
+  for (const auto& p : todos) TomaExtras(sobrantes, p.numero, p.tramo.DescriTramo);
+  return AvisosDeExtras(sobrantes, RutaZrx(proyecto.fichero.ruta()));
 }
 
 }  // namespace
 
 Proyecto LeeProyecto(const std::filesystem::path& ruta) {
-  Proyecto proyecto{FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}};
+  FotoProyecto foto = LeeFoto(ruta);
+  auto junto = LeeAcompanantes(foto);
+  Proyecto proyecto{std::move(foto.obra), {}, {}, {}, false, {}, false, {}};
   EstadoCalculo e;
   auto leida = CargaObra(e, proyecto.fichero);
   proyecto.obra = std::move(e.obra);
   proyecto.lista = std::move(leida.lista);
   proyecto.avisos = proyecto.fichero.avisos();
   proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
-  TramosPedidos(proyecto);
-  LeeSusAjustes(proyecto, ruta);
+  const auto todos = TramosPedidos(proyecto);
+  proyecto.ajustes = std::move(junto.ajustes);
+  proyecto.SinAjustes = junto.SinAjustes;
+  proyecto.extras = std::move(junto.extras);
+  proyecto.SinExtras = junto.SinExtras;
+  Anade(proyecto.avisos, std::move(junto.avisos));
+  Anade(proyecto.avisos, AvisosDeSusExtras(proyecto, todos));
   return proyecto;
 }
 
@@ -39,12 +49,16 @@ std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,
                                        const std::vector<int>& posiciones) {
   EstadoCalculo e;  // keeps the Tramo before
   e.obra = proyecto.obra;
+  Extras extras = proyecto.extras;
   std::vector<TramoPedido> pedidos;
   for (const int posicion : posiciones.empty() ? PosicionesDe(proyecto.lista) : posiciones) {
     const std::string& numero = proyecto.lista[static_cast<std::size_t>(posicion - 1)];
     CargaTramo(e, proyecto.fichero, posicion);
     pedidos.push_back({posicion, numero, e.tramo});
-    pedidos.back().tramo.NumeroTramo = NumeroDe(numero);
+    Tramo& tramo = pedidos.back().tramo;
+    tramo.NumeroTramo = NumeroDe(numero);
+    const auto suyos = TomaExtras(extras, numero, tramo.DescriTramo);
+    tramo.Envolvente = suyos && suyos->Envolvente;
   }
   return pedidos;
 }

@@ -9,6 +9,7 @@
 #include "core/mdAjustes.h"
 #include "persistencia/registros/mdRegistros.h"
 #include "persistencia/zrb/mdZrb.h"
+#include "persistencia/zrx/mdZrx.h"
 
 namespace zorbin {
 
@@ -18,12 +19,14 @@ struct Proyecto {
   ListaTramos lista;
   std::vector<EntradaAjuste> ajustes;  // reinforcements adjusted by hand
   bool SinAjustes = false;             // their file was refused; `avisos` has why
+  Extras extras;                       // what the records have no place for; each Tramo's in it
+  bool SinExtras = false;              // their file was refused; `avisos` has why
   std::vector<Mensaje> avisos;         // what a person should know, although it opens
 };
 
-/// Reads the project and the adjustments beside it. Every Tramo is looked at, so that a damaged
-/// file is refused before anything of it is calculated; a file of adjustments that is refused takes
-/// nothing else with it.
+/// Reads the project and the files beside it. Every Tramo is looked at, so that a damaged file is
+/// refused before anything of it is calculated; a file beside it that is refused takes nothing else
+/// with it.
 /// @throws ErrorFichero
 Proyecto LeeProyecto(const std::filesystem::path& ruta);
 
@@ -36,7 +39,8 @@ struct TramoPedido {
 
 /// The Tramos at some positions in the order given, as stored; without positions those of the whole
 /// Obra in file order. A blank record has the value of the Tramo before it here, and NumeroTramo
-/// is the number of the list, by which adjusted Casos are looked up.
+/// is the number of the list, by which adjusted Casos are looked up. What the extras say of each is
+/// in it.
 /// @throws ErrorFichero
 std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,
                                        const std::vector<int>& posiciones = {});

@@ -8,6 +8,7 @@
 #include "base/mdAnsi.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "persistencia/disco/mdConjunto.h"
 #include "persistencia/disco/mdRecupera.h"
 
 namespace zorbin {
@@ -16,11 +17,23 @@ FicheroRegistros::FicheroRegistros(std::filesystem::path ruta, Modo modo, PideCe
     : ruta_(std::move(ruta)) {
   if (modo == Modo::LecturaEscritura) {
     disco_ = std::make_unique<FicheroSeguro>(ruta_, pide);
+    avisos_ = disco_->avisos();
+    for (auto& aviso : RecuperaConjunto(ruta_, Contenido())) {
+      const bool dicho = std::ranges::count(avisos_, aviso.texto, &Mensaje::texto) > 0;
+      if (!dicho) avisos_.push_back(std::move(aviso));
+    }
     return;
   }
   auto leido = LeeSinEscribir(ruta_);
   leido_ = std::move(leido.bytes);
   avisos_ = std::move(leido.avisos);
+}
+
+FicheroRegistros FicheroRegistros::EnMemoria(std::filesystem::path nombre, std::string contenido) {
+  FicheroRegistros f(std::move(nombre));
+  f.leido_ = std::move(contenido);
+  f.enMemoria_ = true;
+  return f;
 }
 
 void FicheroRegistros::PreparaGrabado() {
@@ -67,7 +80,7 @@ std::string FicheroRegistros::LeeRegistro(int numero) const {
 }
 
 void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
-  if (!disco_) throw ErrorFichero({txt::SoloLecturaNoGraba, {Nombre()}});
+  if (SoloLectura()) throw ErrorFichero({txt::SoloLecturaNoGraba, {Nombre()}});
   if (ansi.size() > kMaxTexto) {
     throw ErrorFichero(
         {txt::TextoLargo,
@@ -77,7 +90,35 @@ void FicheroRegistros::EscribeRegistro(int numero, const std::string& ansi) {
   datos[0] = static_cast<char>(ansi.size() & 0xFF);
   datos[1] = static_cast<char>(ansi.size() >> 8);
   std::copy(ansi.begin(), ansi.end(), datos.begin() + 2);
-  pendientes_[numero] = datos;
+  Pon(numero, datos);
+}
+
+void FicheroRegistros::CopiaRegistros(const FicheroRegistros& de, int primero, int ultimo) {
+  for (int numero = primero; numero <= std::min(ultimo, de.UltimoRegistro()); ++numero) {
+    Bloque datos{};
+    std::ranges::copy(de.Bytes(numero), datos.begin());
+    Pon(numero, datos);
+  }
+}
+
+void FicheroRegistros::Pon(int numero, const Bloque& datos) {
+  const auto [lugar, nuevo] = pendientes_.try_emplace(numero, datos);
+  if (transacciones_ > 0) {
+    anteriores_.push_back({numero, nuevo ? std::nullopt : std::optional(lugar->second)});
+  }
+  lugar->second = datos;
+}
+
+bool FicheroRegistros::Cambia() const {
+  return std::ranges::any_of(pendientes_, [this](const auto& par) {
+    const auto desde = std::min(Desde(par.first), Contenido().size());
+    const auto hay = std::string_view(Contenido()).substr(desde, kBytesRegistro);
+    return hay != std::string_view(par.second.data(), par.second.size());
+  });
+}
+
+void FicheroRegistros::Asienta() {
+  if (disco_) disco_->Asienta();
 }
 
 void FicheroRegistros::Vacia() {
@@ -86,17 +127,33 @@ void FicheroRegistros::Vacia() {
 
 void FicheroRegistros::Graba() {
   const Bloques bloques = std::exchange(pendientes_, {});
-  if (!bloques.empty()) disco_->Graba(bloques);
+  anteriores_.clear();
+  if (bloques.empty()) return;
+  if (disco_) return disco_->Graba(bloques);
+  leido_.resize(std::max(leido_.size(), Desde(bloques.rbegin()->first + 1)));
+  for (const auto& [numero, b] : bloques) leido_.replace(Desde(numero), b.size(), b.data(), b.size());
 }
 
-Transaccion::Transaccion(FicheroRegistros& f) : f_(f), antes_(f.pendientes_) {
+// The records that wait are those of a moment before.
+void FicheroRegistros::VuelveA(std::size_t lugar) {
+  for (; anteriores_.size() > lugar; anteriores_.pop_back()) {
+    const auto& [numero, bloque] = anteriores_.back();
+    if (bloque) {
+      pendientes_[numero] = *bloque;
+    } else {
+      pendientes_.erase(numero);
+    }
+  }
+}
+
+Transaccion::Transaccion(FicheroRegistros& f) : f_(f), lugar_(f.anteriores_.size()) {
   ++f_.transacciones_;
 }
 
 Transaccion::~Transaccion() {
   if (!abierta_) return;
   --f_.transacciones_;
-  f_.pendientes_ = std::move(antes_);
+  f_.VuelveA(lugar_);
 }
 
 void Transaccion::Confirma() {

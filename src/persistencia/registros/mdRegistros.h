@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,13 +32,19 @@ class FicheroRegistros {
   /// @throws ErrorFichero
   FicheroRegistros(std::filesystem::path ruta, Modo modo, PideCerrojo pide = CerrojoDelSistema);
 
+  /// Records in memory, that nothing is saved of.
+  /// @param nombre  of the file that they are, or will be
+  static FicheroRegistros EnMemoria(std::filesystem::path nombre, std::string contenido = {});
+
   const std::filesystem::path& ruta() const { return ruta_; }
   std::string Nombre() const { return ruta_.string(); }
-  bool SoloLectura() const { return disco_ == nullptr; }
+  bool SoloLectura() const { return disco_ == nullptr && !enMemoria_; }
   /// False on a file system without locks, and when only reading.
   bool ConCerrojo() const { return disco_ && disco_->ConCerrojo(); }
   /// What the person should know of the opening.
-  const std::vector<Mensaje>& avisos() const { return disco_ ? disco_->avisos() : avisos_; }
+  const std::vector<Mensaje>& avisos() const { return avisos_; }
+  /// What the file holds, without the records that wait.
+  const std::string& Contenido() const { return disco_ ? disco_->contenido() : leido_; }
 
   /// Makes ready for saves, for a file that stays open: the first one then costs what the others
   /// do.
@@ -54,6 +61,16 @@ class FicheroRegistros {
   /// or when the file is open for reading only.
   void EscribeRegistro(int numero, const std::string& ansi);
 
+  /// Records of another file as they are, whatever they hold; none past its end.
+  void CopiaRegistros(const FicheroRegistros& de, int primero, int ultimo);
+
+  /// Whether the records that wait would change the file.
+  bool Cambia() const;
+
+  /// What a save that was refused left in doubt is settled, so that the file is what Contenido says.
+  /// @throws ErrorFichero where the disk still refuses it
+  void Asienta();
+
   /// Brings the records written to the disk, all or none; within a Transaccion that is left to it.
   /// @throws ErrorFichero; none of them is then written
   void Vacia();
@@ -61,15 +78,25 @@ class FicheroRegistros {
  private:
   friend class Transaccion;
 
-  const std::string& Contenido() const { return disco_ ? disco_->contenido() : leido_; }
+  /// A record before it was written within a Transaccion.
+  struct Anterior {
+    int numero = 0;
+    std::optional<Bloque> bloque;  // that waited
+  };
+
+  explicit FicheroRegistros(std::filesystem::path ruta) : ruta_(std::move(ruta)) {}
   std::string_view Bytes(int registro) const;
+  void Pon(int numero, const Bloque& datos);
+  void VuelveA(std::size_t lugar);
   void Graba();
 
   std::filesystem::path ruta_;
   std::unique_ptr<FicheroSeguro> disco_;  // none when only reading
   std::string leido_;                     // when only reading
+  bool enMemoria_ = false;
   std::vector<Mensaje> avisos_;
   Bloques pendientes_;
+  std::vector<Anterior> anteriores_;  // of the Transaccion that is open
   int transacciones_ = 0;
 };
 
@@ -89,7 +116,7 @@ class Transaccion {
 
  private:
   FicheroRegistros& f_;
-  Bloques antes_;
+  std::size_t lugar_;
   bool abierta_ = true;
 };
 

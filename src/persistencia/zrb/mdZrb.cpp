@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <variant>
@@ -133,14 +134,20 @@ ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
                         TextoEntero(Base(posicion) + kUltimoOffset)}});
 }
 
-ListaTramos LeeLista(const FicheroRegistros& f) {
-  const std::string texto = f.LeeRegistro(kRegistroCuenta);
+std::optional<int> CuentaDe(std::string_view texto) {
   const auto cuenta = NumeroTexto(texto);
   if (!cuenta || *cuenta < 0 || *cuenta > kMaxTramos || *cuenta != Int(*cuenta)) {
-    throw ErrorFichero({txt::CuentaDeTramos, {f.Nombre(), texto}});
+    return std::nullopt;
   }
+  return static_cast<int>(*cuenta);
+}
+
+ListaTramos LeeLista(const FicheroRegistros& f) {
+  const std::string texto = f.LeeRegistro(kRegistroCuenta);
+  const auto cuenta = CuentaDe(texto);
+  if (!cuenta) throw ErrorFichero({txt::CuentaDeTramos, {f.Nombre(), texto}});
   ListaTramos lista;
-  for (int i = 1; i <= static_cast<int>(*cuenta); ++i) {
+  for (int i = 1; i <= *cuenta; ++i) {
     const int registro = Base(i) + kOffsetNumero;
     if (registro > f.UltimoRegistro()) throw Cortado(f, i);
     const std::string numero(Recorta(f.LeeRegistro(registro)));
@@ -200,6 +207,7 @@ void CompletaTramo(Tramo& t, bool si) {
   t.PostFlag = t.EsArmado ? 0 : 1;
   t.TipoColocacion = t.TipoApoyo < 20 ? 0 : t.TipoApoyo < 30 ? 1 : 2;
   t.GamaY = t.GamaF = 1.0;
+  t.Envolvente = false;  // another file tells it
   // Never captured: the record holds it rounded to what the screen shows.
   t.Fct = FctEnSistema(t.Fck, si);
   if (t.IndCar != 1) t.IndCar = t.ICar = 0;
@@ -354,6 +362,22 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
   PonDatos(r, e.tramo, base, e.obra.EsSI(), separador);
   PonReserva(r, base + kUltimoOffsetLeido + 1, base + kUltimoOffset);
   EscribeTodos(f, std::move(r));
+}
+
+int CuentaTramos(const FicheroRegistros& f) try {
+  return CuentaDe(f.LeeRegistro(kRegistroCuenta)).value_or(0);
+} catch (const ErrorFichero&) {
+  return 0;
+}
+
+void BorraTramos(FicheroRegistros& f, int desde, int hasta) {
+  const int ultimo = std::min(Base(hasta) + kUltimoOffset, f.UltimoRegistro());
+  for (int r = Base(desde) + kOffsetNumero; r <= ultimo; ++r) f.EscribeRegistro(r, {});
+}
+
+void CopiaTramo(FicheroRegistros& f, const FicheroRegistros& de, int posicion) {
+  const int base = Base(posicion);
+  f.CopiaRegistros(de, base + kOffsetNumero, base + kUltimoOffset);
 }
 
 std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion) {

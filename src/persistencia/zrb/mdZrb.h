@@ -49,4 +49,13 @@ std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion);
 void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos& lista,
                   int posicion, char separador);
 
+/// Tramos that the header counts; 0 where it counts none, or what it says is no count.
+int CuentaTramos(const FicheroRegistros& f);
+
+/// Blanks the blocks at positions, from 1, `desde` to `hasta`.
+void BorraTramos(FicheroRegistros& f, int desde, int hasta);
+
+/// Copies the block at a position, from 1, as another file has it, read or not.
+void CopiaTramo(FicheroRegistros& f, const FicheroRegistros& de, int posicion);
+
 }  // namespace zorbin

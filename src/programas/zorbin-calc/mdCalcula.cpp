@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <utility>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
@@ -15,6 +16,7 @@
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "persistencia/proyecto/mdProyecto.h"
+#include "persistencia/zrx/mdZrx.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdSalidaPdf.h"
@@ -31,11 +33,13 @@ struct Encargo {
   std::vector<TramoPedido> tramos;
 };
 
-// Whether an output would be written over the project or its adjustments.
+// Whether an output would be written over the project or a file beside it.
 bool PisaLaObra(const std::filesystem::path& salida, const std::filesystem::path& obra) {
   std::error_code error;
-  return !salida.empty() && (std::filesystem::equivalent(salida, obra, error) ||
-                             std::filesystem::equivalent(salida, RutaDpe(obra), error));
+  const auto es = [&](const std::filesystem::path& fichero) {
+    return std::filesystem::equivalent(salida, fichero, error);
+  };
+  return !salida.empty() && (es(obra) || es(RutaDpe(obra)) || es(RutaZrx(obra)));
 }
 
 TipoListado TipoDeLinea(const std::string& listado) {
@@ -72,9 +76,9 @@ void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const 
   PonComprobada(encargo.obra, lista.obra);
   std::erase_if(encargo.tramos, [&](const TramoPedido& p) { return !lista.Vale(p.posicion); });
   for (auto& p : encargo.tramos) {
-    const auto NumeroTramo = p.tramo.NumeroTramo;
-    p.tramo = lista.tramos.at(p.posicion);
-    p.tramo.NumeroTramo = NumeroTramo;
+    const Tramo pedido = std::exchange(p.tramo, lista.tramos.at(p.posicion));
+    p.tramo.NumeroTramo = pedido.NumeroTramo;
+    p.tramo.Envolvente = pedido.Envolvente;
   }
 }
 
@@ -147,7 +151,7 @@ class Calculador {
 
   DatosTramo Datos(const TramoPedido& p) const {
     auto datos = DatosDeCalculo(encargo_.obra, p.tramo, proyecto_.ajustes, proyecto_.SinAjustes);
-    datos.envolvente = opciones_.envolvente;
+    datos.envolvente |= opciones_.envolvente;
     return datos;
   }
 
@@ -264,6 +268,7 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   PonIdioma(proyecto, opciones, textos);
   for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
   if (proyecto.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));
+  if (proyecto.SinExtras) Queja(textos.Texto(txt::ExtrasSinLeer));
   const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos);
   if (!posiciones) return kPalabrasMalas;
 
@@ -279,7 +284,7 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
 
   Calculador calculador(proyecto, encargo, opciones, textos);
   const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.EnPaginas();
-  return codigo == kHecho && (faltan || proyecto.SinAjustes) ? kFicheroRechazado : codigo;
+  return codigo == kHecho && (faltan || proyecto.SinAjustes || proyecto.SinExtras) ? kFicheroRechazado : codigo;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;

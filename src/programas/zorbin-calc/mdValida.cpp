@@ -70,7 +70,7 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
     salida.flujo() << textos.Compone(txt::ObraSinFaltas, {opciones.obra.string()}) << '\n';
   }
   salida.Cierra();
-  return lista.Vale() && !proyecto.SinAjustes ? kHecho : kFicheroRechazado;
+  return lista.Vale() && !proyecto.SinAjustes && !proyecto.SinExtras ? kHecho : kFicheroRechazado;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;
