@@ -32,6 +32,7 @@ enum class Ed : int {
   rdTipologia,
   edIcontes0,
   edAdato,
+  edEnvolvente,
   edTipoControl,
   edTipoCamisa,
   edCamMax,

@@ -414,7 +414,9 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
        .ceroEnBlanco = true, .etiqueta = txt::EtAlt3,
        .rotulo = txt::RotIncrementoAltura, .consejo = txt::TipHr0Delta}}},
     {&Tramo::Envolvente,
-     {.nombre = "Envolvente", .magnitud = Magnitud::Marca, .enResultados = false}},
+     {.nombre = "Envolvente", .magnitud = Magnitud::Marca, .enResultados = false,
+      .campo = {.id = Ed::edEnvolvente, .nombre = "edEnvolvente", .clase = Clase::Marca,
+       .pagina = kPaginaArmado, .rotulo = txt::RotEnvolvente, .consejo = txt::TipEnvolvente}}},
 });
 // clang-format on
 

@@ -29,7 +29,6 @@ ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& t
 
 /// A fault, a question with its answer, and a notice, in one line.
 std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos);
-std::string TextoPregunta(const PreguntaDeObra& pregunta, const Catalogo& textos);
 std::string TextoAviso(const AvisoDeObra& aviso, const Catalogo& textos);
 
 }  // namespace zorbin

@@ -3,7 +3,6 @@
 #include "base/textos.h"
 #include "core/mdAjustes.h"
 #include "sesion/ajustes/mdHoja.h"
-#include "sesion/captura/mdAjustesTramo.h"
 
 namespace zorbin {
 

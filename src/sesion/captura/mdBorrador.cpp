@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/mdNumeros.h"
+#include "base/mdTextos.h"
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdComprueba.h"
@@ -28,10 +29,6 @@ const TramoEnObra* DelFichero(const Version& fichero, const OrigenTramo& origen)
   }
   const auto otro = LugarDeNumero(fichero, NumeroDe(origen.numero));
   return otro ? fichero.tramos[*otro].get() : nullptr;
-}
-
-bool Tiene(const std::vector<TramoFijo>& tramos, const std::string& numero) {
-  return std::ranges::any_of(tramos, [&](const TramoFijo& t) { return t->numero == numero; });
 }
 
 // The version of a draft, over what the file holds now.

@@ -58,10 +58,10 @@ bool EsNumeroDeCampo(const Ficha& ficha) {
   return ficha.EnPantalla() && ficha.campo.clase == Clase::Numero;
 }
 
-double Obra::*NumeroDe(const FilaCampo& fila, const Obra&) {
+double Obra::*VariableDe(const FilaCampo& fila, const Obra&) {
   return fila.obra;
 }
-double Tramo::*NumeroDe(const FilaCampo& fila, const Tramo&) {
+double Tramo::*VariableDe(const FilaCampo& fila, const Tramo&) {
   return fila.tramo;
 }
 
@@ -71,7 +71,7 @@ void RecorreBloque(auto& b, const auto& v) {
     if (!ficha.deSesion && !EsNumeroDeCampo(ficha)) v(ficha.nombre.data(), dato);
   });
   for (const auto& fila : TablaCampos()) {
-    if (const auto numero = NumeroDe(fila, b)) v(fila.nombre.data(), b.*numero);
+    if (const auto numero = VariableDe(fila, b)) v(fila.nombre.data(), b.*numero);
   }
 }
 

@@ -229,7 +229,7 @@ namespace {
 // What a number below its least value is told.
 std::string TextoDeMinimo(const Captura& c, Ed campo, double minimo) {
   if (minimo <= 0.0) return Texto(c, txt::NoPuedeSerNegativo);
-  if (minimo <= kAlgo) return Texto(c, txt::DebeSerMayorQueCero);
+  if (minimo <= kAlgo) return std::string(Recorta(Texto(c, txt::DebeSerMayorQueCero)));
   const auto& ficha = *Fila(campo).ficha;
   const auto& unidades = UnidadesDe(ficha.magnitud);
   std::string limite = Formato(c, minimo, minimo < 0.001 ? "0.0000" : "0.000");

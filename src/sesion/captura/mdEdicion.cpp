@@ -80,6 +80,12 @@ SalidaCampo Sale(Captura& c, Ed campo) {
 
 void CambiaMarca(Captura& c, Ed marca, bool puesta) {
   auto& t = c.e.tramo;
+  if (marca == Ed::edEnvolvente) {
+    const EnUnPaso paso(c, NombrePaso(c, marca));
+    c[marca].opcion = puesta ? 1 : 0;
+    t.Envolvente = puesta;
+    return;
+  }
   const bool deArmado = marca == Ed::edIcontes0;
   const Ed campo = deArmado ? Ed::edAdato : Ed::edCoepre1;
   bool& indicador = deArmado ? t.Icontes0 : t.Icontes1;

@@ -47,6 +47,7 @@ void MuestraOpciones(Captura& c) {
   c[Ed::rdTipologia].opcion = t.EsArmado ? 0 : 1;
   c[Ed::rdTipoCamisa].opcion = t.Tipologia == kEmbebida ? 0 : t.Tipologia == kRevestida ? 1 : -1;
   c[Ed::rdTipoColocacion].opcion = t.TipoColocacion;
+  c[Ed::edEnvolvente].opcion = t.Envolvente ? 1 : 0;
   MuestraMarca(c, Ed::edIcontes0, Ed::edAdato, t.Icontes0);
   MuestraMarca(c, Ed::edIcontes1, Ed::edCoepre1, t.Icontes1);
   t.IndCar == 1 ? Enciende(c, Ed::edICar0) : Apaga(c, Ed::edICar0);

@@ -51,8 +51,8 @@ void Borra(Captura& c, std::span<const Ed> campos) {
 }
 
 void LimpiaMarcas(Captura& c) {
-  c.e.tramo.Icontes0 = c.e.tramo.Icontes1 = false;
-  c[Ed::edIcontes0].opcion = c[Ed::edIcontes1].opcion = 0;
+  c.e.tramo.Icontes0 = c.e.tramo.Icontes1 = c.e.tramo.Envolvente = false;
+  c[Ed::edIcontes0].opcion = c[Ed::edIcontes1].opcion = c[Ed::edEnvolvente].opcion = 0;
   Apaga(c, Ed::edAdato);
   Apaga(c, Ed::edCoepre1);
 }
@@ -98,7 +98,6 @@ void LimpiaSeccion(Captura& c) {
   c.EsComercial = false;
   c.EspRecomMin = c.EspRecomMax = 0;
   c.BandaReci = c.BandaRece = false;
-  c.pantalla.avCargas1.clear();
   Bloquea(c, Ed::edHr0Delta);
   Enciende(c, Ed::edICar0);
   AplicaColocacion(c);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/mdNumeros.h"
+#include "base/mdTextos.h"
 #include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdOrdenes.h"
@@ -152,6 +153,19 @@ bool DuplicaTramos(Captura& c, const std::vector<int>& ids) {
   });
   if (c.ultimoId >= primero) PonEnMano(c, primero);
   return c.ultimoId >= primero;
+}
+
+void AnadeTramos(Captura& c, std::vector<TramoEnObra> tramos, std::string nombre) {
+  if (tramos.empty()) return;
+  const EnUnPaso paso(c, std::move(nombre));
+  const int primero = c.ultimoId + 1;
+  CambiaLista(c, [&](Version& v) {
+    for (auto& t : tramos) {
+      t.id = ++c.ultimoId;
+      v.tramos.push_back(ConNumero(std::move(t), NumeroLibre(v)));
+    }
+  });
+  PonEnMano(c, primero);
 }
 
 void BorraTramos(Captura& c, const std::vector<int>& ids) {

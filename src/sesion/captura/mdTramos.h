@@ -21,6 +21,8 @@ void MuestraTodo(Captura& c);
 bool NuevoTramo(Captura& c);
 /// Copies after the last of them, with numbers of their own; the first one in hand.
 bool DuplicaTramos(Captura& c, const std::vector<int>& ids);
+/// Tramos with numbers of their own at the end, the first one in hand. @param nombre  of the step
+void AnadeTramos(Captura& c, std::vector<TramoEnObra> tramos, std::string nombre);
 void BorraTramos(Captura& c, const std::vector<int>& ids);
 /// One place towards the beginning (-1) or the end (1). @return whether they could
 bool MueveTramos(Captura& c, const std::vector<int>& ids, int paso);

@@ -22,7 +22,7 @@ namespace {
 // What is to be calculated
 
 // A fault in one line.
-std::string Causa(const Falta& falta) {
+std::string EnUnaLinea(const Falta& falta) {
   std::string texto = falta.titulo.empty() ? falta.mensaje : falta.titulo + ": " + falta.mensaje;
   std::string linea;
   for (const char letra : texto) {
@@ -150,7 +150,7 @@ std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
     if (!comprobado.Vale(t->id)) {
       const auto falta = std::ranges::find(comprobado.faltas, t->id, &Falta::tramo);
       encargo.rechazados.push_back(
-          c.textos.Compone(txt::TramoConFaltas, {t->numero, Causa(*falta)}));
+          c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
       continue;
     }
     encargo.tramos.push_back({DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
