@@ -18,7 +18,7 @@ struct Defecto {
 // Characteristic strengths in kp/cm2 and MPa, partial factors, sheet, wire, creep and shrinkage,
 // unit weights and friction angle that pipes and fills commonly have.
 const std::vector<Defecto> kArmado{
-    {edCamMax, 6.0, 6.0},   {edGamaB, 1.5, 1.5},    {edFck, 35.0, 350.0}, {edFct, 0.4815, 22.353},
+    {edCamMax, 6.0, 6.0},   {edGamaB, 1.5, 1.5},    {edFck, 35.0, 350.0}, {edFct, 2.2349, 22.349},
     {edFyk, 210.0, 2100.0}, {edFyd, 140.0, 1400.0}, {edGc0, 2.5, 2.5},    {edGr0, 1.8, 1.8},
     {edFi0, 30.0, 30.0},    {edQDato0, 0.0, 0.0}};
 const std::vector<Defecto> kPostesado{{edDelca, 1.5, 1.5},
@@ -33,7 +33,7 @@ const std::vector<Defecto> kPostesado{{edDelca, 1.5, 1.5},
                                       {edFckno, 30.0, 300.0, 300.0},
                                       {edFckn, 40.0, 400.0, 400.0},
                                       {edFckr, 35.0, 350.0, 350.0},
-                                      {edSFck, 1700.0, 17000.0},
+                                      {edSFck, 1700.0, 17000.0, 17000.0},
                                       {edSf, 1275.0, 12750.0}};
 // Those that a field takes when it is entered blank, besides.
 const std::vector<Defecto> kSoloEnBlanco{{edFYKPost, 210.0, 2100.0}};
