@@ -285,6 +285,54 @@ TEST_F(Linea, UnFicheroDeAjustesRotoSeDiceYLaObraSeCalcula) {
   }
 }
 
+// Tramos numbered 2 and 3: every output names them so, and the adjustment stored for 2 is that of
+// the first one.
+TEST_F(Linea, UnTramoSeNombraPorSuNumeroYNoPorSuSitio) {
+  const auto ruta = carpeta / "dosYTres.zrb";
+  {
+    FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
+    const ListaTramos lista{"2", "3"};
+    const auto textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
+    for (const int posicion : {1, 2}) {
+      auto e = pruebas::EstadoDeMuestra(posicion);
+      e.obra.Prs2 = e.obra.Prs1, e.obra.PrsM2 = e.obra.PrsM1, e.obra.Prs3 = 0;
+      e.obra.Alt2 = e.obra.Alt1, e.obra.Alt3 = 0;
+      if (posicion == 1) EscribeObra(f, e, lista, textos, ',');
+      EscribeTramo(f, e, lista, posicion, ',');
+    }
+    FicheroRegistros ajustes(RutaDpe(ruta), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(ajustes, {{4, 2, 2, {20, 0, 19.5}}}, '.');
+  }
+  const std::string calcula = "calcula " + ruta.string() + " --separador coma ";
+  struct Salida {
+    const char* palabras;
+    std::vector<const char*> dice;
+    const char* calla;
+  };
+  for (const auto& s : std::vector<Salida>{
+           {"--listado normal", {"NUMERO: 1/   2 : Capt", "NUMERO: 1/   3 : "}, "/   1 : "},
+           {"--listado pantalla", {"NUMERO: 1/   2 : Capt", "NUMERO: 1/   3 : "}, "/   1 : "},
+           {"--listado tabular",
+            {"\n       2      1200 ", "\n       3       800 ", "?A   2,00"},
+            "\n       1  "},
+           {"",
+            {"\n  2           1", "\n  3           1", " 1/   2  DP", " 1/   3  DP"},
+            " 1/   1 "},
+           {"--tramo 3 --listado normal", {"NUMERO: 1/   3 : "}, "AJUSTAD"}}) {
+    const auto r = Llama(calcula + s.palabras);
+    for (const char* dice : s.dice) {
+      EXPECT_NE(r.salida.find(dice), std::string::npos) << s.palabras << dice << r.salida;
+    }
+    EXPECT_EQ(r.salida.find(s.calla), std::string::npos) << s.palabras << s.calla << r.salida;
+  }
+  const auto j = nlohmann::json::parse(Llama(calcula + "--formato json").salida)["tramos"];
+  for (const int i : {0, 1}) {
+    EXPECT_EQ(j[i]["posicion"], i + 1);
+    EXPECT_EQ(j[i]["NumeroTramo"], i + 2);
+    EXPECT_EQ(j[i]["casos"][0]["ajustado"].get<bool>(), i == 0);
+  }
+}
+
 TEST_F(Linea, LosAjustesSeListan) {
   const std::string copia = Copia(5, "Obra");
   const auto ninguno = Llama("ajustes " + copia);

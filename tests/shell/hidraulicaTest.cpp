@@ -7,6 +7,7 @@
 #include "base/textos.h"
 #include "listados/calculadoras/mdHidraulicaListado.h"
 #include "listados/calculadoras/mdHidraulicaPapel.h"
+#include "listados/calculadoras/mdHojasCalculadora.h"
 #include "shell/pantallaCalculadora.h"
 
 namespace zorbin {
@@ -159,9 +160,9 @@ TEST(PantallaHidraulica, SeImprimeLaTablaDeLosDatosALaVista) {
   ASSERT_EQ(p.papel.nombres.size(), 1u);
   EXPECT_EQ(p.papel.nombres[0], "Cálculo hidráulico");
   PapelGuardado esperado;
-  Papel papel(esperado, Orientacion::Vertical);
-  PapelHidraulico(DarcyWeiss_Caudal(0.5, 0.05), p.textos, {}, papel);
-  papel.FinDocumento();
+  EscribeCalculadora(
+      esperado, p.papel.nombres[0].toStdString(), Ahora(), p.textos,
+      [&p](Papel& papel) { PapelHidraulico(DarcyWeiss_Caudal(0.5, 0.05), p.textos, {}, papel); });
   ASSERT_EQ(p.papel.hojas.size(), esperado.hojas.size());
   ASSERT_EQ(p.papel.hojas[0].textos.size(), esperado.hojas[0].textos.size());
   EXPECT_EQ(p.papel.hojas[0].textos.back().texto, esperado.hojas[0].textos.back().texto);

@@ -3,6 +3,7 @@
 #include <QTextBrowser>
 
 #include "base/textos.h"
+#include "listados/calculadoras/mdHojasCalculadora.h"
 #include "listados/calculadoras/mdMediosPapel.h"
 #include "shell/calculadoras/Protecciones.h"
 #include "shell/pantallaCalculadora.h"
@@ -77,9 +78,9 @@ TEST(PantallaMedios, SeImprimeLoQueSeAnaliza) {
   EXPECT_EQ(p.Resultado(), Q(TextoMedios(Analisis(7, 0, false), p.textos, {})));
   ASSERT_EQ(p.papel.hojas.size(), 1u);
   PapelGuardado esperado;
-  Papel papel(esperado, Orientacion::Vertical);
-  PapelMedios(Analisis(7, 0, false), p.textos, {}, papel);
-  papel.FinDocumento();
+  EscribeCalculadora(
+      esperado, p.papel.nombres[0].toStdString(), Ahora(), p.textos,
+      [&p](Papel& papel) { PapelMedios(Analisis(7, 0, false), p.textos, {}, papel); });
   EXPECT_EQ(p.papel.hojas[0].textos.back().texto, esperado.hojas[0].textos.back().texto);
   EXPECT_EQ(p.papel.hojas[0].textos.size(), esperado.hojas[0].textos.size());
 }

@@ -1,6 +1,5 @@
 #include "calculo/corrida/mdCalculaTramo.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "calculo/armado/mdArmado.h"
@@ -94,7 +93,7 @@ class CorridaTramo {
       dadas_ = CargasDadas(t_, RangoDe(x_.datos).Hr0);
       ExigeRango(r_);
       casos_ = CuentaDe(r_).Casos();
-      x_.filas.reserve(static_cast<std::size_t>(std::min(casos_, double{kMaxCasosCorrida})));
+      x_.filas.reserve(static_cast<std::size_t>(casos_));
       RecorreAlturas();
       if (marcha_.registro != nullptr) marcha_.registro->Vuelca();
     } catch (const ErrorEjecucion& error) {
@@ -116,7 +115,7 @@ class CorridaTramo {
   VeredictoTramo veredicto_{x_.datos};
   Cargas dadas_;
   TerminosAnillo anillo_;  // of the height in hand
-  double casos_ = 0;       // expected
+  int casos_ = 0;          // of the range
   FilaCaso fila_;          // of the Caso in hand
   bool empezado_ = false;  // its pressures stand, and it is not designed
 
@@ -124,7 +123,7 @@ class CorridaTramo {
   bool Sigue() {
     if (!sigue_) return true;
     const int caso = static_cast<int>(x_.filas.size()) + 1;
-    x_.cancelado = !sigue_({caso, std::max(caso, static_cast<int>(casos_))});
+    x_.cancelado = !sigue_({caso, casos_});
     return !x_.cancelado;
   }
 
@@ -164,7 +163,6 @@ class CorridaTramo {
     while (DP) {
       if (!Sigue()) return false;
       UnCaso(*DP);
-      if (fila_.NumCaso == kMaxCasosCorrida) throw DemasiadosCasos(r_, 1.0, fila_.NumCaso);
       fila_.NumCaso = Suma16(fila_.NumCaso, 1);
       DP = PresionSiguiente(*DP, r_);
     }
@@ -185,9 +183,6 @@ class CorridaTramo {
   void Empieza(double DP) {
     fila_.DP = DP;
     static_cast<PresionesCaso&>(fila_) = PresionesDe(DP, r_, t_.Di, x_.datos.obra.GolpeCalculado);
-    if (x_.filas.size() == std::size_t{kMaxCasosCorrida}) {
-      throw DemasiadosCasos(r_, double{kMaxCasosCorrida} / fila_.NumCaso, fila_.NumCaso);
-    }
     empezado_ = true;
     marcha_.vueltas.EmpiezaCaso();
     marcha_.avisos.clear();

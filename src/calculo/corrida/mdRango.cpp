@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "core/mdUnidades.h"
 
@@ -23,9 +24,15 @@ double PruebaSistema(double MDP, bool golpeCalculado) {
   return golpeCalculado ? MDP + kGolpe : std::min(1.5 * MDP, MDP + 5.0);
 }
 
-// Values of a loop from `desde` to `hasta`, but for the rounding of its steps; 0 without a step.
-double CuentaPasos(double desde, double hasta, double paso) {
-  return paso > 0.0 && hasta >= desde ? Int((hasta - desde) / paso) + 1.0 : 0.0;
+// The values of a loop, one after another, up to one more than a run may have.
+template <class Siguiente>
+int CuentaValores(double primero, double ultimo, const Siguiente& siguiente) {
+  int n = 0;
+  for (std::optional<double> x = primero; x && *x <= ultimo && n <= kMaxCasosCorrida;
+       x = siguiente(*x)) {
+    ++n;
+  }
+  return n;
 }
 
 const char* NombreIncPresion(const Rango& r) {
@@ -89,16 +96,11 @@ PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalcul
 }
 
 CuentaRango CuentaDe(const Rango& r) {
-  if (r.UnSoloCaso) return {1.0, 1.0};
-  if (r.Hr0 > r.Hr0Final) return {};
-  // The last height may be landed on.
-  return {1.0 + CuentaPasos(r.Hr0, r.Hr0Final - kEngancheAltura, r.Hr0Delta),
-          std::max(1.0, CuentaPasos(r.PrimeraDP, r.UltimaDP + kPasePresion, r.IncDP))};
-}
-
-ErrorEjecucion DemasiadosCasos(const Rango& r, double alturas, double presiones) {
-  return ErrorEjecucion(CausaError::DemasiadosCasos,
-                        alturas > presiones ? NombreIncAltura(r) : NombreIncPresion(r));
+  if (r.UnSoloCaso) return {1, 1};
+  return {CuentaValores(r.Hr0, r.Hr0Final,
+                        [&r](double h) { return AlturaSiguiente(h, r.Hr0Delta, r.Hr0Final); }),
+          CuentaValores(r.PrimeraDP, std::numeric_limits<double>::infinity(),
+                        [&r](double DP) { return PresionSiguiente(DP, r); })};
 }
 
 void ExigeRango(const Rango& r) {
@@ -110,9 +112,9 @@ void ExigeRango(const Rango& r) {
     throw ErrorEjecucion(CausaError::IncrementoAltura, NombreIncAltura(r));
   }
   const auto cuenta = CuentaDe(r);
-  if (cuenta.Casos() > 2.0 * kMaxCasosCorrida) {
-    throw DemasiadosCasos(r, cuenta.alturas, cuenta.presiones);
-  }
+  if (cuenta.Casos() <= kMaxCasosCorrida) return;
+  throw ErrorEjecucion(CausaError::DemasiadosCasos,
+                       cuenta.MasAlturas() ? NombreIncAltura(r) : NombreIncPresion(r));
 }
 
 }  // namespace zorbin

@@ -26,34 +26,35 @@ std::optional<double> PresionSiguiente(double DP, const Rango& r);
 /// Pressures of a Caso [at]. MDP follows from DP by the slope of the range.
 ///     PP = max(1.2 MDP, MDP + 2), + 1 above an internal diameter of 1,200 mm
 ///     STP = MDP + 1 with the surge calculated, otherwise min(1.5 MDP, MDP + 5)
-/// Source of STP: EN 805:2000, 11.3.2, with 1 at for 100 kPa; of PP: the factory test of
-/// EN 639:1994 as the Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja
-/// takes it.
+/// Source: of STP, EN 805 for a surge calculated or estimated, with 1 at for 100 kPa; of PP, the
+/// factory test of the Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo
+/// Torroja.
 /// @param DP              design pressure [at]
 /// @param Di              internal diameter [m]
 /// @param golpeCalculado  the surge is calculated, not estimated
 /// @throws ErrorEjecucion Desbordamiento
 PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalculado);
 
-/// How many heights and pressures a range has, but for the rounding of its steps.
-struct CuentaRango {
-  double alturas = 0;
-  double presiones = 0;
-
-  double Casos() const { return alturas * presiones; }
-};
-CuentaRango CuentaDe(const Rango& r);
-
 /// Casos of a run at most: their number has 16 bits.
 inline constexpr int kMaxCasosCorrida = 32767;
 
-/// The failure of a range with more, named after the increment of which there are more.
-ErrorEjecucion DemasiadosCasos(const Rango& r, double alturas, double presiones);
+/// How many heights and pressures a run goes through, counted as it goes; each of them up to one
+/// more than it may have.
+struct CuentaRango {
+  int alturas = 0;
+  int presiones = 0;
+
+  int Casos() const { return alturas * presiones; }
+  bool MasAlturas() const { return alturas > presiones; }
+};
+/// @throws ErrorEjecucion Desbordamiento
+CuentaRango CuentaDe(const Rango& r);
 
 /// Refuses a range before its first Caso: a step that leads away from its end, which would never
-/// end, and more than twice the Casos that can be numbered, beyond what rounding could make of
-/// fewer. One Caso from outside is let pass.
-/// @throws ErrorEjecucion IncrementoPresion, IncrementoAltura, DemasiadosCasos; the field is told
+/// end, and more Casos than can be numbered; the increment of which there are more values is told.
+/// One Caso from outside is let pass.
+/// @throws ErrorEjecucion IncrementoPresion, IncrementoAltura, DemasiadosCasos; the field is told.
+/// Desbordamiento
 void ExigeRango(const Rango& r);
 
 }  // namespace zorbin

@@ -15,7 +15,8 @@ namespace zorbin {
 /// Modulus of a concrete [kp/cm2] of strength `fck` [kp/cm2].
 ///     39453.505 (fck + 80)^(1/3) beta,  beta = 1.3 - fck/4000, at most 1.175
 /// That is 8500 (fck + 8)^(1/3) beta in MPa, with 10 kp/cm2 to a MPa.
-/// Source: EHE-08, 39.6, initial tangent modulus. Valid up to 1,000 kp/cm2.
+/// Source: the Spanish code of structural concrete (EHE), tangent modulus. Valid up to 1,000
+/// kp/cm2.
 /// @throws ErrorEjecucion Desbordamiento below -80 kp/cm2
 double ModuloElastico(double fck);
 
@@ -23,7 +24,8 @@ double ModuloElastico(double fck);
 /// 1.28 fck^(1/2) above: 0.21 fck^(2/3) and 0.7·0.58 fck^(1/2) in MPa. The branches do not meet
 /// (28.47 and 28.62 at 500). A reinforced pipe takes 0.45 fck^(2/3) at any strength, see
 /// FctDeFck.
-/// Source: EHE-08, 39.1, lower characteristic strength. Valid up to 1,000 kp/cm2.
+/// Source: the Spanish code of structural concrete (EHE), lower characteristic strength. Valid up
+/// to 1,000 kp/cm2.
 /// @throws ErrorEjecucion Desbordamiento for a negative strength
 double ResistenciaTraccion(double fck);
 

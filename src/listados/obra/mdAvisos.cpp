@@ -14,6 +14,11 @@ std::string TextoCapas(int cara, const Catalogo& textos) {
          textos.Texto(txt::EnVariasCapas);
 }
 
+std::string NombreDelIncremento(const std::string& dato, const Catalogo& textos) {
+  const bool altura = dato == "Alt3" || dato == "Hr0Delta";
+  return textos.Texto(altura ? txt::EtAlt3 : txt::EtPrs3);
+}
+
 }  // namespace
 
 std::string TextoAviso(ClaseAviso clase, const Catalogo& textos) {
@@ -77,7 +82,7 @@ std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {
     case CausaError::DemasiadasVueltas:
       return textos.Texto(txt::DemasiadasVueltas);
     case CausaError::DemasiadosCasos:
-      return textos.Compone(txt::DemasiadosCasos, {dato});
+      return textos.Compone(txt::DemasiadosCasos, {NombreDelIncremento(dato, textos)});
     case CausaError::IncrementoPresion:
       return textos.Texto(dato == "Prs3Tram" ? txt::IncPresionTramo : txt::IncPresionObra);
     case CausaError::IncrementoAltura:

@@ -2,6 +2,7 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "core/mdUnidades.h"
 
 namespace zorbin {
 
@@ -49,6 +50,9 @@ class Entradas {
     const std::string presion = estilo_.si ? "MPa" : "at";
     const auto p = [this](double at) { return Numero(at, 1, "at->MPa"); };
     Rango(txt::EntradaAlturas, Numero(x.Hr0, 2), Numero(x.Hr0Final, 2), Numero(x.Hr0Delta, 2), "m");
+    if (const auto corta = TextoAlturaCorta(x, textos_, estilo_); !corta.empty()) {
+      Linea(txt::EntradaAlturaFinal, corta);
+    }
     Rango(txt::EntradaDP, p(x.PrimeraDP), p(x.UltimaDP), p(x.IncDP), presion);
     Rango(txt::EntradaMDP, p(x.MDPIni), p(x.MDPFin), p(x.IncDP * x.PendienteMDP), presion);
   }
@@ -82,6 +86,15 @@ class Entradas {
 };
 
 }  // namespace
+
+std::string TextoAlturaCorta(const Rango& r, const Catalogo& textos, const EstiloNumeros& estilo) {
+  const auto fuera = AlturaFueraDe(r.Hr0, r.Hr0Final, r.Hr0Delta);
+  if (!fuera) return {};
+  const auto metros = [&estilo](double h) {
+    return std::string(Recorta(estilo.FormatoNumero(h, 0, 2)));
+  };
+  return textos.Compone(txt::AlturaFinalCorta, {metros(fuera->ultima), metros(fuera->alcanzada)});
+}
 
 std::vector<std::string> TextoEntradas(const ResultadoTramo& r, const Catalogo& textos,
                                        const EstiloNumeros& estilo, bool conControl) {

@@ -16,4 +16,7 @@ namespace zorbin {
 std::vector<std::string> TextoEntradas(const ResultadoTramo& r, const Catalogo& textos,
                                        const EstiloNumeros& estilo, bool conControl);
 
+/// The last height of the range where the steps miss it, and no Caso has it; empty otherwise.
+std::string TextoAlturaCorta(const Rango& r, const Catalogo& textos, const EstiloNumeros& estilo);
+
 }  // namespace zorbin

@@ -375,7 +375,7 @@ void ListadoNormal::EsfuerzosDeDiseno(const VistaCaso& v) {
   EnBlanco(1);
   Linea(7, Texto(txt::DisenoSecciones));
   Linea(7, Texto(txt::DisenoMN));
-  Linea(7, Blancos(26) + UnidadesDelAnillo());
+  Linea(7, Blancos(26) + UnidadesDelAnillo(estilo_.si, 10));
   for (int h = 1; h <= kHipotesisArmado; ++h) {
     std::string linea = Texto(txt::HipotesisDiseno[static_cast<std::size_t>(h - 1)]);
     for (int s = 1; s <= kSecciones; ++s) {

@@ -194,7 +194,7 @@ void ListadoNormal::CoeficientesLame(const VistaCaso& v, const HipotesisPostesad
   enDosLineas(txt::LameAlambre, 3, h.Cr);
   enDosLineas(txt::LameRelacion, 3, h.k);
   enDosLineas(txt::LameConjunto, 3, h.D);
-  Encabezado(txt::CaracteristicasGeometricas);
+  Encabezado(txt::CaracteristicasGeometricas, "  (cm; Io: cm4/cm)");
   const double chapa = (m.nc - 1.0) * m.Delca;
   const std::array<double, 6> geometria{h.sro, h.yi, h.ye, h.yr, h.Io, chapa + r.RadioNuc};
   for (std::size_t i = 0; i < geometria.size(); ++i) {

@@ -119,7 +119,7 @@ void ListadoPantalla::TablaHipotesis(const VistaCaso& v) {
   const auto& x = v.Armado().esfuerzos;
   Linea(42, Texto(txt::PantallaSecciones));
   Linea(18 + 4 + 17, Texto(txt::PantallaMN));
-  Linea(4, FormatoTexto(Texto(txt::RotuloTubo), 26) + UnidadesDelAnillo());
+  Linea(4, FormatoTexto(Texto(txt::RotuloTubo), 26) + UnidadesDelAnillo(estilo_.si, 10));
   const std::string seccion = "  " + std::string(18, '-');
   Linea(4, std::string(26, '-') + seccion + seccion + seccion);
   for (int h = 1; h <= kHipotesisArmado; ++h) {

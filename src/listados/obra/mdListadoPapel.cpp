@@ -1,8 +1,6 @@
 #include "listados/obra/mdListadoPapel.h"
 
 #include <array>
-#include <chrono>
-#include <ctime>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
@@ -32,17 +30,6 @@ constexpr std::array<PalabrasTipologia, 8> kTipologias{{
 }};
 
 }  // namespace
-
-Fecha Ahora() {
-  const std::time_t ahora = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-  std::tm local{};
-  localtime_r(&ahora, &local);
-  std::array<char, 32> dia{};
-  std::array<char, 32> hora{};
-  std::strftime(dia.data(), dia.size(), "%d/%m/%Y", &local);
-  std::strftime(hora.data(), hora.size(), "%H:%M:%S", &local);
-  return {dia.data(), hora.data()};
-}
 
 bool ListadoPapel::Tramo(const ResultadoTramo& resultado, int /*posicion*/,
                          const std::string& numero, const SigueListado& sigue) {
@@ -122,15 +109,6 @@ int ListadoPapel::Advierte(const std::string& texto) {
 std::string ListadoPapel::RotuloCaso(int NumCaso, const zorbin::Tramo& t) const {
   return Texto(txt::CasoNumero) + ": " + TextoEntero(NumCaso) + "/" +
          FormatoEntero(t.NumeroTramo, 4) + " : " + FormatoTexto(t.DescriTramo, 40);
-}
-
-std::string ListadoPapel::UnidadesDelAnillo() const {
-  std::string linea;
-  for (int s = 1; s <= kSecciones; ++s) {
-    linea += ALaDerecha(estilo_.si ? "(m.kN/m)" : "(m.t/m)", 10) +
-             ALaDerecha(estilo_.si ? "(kN/m)" : "(t/m)", 10);
-  }
-  return linea;
 }
 
 std::string ListadoPapel::TextoTipologia(std::int16_t Tipologia) const {

@@ -9,17 +9,9 @@
 #include "listados/obra/mdVeredictoCaso.h"
 #include "listados/papel/mdFormato.h"
 #include "listados/papel/mdPapel.h"
+#include "listados/papel/mdPie.h"
 
 namespace zorbin {
-
-/// Date and time on the page heads; the listing never looks at a clock.
-struct Fecha {
-  std::string dia;
-  std::string hora;
-};
-
-/// Date and time of the machine.
-Fecha Ahora();
 
 /// What a listing on paper needs from outside.
 struct MediosPapel {
@@ -83,10 +75,6 @@ class ListadoPapel : public Listado {
 
   /// "CASO NUMERO: n/Tramo : description".
   std::string RotuloCaso(int NumCaso, const zorbin::Tramo& t) const;
-
-  /// Units of moment and axial force under the three sections of a table of the ring, each in ten
-  /// columns.
-  std::string UnidadesDelAnillo() const;
 
   std::string TextoTipologia(std::int16_t Tipologia) const;
   std::string TextoCuna(std::int16_t TipoCuna) const;  // value of the run

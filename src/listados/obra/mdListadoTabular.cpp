@@ -29,7 +29,8 @@ constexpr int kAnchoBarras = 9;
 constexpr std::size_t kHastaPP = 48;  // columns of the head up to the pressure obtained
 constexpr int kAnchoExigida = 10;     // of the pressure required [columns]
 
-constexpr int kAnchoEntrada = 72;  // [columns]
+constexpr int kAnchoEntrada = 68;  // of the first of two columns [columns]
+constexpr int kAnchoCarga = 21;
 
 constexpr int LineasDeEntradas(std::size_t entradas) {
   return static_cast<int>((entradas + 1) / 2) + 1;
@@ -124,7 +125,7 @@ void ListadoTabular::FilaTramo(const zorbin::Tramo& t) {
                FormatoTexto(TextoColocacionCabecera(t.TipoApoyo), 38) + Blancos(3) +
                (t.TipoApoyo < 30 ? Numero(t.B0, 7, 3) : Blancos(7)) + " " +
                (t.TipoApoyo >= 20 ? Blancos(7) : ValorRelleno(t.TipoRelleno)) + " " +
-               FormatoTexto(Texto(carga), 15));
+               FormatoTexto(Texto(carga), kAnchoCarga));
   EnBlanco(2);
   LineasResto -= kFilaTramo;
 }
@@ -165,6 +166,7 @@ void ListadoTabular::Caso(const VistaCaso& v) {
   --LineasResto;
   if (LineasResto <= 0) {
     PaginaNueva(datos.obra);
+    FilaTramo(datos.tramo);
     armado ? ResumenTabular(datos) : CabeceraTabularPostesado(datos);
   }
   armado ? FilaArmado(v) : FilaTabular(v);
@@ -254,17 +256,13 @@ void ListadoTabular::FilaArmado(const VistaCaso& v) {
 // Pressure and areas of a row.
 std::string ListadoTabular::AreasArmado(const VistaCaso& v) const {
   const auto& r = v.Armado();
-  const double DP = v.fila.DP;
-  if (r.ajuste) {
-    const auto& a = *r.ajuste;
-    return Numero(DP, 6, 2, "at->MPa") + Blancos(5) + Numero(a.Camisa, 6, 1) + Blancos(4) +
-           (a.Espiras == 0 ? Blancos(5) : Numero(a.Espiras, 5, 1)) + " " + Numero(r.AsInt, 7, 1) +
-           Blancos(7) + Numero(r.AsExt, 10, 1) + Blancos(7) + Numero(r.Total, 6, 1);
-  }
-  const std::string presion = Numero(DP, 7, 1, "at->MPa");
+  const std::string presion = Numero(v.fila.DP, 7, 1, "at->MPa");
   if (!OfreceArmadura(v)) return presion;
-  return presion + Blancos(4) + Numero(r.AreaCamisa, 6, 1) + Blancos(4) +
-         (r.NESPIN == 0 ? Blancos(5) : Numero(r.AreaEspiras, 5, 0)) + " " + Numero(r.AsInt, 7, 1) +
+  const auto& a = r.ajuste;
+  const double camisa = a ? a->Camisa : r.AreaCamisa;
+  const double espiras = a ? a->Espiras : r.NESPIN == 0 ? 0.0 : r.AreaEspiras;
+  return presion + Blancos(4) + Numero(camisa, 6, 1) + Blancos(4) +
+         (espiras == 0 ? Blancos(5) : Numero(espiras, 5, a ? 1 : 0)) + " " + Numero(r.AsInt, 7, 1) +
          Blancos(2) + Numero(r.AsExt, 10, 1) + Blancos(7) + Numero(r.Total, 6, 1);
 }
 

@@ -3,6 +3,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/obra/mdAvisos.h"
+#include "listados/obra/mdEntradas.h"
 #include "listados/obra/mdRotulos.h"
 
 namespace zorbin {
@@ -34,6 +35,9 @@ void Resumen::Veredicto(const ResultadoTramo& r, const std::string& numero) {
   Linea("  " + FormatoTexto(numero, 7) + FormatoEntero(c.casos, 6) +
         FormatoEntero(c.noCumplen, 12) + FormatoEntero(c.sinComprobar, 14) + "  " +
         FormatoTexto(peor, 24) + FormatoTexto(uso, 8) + palabras_.Veredicto(c.veredicto));
+  if (const auto corta = TextoAlturaCorta(r.rango, textos_, estilo_); !corta.empty()) {
+    Linea(Blancos(9) + textos_.Texto(txt::EntradaAlturaFinal) + ": " + corta);
+  }
   if (r.fallo) {
     Linea(Blancos(9) + TextoCausa(r.fallo->error, textos_));
   } else if (r.filas.empty()) {
@@ -126,6 +130,7 @@ void Resumen::TablaHipotesis(const VistaCaso& v) {
   pantalla_.EscribePantalla(1, textos_.Texto(txt::Hipotesis), 1);
   Linea(textos_.Texto(txt::CabezaSecciones));
   Linea(textos_.Texto(txt::CabezaMN));
+  Linea(UnidadesDelAnillo(estilo_.si, 9));
   Linea(raya + raya + raya);
   const auto& x = v.Armado().esfuerzos;
   for (int h = 1; h <= kHipotesisArmado; ++h) {

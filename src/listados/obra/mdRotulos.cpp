@@ -60,6 +60,15 @@ std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos) {
   return PorLugar(txt::Cargas, ICar, textos);
 }
 
+std::string UnidadesDelAnillo(bool si, int ancho) {
+  std::string linea;
+  for (int s = 1; s <= kSecciones; ++s) {
+    linea +=
+        ALaDerecha(si ? "(m.kN/m)" : "(m.t/m)", ancho) + ALaDerecha(si ? "(kN/m)" : "(t/m)", ancho);
+  }
+  return linea;
+}
+
 std::string TextoPP(const ResultadoPostesado& r, double PP, const Catalogo& textos,
                     const EstiloNumeros& estilo) {
   if (PP == kPPAlambreCambia) return textos.Texto(txt::PPAlambreCambia);

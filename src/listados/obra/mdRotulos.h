@@ -17,6 +17,10 @@ std::string TextoDeColocacion(std::int16_t TipoApoyo, const Catalogo& textos);
 std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos);
 std::string TextoDeHipotesis(int h, const Catalogo& textos);  // reinforced design, 1..5
 
+/// Units of moment and axial force under the three sections of a table of the ring, each in
+/// `ancho` columns.
+std::string UnidadesDelAnillo(bool si, int ancho);
+
 /// Factory test pressure obtained [at], or words where it is no pressure.
 std::string TextoPP(const ResultadoPostesado& r, double PP, const Catalogo& textos,
                     const EstiloNumeros& estilo);

@@ -78,6 +78,16 @@ std::string SinBlancos(std::string_view texto) {
   return std::string(Recorta(texto));
 }
 
+// The design has given the warning, with its hypothesis, where the verdict would repeat it.
+bool DichoEnElDiseno(const std::vector<Aviso>& avisos, std::uint32_t advertencia) {
+  const auto clase = advertencia == kAvisoRetraccion      ? ClaseAviso::RetraccionLisas
+                     : advertencia == kAvisoCapasInterior ? ClaseAviso::CapasInterior
+                                                          : ClaseAviso::CapasExterior;
+  return std::ranges::any_of(avisos, [clase](const Aviso& a) {
+    return a.clase == clase && a.fase == FaseAviso::Final && a.pantalla;
+  });
+}
+
 // A text on as many lines as it takes, those that go on set in.
 void Parte(const LineaCaso& linea, int ancho, std::vector<LineaCaso>& lineas) {
   auto [primera, resto] = PartirTexto(linea.texto, ancho);
@@ -199,7 +209,11 @@ std::string PalabrasCaso::Motivo(const VistaCaso& v) const {
   return motivo + ": " + Comprobacion(*c, v.Datos().EsArmado);
 }
 
-std::string PalabrasCaso::Avisos(std::uint32_t avisos) const {
+std::string PalabrasCaso::Avisos(const VistaCaso& v) const {
+  std::uint32_t avisos = v.caso.verificacion.avisos;
+  for (const std::uint32_t a : {kAvisoRetraccion, kAvisoCapasInterior, kAvisoCapasExterior}) {
+    if (DichoEnElDiseno(v.caso.avisos, a)) avisos &= ~a;
+  }
   std::string texto;
   for (std::size_t i = 0; i < txt::AvisosVeredicto.size(); ++i) {
     if ((avisos & (1u << i)) == 0) continue;
@@ -257,7 +271,7 @@ std::vector<LineaCaso> PalabrasCaso::Cierre(const VistaCaso& v, int ancho) const
                      true});
   const bool falla = r.veredicto == zorbin::Veredicto::NoCumple;
   if (auto motivo = Motivo(v); !motivo.empty()) enteras.push_back({std::move(motivo), falla});
-  if (auto avisos = Avisos(r.avisos); !avisos.empty()) {
+  if (auto avisos = Avisos(v); !avisos.empty()) {
     enteras.push_back({std::move(avisos), false});
   }
   std::vector<LineaCaso> lineas;

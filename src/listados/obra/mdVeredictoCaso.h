@@ -66,7 +66,8 @@ class PalabrasCaso {
 
   std::string Hipotesis(int h, bool armado) const;
   std::string Comprobacion(const ComprobacionCaso& c, bool armado) const;
-  std::string Avisos(std::uint32_t avisos) const;
+  /// What the verdict warns of and the design has not.
+  std::string Avisos(const VistaCaso& v) const;
   void Construye(const VistaCaso& v, std::vector<LineaCaso>& lineas) const;
   void ConstruyeArmado(const VistaCaso& v, std::vector<LineaCaso>& lineas) const;
   std::string Cara(int conBarras, int sinBarras, double n, double diametro, int decimales) const;

@@ -1,6 +1,9 @@
 #include "listados/papel/mdPie.h"
 
 #include <algorithm>
+#include <array>
+#include <chrono>
+#include <ctime>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
@@ -40,6 +43,17 @@ std::string Ajustados(std::vector<std::string> partes, int columnas) {
 
 }  // namespace
 
+Fecha Ahora() {
+  const std::time_t ahora = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  std::tm local{};
+  localtime_r(&ahora, &local);
+  std::array<char, 32> dia{};
+  std::array<char, 32> hora{};
+  std::strftime(dia.data(), dia.size(), "%d/%m/%Y", &local);
+  std::strftime(hora.data(), hora.size(), "%H:%M:%S", &local);
+  return {dia.data(), hora.data()};
+}
+
 void HojasConPie::RecibeHoja(const Hoja& hoja) {
   ++hoja_;
   const double ancho = AnchoColumna(kCuerpoPie);
@@ -58,6 +72,19 @@ std::string HojasConPie::Linea(int columnas) const {
   const int queda = columnas - static_cast<int>(Largo(derecha));
   const std::string izquierda = Ajustados(pie_.izquierda, queda - kEntreLados);
   return izquierda + ALaDerecha(derecha, columnas - static_cast<int>(Largo(izquierda)));
+}
+
+void EscribeConPie(DestinoHojas& destino, Orientacion orientacion, TextosPie pie,
+                   const Catalogo& textos, const std::function<void(Papel&)>& documento) {
+  const auto escribe = [&](DestinoHojas& hojas) {
+    Papel papel(hojas, orientacion);
+    documento(papel);
+    papel.FinDocumento();
+  };
+  CuentaHojas cuenta;
+  escribe(cuenta);
+  HojasConPie conPie(destino, std::move(pie), cuenta.hojas(), textos);
+  escribe(conPie);
 }
 
 }  // namespace zorbin

@@ -1,6 +1,7 @@
 // The foot of the sheets of a document: whose it is, what made it, and which sheet of how many.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,15 @@
 #include "listados/papel/mdPapel.h"
 
 namespace zorbin {
+
+/// Date and time on the sheets; a listing never looks at a clock.
+struct Fecha {
+  std::string dia;
+  std::string hora;
+};
+
+/// Date and time of the machine.
+Fecha Ahora();
 
 /// Counts the sheets of a document, which their feet tell.
 class CuentaHojas : public DestinoHojas {
@@ -44,5 +54,10 @@ class HojasConPie : public DestinoHojas {
 
   std::string Linea(int columnas) const;
 };
+
+/// Writes a document with its feet. It is made twice, since the foot of the first sheet tells how
+/// many there are.
+void EscribeConPie(DestinoHojas& destino, Orientacion orientacion, TextosPie pie,
+                   const Catalogo& textos, const std::function<void(Papel&)>& documento);
 
 }  // namespace zorbin

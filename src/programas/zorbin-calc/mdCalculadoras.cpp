@@ -8,6 +8,7 @@
 #include "base/textos.h"
 #include "listados/calculadoras/mdHidraulicaListado.h"
 #include "listados/calculadoras/mdHidraulicaPapel.h"
+#include "listados/calculadoras/mdHojasCalculadora.h"
 #include "listados/calculadoras/mdMediosPapel.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
@@ -39,9 +40,7 @@ int Escribe(const std::function<std::string()>& texto) {
 int Documento(const OpcionesSalida& o, const std::string& titulo, const Catalogo& textos,
               const std::function<void(Papel&)>& contenido) {
   EscribePdf(o.pdf, titulo, textos, [&](DestinoHojas& hojas) {
-    Papel papel(hojas, Orientacion::Vertical);
-    contenido(papel);
-    papel.FinDocumento();
+    EscribeCalculadora(hojas, titulo, Ahora(), textos, contenido);
   });
   return kHecho;
 }

@@ -148,7 +148,7 @@ constexpr auto
                      },
                      txt::PorTrafico},
                     {Ed::edQDato0, txt::EtAlt2, Magnitud::Longitud,
-                     [](const Tramo& t) { return t.De > 0; }, AlturaFinal,
+                     [](const Tramo& t) { return t.De > 0 && t.IndCar == 1; }, AlturaFinal,
                      [](const Tramo& t) {
                        return Limites{-kSinTope, kArcoDesde * std::max(1.0, t.De)};
                      },

@@ -19,25 +19,6 @@ constexpr double kAnguloMaximo = 90.0;  // [degrees]
 constexpr std::int16_t kTerraplen = 31;
 constexpr std::array<std::int16_t, 5> kCodigosRelleno{11, 12, 21, 22, 23};
 
-struct Cuenta {
-  int alturas = 0;
-  int presiones = 0;
-};
-
-// The heights and pressures that a run goes through, counted as it goes, up to one too many.
-Cuenta CuentaCasos(const Rango& r) {
-  Cuenta cuenta;
-  for (std::optional<double> h = r.Hr0; h && *h <= r.Hr0Final && cuenta.alturas <= kMaxCasosCorrida;
-       h = AlturaSiguiente(*h, r.Hr0Delta, r.Hr0Final)) {
-    ++cuenta.alturas;
-  }
-  for (std::optional<double> DP = r.PrimeraDP; DP && cuenta.presiones <= kMaxCasosCorrida;
-       DP = PresionSiguiente(*DP, r)) {
-    ++cuenta.presiones;
-  }
-  return cuenta;
-}
-
 // One validation, with its way of failing.
 class Validacion {
  public:
@@ -316,9 +297,9 @@ class Validacion {
     datos.obra = ObraEnCalculo(c_.e.obra);
     datos.tramo = TramoEnCalculo(c_.e.tramo, c_.EsSI());
     const Rango rango = RangoDe(datos);
-    const auto [alturas, presiones] = CuentaCasos(rango);
-    if (alturas * presiones <= kMaxCasosCorrida) return true;
-    const bool altura = alturas > presiones;
+    const auto cuenta = CuentaDe(rango);
+    if (cuenta.Casos() <= kMaxCasosCorrida) return true;
+    const bool altura = cuenta.MasAlturas();
     const Ed campo = altura ? (rango.AlturasPropias ? Ed::edHr0Delta : Ed::edAlt3)
                             : (rango.PresionesPropias ? Ed::edPrs3Tram : Ed::edPrs3);
     const std::string nombre = SinDosPuntos(Texto(c_, altura ? txt::EtAlt3 : txt::EtPrs3));

@@ -272,11 +272,10 @@ void CalculoHidraulico::Calcular() {
 
 void CalculoHidraulico::Imprimir() {
   if (!e_.imprimible) return;
-  entorno_.impresion.Imprime(this, windowTitle(), [this](DestinoHojas& hojas) {
-    Papel papel(hojas, Orientacion::Vertical);
+  const auto escribe = [this](Papel& papel) {
     PapelHidraulico(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}, papel);
-    papel.FinDocumento();
-  });
+  };
+  ImprimeHojas(windowTitle(), escribe);
 }
 
 }  // namespace zorbin

@@ -255,11 +255,10 @@ bool Protecciones::Visualizar() {
 
 void Protecciones::Imprimir() {
   if (!Visualizar()) return;
-  entorno_.impresion.Imprime(this, Rotulo(T(txt::AnalisisDeMedios)), [this](DestinoHojas& hojas) {
-    Papel papel(hojas, Orientacion::Vertical);
+  const auto escribe = [this](Papel& papel) {
     PapelMedios(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}, papel);
-    papel.FinDocumento();
-  });
+  };
+  ImprimeHojas(Rotulo(T(txt::AnalisisDeMedios)), escribe);
 }
 
 }  // namespace zorbin

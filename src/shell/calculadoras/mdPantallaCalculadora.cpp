@@ -7,6 +7,7 @@
 #include <QShortcut>
 
 #include "base/textos.h"
+#include "listados/calculadoras/mdHojasCalculadora.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -113,6 +114,13 @@ void PantallaCalculadora::MuestraCampos() {
 void PantallaCalculadora::UneOpcion(QWidget& opcion) {
   vigilante_.Vigila(opcion);
   vigilante_.Exime(opcion);
+}
+
+void PantallaCalculadora::ImprimeHojas(const QString& titulo,
+                                       const std::function<void(Papel&)>& escribe) {
+  entorno_.impresion.Imprime(this, titulo, [&](DestinoHojas& hojas) {
+    EscribeCalculadora(hojas, titulo.toStdString(), Ahora(), entorno_.textos, escribe);
+  });
 }
 
 void PantallaCalculadora::Dice(const AvisoCampo& aviso) {

@@ -61,6 +61,9 @@ class PantallaCalculadora : public QDialog {
   /// An option: leaving a field for it does not run the rule of the field. Enter goes on from it.
   void UneOpcion(QWidget& opcion);
 
+  /// Prints the sheets of a result under their title.
+  void ImprimeHojas(const QString& titulo, const std::function<void(Papel&)>& escribe);
+
   void Dice(const AvisoCampo& aviso);
   void VaA(CasillaNumero& casilla) { vigilante_.VaA(casilla); }
 

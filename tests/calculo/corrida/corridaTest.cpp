@@ -239,7 +239,7 @@ TEST(Corrida, UnFalloSeNombraYDiceHastaDondeLlego) {
          e.obra.Prs2 = e.obra.Prs1, e.obra.PrsM2 = e.obra.PrsM1, e.obra.Prs3 = 0, e.obra.Alt2 = 4,
          e.obra.Alt3 = 0.00005;
        },
-       CausaError::DemasiadosCasos, 1, "Alt3"}};
+       CausaError::DemasiadosCasos, 0, "Alt3"}};
   for (const auto& f : fallos) {
     SCOPED_TRACE(f.nombre);
     auto e = EstadoDeMuestra(1);
@@ -250,11 +250,36 @@ TEST(Corrida, UnFalloSeNombraYDiceHastaDondeLlego) {
     EXPECT_EQ(x.fallo->error.dato(), f.dato);
     EXPECT_EQ(x.fallo->numCaso, f.caso);
     const std::string nombre = f.nombre;
-    EXPECT_EQ(x.filas.size(), nombre == "algunos Casos de mas" ? kMaxCasosCorrida : 0u);
+    EXPECT_TRUE(x.filas.empty());
     // The loads of its height fail before a Caso begins, ring and steel after the heading.
     EXPECT_EQ(x.fallo->empezado, nombre == "acero nulo" || nombre == "cuna desconocida" ||
                                      nombre == "terreno sin peso");
-    EXPECT_EQ(x.hayCabecera, x.fallo->empezado || !x.filas.empty());
+    EXPECT_EQ(x.hayCabecera, x.fallo->empezado);
+  }
+}
+
+// The last range that can be numbered runs, and one Caso more is refused before the first, though
+// the steps of a height or of a pressure end with a rounding.
+TEST(Corrida, UnRangoSeNumeraEnteroONoEmpieza) {
+  struct Fila {
+    int alturas, presiones;
+    const char* dato;  // null where it runs
+  };
+  for (const auto& f : {Fila{32767, 1, nullptr}, Fila{32768, 1, "Alt3"}, Fila{1, 32767, nullptr},
+                        Fila{1, 32768, "Prs3"}, Fila{217, 151, nullptr}, Fila{182, 181, "Alt3"},
+                        Fila{181, 182, "Prs3"}}) {
+    Rango r;
+    r.Hr0 = 1, r.Hr0Delta = 0.1, r.Hr0Final = 1 + 0.1 * (f.alturas - 1);
+    r.PrimeraDP = 1, r.IncDP = 0.3, r.UltimaDP = 1 + 0.3 * (f.presiones - 1);
+    EXPECT_EQ(CuentaDe(r).Casos(), f.alturas * f.presiones);
+    std::string dato;
+    try {
+      ExigeRango(r);
+    } catch (const ErrorEjecucion& error) {
+      EXPECT_EQ(error.causa(), CausaError::DemasiadosCasos);
+      dato = error.dato();
+    }
+    EXPECT_EQ(dato, f.dato == nullptr ? "" : f.dato);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "listados/calculadoras/mdHojasCalculadora.h"
 #include "listados/calculadoras/mdMediosPapel.h"
 #include "listados/calculadoras/textoDorado.h"
 
@@ -30,6 +31,21 @@ TEST(ListadoMedios, PantallaYPapel) {
   EXPECT_EQ(std::count_if(textos.begin(), textos.end(),
                           [](const TextoHoja& x) { return x.negrita && x.texto != " "; }),
             2);
+}
+
+// More lines than a sheet has: each foot tells which of how many, and whose program made it.
+TEST(HojasCalculadora, CadaHojaTieneSuPie) {
+  struct Hojas : DestinoHojas {
+    void RecibeHoja(const Hoja& hoja) override { pies.push_back(hoja.textos.back().texto); }
+    std::vector<std::string> pies;
+  } hojas;
+  EscribeCalculadora(hojas, "ANÁLISIS", {"21/11/2026", ""}, Textos(), [](Papel& papel) {
+    for (int i = 0; i < 100; ++i) papel.Linea(0, "x");
+  });
+  ASSERT_EQ(hojas.pies.size(), 2u);
+  for (const auto& pie : hojas.pies) EXPECT_NE(pie.find(" ANÁLISIS  "), std::string::npos);
+  EXPECT_TRUE(hojas.pies[0].ends_with("ZORBIN " ZORBIN_VERSION " · 21/11/2026 · Página 1 de 2"));
+  EXPECT_TRUE(hojas.pies[1].ends_with("Página 2 de 2"));
 }
 
 TEST(ListadoMedios, SinFactoresNoHayTitulosPeroSiMedidas) {

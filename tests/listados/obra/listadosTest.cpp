@@ -94,18 +94,20 @@ TEST(ListadoTabular, FilasAlturasYAjustes) {
 }
 
 // A page takes 43 lines after its head (49 less 6): 9 of the Tramo, 4 of its data and 6 of the
-// table's head on the first one, 6 on the others, and the row that would leave none goes over. 16
-// heights of 3 pressures, two blank lines after each height.
+// table's head on the first one, all but the data on the others, and the row that would leave none
+// goes over. 16 heights of 3 pressures, two blank lines after each height.
 TEST(ListadoTabular, SaltaDePaginaConSusCabezas) {
   auto e = Tramo(1, 2);
   e.tramo.Hr0Final = 3.5, e.tramo.Hr0Delta = 0.1;
   e.obra.NombreObra = "Obra";
   const auto mks = EnMks(e);
   int filas = 0;
+  int cabezas = 0;  // rows of the Tramo
   std::vector<int> porPagina{0};
   for (const auto& l : Lineas(ListadoDe({mks}, "tabular", 1, '.'))) {
     if (l.starts_with('\f') && l.size() > 1) porPagina.push_back(0);
     if (l.find("******") != std::string::npos) filas = 0;
+    if (l.find("Zanja, relleno sin compactar") != std::string::npos) ++cabezas;
     if (l.ends_with("MDP + TIERRAS")) {
       ++porPagina.back();
       if (filas++ == 0 && porPagina.size() == 1) {
@@ -113,8 +115,9 @@ TEST(ListadoTabular, SaltaDePaginaConSusCabezas) {
       }
     }
   }
-  // 24 lines of rows and gaps fit on the first page, 37 on the next: by groups of 5.
-  EXPECT_EQ(porPagina, (std::vector<int>{15, 23, 10}));
+  // 24 lines of rows and gaps fit on the first page, 28 on the next: by groups of 5.
+  EXPECT_EQ(porPagina, (std::vector<int>{15, 18, 15}));
+  EXPECT_EQ(cabezas, 3);
 }
 
 TEST(ListadoPantalla, CasosEnSusPaginas) {
@@ -237,6 +240,31 @@ TEST(Listados, LoQueNoEsUnDisenoComoLosDemasSeDiceEnTodas) {
       EXPECT_NE(texto.find(clase == "tabular" ? f.marca : f.veredicto), std::string::npos) << texto;
       EXPECT_NE(texto.find(f.dice), std::string::npos) << clase << f.dice << texto;
       EXPECT_EQ(texto.find(f.calla), std::string::npos) << clase << f.calla << texto;
+    }
+  }
+}
+
+// The steps of the heights miss the last one: head and summary tell which has no Caso.
+TEST(Listados, LaAlturaFinalQueNoSeCalculaSeDice) {
+  for (const int posicion : {1, 7}) {
+    auto e = UnaPresion(Tramo(posicion, 2));
+    e.tramo.Hr0Delta = 1;
+    for (const bool falta : {true, false}) {
+      e.tramo.Hr0Final = falta ? 3.5 : 3.0;
+      const std::vector<ResultadoTramo> resultados{pruebas::ResultadoDe(e)};
+      const std::vector<std::string> numeros{"1"};
+      const Catalogo textos = Catalogo::Lee(CarpetaRecursos() / "textos");
+      std::ostringstream flujo;
+      Pantalla pantalla(flujo);
+      Resumen(pantalla, textos, {true, ','}).Veredictos(resultados, numeros);
+      for (const std::string clase : {"normal", "tabular", "pantalla", "lame", "resumen"}) {
+        const auto texto = clase == "resumen" ? flujo.str() : ListadoDe({e}, clase);
+        const std::string detras = clase == "tabular" ? "  " : "\n";  // another datum beside it
+        const bool seDice =
+            texto.find("** Altura final") != std::string::npos &&
+            texto.find(": 3,50 m sin calcular; última: 3,00 m" + detras) != std::string::npos;
+        EXPECT_EQ(seDice, falta) << clase << texto;
+      }
     }
   }
 }

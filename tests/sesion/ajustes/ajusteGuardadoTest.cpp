@@ -180,7 +180,7 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
     std::string texto;
   };
   for (const auto& [tipo, texto] :
-       {EnPapel{TipoListado::Tabular, "21,3      4,4    25,7             19,7         45,4"},
+       {EnPapel{TipoListado::Tabular, "21,3      4,4    25,7        19,7         45,4"},
         {TipoListado::Normal, "25,7 cm2/m"},
         {TipoListado::Normal, "45,4 cm2/m"},
         {TipoListado::Pantalla, "45,40"}}) {
