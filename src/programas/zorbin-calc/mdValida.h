@@ -27,7 +27,7 @@ int Valida(const OpcionesValida& opciones, Catalogo& textos);
 ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& tablas,
                         const PeticionValida& peticion, const Catalogo& textos);
 
-/// A fault, a question with its answer, and a notice, in one line.
+/// A fault, and a notice, in one line.
 std::string TextoFalta(const FaltaDeObra& falta, const Catalogo& textos);
 std::string TextoAviso(const AvisoDeObra& aviso, const Catalogo& textos);
 
