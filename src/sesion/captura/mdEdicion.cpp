@@ -64,7 +64,9 @@ SalidaCampo Sale(Captura& c, Ed campo) {
   if (control.bloqueado || !control.habilitado) return SalidaCampo::Pasa;
   // A refusal that was left stands until the text is another.
   if (!control.falta.empty() && !control.tocado) return SalidaCampo::Queda;
-  c.faltas.clear();
+  std::erase_if(c.faltas, [&](const Falta& f) {
+    return f.campo == campo && (f.tramo == 0 || f.tramo == c.enMano);
+  });
   const EnUnPaso paso(c, NombrePaso(c, campo));
   std::string tecleado = control.texto;
   EstadoCalculo antes = c.e;

@@ -13,9 +13,9 @@
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
-#include "sesion/captura/mdListaTramos.h"
-#include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdComprueba.h"
 #include "shell/captura/mdAvisosPagina.h"
+#include "shell/captura/mdFaltasPagina.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
@@ -71,6 +71,7 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
         {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
   }
   filas->addWidget(TabPrincipal_, 1);
+  filas->addWidget(CreaFaltas());
   filas->addWidget(CreaAvisos());
   filas->addWidget(CreaBotones());
   for (auto* campo : campos_) Enlaza(*campo);
@@ -95,8 +96,6 @@ void CapturaDatos::CreaCampos() {
 void CapturaDatos::CreaPaginas() {
   paginas_ = new PaginasCaptura(campos_, this);
   connect(paginas_, &PaginasCaptura::figuraPedida, this, &CapturaDatos::figuraPedida);
-  connect(paginas_, &PaginasCaptura::tramoElegido, this,
-          [this](const QString& numero) { Hace([this, &numero] { TomaTramo(c_, S(numero)); }); });
 }
 
 QWidget* CapturaDatos::CreaCabecera() {
@@ -116,9 +115,7 @@ QWidget* CapturaDatos::CreaCabecera() {
   cierre_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
   fila->addWidget(titulo_, 1);
   fila->addWidget(cierre_);
-  connect(cierre_, &QToolButton::clicked, this, [this] {
-    if (CierraFormulario(c_)) emit pedida(Orden::mnCerrarObra);
-  });
+  connect(cierre_, &QToolButton::clicked, this, [this] { emit pedida(Orden::mnCerrarObra); });
   rotulados_.push_back({[this](const QString& t) {
                           cierre_->setToolTip(t);
                           cierre_->setAccessibleName(t);
@@ -140,30 +137,34 @@ void CapturaDatos::CreaBoton(QWidget& barra, Orden orden, int texto) {
 QWidget* CapturaDatos::CreaAvisos() {
   avisos_ = new AvisosPagina(this);
   connect(avisos_, &AvisosPagina::remedioPedido, this,
-          [this](const AvisoDeCampo& aviso) { Hace([&] { TomaIncremento(c_, aviso); }); });
+          [this](const AvisoDeCampo& aviso) { Hace([&] { TomaRemedio(c_, aviso); }); });
   return avisos_;
+}
+
+QWidget* CapturaDatos::CreaFaltas() {
+  faltas_ = new FaltasPagina(this);
+  connect(faltas_, &FaltasPagina::faltaPedida, this,
+          [this](const Falta& falta) { Hace([&] { LlevaALaFalta(c_, falta); }); });
+  return faltas_;
 }
 
 QWidget* CapturaDatos::CreaBotones() {
   auto* pie = new QWidget(this);
   auto* fila = new QHBoxLayout(pie);
   fila->setContentsMargins(0, 0, 0, 0);
-  falta_ = new QLabel(pie);
-  falta_->setObjectName(QStringLiteral("lbFalta"));
-  falta_->setTextFormat(Qt::PlainText);
-  falta_->setWordWrap(true);
-  fila->addWidget(falta_, 1);
+  fila->addStretch(1);
   for (auto** barra : {&barraObra_, &barraTramo_}) {
     *barra = new QWidget(pie);
     auto* botones = new QHBoxLayout(*barra);
     botones->setContentsMargins(0, 0, 0, 0);
     fila->addWidget(*barra);
   }
-  CreaBoton(*barraObra_, Orden::btGrabaObra, txt::BtGrabarObra);
+  CreaBoton(*barraObra_, Orden::btGrabaObra, txt::BtGrabar);
+  CreaBoton(*barraObra_, Orden::btNuevoTramo, txt::BtNuevoTramo);
   CreaBoton(*barraObra_, Orden::btImprimir, txt::BtImprimir);
   CreaBoton(*barraObra_, Orden::btCerrarObra, txt::BtCerrarObra);
   CreaBoton(*barraTramo_, Orden::btNuevoTramo, txt::BtNuevoTramo);
-  CreaBoton(*barraTramo_, Orden::btGrabar, txt::BtGrabar);
+  CreaBoton(*barraTramo_, Orden::btGrabaObra, txt::BtGrabar);
   CreaBoton(*barraTramo_, Orden::btCancelar, txt::BotonCancelar);
   CreaBoton(*barraTramo_, Orden::btCalcular, txt::BtCalcular);
   CreaBoton(*barraTramo_, Orden::btAjustar, txt::BtAjustar);
@@ -213,11 +214,11 @@ void CapturaDatos::EnlazaPestanas() {
     });
   };
   pide(*TabPrincipal_, [this](int pagina) {
-    if (!CambiaPagina(c_, pagina) || pagina == 2) return;
-    const bool bloqueado = c_[Ed::edTramo].bloqueado;
-    c_.pantalla.foco = pagina == 0 ? Ed::edObra : bloqueado ? Ed::edDescriTramo : Ed::edTramo;
+    CambiaPagina(c_, pagina);
+    c_.pantalla.foco = pagina == 0   ? Ed::edObra
+                       : pagina == 1 ? Ed::edDescriTramo
+                                     : Ed::rdTipoColocacion;
   });
-  pide(paginas_->TabTipologia(), [this](int pagina) { EligePaginaTipologia(c_, pagina); });
   pide(paginas_->TabPostesados(), [this](int pagina) { CambiaPaginaPostesados(c_, pagina); });
   pide(paginas_->TabDatosColocacion(), [this](int pagina) { CambiaPaginaColocacion(c_, pagina); });
 }
@@ -269,16 +270,8 @@ QWidget* CapturaDatos::Sale(QWidget* widget) {
   if (par == porWidget_.end()) return nullptr;
   const Ed campo = *par;
   c_.pantalla.foco = campo;
-  const SalidaCampo salida = zorbin::Sale(c_, campo);
+  zorbin::Sale(c_, campo);
   TrasAccion();
-  if (salida == SalidaCampo::Queda) {
-    campos_[static_cast<std::size_t>(campo)]->SeleccionaTodo();
-    return widget;
-  }
-  // A rule may lead to another field, although this one may be left.
-  if (c_.pantalla.foco != campo) {
-    return &campos_[static_cast<std::size_t>(c_.pantalla.foco)]->widget();
-  }
   return nullptr;
 }
 
@@ -312,9 +305,7 @@ void CapturaDatos::TrasAccion() {
 
 MarcaCampo CapturaDatos::MarcaDe(Ed campo) const {
   const auto& control = c_[campo];
-  if (c_.falta && c_.falta->campo == campo && !c_.falta->mensaje.empty()) {
-    return MarcaCampo::Rechazado;
-  }
+  if (!control.falta.empty()) return MarcaCampo::Rechazado;
   if (EsCopia(campo)) return MarcaCampo::Ninguna;
   if (control.bloqueado) return MarcaCampo::Bloqueado;
   const auto& fila = Fila(campo);
@@ -323,14 +314,14 @@ MarcaCampo CapturaDatos::MarcaDe(Ed campo) const {
   return falta ? MarcaCampo::Requerido : MarcaCampo::Ninguna;
 }
 
-QString CapturaDatos::PorqueDe(MarcaCampo marca) const {
+QString CapturaDatos::PorqueDe(MarcaCampo marca, Ed campo) const {
   switch (marca) {
     case MarcaCampo::Requerido:
       return Q(c_.textos.Texto(txt::CampoRequerido));
     case MarcaCampo::Bloqueado:
       return Q(c_.textos.Texto(txt::CampoBloqueado));
     case MarcaCampo::Rechazado:
-      return Q(c_.falta->mensaje);
+      return Q(c_[campo].falta);
     case MarcaCampo::Ninguna:
       break;
   }
@@ -343,7 +334,7 @@ void CapturaDatos::Refresca() {
   const auto& p = c_.pantalla;
   for (auto* campo : campos_) {
     const auto marca = MarcaDe(campo->id());
-    campo->Refresca(c_[campo->id()], marca, PorqueDe(marca));
+    campo->Refresca(c_[campo->id()], marca, PorqueDe(marca, campo->id()));
   }
   paginas_->Refresca(c_);
   for (const auto& boton : botones_) {
@@ -352,10 +343,7 @@ void CapturaDatos::Refresca() {
   }
   avisos_->Refresca(c_);
   titulo_->setText(Rotulo(p.titulo));
-  const auto& falta = c_.falta;
-  falta_->setText(falta
-                      ? Rotulo((falta->titulo.empty() ? "" : falta->titulo + ": ") + falta->mensaje)
-                      : QString());
+  faltas_->Refresca(c_);
   TabPrincipal_->Pon(p.pagina.TabPrincipal);
   barraObra_->setVisible(p.pagina.TabPrincipal == 0);
   barraTramo_->setVisible(p.pagina.TabPrincipal != 0);
@@ -386,7 +374,7 @@ void CapturaDatos::changeEvent(QEvent* suceso) {
   QWidget::changeEvent(suceso);
   if (suceso->type() != QEvent::PaletteChange || campos_.back() == nullptr) return;
   for (auto* campo : campos_) campo->RenuevaTema();
-  if (TabPrincipal_ != nullptr && falta_ != nullptr) Refresca();
+  if (TabPrincipal_ != nullptr && faltas_ != nullptr) Refresca();
 }
 
 }  // namespace zorbin

@@ -21,6 +21,7 @@ class QToolButton;
 namespace zorbin {
 
 class AvisosPagina;
+class FaltasPagina;
 class Pestanas;
 
 class CapturaDatos : public QWidget {
@@ -35,9 +36,6 @@ class CapturaDatos : public QWidget {
 
   /// Every text that is not the model's, in the language in force; and the screen.
   void RenuevaTextos();
-
-  /// The list of the stored Tramos, read anew.
-  void RenuevaTramos() { paginas_->RenuevaTramos(c_); }
 
   /// Runs an action on the capture and shows what it left, the focus where the model has it. The
   /// field in hand is left first, and where it refuses nothing is done, unless the action
@@ -79,7 +77,7 @@ class CapturaDatos : public QWidget {
   QLabel* titulo_ = nullptr;
   QToolButton* cierre_ = nullptr;
   AvisosPagina* avisos_ = nullptr;
-  QLabel* falta_ = nullptr;  // why the last field was refused
+  FaltasPagina* faltas_ = nullptr;
   Pestanas* TabPrincipal_ = nullptr;
   QWidget* barraObra_ = nullptr;
   QWidget* barraTramo_ = nullptr;
@@ -87,6 +85,7 @@ class CapturaDatos : public QWidget {
   void CreaCampos();
   void CreaPaginas();
   QWidget* CreaCabecera();
+  QWidget* CreaFaltas();
   QWidget* CreaAvisos();
   QWidget* CreaBotones();
   void CreaBoton(QWidget& barra, Orden orden, int texto);
@@ -101,7 +100,7 @@ class CapturaDatos : public QWidget {
   QWidget* Destino(Ed campo) const;
   void TrasAccion();
   MarcaCampo MarcaDe(Ed campo) const;
-  QString PorqueDe(MarcaCampo marca) const;
+  QString PorqueDe(MarcaCampo marca, Ed campo) const;
 };
 
 }  // namespace zorbin

@@ -1,6 +1,5 @@
 #include "shell/captura/mdAvisosPagina.h"
 
-#include "base/mdNumeros.h"
 #include "base/textos.h"
 #include "shell/piezas/mdQt.h"
 
@@ -11,12 +10,11 @@ namespace {
 constexpr int kMargen = 6;  // [px]
 
 // Its remedy, where it has one, is a link that says which notice it belongs to.
-QString Renglon(const Captura& c, const AvisoDeCampo& aviso, std::size_t lugar) {
+QString Renglon(const AvisoDeCampo& aviso, std::size_t lugar) {
   const QString texto = QStringLiteral("⚠ ") + Q(aviso.texto).toHtmlEscaped();
-  if (!(aviso.incremento > 0)) return texto;
-  const std::string metros = TextoDecimal(aviso.incremento, 2, c.SeparadorDecimal);
-  const QString remedio = Q(c.textos.Compone(txt::TomaElIncremento, {metros})).toHtmlEscaped();
-  return texto + QStringLiteral(" <a href=\"%1\">%2</a>").arg(lugar).arg(remedio);
+  if (aviso.remedio.empty()) return texto;
+  return texto + QStringLiteral(" <a href=\"%1\">%2</a>").arg(lugar).arg(
+                     Q(aviso.boton).toHtmlEscaped());
 }
 
 }  // namespace
@@ -39,7 +37,7 @@ AvisosPagina::AvisosPagina(QWidget* padre) : QLabel(padre) {
 void AvisosPagina::Refresca(const Captura& c) {
   avisos_ = AvisosDelante(c.pantalla);
   QStringList renglones;
-  for (std::size_t i = 0; i < avisos_.size(); ++i) renglones += Renglon(c, avisos_[i], i);
+  for (std::size_t i = 0; i < avisos_.size(); ++i) renglones += Renglon(avisos_[i], i);
   setText(renglones.join(QStringLiteral("<br>")));
   setVisible(!renglones.isEmpty());
 }

@@ -158,7 +158,7 @@ void CampoPantalla::CreaOpciones(QWidget* padre) {
   auto* marco = new QGroupBox(padre);
   widget_ = marco;
   botones_ = new QButtonGroup(this);
-  marco->setLayout(id_ == Ed::rdTipoColocacion || id_ == Ed::rdTipoCamisa
+  marco->setLayout(id_ == Ed::rdTipoColocacion || id_ == Ed::rdTipoCamisa || id_ == Ed::rdTipologia
                        ? static_cast<QLayout*>(new QHBoxLayout)
                        : static_cast<QLayout*>(new QVBoxLayout));
   connect(botones_, &QButtonGroup::idClicked, this, &CampoPantalla::opcionElegida);

@@ -38,11 +38,24 @@ bool InterlocutorQt::Pregunta(const std::string& texto, const std::string& titul
   return zorbin::Pregunta(Delante(padre_), textos_, Q(texto), Q(titulo));
 }
 
-std::optional<std::string> InterlocutorQt::PideFichero(const std::string& titulo) {
+Respuesta InterlocutorQt::PreguntaGrabar(const std::string& texto) {
+  switch (zorbin::PreguntaGrabar(Delante(padre_), textos_, Q(texto))) {
+    case 0:
+      return Respuesta::Grabar;
+    case 1:
+      return Respuesta::Descartar;
+    default:
+      return Respuesta::Cancelar;
+  }
+}
+
+std::optional<std::string> InterlocutorQt::PideFichero(const std::string& titulo,
+                                                       const std::string& actual) {
   QFileDialog dialogo(Delante(padre_), Q(titulo), preferencias_.UltimaCarpeta(),
                       FiltrosObra(textos_));
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix(QStringLiteral("zrb"));
+  if (!actual.empty()) dialogo.selectFile(QFile::decodeName(actual.c_str()));
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
   const QString ruta = dialogo.selectedFiles().constFirst();
   preferencias_.PonUltimaCarpeta(QFileInfo(ruta).absolutePath());

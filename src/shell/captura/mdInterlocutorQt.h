@@ -26,7 +26,9 @@ class InterlocutorQt : public Interlocutor {
   void Muestra(const std::string& texto, const std::string& titulo) override;
   void Anuncia(const std::string& texto) override;
   bool Pregunta(const std::string& texto, const std::string& titulo) override;
-  std::optional<std::string> PideFichero(const std::string& titulo) override;
+  Respuesta PreguntaGrabar(const std::string& texto) override;
+  std::optional<std::string> PideFichero(const std::string& titulo,
+                                         const std::string& actual) override;
   // The screen follows the model after every action.
   void VaA(Ed) override {}
 

@@ -4,16 +4,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
-#include "sesion/captura/mdListaTramos.h"
 #include "shell/captura/frFiguras.h"
 #include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdQt.h"
@@ -50,26 +47,12 @@ PaginasCaptura::PaginasCaptura(const Campos& campos, QObject* padre)
 
 void PaginasCaptura::RenuevaTextos(const Captura& c) {
   for (const auto& rotulado : rotulados_) rotulado.pon(Q(c.textos.Texto(rotulado.texto)));
-  RenuevaTramos(c);
-}
-
-void PaginasCaptura::RenuevaTramos(const Captura& c) {
-  tramos_->clear();
-  for (const auto& r : RenglonesTramos(c)) {
-    auto* renglon = new QTreeWidgetItem(
-        tramos_, {Q(r.numero), Q(r.descripcion), Q(r.tipologia), Q(r.Di), Q(r.colocacion)});
-    renglon->setTextAlignment(0, Qt::AlignRight | Qt::AlignVCenter);
-    renglon->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
-  }
-  for (int i = 0; i < tramos_->columnCount(); ++i) tramos_->resizeColumnToContents(i);
 }
 
 void PaginasCaptura::Refresca(const Captura& c) {
   const auto& p = c.pantalla;
   for (const auto& cabecera : cabeceras_) cabecera.rotulo->setText(Q(c[cabecera.campo].grupo));
   alturas_->setTitle(Q(c[Ed::edAlt1].grupo));
-  avCargas1_->setText(Q(p.avCargas1));
-  avCargas1_->setVisible(!p.avCargas1.empty());
   TabTipologia_->Pon(p.pagina.TabTipologia);
   TabPostesados_->Pon(p.pagina.TabPostesados);
   TabDatosColocacion_->Pon(p.pagina.TabDatosColocacion);
@@ -162,40 +145,12 @@ Figura* PaginasCaptura::CreaFigura(int minimo) {
 // ---------------------------------------------------------------------------------------------
 // Page of the Obra
 
-QWidget* PaginasCaptura::CreaTramos() {
-  auto* grupo = CreaGrupo(txt::MenuTramos);
-  auto* filas = new QVBoxLayout(grupo);
-  tramos_ = new QTreeWidget;
-  tramos_->setObjectName(QStringLiteral("Tramos"));
-  tramos_->setRootIsDecorated(false);
-  tramos_->setAlternatingRowColors(true);
-  tramos_->setUniformRowHeights(true);
-  tramos_->setColumnCount(5);
-  tramos_->setMinimumHeight(90);
-  tramos_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-  tramos_->header()->setStretchLastSection(true);
-  rotulados_.push_back({[this](const QString& t) { tramos_->setToolTip(t); }, txt::ElegirTramo});
-  rotulados_.push_back(
-      {[this](const QString& t) { tramos_->setAccessibleName(t); }, txt::MenuTramos});
-  int columna = 0;
-  for (const int texto :
-       {txt::RotTramo, txt::RotDescriTramo, txt::ColTipologia, txt::EtDi, txt::ColColocacion}) {
-    rotulados_.push_back(
-        {[this, columna](const QString& t) { tramos_->headerItem()->setText(columna, t); }, texto});
-    ++columna;
-  }
-  connect(tramos_, &QTreeWidget::itemActivated, this,
-          [this](QTreeWidgetItem* renglon, int) { emit tramoElegido(renglon->text(0)); });
-  filas->addWidget(tramos_);
-  return grupo;
-}
-
 QWidget* PaginasCaptura::CreaPaginaObra() {
   auto* pagina = new QWidget;
   auto* todo = new QVBoxLayout(pagina);
   auto* columnas = new QHBoxLayout;
   todo->addLayout(columnas);
-  todo->addWidget(CreaTramos(), 1);
+  todo->addStretch(1);
   auto* izquierda = new QVBoxLayout;
   auto* datos = CreaGrupo(0);
   auto* rejilla = new QGridLayout(datos);
@@ -229,7 +184,7 @@ QWidget* PaginasCaptura::CreaPaginaArmado() {
   auto* filas = new QVBoxLayout(pagina);
   auto* limite = CreaGrupo(txt::RotIcontes0);
   auto* rejilla = new QGridLayout(limite);
-  PonFilas(*rejilla, {Ed::edIcontes0, Ed::edAdato});
+  PonFilas(*rejilla, {Ed::edIcontes0, Ed::edAdato, Ed::edEnvolvente});
   filas->addWidget(limite);
   filas->addWidget(CreaFormulario({Ed::edTipoControl, Ed::edTipoCamisa, Ed::edCamMax, Ed::edFck,
                                    Ed::edFct, Ed::edFyk, Ed::edFyd, Ed::edGamaB}));
@@ -270,6 +225,8 @@ QWidget* PaginasCaptura::CreaPaginaTramo() {
   auto* cabeza = new QGridLayout;
   PonFilas(*cabeza, {Ed::edTramo, Ed::edDescriTramo});
   izquierda->addLayout(cabeza);
+  campo(Ed::rdTipologia).etiqueta().hide();
+  izquierda->addWidget(&Coloca(Ed::rdTipologia));
   izquierda->addWidget(CreaPresiones(Ed::edPrsM1Tram, Ed::edPrs1Tram, Ed::edPrsM2Tram,
                                      Ed::edPrs2Tram, Ed::edPrs3Tram));
   ptPostesado_ = CreaFigura(kFiguraMedia);
@@ -279,11 +236,7 @@ QWidget* PaginasCaptura::CreaPaginaTramo() {
   TabTipologia_->setObjectName(QStringLiteral("TabTipologia"));
   TabTipologia_->Anade(CreaPaginaArmado());
   TabTipologia_->Anade(CreaPaginaPostesado());
-  int n = 0;
-  for (const int texto : {txt::PagArmado, txt::PagPostesado}) {
-    rotulados_.push_back({[this, n](const QString& t) { TabTipologia_->PonTexto(n, t); }, texto});
-    ++n;
-  }
+  TabTipologia_->barra().hide();  // the typology is chosen, and its data follow
   columnas->addLayout(izquierda, 2);
   columnas->addWidget(TabTipologia_, 3);
   return EnPagina(pagina);
@@ -324,12 +277,6 @@ QWidget* PaginasCaptura::CreaPaginaCargas() {
   auto* pagina = new QWidget;
   auto* filas = new QVBoxLayout(pagina);
   filas->addWidget(CreaFormulario({Ed::edQDato0, Ed::edICar0}));
-  avCargas1_ = new QLabel;
-  avCargas1_->setObjectName(QStringLiteral("avCargas1"));
-  avCargas1_->setWordWrap(true);
-  avCargas1_->setFrameStyle(QFrame::Box | QFrame::Plain);
-  avCargas1_->setMargin(6);
-  filas->addWidget(avCargas1_);
   filas->addStretch(1);
   return EnPagina(pagina);
 }

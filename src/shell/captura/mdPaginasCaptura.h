@@ -12,7 +12,6 @@
 class QGridLayout;
 class QGroupBox;
 class QLabel;
-class QTreeWidget;
 
 namespace zorbin {
 
@@ -43,15 +42,12 @@ class PaginasCaptura : public QObject {
   /// The fields in the order of the work: MDP before DP, and the rows of a table one by one.
   const std::vector<Ed>& orden() const { return orden_; }
 
-  /// Captions and tips, in the language in force; and the list of Tramos.
+  /// Captions and tips, in the language in force.
   void RenuevaTextos(const Captura& c);
-  /// The list of the stored Tramos, read anew.
-  void RenuevaTramos(const Captura& c);
   /// Whatever of the pages is no field, as the model says.
   void Refresca(const Captura& c);
 
  signals:
-  void tramoElegido(const QString& numero);
   /// A picture is to be seen large.
   void figuraPedida(const QString& fichero, const QString& titulo);
 
@@ -69,20 +65,17 @@ class PaginasCaptura : public QObject {
   QWidget* obra_ = nullptr;
   QWidget* tramo_ = nullptr;
   QWidget* colocacion_ = nullptr;
-  QLabel* avCargas1_ = nullptr;
   Pestanas* TabTipologia_ = nullptr;
   Pestanas* TabPostesados_ = nullptr;
   Pestanas* TabDatosColocacion_ = nullptr;
   Figura* ptPostesado_ = nullptr;
   Figura* ptPostesado2_ = nullptr;
   Figura* ptColocacion_ = nullptr;
-  QTreeWidget* tramos_ = nullptr;
   QGroupBox* alturas_ = nullptr;
 
   CampoPantalla& campo(Ed id) const { return *campos_[static_cast<std::size_t>(id)]; }
   QWidget& Coloca(Ed id);
   QWidget* CreaPaginaObra();
-  QWidget* CreaTramos();
   QWidget* CreaPaginaTramo();
   QWidget* CreaPaginaColocacion();
   QWidget* CreaPaginaArmado();

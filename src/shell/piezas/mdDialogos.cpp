@@ -45,10 +45,25 @@ bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, cons
   caja.setIcon(QMessageBox::Question);
   auto* si = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaSi)), QMessageBox::YesRole);
   auto* no = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaNo)), QMessageBox::NoRole);
-  caja.setDefaultButton(si);
+  caja.setDefaultButton(no);
   caja.setEscapeButton(no);
   caja.exec();
   return caja.clickedButton() == si;
+}
+
+int PreguntaGrabar(QWidget* padre, const Catalogo& textos, const QString& texto) {
+  QMessageBox caja(padre);
+  Prepara(caja, texto, {});
+  caja.setIcon(QMessageBox::Warning);
+  auto* graba = caja.addButton('&' + Rotulo(textos.Texto(txt::BtGrabar)), QMessageBox::AcceptRole);
+  auto* descarta =
+      caja.addButton('&' + Rotulo(textos.Texto(txt::BtDescartar)), QMessageBox::DestructiveRole);
+  auto* cancela =
+      caja.addButton('&' + Rotulo(textos.Texto(txt::BotonCancelar)), QMessageBox::RejectRole);
+  caja.setDefaultButton(graba);
+  caja.setEscapeButton(cancela);
+  caja.exec();
+  return caja.clickedButton() == graba ? 0 : caja.clickedButton() == descarta ? 1 : 2;
 }
 
 }  // namespace zorbin

@@ -17,9 +17,13 @@ inline constexpr char kTituloAplicacion[] = "ZORBIN";
 void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto,
            const QString& titulo = {});
 
-/// A question with Yes and No; Escape answers No. @return whether the answer was Yes
+/// A question with Yes and No; Escape answers No, and so does Enter. @return whether the answer was Yes
 bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto,
               const QString& titulo = {});
+
+/// What to do with unsaved changes: Save, the default, Discard and Cancel, which Escape answers.
+/// @return 0, 1 or 2
+int PreguntaGrabar(QWidget* padre, const Catalogo& textos, const QString& texto);
 
 /// What is said of a failure that nobody foresaw.
 /// @param error  null for one without words

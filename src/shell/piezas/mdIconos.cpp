@@ -114,6 +114,17 @@ void Triangulo(QPainter& p) {
   p.drawPoint(QPointF(12, 17));
 }
 
+// An arrow that turns back; `sentido` is 1 to the left, -1 to the right.
+void Vuelta(QPainter& p, int sentido) {
+  const auto x = [sentido](double a) { return 12 + sentido * (a - 12); };
+  QPainterPath camino(QPointF(x(5), 9));
+  camino.lineTo(x(14), 9);
+  camino.cubicTo(x(22), 9, x(22), 19, x(14), 19);
+  camino.lineTo(x(8), 19);
+  p.drawPath(camino);
+  p.drawPolyline(QPolygonF{{x(9), 5}, {x(5), 9}, {x(9), 13}});
+}
+
 void Dibuja(QPainter& p, Icono icono) {
   switch (icono) {
     case Icono::Nueva:
@@ -128,15 +139,14 @@ void Dibuja(QPainter& p, Icono icono) {
     case Icono::NuevoTramo:
       Anillo(p);
       return Mas(p, {12, 12});
-    case Icono::GrabarTramo:
-      Anillo(p);
-      p.drawLine(QPointF(12, 8), QPointF(12, 15));
-      p.drawPolyline(QPolygonF{{9, 12.5}, {12, 15.5}, {15, 12.5}});
+    case Icono::Duplicar:
+      p.drawEllipse(QPointF(9, 9), 6, 6);
+      p.drawEllipse(QPointF(15, 15), 6, 6);
       return;
-    case Icono::Cancelar:
-      p.drawArc(QRectF(5, 5, 14, 14), 50 * 16, 280 * 16);
-      p.drawPolyline(QPolygonF{{13, 3}, {17, 6.5}, {13, 10}});
-      return;
+    case Icono::Deshacer:
+      return Vuelta(p, 1);
+    case Icono::Rehacer:
+      return Vuelta(p, -1);
     case Icono::Calcular:
       return Calculadora(p);
     case Icono::Ajustar:

@@ -1,11 +1,14 @@
 #include "shell/principal/FormaPrincipal.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -17,16 +20,19 @@
 #include <QToolBar>
 
 #include "base/textos.h"
-#include "sesion/captura/mdAjustesTramo.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdPaginas.h"
+#include "sesion/captura/mdTramos.h"
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/frFiguras.h"
+#include "shell/captura/mdPanelTramos.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdRotuloCorto.h"
 #include "shell/principal/mdAvisoEstado.h"
+#include "shell/principal/mdHistoria.h"
 #include "shell/principal/mdPaginaInicio.h"
 
 namespace zorbin {
@@ -68,6 +74,11 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
   connect(inicio_, &PaginaInicio::nuevaPedida, this, &FormaPrincipal::Nueva);
   connect(inicio_, &PaginaInicio::abrirPedido, this, &FormaPrincipal::AbreConDialogo);
   connect(inicio_, &PaginaInicio::obraPedida, this, &FormaPrincipal::Abre);
+  historia_ = new Historia(c_, [this](const std::function<void()>& hace) {
+    captura().Hace(hace);
+    Actualiza();
+  });
+  CreaPanelTramos();
   CreaMenus();
   CreaBarra();
   CreaEstado();
@@ -129,7 +140,8 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*obras, Orden::MnNuevaObra, txt::MenuNueva, QKeySequence::New);
   NuevaAccion(*obras, Orden::MnSeleccionarImpresora, txt::MenuImpresora, {});
   NuevaAccion(*obras, Orden::MnImprimir, txt::MenuImprimir, QKeySequence::Print);
-  NuevaAccion(*obras, Orden::mnGrabaObra, txt::MenuGrabaObra, QKeySequence::Save);
+  NuevaAccion(*obras, Orden::mnGrabaObra, txt::BtGrabar, QKeySequence::Save);
+  NuevaAccion(*obras, Orden::mnGrabarComo, txt::MenuGrabarComo, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   NuevaAccion(*obras, Orden::mnCerrarObra, txt::MenuCerrar, Qt::CTRL | Qt::Key_W);
   obras->addSeparator();
   recientes_ = obras->addMenu(QString());
@@ -138,13 +150,8 @@ void FormaPrincipal::CreaMenus() {
   obras->addSeparator();
   auto* salir = NuevaAccion(*obras, Orden::mnSalir, txt::MenuSalir, Qt::CTRL | Qt::Key_Q);
   salir->setMenuRole(QAction::QuitRole);
-  auto* tramos = NuevoMenu(txt::MenuTramos);
-  acciones_[Orden::mnTramos] = tramos->menuAction();
-  NuevaAccion(*tramos, Orden::mnNuevoTramo, txt::MenuNuevoTramo, Qt::CTRL | Qt::Key_T);
-  NuevaAccion(*tramos, Orden::mnCancelar, txt::MenuCancelar, Qt::Key_Escape);
-  NuevaAccion(*tramos, Orden::mnGrabaTramo, txt::MenuGrabaTramo, Qt::CTRL | Qt::Key_G);
-  NuevaAccion(*tramos, Orden::mnCalculaTramo, txt::MenuCalcula, Qt::Key_F9);
-  NuevaAccion(*tramos, Orden::mnAjustarArmaduras, txt::MenuAjustar, {});
+  CreaMenuEdicion();
+  CreaMenuTramos();
   auto* otras = NuevoMenu(txt::MenuOtras);
   NuevaAccion(*otras, txt::MenuHidraulico, {}, [this] {
     pantallas_.hidraulico();
@@ -166,6 +173,60 @@ void FormaPrincipal::CreaMenus() {
   })->setObjectName(QStringLiteral("mnMemoria"));
 }
 
+// What was done is named in the entries.
+void FormaPrincipal::CreaMenuEdicion() {
+  auto* edicion = NuevoMenu(txt::MenuEdicion);
+  deshacer_ = NuevaAccion(*edicion, txt::MenuDeshacer, QKeySequence::Undo,
+                          [this] { historia_->Deshace(); });
+  rehacer_ = NuevaAccion(*edicion, txt::MenuRehacer, Qt::CTRL | Qt::SHIFT | Qt::Key_Z,
+                         [this] { historia_->Rehace(); });
+  deshacer_->setObjectName(QStringLiteral("mnDeshacer"));
+  rehacer_->setObjectName(QStringLiteral("mnRehacer"));
+}
+
+void FormaPrincipal::CreaMenuTramos() {
+  auto* tramos = NuevoMenu(txt::MenuTramos);
+  acciones_[Orden::mnTramos] = tramos->menuAction();
+  NuevaAccion(*tramos, Orden::mnNuevoTramo, txt::MenuNuevoTramo, Qt::CTRL | Qt::Key_T);
+  NuevaAccion(*tramos, Orden::mnDuplicaTramos, txt::MenuDuplicar, Qt::CTRL | Qt::Key_D);
+  NuevaAccion(*tramos, Orden::mnBorraTramos, txt::MenuBorrar, Qt::CTRL | Qt::Key_Delete);
+  NuevaAccion(*tramos, Orden::mnRenumeraTramo, txt::MenuRenumerar, Qt::CTRL | Qt::Key_R);
+  NuevaAccion(*tramos, Orden::mnRenumeraTodos, txt::MenuRenumerarTodos, {});
+  NuevaAccion(*tramos, Orden::mnSubeTramos, txt::MenuSubir, Qt::CTRL | Qt::Key_Up);
+  NuevaAccion(*tramos, Orden::mnBajaTramos, txt::MenuBajar, Qt::CTRL | Qt::Key_Down);
+  NuevaAccion(*tramos, Orden::mnCopiaTramos, txt::MenuCopiarTramos,
+              Qt::CTRL | Qt::SHIFT | Qt::Key_C);
+  NuevaAccion(*tramos, Orden::mnPegaTramos, txt::MenuPegarTramos,
+              Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  tramos->addSeparator();
+  NuevaAccion(*tramos, Orden::mnCancelar, txt::BotonReleer, {});
+  NuevaAccion(*tramos, Orden::mnCalculaTramo, txt::MenuCalcula, Qt::Key_F9);
+  NuevaAccion(*tramos, Orden::mnAjustarArmaduras, txt::MenuAjustar, {});
+  QList<QAction*> delPanel;
+  for (const Orden o :
+       {Orden::mnNuevoTramo, Orden::mnDuplicaTramos, Orden::mnBorraTramos, Orden::mnRenumeraTramo,
+        Orden::mnSubeTramos, Orden::mnBajaTramos, Orden::mnCopiaTramos, Orden::mnPegaTramos}) {
+    delPanel += acciones_[o];
+  }
+  panel_->PonAcciones(delPanel);
+}
+
+void FormaPrincipal::CreaPanelTramos() {
+  marcoTramos_ = new QDockWidget(this);
+  marcoTramos_->setObjectName(QStringLiteral("marcoTramos"));
+  marcoTramos_->setFeatures(QDockWidget::NoDockWidgetFeatures);
+  panel_ = new PanelTramos(c_, marcoTramos_);
+  marcoTramos_->setWidget(panel_);
+  addDockWidget(Qt::LeftDockWidgetArea, marcoTramos_);
+  marcoTramos_->hide();
+  connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
+    captura().Hace([this, id] {
+      PonEnMano(c_, id);
+      if (c_.pantalla.pagina.TabPrincipal == 0) CambiaPagina(c_, 1);
+    });
+  });
+}
+
 void FormaPrincipal::CreaBarra() {
   barra_ = addToolBar(QString());
   barra_->setObjectName(QStringLiteral("barra"));
@@ -174,8 +235,11 @@ void FormaPrincipal::CreaBarra() {
     barra_->addAction(acciones_[o]);
   }
   barra_->addSeparator();
-  for (const Orden o : {Orden::mnNuevoTramo, Orden::mnGrabaTramo, Orden::mnCancelar,
-                        Orden::mnCalculaTramo, Orden::mnAjustarArmaduras}) {
+  barra_->addAction(deshacer_);
+  barra_->addAction(rehacer_);
+  barra_->addSeparator();
+  for (const Orden o : {Orden::mnNuevoTramo, Orden::mnDuplicaTramos, Orden::mnCalculaTramo,
+                        Orden::mnAjustarArmaduras}) {
     barra_->addAction(acciones_[o]);
   }
   barra_->addSeparator();
@@ -195,8 +259,9 @@ void FormaPrincipal::DibujaIconos() {
   pon(acciones_[Orden::mnGrabaObra], Icono::Grabar);
   pon(acciones_[Orden::MnImprimir], Icono::Imprimir);
   pon(acciones_[Orden::mnNuevoTramo], Icono::NuevoTramo);
-  pon(acciones_[Orden::mnGrabaTramo], Icono::GrabarTramo);
-  pon(acciones_[Orden::mnCancelar], Icono::Cancelar);
+  pon(acciones_[Orden::mnDuplicaTramos], Icono::Duplicar);
+  pon(deshacer_, Icono::Deshacer);
+  pon(rehacer_, Icono::Rehacer);
   pon(acciones_[Orden::mnCalculaTramo], Icono::Calcular);
   pon(acciones_[Orden::mnAjustarArmaduras], Icono::Ajustar);
   pon(findChild<QAction*>(QStringLiteral("mnCalculoHidraulico")), Icono::Hidraulico);
@@ -264,6 +329,8 @@ void FormaPrincipal::AplicaIdioma() {
   }
   barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
   inicio_->Renueva();
+  marcoTramos_->setWindowTitle(Rotulo(c_.textos.Texto(txt::MenuTramos)));
+  panel_->RenuevaTextos();
   if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
   Actualiza();
 }
@@ -279,6 +346,9 @@ void FormaPrincipal::Actualiza() {
   for (const auto& [orden, accion] : acciones_) {
     accion->setEnabled(c_.pantalla.Habilitada(orden));
   }
+  ActualizaHistoria();
+  panel_->Refresca();
+  marcoTramos_->setVisible(c_.ObraCargada);
   QWidget* delante = c_.ObraCargada ? static_cast<QWidget*>(&captura()) : inicio_;
   if (centro_->currentWidget() != delante) {
     centro_->setCurrentWidget(delante);
@@ -287,6 +357,21 @@ void FormaPrincipal::Actualiza() {
   }
   ActualizaEstado();
   emit actualizada();
+}
+
+void FormaPrincipal::ActualizaHistoria() {
+  const auto pon = [this](QAction& accion, int texto, const std::optional<std::string>& nombre) {
+    accion.setEnabled(c_.ObraCargada && nombre.has_value());
+    const QString verbo = Q(c_.textos.Texto(texto));
+    accion.setText(nombre ? verbo + QStringLiteral(": ") +
+                                Q(*nombre).replace(QLatin1Char('&'), QStringLiteral("&&"))
+                          : verbo);
+    accion.setIconText(verbo);
+    accion.setToolTip(Consejo(accion.text()) + QStringLiteral(" (") +
+                      accion.shortcut().toString(QKeySequence::NativeText) + ')');
+  };
+  pon(*deshacer_, txt::MenuDeshacer, historia_->PorDeshacer());
+  pon(*rehacer_, txt::MenuRehacer, historia_->PorRehacer());
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
@@ -388,8 +473,9 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return LanzaPantalla(pantallas_.imprimeObra, true);
     case Orden::mnGrabaObra:
     case Orden::btGrabaObra:
-      captura().Hace([this] { Graba(AccionGrabaObra); });
-      return ActualizaRecientes();
+      return GrabaCon(zorbin::Graba);
+    case Orden::mnGrabarComo:
+      return GrabaCon(GrabaComo);
     case Orden::mnCerrarObra:
     case Orden::btCerrarObra:
       Cierra();
@@ -403,51 +489,122 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
       return;
     case Orden::mnCancelar:
     case Orden::btCancelar:
-      captura().Hace([this] { CancelaCaptura(c_); }, true);
+      captura().Hace([this] { Relee(c_); }, true);
       return;
-    case Orden::mnGrabaTramo:
-    case Orden::btGrabar:
-      captura().Hace([this] { Graba(AccionGrabaTramo); });
-      captura().RenuevaTramos();
-      return ActualizaRecientes();
     case Orden::mnCalculaTramo:
     case Orden::btCalcular:
       return LanzaPantalla(pantallas_.calculaTramo, true);
     case Orden::mnAjustarArmaduras:
     case Orden::btAjustar:
       return LanzaPantalla(pantallas_.ajusta, true);
+    case Orden::mnDuplicaTramos:
+    case Orden::mnBorraTramos:
+    case Orden::mnSubeTramos:
+    case Orden::mnBajaTramos:
+    case Orden::mnRenumeraTramo:
+    case Orden::mnRenumeraTodos:
+    case Orden::mnCopiaTramos:
+    case Orden::mnPegaTramos:
+      captura().Hace([this, orden] { HaceConTramos(orden); });
+      return;
     case Orden::mnTramos:
       return;
   }
 }
 
-// The language of a new Obra is that of the program from its first save on.
-void FormaPrincipal::Graba(bool (*grabacion)(Captura&)) {
-  const bool nueva = !c_.e.obra.ObraAbierta;
-  if (!grabacion(c_)) return;
-  entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
-  if (nueva) entorno_.preferencias.GrabaIdioma(c_.e.obra.Idioma);
+void FormaPrincipal::HaceConTramos(Orden orden) {
+  const auto ids = panel_->Elegidos();
+  switch (orden) {
+    case Orden::mnDuplicaTramos:
+      DuplicaTramos(c_, ids);
+      break;
+    case Orden::mnBorraTramos:
+      BorraTramos(c_, ids);
+      break;
+    case Orden::mnSubeTramos:
+      MueveTramos(c_, ids, -1);
+      break;
+    case Orden::mnBajaTramos:
+      MueveTramos(c_, ids, 1);
+      break;
+    case Orden::mnRenumeraTramo:
+      Renumera();
+      break;
+    case Orden::mnRenumeraTodos:
+      RenumeraTodos(c_);
+      break;
+    case Orden::mnCopiaTramos:
+      QApplication::clipboard()->setText(Q(CopiaTramos(c_, ids)));
+      break;
+    case Orden::mnPegaTramos:
+      Pega();
+      break;
+    default:
+      break;
+  }
+}
+
+// A number that may not be had is asked for again, with why.
+void FormaPrincipal::Renumera() {
+  const auto* t = Busca(c_.version, c_.enMano);
+  if (t == nullptr) return;
+  QString pregunta = Q(c_.textos.Compone(txt::PideNumero, {t->numero}));
+  QString numero = Q(t->numero);
+  for (bool sigue = true; sigue;) {
+    numero = QInputDialog::getText(this, QString::fromLatin1(kTituloAplicacion), pregunta,
+                                   QLineEdit::Normal, numero, &sigue);
+    if (!sigue) return;
+    const std::string porque = RenumeraTramo(c_, c_.enMano, S(numero.trimmed()));
+    if (porque.empty()) return;
+    pregunta = Q(porque);
+  }
+}
+
+void FormaPrincipal::Pega() {
+  constexpr std::size_t kDichas = 12;
+  const auto pegado = PegaTramos(c_, S(QApplication::clipboard()->text()));
+  if (pegado.faltas.empty()) return;
+  std::string texto = c_.textos.Texto(txt::NadaSePega);
+  for (std::size_t i = 0; i < pegado.faltas.size() && i < kDichas; ++i) {
+    texto += "\n" + pegado.faltas[i];
+  }
+  if (pegado.faltas.size() > kDichas) {
+    texto += "\n" + c_.textos.Compone(txt::FallosDeMas,
+                                      {std::to_string(pegado.faltas.size() - kDichas)});
+  }
+  Avisa(this, c_.textos, Q(texto));
+}
+
+void FormaPrincipal::GrabaCon(bool (*graba)(Captura&)) {
+  captura().Hace([this, graba] {
+    if (graba(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
+  });
+  ActualizaRecientes();
 }
 
 void FormaPrincipal::AbreConDialogo() {
-  if (c_.ObraCargada) return;
+  if (!DejaLaObra()) return;
   QFileDialog dialogo(this, Q(c_.textos.Texto(txt::TituloAbrir)),
                       entorno_.preferencias.UltimaCarpeta(), FiltrosObra(c_.textos));
   dialogo.setFileMode(QFileDialog::ExistingFile);
-  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) {
-    Avisa(this, c_.textos, Q(c_.textos.Texto(txt::NingunFichero)));
-    return;
-  }
+  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
   AbreFichero(dialogo.selectedFiles().constFirst());
 }
 
 bool FormaPrincipal::Abre(const QString& ruta) {
-  if (c_.ObraCargada && !Cierra()) return false;
   if (!EsDeObra(ruta)) {
     Avisa(this, c_.textos, Q(c_.textos.Compone(txt::NoEsObra, {S(ruta)})));
     return false;
   }
-  return AbreFichero(ruta);
+  return DejaLaObra() && AbreFichero(ruta);
+}
+
+// Whether what is open may give way to another Obra.
+bool FormaPrincipal::DejaLaObra() {
+  if (!c_.ObraCargada) return true;
+  bool puede = false;
+  captura().Hace([&] { puede = PuedeIrse(c_); });
+  return puede;
 }
 
 bool FormaPrincipal::AbreFichero(const QString& ruta) {
@@ -461,7 +618,8 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   } else {
     entorno_.preferencias.OlvidaObra(ruta);
   }
-  captura().RenuevaTramos();
+  historia_->Olvida();
+  panel_->OlvidaEstados();
   ActualizaRecientes();
   Actualiza();
   return abierta;
@@ -479,7 +637,6 @@ bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
     Nueva();
   }
   captura().Hace([&] { PonBorrador(c_, b); }, true);
-  captura().RenuevaTramos();
   recuperado_ = Q(c_.textos.Texto(txt::Recuperado));
   Anuncia(recuperado_);
   Actualiza();
@@ -487,28 +644,34 @@ bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
 }
 
 void FormaPrincipal::Nueva() {
-  if (c_.ObraCargada) return;
+  if (!DejaLaObra()) return;
   aviso_->Vacia();
   captura().Hace(
       [this] {
-        NuevaObra(c_);
-        captura().RenuevaTramos();
-        if (!entorno_.preferencias.NuevaEnSI()) RevisaUnidades(c_, "MKS");
+        NuevaObra(c_, c_.textos.IdiomaOffset() / kPasoIdioma + 1);
+        if (!entorno_.preferencias.NuevaEnSI()) {
+          RevisaUnidades(c_, false);
+          c_.guardada = c_.version = VersionActual(c_);
+        }
       },
       true);
+  historia_->Olvida();
+  panel_->OlvidaEstados();
   // The page was not in sight when the action ended.
   captura().Hace([] {}, true);
 }
 
 bool FormaPrincipal::Cierra() {
-  bool cerrada = false;
-  captura().Hace([&] { cerrada = CierraObra(c_); }, true);
-  if (cerrada) aviso_->Vacia();
-  return cerrada;
+  if (!DejaLaObra()) return false;
+  captura().Hace([&] { Descarta(c_); }, true);
+  historia_->Olvida();
+  aviso_->Vacia();
+  Actualiza();
+  return true;
 }
 
 void FormaPrincipal::closeEvent(QCloseEvent* suceso) {
-  if (c_.ObraCargada && !Cierra()) {
+  if (!Cierra()) {
     suceso->ignore();
     return;
   }

@@ -14,6 +14,7 @@
 #include "shell/captura/mdInterlocutorQt.h"
 #include "shell/piezas/mdEntorno.h"
 
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QSessionManager;
@@ -23,6 +24,8 @@ class QToolBar;
 namespace zorbin {
 
 class AvisoEstado;
+class Historia;
+class PanelTramos;
 class CapturaDatos;
 class PaginaInicio;
 
@@ -107,6 +110,11 @@ class FormaPrincipal : public QMainWindow {
   std::vector<Entrada> entradas_;
   std::map<Orden, QAction*> acciones_;
   AvisoEstado* aviso_ = nullptr;
+  Historia* historia_ = nullptr;
+  PanelTramos* panel_ = nullptr;
+  QDockWidget* marcoTramos_ = nullptr;
+  QAction* deshacer_ = nullptr;
+  QAction* rehacer_ = nullptr;
   QLabel* estadoUnidades_ = nullptr;
   QLabel* estadoIdioma_ = nullptr;
   QLabel* estadoObra_ = nullptr;
@@ -116,6 +124,9 @@ class FormaPrincipal : public QMainWindow {
   bool ocupada_ = false;  // an action is running: none other begins
 
   void CreaMenus();
+  void CreaMenuEdicion();
+  void CreaMenuTramos();
+  void CreaPanelTramos();
   void CreaBarra();
   void CreaEstado();
   QMenu* NuevoMenu(int texto);
@@ -127,7 +138,12 @@ class FormaPrincipal : public QMainWindow {
   void EjecutaDeVerdad(Orden orden);
   void Protege(const std::function<void()>& hace);
   void LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo);
-  void Graba(bool (*grabacion)(Captura&));
+  void GrabaCon(bool (*graba)(Captura&));
+  bool DejaLaObra();
+  void HaceConTramos(Orden orden);
+  void Renumera();
+  void Pega();
+  void ActualizaHistoria();
   bool AbreFichero(const QString& ruta);
   void Actualiza();
   void ActualizaEstado();

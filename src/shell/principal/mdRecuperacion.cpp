@@ -27,19 +27,21 @@ std::string LineaDeObra(const Catalogo& textos, const Borrador& b) {
                            : textos.Compone(txt::RecuperarObra, {b.fichero});
 }
 
-std::string LineaDeTramo(const Catalogo& textos, const Borrador& b, const Versiones& v) {
+std::string LineaDeTramo(const Catalogo& textos, const Borrador& b) {
   if (!b.ConTramo()) return textos.Texto(txt::RecuperarSinTramo);
-  const auto& descripcion = b.campos[static_cast<std::size_t>(Ed::edDescriTramo)].texto;
+  const auto lugar = static_cast<std::size_t>(b.enMano);
+  const auto& t = *b.version.tramos[lugar];
+  const bool nuevo = b.origenes[lugar].posicion == 0;
   const std::string linea =
-      textos.Compone(v.tramoEsNuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
-                     {TextoEntero(b.tramo.NumeroTramo), descripcion});
+      textos.Compone(nuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
+                     {t.numero, t.datos.DescriTramo});
   return SinDosPuntos(std::string(Recorta(linea)));
 }
 
 std::string Cabecera(const Catalogo& textos, const Borrador& b, const Versiones& v) {
   std::string texto = textos.Compone(txt::RecuperarEntrada, {b.cuando});
   if (!EsDeEsteEquipo(b.autor)) texto += " " + textos.Compone(txt::DeOtroEquipo, {b.autor.equipo});
-  texto += "\n\n" + LineaDeObra(textos, b) + "\n" + LineaDeTramo(textos, b, v);
+  texto += "\n\n" + LineaDeObra(textos, b) + "\n" + LineaDeTramo(textos, b);
   if (v.cambiado) texto += "\n\n" + textos.Texto(txt::FicheroCambiado);
   if (!v.causa.empty()) texto += "\n\n" + textos.Compone(txt::FicheroIlegible, {v.causa});
   return texto;

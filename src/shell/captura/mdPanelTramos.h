@@ -1,0 +1,53 @@
+// The list of Tramos that stands beside every page: looking for one, taking it in hand, choosing
+// several for what the menu does with them.
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "sesion/captura/mdTramos.h"
+
+class QLineEdit;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace zorbin {
+
+/// What a calculation said last of a Tramo.
+enum class EstadoTramo { SinCalcular, Cumple, NoCumple, Falla };
+
+class PanelTramos : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PanelTramos(const Captura& c, QWidget* padre = nullptr);
+
+  /// The list as the capture has it. What is chosen, and where it is scrolled to, stays.
+  void Refresca();
+  void RenuevaTextos();
+  /// The entries of the menu of the right button.
+  void PonAcciones(const QList<QAction*>& acciones);
+  void PonEstado(int id, EstadoTramo estado);
+  void OlvidaEstados();
+
+  /// The Tramos chosen, in their order; the one in hand where none is.
+  std::vector<int> Elegidos() const;
+
+ signals:
+  void tramoPedido(int id);
+
+ private:
+  const Captura& c_;
+  QLineEdit* busca_;
+  QTreeWidget* lista_;
+  std::map<int, EstadoTramo> estados_;
+  std::vector<RenglonTramo> puestos_;
+  bool refrescando_ = false;
+
+  void Filtra();
+  void Pon(QTreeWidgetItem& fila, const RenglonTramo& r);
+  void MarcaEnMano();
+};
+
+}  // namespace zorbin

@@ -1,0 +1,68 @@
+#include "shell/principal/mdHistoria.h"
+
+#include <QUndoCommand>
+
+#include "sesion/captura/mdCiclo.h"
+#include "shell/piezas/mdQt.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr int kPasos = 500;  // kept; each shares with the others what it did not change
+
+class Hecho : public QUndoCommand {
+ public:
+  Hecho(Captura& c, Paso paso) : QUndoCommand(Q(paso.nombre)), c_(c), paso_(std::move(paso)) {}
+
+  void undo() override { zorbin::Deshace(c_, paso_); }
+  // A step comes here when it has been done.
+  void redo() override {
+    if (hecha_) zorbin::Rehace(c_, paso_);
+    hecha_ = true;
+  }
+
+ private:
+  Captura& c_;
+  Paso paso_;
+  bool hecha_ = false;
+};
+
+std::optional<std::string> Nombre(bool puede, const QString& texto) {
+  if (!puede) return std::nullopt;
+  return S(texto);
+}
+
+}  // namespace
+
+Historia::Historia(Captura& c, std::function<void(const std::function<void()>&)> hace)
+    : c_(c), hace_(std::move(hace)) {
+  pila_.setUndoLimit(kPasos);
+  c_.alDarPaso = [this](Paso paso) { pila_.push(new Hecho(c_, std::move(paso))); };
+}
+
+Historia::~Historia() {
+  c_.alDarPaso = {};
+}
+
+void Historia::Deshace() {
+  hace_([this] { pila_.undo(); });
+}
+
+void Historia::Rehace() {
+  hace_([this] { pila_.redo(); });
+}
+
+void Historia::Olvida() {
+  pila_.clear();
+}
+
+std::optional<std::string> Historia::PorDeshacer() const {
+  return Nombre(pila_.canUndo(), pila_.undoText());
+}
+
+std::optional<std::string> Historia::PorRehacer() const {
+  return Nombre(pila_.canRedo(), pila_.redoText());
+}
+
+}  // namespace zorbin
