@@ -20,8 +20,9 @@ namespace {
 constexpr int kAlAzar = 8;  // mixtures by chance at each cut
 constexpr unsigned kSemilla = 20091102;
 
-bool DeDiario(const Pendiente& p) {
-  return p.nombre.find("-diario") != std::string::npos;
+// What a save is undone from.
+bool EsDiario(const std::string& nombre) {
+  return nombre.ends_with("-diario") || nombre.ends_with("-conjunto");
 }
 
 // What may be on the disk at this moment.
@@ -33,7 +34,7 @@ std::set<Ficheros> Mezclas(const Disco& disco, std::mt19937& azar) {
     for (const bool fichero : {false, true}) {
       for (const bool nombres : {false, true}) {
         anade([&](std::size_t i) {
-          return p[i].esNombre ? nombres : DeDiario(p[i]) ? diario : fichero;
+          return p[i].esNombre ? nombres : EsDiario(p[i].nombre) ? diario : fichero;
         });
       }
     }
@@ -58,7 +59,7 @@ std::set<Ficheros> Mezclas(const Disco& disco, std::mt19937& azar) {
 
 bool HayDiario(const Ficheros& ficheros) {
   return std::any_of(ficheros.begin(), ficheros.end(),
-                     [](const auto& par) { return par.first.ends_with("-diario"); });
+                     [](const auto& par) { return EsDiario(par.first); });
 }
 
 // A moment of a program: the disk, the folder as programs see it, and the saves told done.
@@ -74,7 +75,7 @@ class Apagon : public testing::TestWithParam<std::size_t> {
   CarpetaReal casa;
   fs::path carpeta = casa.ruta() / "obra";
   fs::path otra = casa.ruta() / "otra";
-  std::vector<Bytes> estados = Estados(escena, carpeta);
+  std::vector<Ficheros> estados = Estados(escena, carpeta);
   std::mt19937 azar{kSemilla};
   std::map<Ficheros, int> vistos;  // after a cut, and the saves told done before it
   int puntos = 0;
@@ -147,6 +148,7 @@ class Apagon : public testing::TestWithParam<std::size_t> {
       EXPECT_GE(indice, grabados) << escena.nombre;
       EXPECT_LE(indice, grabados + 1) << escena.nombre;
     }
+    EXPECT_GT(puntos, 0);
   }
 };
 

@@ -25,7 +25,7 @@ Disco::Disco(const fs::path& carpeta) {
     struct stat datos {};
     ::stat(f.path().c_str(), &datos);
     vivos_[f.path().filename().string()] = datos.st_ino;
-    nodos_[datos.st_ino] = *BytesDe(f.path());
+    nodos_[datos.st_ino] = pruebas::Bytes(f.path());
   }
   nombres_ = vivos_;
 }

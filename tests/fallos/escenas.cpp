@@ -3,7 +3,10 @@
 #include "fallos/fallos.h"
 
 #include <algorithm>
-#include <fstream>
+#include <set>
+
+#include "comun/proyecto.h"
+#include "persistencia/disco/mdConjunto.h"
 
 namespace zorbin::fallos {
 
@@ -130,7 +133,7 @@ void Sesion::EligeElTramo(const std::string& numero) {
 
 const std::vector<Escena>& Escenas() {
   static const auto nada = [](const fs::path&) {};
-  static const std::vector<Escena> escenas{
+  static const std::vector<Escena> solas{
       {"header of the Obra", "obra.zrb", ConMuestra, AbreLaObra, {GrabaCabecera}},
       {"a Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoDos}},
       {"a new Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoNuevo}},
@@ -154,23 +157,22 @@ const std::vector<Escena>& Escenas() {
        nada,
        [](Sesion&) {},
        {EstrenaAjustes, AlargaAjustes}}};
+  static const std::vector<Escena> escenas = [] {
+    auto todas = solas;
+    todas.insert(todas.end(), EscenasDeConjunto().begin(), EscenasDeConjunto().end());
+    return todas;
+  }();
   return escenas;
 }
 
-Bytes BytesDe(const fs::path& ruta) {
-  std::ifstream f(ruta, std::ios::binary);
-  if (!f) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(f), {});
-}
-
-std::vector<Bytes> Estados(const Escena& escena, const fs::path& carpeta) {
+std::vector<Ficheros> Estados(const Escena& escena, const fs::path& carpeta) {
   Prepara(escena, carpeta);
-  std::vector<Bytes> estados{BytesDe(carpeta / escena.fichero)};
+  std::vector<Ficheros> estados{EstadoDe(carpeta)};
   Sesion s(carpeta);
   escena.abre(s);
   for (const auto& graba : escena.grabados) {
     if (!graba(s)) throw std::runtime_error(escena.nombre + ": " + s.queja);
-    estados.push_back(BytesDe(carpeta / escena.fichero));
+    estados.push_back(EstadoDe(carpeta));
   }
   return estados;
 }
@@ -181,21 +183,37 @@ void Prepara(const Escena& escena, const fs::path& carpeta) {
   escena.prepara(carpeta);
 }
 
-Bytes AbreYCierra(const Escena& escena, const fs::path& carpeta) {
+Ficheros AbreYCierra(const Escena& escena, const fs::path& carpeta) {
   const fs::path ruta = carpeta / escena.fichero;
-  if (fs::exists(ruta)) FicheroRegistros(ruta, FicheroRegistros::Modo::LecturaEscritura);
-  return BytesDe(ruta);
+  if (fs::exists(ruta) || fs::exists(RutaConjunto(ruta))) {
+    FicheroRegistros(ruta, FicheroRegistros::Modo::LecturaEscritura);
+  }
+  return EstadoDe(carpeta);
 }
 
-int Indice(const std::vector<Bytes>& estados, const Bytes& bytes) {
-  const auto i = std::find(estados.begin(), estados.end(), bytes);
+std::string Leido(const Escena& escena, const fs::path& carpeta) {
+  const fs::path ruta = carpeta / escena.fichero;
+  return ruta.extension() == ".zrb" && fs::exists(ruta) ? pruebas::Resumido(ruta) : std::string{};
+}
+
+int Indice(const std::vector<Ficheros>& estados, const Ficheros& ficheros) {
+  const auto i = std::find(estados.begin(), estados.end(), ficheros);
   return i == estados.end() ? -1 : static_cast<int>(i - estados.begin());
+}
+
+Ficheros EstadoDe(const fs::path& carpeta) {
+  Ficheros ficheros = FicherosDe(carpeta);
+  std::erase_if(ficheros, [](const auto& par) {
+    return !std::set<std::string>{".zrb", ".dpe", ".zrx"}.contains(
+        fs::path(par.first).extension().string());
+  });
+  return ficheros;
 }
 
 Ficheros FicherosDe(const fs::path& carpeta) {
   Ficheros ficheros;
   for (const auto& f : fs::directory_iterator(carpeta)) {
-    ficheros[f.path().filename().string()] = *BytesDe(f.path());
+    ficheros[f.path().filename().string()] = pruebas::Bytes(f.path());
   }
   return ficheros;
 }

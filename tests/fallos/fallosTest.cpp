@@ -59,7 +59,7 @@ class Fallos : public testing::TestWithParam<std::size_t> {
   const Escena& escena = Escenas().at(GetParam());
   CarpetaReal casa;
   fs::path carpeta = casa.ruta() / "obra";
-  std::vector<Bytes> estados = Estados(escena, carpeta);
+  std::vector<Ficheros> estados = Estados(escena, carpeta);
   Parte* parte = nullptr;
   int puntos = 0;
   int rotos = 0;
@@ -115,7 +115,7 @@ class Fallos : public testing::TestWithParam<std::size_t> {
       fallos_arma(carpeta.c_str(), n, clase.tipo, clase.siempre);
       for (std::size_t i = 0; i < escena.grabados.size(); ++i) {
         if (GrabaUno(s, i)) continue;
-        const int indice = Indice(estados, BytesDe(carpeta / escena.fichero));
+        const int indice = Indice(estados, EstadoDe(carpeta));
         parte->enteroAlNegar = clase.siempre || indice >= 0;
         parte->llamadas = fallos_cuenta(-1);
         if (entonces == Entonces::Acaba) ::_exit(0);
@@ -129,14 +129,18 @@ class Fallos : public testing::TestWithParam<std::size_t> {
   // The program is started again on what was left. @return which of the states it found
   int Comprueba(const std::string& donde) {
     ++puntos;
-    const Bytes bytes = AbreYCierra(escena, carpeta);
-    const int indice = Indice(estados, bytes);
+    const std::string leido = Leido(escena, carpeta);
+    const Ficheros ficheros = AbreYCierra(escena, carpeta);
+    const int indice = Indice(estados, ficheros);
     rotos += indice < 0;
     EXPECT_GE(indice, parte->grabados) << donde << ": a save that was done is lost";
     EXPECT_LE(indice, parte->grabados + 1) << donde;
     EXPECT_TRUE(parte->dicho) << donde << ": refused without a word";
     EXPECT_TRUE(parte->enteroAlNegar) << donde << ": not undone at once";
-    EXPECT_TRUE(!bytes || Nombres(carpeta) == escena.fichero + " ") << donde << Nombres(carpeta);
+    EXPECT_TRUE(leido.empty() || leido == Leido(escena, carpeta)) << donde << ": read " << leido;
+    fs::remove(RutaMarca(carpeta / "obra.dpe"));  // who had it; it is no part of what is saved
+    EXPECT_TRUE(!ficheros.contains(escena.fichero) || FicherosDe(carpeta) == ficheros)
+        << donde << Nombres(carpeta);
     return indice;
   }
 
@@ -172,6 +176,7 @@ TEST_P(Fallos, UnGrabadoEsTodoONada) {
     }
   }
   EXPECT_EQ(rotos, 0);
+  EXPECT_GT(puntos, 0);
 }
 
 // A program killed while it undoes what another left, again and again.
@@ -184,7 +189,9 @@ TEST_P(FallosAlDeshacer, PuedeRomperseYRepetirse) {
     Prepara(escena, carpeta);
     if (!Graba(n, kMata, Entonces::Acaba)) break;
     const int grabados = parte->grabados;
-    fs::remove(RutaMarca(carpeta / escena.fichero));  // never the same twice
+    for (const char* marca : {"obra.zrb", "obra.dpe"}) {  // never the same twice
+      fs::remove(RutaMarca(carpeta / marca));
+    }
     if (!vistos.insert(FicherosDe(carpeta)).second) continue;
     fs::remove_all(dejado);
     fs::copy(carpeta, dejado);
@@ -210,11 +217,13 @@ TEST_P(FallosAlDeshacer, PuedeRomperseYRepetirse) {
     }
   }
   EXPECT_EQ(rotos, 0);
+  EXPECT_GT(puntos, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Grabados, Fallos, testing::Range(std::size_t{0}, Escenas().size()));
-// The file grows, and a journal that was used before is used again.
-INSTANTIATE_TEST_SUITE_P(Grabados, FallosAlDeshacer, testing::Values(2, 3));
+// The file grows; a journal that was used before is used again; companions are brought back.
+INSTANTIATE_TEST_SUITE_P(Grabados, FallosAlDeshacer,
+                         testing::Values(2, 3, Escenas().size() - 1));
 
 }  // namespace
 }  // namespace zorbin::fallos

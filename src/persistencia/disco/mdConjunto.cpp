@@ -8,7 +8,6 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
-#include <cstdio>
 
 #include "base/textos.h"
 #include "persistencia/disco/mdDiario.h"
@@ -113,9 +112,11 @@ fs::path SinEnlaces(const fs::path& ruta) {
 }
 
 fs::path RutaGrabando(const fs::path& fichero) {
-  auto ruta = fichero;
-  ruta += "-grabando";
-  return ruta;
+  return fichero.string() + "-grabando";
+}
+
+fs::path RutaAntes(const fs::path& fichero) {
+  return fichero.string() + "-antes";
 }
 
 bool Hay(const fs::path& ruta) {
@@ -141,21 +142,24 @@ Causa Escribe(const fs::path& ruta, std::string_view bytes, mode_t permisos) {
   return SincronizaDatos(d);
 }
 
-Causa Sustituye(const fs::path& ruta, std::string_view bytes, mode_t permisos) {
-  const Datos antes = DatosDe(ruta);
-  if (antes.causa != 0 && antes.causa != ENOENT) return antes.causa;
-  const bool existe = antes.causa == 0;
-  if (existe && !S_ISREG(antes.st.st_mode)) return EINVAL;
+// Of a companion that is there.
+Causa SePuedeSustituir(const fs::path& ruta, const Datos& d) {
+  if (d.causa != 0) return d.causa == ENOENT ? 0 : d.causa;
+  if (!S_ISREG(d.st.st_mode)) return EINVAL;
   // One that must not be changed is not replaced either.
-  if (existe && !Permite(ruta, W_OK)) return errno;
+  return Permite(ruta, W_OK) ? 0 : errno;
+}
+
+Causa Prepara(const fs::path& ruta, std::string_view bytes, mode_t permisos) {
+  const Datos antes = DatosDe(ruta);
+  if (const Causa causa = SePuedeSustituir(ruta, antes)) return causa;
+  const bool existe = antes.causa == 0;
   const fs::path nueva = RutaGrabando(ruta);
-  Causa causa = Escribe(nueva, bytes, existe ? antes.st.st_mode & kBitsDePermiso : permisos);
+  const Causa causa = Escribe(nueva, bytes, existe ? antes.st.st_mode & kBitsDePermiso : permisos);
+  if (causa != 0) static_cast<void>(BorraFichero(nueva));
   // Only root gives a file away; to anybody else it stays his own.
   if (causa == 0 && existe && ::chown(nueva.c_str(), antes.st.st_uid, antes.st.st_gid) != 0)
     errno = 0;
-  if (causa == 0 && std::rename(nueva.c_str(), ruta.c_str()) != 0) causa = errno;
-  if (causa == 0) return SincronizaNombre(ruta);
-  static_cast<void>(BorraFichero(nueva));
   return causa;
 }
 
@@ -163,21 +167,42 @@ std::string NombreDe(const fs::path& obra) {
   return RutaConjunto(obra).string();
 }
 
-// What a save left in the making; nobody asked for its name.
-void QuitaRestos(const fs::path& obra) {
-  for (const auto extension : kExtensiones) {
-    const fs::path resto = RutaGrabando(SinEnlaces(RutaCompanera(obra, extension)));
-    if (Hay(resto)) static_cast<void>(BorraFichero(resto));
-  }
+Causa Sincroniza(const fs::path& ruta) {
+  Descriptor d;
+  if (const Causa causa = AbreFichero(d, ruta, O_RDONLY | O_NONBLOCK | O_NOCTTY)) return causa;
+  return SincronizaDatos(d);
+}
+
+bool Tiene(const fs::path& ruta, std::string_view bytes) {
+  Descriptor d;
+  bool iguales = false;
+  return AbreFichero(d, ruta, O_RDONLY | O_NONBLOCK | O_NOCTTY) == 0 &&
+         ComparaBytes(d, kMaxContenido, bytes, iguales) == 0 && iguales;
 }
 
 bool EstaComo(const fs::path& obra, const Companera& c) {
   const fs::path ruta = RutaCompanera(obra, c.extension);
-  if (!c.bytes || !Hay(ruta)) return !c.bytes && !Hay(ruta);
-  Descriptor d;
-  bool iguales = false;
-  return AbreFichero(d, ruta, O_RDONLY | O_NONBLOCK | O_NOCTTY) == 0 &&
-         ComparaBytes(d, kMaxContenido, *c.bytes, iguales) == 0 && iguales;
+  return c.bytes ? Tiene(ruta, *c.bytes) : !Hay(ruta);
+}
+
+std::vector<Mensaje> Restaura(const fs::path& obra, const Conjunto& conjunto) {
+  std::vector<Mensaje> avisos;
+  for (const auto& c : conjunto.antes) {
+    if (!EstaComo(obra, c)) avisos = {{txt::LoAMediasDeshecho, {obra.string()}}};
+    if (const Causa causa = RestauraCompanera(obra, c)) {
+      throw ErrorFichero(
+          {txt::NoSeDeshace, {obra.string(), TextoDeCausa(causa), NombreDe(obra)}});
+    }
+  }
+  return avisos;
+}
+
+// Once its save is undone, or came to its end: the name of a new Obra may not have reached the disk.
+void Retira(const fs::path& obra, bool deshecho) {
+  Causa causa = deshecho ? 0 : SincronizaNombre(SinEnlaces(obra));
+  if (causa == 0) causa = QuitaConjunto(obra);
+  if (causa == 0) return;
+  throw ErrorFichero({txt::DiarioNoSeQuita, {obra.string(), NombreDe(obra), TextoDeCausa(causa)}});
 }
 
 }  // namespace
@@ -198,9 +223,7 @@ Conjunto ConjuntoDe(std::string_view contenido, std::vector<Companera> antes) {
 }
 
 fs::path RutaConjunto(const fs::path& obra) {
-  auto ruta = obra;
-  ruta += "-conjunto";
-  return ruta;
+  return obra.string() + "-conjunto";
 }
 
 std::string TextoDeConjunto(const Conjunto& c) {
@@ -252,21 +275,10 @@ std::optional<Conjunto> ConjuntoPendiente(const std::optional<std::string>& byte
 std::vector<Mensaje> RecuperaConjunto(const fs::path& obra, std::string_view contenido) {
   const auto bytes = BytesDeConjunto(obra);
   const auto pendiente = ConjuntoPendiente(bytes, obra, contenido);
-  QuitaRestos(obra);
-  if (!bytes) return {};
   std::vector<Mensaje> avisos;
-  for (const auto& c : pendiente ? pendiente->antes : std::vector<Companera>{}) {
-    // One that is as before may not have reached the disk so: it is written all the same.
-    if (!EstaComo(obra, c)) avisos = {{txt::LoAMediasDeshecho, {obra.string()}}};
-    if (const Causa causa = PonCompanera(obra, c)) {
-      throw ErrorFichero(
-          {txt::NoSeDeshace, {obra.string(), TextoDeCausa(causa), NombreDe(obra)}});
-    }
-  }
-  if (const Causa causa = QuitaConjunto(obra)) {
-    throw ErrorFichero(
-        {txt::DiarioNoSeQuita, {obra.string(), NombreDe(obra), TextoDeCausa(causa)}});
-  }
+  if (pendiente) avisos = Restaura(obra, *pendiente);
+  if (bytes) Retira(obra, pendiente.has_value());
+  QuitaRestos(obra);
   return avisos;
 }
 
@@ -291,9 +303,45 @@ Causa QuitaConjunto(const fs::path& obra) {
   return nulo == 0 ? 0 : borrado;
 }
 
-Causa PonCompanera(const fs::path& obra, const Companera& c) {
+Causa PreparaCompanera(const fs::path& obra, const Companera& c) {
+  if (!c.bytes) return 0;
+  return Prepara(SinEnlaces(RutaCompanera(obra, c.extension)), *c.bytes, PermisosComo(obra));
+}
+
+Causa PonCompanera(const fs::path& obra, const Companera& c, bool guardaAntes) {
   const fs::path ruta = RutaCompanera(obra, c.extension);
-  return c.bytes ? Sustituye(SinEnlaces(ruta), *c.bytes, PermisosComo(obra)) : Borra(ruta);
+  if (!c.bytes && !guardaAntes) return Borra(ruta);
+  const fs::path lugar = c.bytes ? SinEnlaces(ruta) : ruta;
+  Causa causa = 0;
+  if (guardaAntes && Hay(lugar)) causa = TomaNombre(lugar, RutaAntes(lugar));
+  if (causa == 0 && c.bytes) causa = TomaNombre(RutaGrabando(lugar), lugar);
+  return causa != 0 ? causa : SincronizaNombre(lugar);
+}
+
+// One that is as before already may not have reached the disk so.
+Causa RestauraCompanera(const fs::path& obra, const Companera& c) {
+  const fs::path ruta = RutaCompanera(obra, c.extension);
+  if (!c.bytes) return Borra(ruta);
+  const fs::path lugar = SinEnlaces(ruta);
+  const bool esta = Tiene(lugar, *c.bytes);
+  const fs::path antes = RutaAntes(lugar);
+  const bool guardada = !esta && Tiene(antes, *c.bytes);  // it takes no room on a full disk
+  Causa causa = 0;
+  if (esta || guardada) causa = Sincroniza(esta ? lugar : antes);
+  if (!esta && !guardada) causa = Prepara(lugar, *c.bytes, PermisosComo(obra));
+  if (causa == 0 && !esta) causa = TomaNombre(guardada ? antes : RutaGrabando(lugar), lugar);
+  return causa != 0 ? causa : SincronizaNombre(lugar);
+}
+
+void QuitaRestos(const fs::path& obra) {
+  for (const auto extension : kExtensiones) {
+    const fs::path ruta = RutaCompanera(obra, extension);
+    for (const auto& lugar : {ruta, SinEnlaces(ruta)}) {
+      for (const auto& resto : {RutaGrabando(lugar), RutaAntes(lugar)}) {
+        if (Hay(resto)) static_cast<void>(BorraFichero(resto));
+      }
+    }
+  }
 }
 
 }  // namespace zorbin

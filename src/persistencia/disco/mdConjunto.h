@@ -10,8 +10,8 @@
 //   .zrx -
 //                          an empty line, and the bytes of the companions in their order
 //
-// The order of a save: this file made durable; the companions, each of them durable; the save of
-// the Obra, which is that of all; this file made void and removed. While the Obra is as before, so
+// The order of a save: what the companions are to hold written beside them; this file made durable;
+// the companions put in their place, each of them durable; the save of the Obra, which is that of all; this file made void and removed. While the Obra is as before, so
 // are its companions, for whoever reads them and for the next opening, which brings them back. Where
 // the Obra itself does not change, it is the removal that makes the save.
 #pragma once
@@ -82,8 +82,21 @@ std::vector<Mensaje> RecuperaConjunto(const std::filesystem::path& obra,
 /// Nothing is undone from it any more.
 [[nodiscard]] Causa QuitaConjunto(const std::filesystem::path& obra);
 
-/// Makes a companion hold these bytes, whole or not at all, or removes it; durable when this returns
-/// without a cause. A link is followed, the rights are those of before, or the Obra's.
-[[nodiscard]] Causa PonCompanera(const std::filesystem::path& obra, const Companera& companera);
+/// Writes what a companion is to hold beside it, durable, where it changes nothing yet. A link is
+/// followed, the rights are those of before, or the Obra's.
+[[nodiscard]] Causa PreparaCompanera(const std::filesystem::path& obra, const Companera& companera);
+
+/// What was prepared takes the place of the companion, or this one goes; durable when it returns
+/// without a cause. Whole or not at all, but where `guardaAntes` keeps the one before, to which a
+/// full disk can go back.
+[[nodiscard]] Causa PonCompanera(const std::filesystem::path& obra, const Companera& companera,
+                                 bool guardaAntes);
+
+/// The companion is again what it was; durable when it returns without a cause.
+[[nodiscard]] Causa RestauraCompanera(const std::filesystem::path& obra,
+                                      const Companera& companera);
+
+/// What a save left beside the companions; nobody asked for those names.
+void QuitaRestos(const std::filesystem::path& obra);
 
 }  // namespace zorbin

@@ -156,6 +156,10 @@ Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a)
   if (!NoSabeSinPisar(causa)) return causa;
   struct stat otro;
   if (::lstat(a.c_str(), &otro) == 0) return EEXIST;
+  return TomaNombre(de, a);
+}
+
+Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a) {
   return CausaDe(Repite([&] { return ::rename(de.c_str(), a.c_str()); }));
 }
 

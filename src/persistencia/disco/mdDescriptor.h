@@ -66,6 +66,9 @@ bool EsElMismo(const Descriptor& d, const std::filesystem::path& ruta);
 /// Gives a file its final name unless something has that name. @return EEXIST where it has
 [[nodiscard]] Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a);
 
+/// Gives a file its final name, whatever has it.
+[[nodiscard]] Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a);
+
 [[nodiscard]] Causa BorraFichero(const std::filesystem::path& ruta);
 
 }  // namespace zorbin

@@ -170,17 +170,15 @@ ErrorFichero NadaGrabado(const fs::path& ruta, Causa causa) {
   return ErrorFichero({txt::NadaGrabado, {ruta.string(), TextoDeCausa(causa)}});
 }
 
-void Pon(const fs::path& obra, const Companera& c) {
-  if (const Causa causa = PonCompanera(obra, c)) {
-    throw NadaGrabado(RutaCompanera(obra, c.extension), causa);
-  }
+void Exige(Causa causa, const fs::path& obra, const Companera& c) {
+  if (causa != 0) throw NadaGrabado(RutaCompanera(obra, c.extension), causa);
 }
 
 // After a refusal. What can't be brought back now is brought back when the Obra is opened.
 void Deshace(const fs::path& obra, const Conjunto& conjunto, const ErrorFichero& error) {
   Causa causa = 0;
   for (const auto& c : conjunto.antes) {
-    if (causa == 0) causa = PonCompanera(obra, c);
+    if (causa == 0) causa = RestauraCompanera(obra, c);
   }
   if (causa == 0) causa = QuitaConjunto(obra);
   if (causa == 0) throw error;
@@ -188,18 +186,23 @@ void Deshace(const fs::path& obra, const Conjunto& conjunto, const ErrorFichero&
       {txt::ConjuntoEnDuda, {obra.string(), TextoDeCausa(causa), RutaConjunto(obra).string()}});
 }
 
+Conjunto EscribeElDeAntes(const FicheroRegistros& f, const std::vector<Cambio>& cambios) {
+  std::vector<Companera> antes;
+  for (const auto& c : cambios) antes.push_back(c.antes);
+  Conjunto conjunto = ConjuntoDe(f.Contenido(), std::move(antes));
+  if (const Causa causa = EscribeConjunto(f.ruta(), conjunto)) {
+    throw ErrorFichero(
+        {txt::SinDiario, {f.Nombre(), RutaConjunto(f.ruta()).string(), TextoDeCausa(causa)}});
+  }
+  return conjunto;
+}
+
 void GrabaConjunto(FicheroRegistros& f, Transaccion& registros, const std::vector<Cambio>& cambios) {
   const fs::path& obra = f.ruta();
   const bool cambiaLaObra = f.Cambia();
-  std::vector<Companera> antes;
-  for (const auto& c : cambios) antes.push_back(c.antes);
-  const Conjunto conjunto = ConjuntoDe(f.Contenido(), std::move(antes));
-  if (const Causa causa = EscribeConjunto(obra, conjunto)) {
-    throw ErrorFichero(
-        {txt::SinDiario, {obra.string(), RutaConjunto(obra).string(), TextoDeCausa(causa)}});
-  }
+  const Conjunto conjunto = EscribeElDeAntes(f, cambios);
   try {
-    for (const auto& c : cambios) Pon(obra, c.despues);
+    for (const auto& c : cambios) Exige(PonCompanera(obra, c.despues, true), obra, c.despues);
     registros.Confirma();
     // Where it stays, the next save removes it before anything else.
     const Causa causa = QuitaConjunto(obra);
@@ -212,10 +215,19 @@ void GrabaConjunto(FicheroRegistros& f, Transaccion& registros, const std::vecto
 
 void Graba(FicheroRegistros& f, Transaccion& registros, const std::vector<Cambio>& cambios) {
   if (cambios.empty()) return registros.Confirma();
+  const fs::path& obra = f.ruta();
+  for (const auto& c : cambios) Exige(PreparaCompanera(obra, c.despues), obra, c.despues);
   if (cambios.size() > 1 || f.Cambia()) return GrabaConjunto(f, registros, cambios);
   registros.Confirma();  // changes nothing, and tells when the file is no longer there
-  Pon(f.ruta(), cambios.front().despues);
+  const auto& sola = cambios.front().despues;
+  Exige(PonCompanera(obra, sola, false), obra, sola);
 }
+
+// What a save leaves beside the companions goes, however it ends.
+struct SinRestos {
+  const fs::path& obra;
+  ~SinRestos() { QuitaRestos(obra); }
+};
 
 std::vector<Mensaje> GrabaTodo(FicheroRegistros& f, const ProyectoAGrabar& proyecto, bool sustituye,
                                const FicheroRegistros* origen, const Catalogo& textos,
@@ -231,7 +243,10 @@ std::vector<Mensaje> GrabaTodo(FicheroRegistros& f, const ProyectoAGrabar& proye
   Companeras companeras(f.ruta(), sustituye);
   companeras.Ajustes(proyecto.ajustes, separador);
   companeras.DeExtras(TodosLosExtras(proyecto));
-  Graba(f, registros, companeras.cambios());
+  {
+    const SinRestos limpia{f.ruta()};
+    Graba(f, registros, companeras.cambios());
+  }
   for (auto& aviso : companeras.avisos()) avisos.push_back(std::move(aviso));
   return avisos;
 }

@@ -1,6 +1,7 @@
 #include "persistencia/zrx/mdZrx.h"
 
 #include <algorithm>
+#include <array>
 #include <nlohmann/json.hpp>
 
 #include "base/mdContenido.h"
@@ -17,6 +18,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kVersion = 1;
 constexpr int kSangria = 1;
+constexpr std::size_t kVisto = 126;  // characters of an entry that a message shows
 
 // Why a text is refused: an entry of the catalogue, and what it says besides the file.
 struct Ilegible {
@@ -30,12 +32,19 @@ std::string Texto(const Json& j, int sangria = -1) {
 
 Json Analiza(std::string_view texto) {
   if (texto.size() > kMaxBytesZrx) throw Ilegible{txt::ZrxExcesivo, {}};
-  const auto niveles = [](int nivel, Json::parse_event_t, Json&) {
+  // Each key is looked for among those of its object.
+  std::array<int, kMaxNivelesZrx + 2> claves{};
+  const auto mide = [&claves](int nivel, Json::parse_event_t suceso, Json&) {
     if (nivel > kMaxNivelesZrx) throw Ilegible{txt::ZrxExcesivo, {}};
+    const auto n = static_cast<std::size_t>(nivel);
+    if (suceso == Json::parse_event_t::object_start) claves[n + 1] = 0;
+    if (suceso == Json::parse_event_t::key && ++claves[n] > kMaxClavesZrx) {
+      throw Ilegible{txt::ZrxExcesivo, {}};
+    }
     return true;
   };
   try {
-    return Json::parse(texto, niveles);
+    return Json::parse(texto, mide);
   } catch (const Json::parse_error& error) {
     throw Ilegible{txt::ZrxSinJson, std::to_string(error.byte)};
   } catch (const Json::exception&) {  // a number that no computer holds
@@ -76,6 +85,7 @@ Extras ExtrasDe(Json j, std::string_view texto) {
   Json entradas = Json::array();
   Toma(j, {}, "tramos", entradas);
   if (!entradas.is_array()) throw Ilegible{txt::ZrxClaveMala, "tramos"};
+  if (entradas.size() > kMaxEntradasZrx) throw Ilegible{txt::ZrxExcesivo, {}};
   Extras extras;
   for (std::size_t i = 0; i < entradas.size(); ++i) {
     extras.tramos.push_back(
@@ -88,7 +98,8 @@ Extras ExtrasDe(Json j, std::string_view texto) {
 
 void AnadeOtras(Json& objeto, const std::string& otras) {
   if (otras.empty()) return;
-  for (const auto& [clave, valor] : Json::parse(otras).items()) objeto[clave] = valor;
+  const Json suyas = Json::parse(otras);
+  for (const auto& [clave, valor] : suyas.items()) objeto[clave] = valor;
 }
 
 Json JsonDe(const ExtrasTramo& x) {
@@ -149,7 +160,9 @@ std::vector<Mensaje> AvisosDeExtras(const Extras& extras, const std::filesystem:
   std::vector<Mensaje> avisos;
   if (!extras.ajeno.empty()) avisos.push_back({txt::ZrxMasNuevo, {zrx.string()}});
   for (const auto& x : extras.tramos) {
-    if (x.DiceAlgo()) avisos.push_back({txt::ZrxSinTramo, {zrx.string(), x.numero, x.descripcion}});
+    if (!x.DiceAlgo()) continue;
+    const auto dato = [](const std::string& texto) { return std::string(Primeros(texto, kVisto)); };
+    avisos.push_back({txt::ZrxSinTramo, {zrx.string(), dato(x.numero), dato(x.descripcion)}});
   }
   return avisos;
 }

@@ -20,9 +20,12 @@
 
 namespace zorbin {
 
-/// Larger ones, and those nested deeper, are refused.
+/// Larger ones, those nested deeper, and those with more keys in an object or
+/// more entries, are refused.
 inline constexpr std::size_t kMaxBytesZrx = 2'000'000;
 inline constexpr int kMaxNivelesZrx = 32;
+inline constexpr int kMaxClavesZrx = 1000;
+inline constexpr std::size_t kMaxEntradasZrx = 2000;
 
 /// An entry. It is the Tramo's whose number and description it carries.
 struct ExtrasTramo {
