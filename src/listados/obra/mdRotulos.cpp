@@ -19,10 +19,8 @@ struct CodigoTexto {
 constexpr std::array<CodigoTexto, 3> kCamisas{
     {{1210, txt::ConCamisa}, {2211, txt::CamisaEmbebida}, {2221, txt::CamisaRevestida}}};
 
-constexpr std::array<CodigoTexto, 4> kCamisasTabular{{{2211, txt::Embebida},
-                                                      {2212, txt::Embebida},
-                                                      {2221, txt::Revestida},
-                                                      {2222, txt::Revestida}}};
+constexpr std::array<CodigoTexto, 4> kCamisasTabular{
+    {{2211, txt::Embebida}, {2212, txt::Embebida}, {2221, txt::Revestida}, {2222, txt::Revestida}}};
 
 constexpr std::array<CodigoTexto, 6> kColocaciones{{{11, txt::ZanjaSinCompactar},
                                                     {12, txt::ZanjaCompactada},

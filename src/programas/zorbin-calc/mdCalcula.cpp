@@ -79,22 +79,6 @@ void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const 
   }
 }
 
-// Runs a Tramo with its debug log; one that cannot be opened is a failure of the run.
-ResultadoTramo CorreTramo(DatosTramo datos, const std::filesystem::path& registros,
-                          const SigueCorrida& sigue) {
-  const Rango rango = RangoDe(datos);
-  try {
-    FicheroLog log(registros);
-    return CalculaTramo(datos, rango, sigue, &log.registro());
-  } catch (const ErrorEjecucion& error) {
-    ResultadoTramo sinCorrer;
-    sinCorrer.datos = std::move(datos);
-    sinCorrer.rango = rango;
-    sinCorrer.fallo = {error};
-    return sinCorrer;
-  }
-}
-
 // The listing has nothing to show: its file is given up.
 struct SinHojas {};
 
@@ -165,13 +149,19 @@ class Calculador {
   // Runs the Tramos one after another.
   template <class Toma>
   void Corre(const Toma& toma) {
-    const auto registros = opciones_.registros.empty() ? CarpetaRegistros() : opciones_.registros;
+    FicheroLog log(opciones_.registros.empty() ? CarpetaPropia() : opciones_.registros);
     Vigia vigia(opciones_.obra.string(), textos_, estilo_);
     for (const auto& p : encargo_.tramos) {
-      auto resultado = CorreTramo(Datos(p), registros, vigia.Progreso(p.tramo.NumeroTramo));
+      const auto datos = Datos(p);
+      auto resultado =
+          CalculaTramo(datos, RangoDe(datos), vigia.Progreso(p.tramo.NumeroTramo), &log.registro());
       vigia.Acaba(resultado, p.numero);
       cuenta_ += CuentaDeVeredictos(resultado);
       toma(std::move(resultado), p);
+    }
+    log.registro().Vuelca();
+    if (const auto fichero = log.SinEscribir(); !fichero.empty()) {
+      Queja(textos_.Compone(txt::SinRegistro, {fichero}));
     }
     hayFallo_ = vigia.hayFallo();
     Cuenta();

@@ -67,7 +67,7 @@ struct Ajustes {
 /// opens the file of adjustments and calculates the first Caso.
 /// @return nothing where it is refused; why has been shown
 std::unique_ptr<Ajustes> AjustaArmaduras(
-    Captura& c, const std::filesystem::path& registros = CarpetaRegistros(),
+    Captura& c, const std::filesystem::path& registros = CarpetaPropia(),
     PideCerrojo pide = CerrojoDelSistema);
 
 /// Calculates the Caso of a height [m] and a pressure [at] and shows it with what is stored for it.
