@@ -2,13 +2,21 @@
 // before or the new one whole, nothing else is left, and the next attempt succeeds.
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 
 #include "comun/carpeta.h"
 #include "comun/sinDerechos.h"
 #include "fallos/fallos.h"
 #include "persistencia/disco/mdFicheroSalida.h"
+#include "sesion/captura/mdCajon.h"
 
 namespace zorbin::fallos {
 namespace {
@@ -58,6 +66,7 @@ TEST_F(SalidaConFallos, ElFicheroEsElDeAntesOElNuevoEntero) {
         fallos_arma(casa.c_str(), n, tipo, 0);
         const auto causa = Escribe(ruta, nuevo);
         toca = fallos_cuenta(-1) >= n;
+        EXPECT_EQ(fallos_puestos() > 0, toca);
         fallos_desarma();
         puntos += toca ? 1 : 0;
         SCOPED_TRACE(std::to_string(tipo) + ", call " + std::to_string(n) + ": " + causa);
@@ -96,17 +105,114 @@ TEST_F(SalidaConFallos, DondeNoSePuedeSeDiceYNoSeTocaNada) {
   EXPECT_EQ(Nombres(), 2);
 }
 
-// A link stays one; the rights are those of the file before; the longest name is taken.
-TEST_F(SalidaConFallos, LoQueHabiaConservaEnlaceYPermisos) {
-  PonAntes();
-  fs::permissions(ruta, fs::perms::owner_read | fs::perms::owner_write);
+// Owner, group, rights and links of the file before; the longest name is taken.
+TEST_F(SalidaConFallos, LoQueHabiaConservaDuenoPermisosYEnlaces) {
+  struct Caso {
+    const char* nombre;
+    std::function<void()> prepara;
+  };
+  const fs::path otro = casa / "otro nombre";
+  struct stat antes {
+  }, despues{};
+  for (const auto& [nombre, prepara] : std::to_array<Caso>({
+           {"rights", [&] { ASSERT_EQ(::chmod(ruta.c_str(), 0640), 0); }},
+           {"owner", [&] { ASSERT_TRUE(::chown(ruta.c_str(), 1234, 4321) == 0 || ::getuid()); }},
+           {"hard link", [&] { fs::create_hard_link(ruta, otro); }},
+           {"attribute",
+            [&] { ::setxattr(ruta.c_str(), "user.nota", "n", 1, 0); }},  // where there are any
+       })) {
+    SCOPED_TRACE(nombre);
+    fs::remove(otro);
+    fs::remove(ruta);
+    pruebas::PonBytes(ruta, std::string(9000, 'a'));  // longer than what comes
+    prepara();
+    ASSERT_EQ(::stat(ruta.c_str(), &antes), 0);
+    EXPECT_EQ(Escribe(ruta, nuevo), "");
+    ASSERT_EQ(::stat(ruta.c_str(), &despues), 0);
+    EXPECT_EQ(Bytes(ruta), nuevo);
+    EXPECT_EQ(antes.st_mode, despues.st_mode);
+    EXPECT_EQ(antes.st_uid, despues.st_uid);
+    EXPECT_EQ(antes.st_gid, despues.st_gid);
+    EXPECT_EQ(antes.st_nlink, despues.st_nlink);
+    EXPECT_EQ(::getxattr(ruta.c_str(), "user.nota", nullptr, 0) == 1,
+              std::string(nombre) == "attribute" && errno != ENOTSUP);
+    EXPECT_TRUE(antes.st_nlink == 1 || Bytes(otro) == nuevo);
+  }
+  fs::remove(otro);
   fs::create_symlink("listado.txt", casa / "enlace.txt");
-  EXPECT_EQ(Escribe(casa / "enlace.txt", nuevo), "");
+  EXPECT_EQ(Escribe(casa / "enlace.txt", kAntes + nuevo), "");
   EXPECT_TRUE(fs::is_symlink(casa / "enlace.txt"));
-  EXPECT_EQ(Bytes(ruta), nuevo);
-  EXPECT_EQ(fs::status(ruta).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(Bytes(ruta), kAntes + nuevo);
   EXPECT_EQ(Escribe(casa / std::string(255, 'n'), nuevo), "");
   EXPECT_EQ(Escribe("/dev/null", nuevo), "");
+  EXPECT_EQ(Nombres(), 3);
+}
+
+// Written in its place, as a file of several names: what the disk refuses leaves that of before.
+TEST_F(SalidaConFallos, EnSuSitioElDiscoLlenoDejaLoDeAntes) {
+  int puntos = 0;
+  const fs::path otro = casa / "otro nombre";
+  for (const auto tipo : {FALLO_EIO, FALLO_ENOSPC, FALLO_CORTO_Y_ENOSPC}) {
+    bool toca = true;
+    for (int n = 1; toca; ++n) {
+      PonAntes();
+      fs::create_hard_link(ruta, otro);
+      fallos_arma(casa.c_str(), n, tipo, 0);
+      const auto causa = Escribe(ruta, nuevo);
+      toca = fallos_puestos() > 0;
+      fallos_desarma();
+      puntos += toca ? 1 : 0;
+      EXPECT_EQ(Bytes(otro), causa.empty() ? nuevo : kAntes) << tipo << ", call " << n;
+      EXPECT_TRUE(fs::equivalent(ruta, otro));
+      // Only what could not be removed stays.
+      EXPECT_TRUE(Nombres() == 2 || causa.empty()) << tipo << ", call " << n;
+      for (const auto& f : fs::directory_iterator(casa)) fs::remove(f);
+    }
+  }
+  EXPECT_GE(puntos, 12);
+}
+
+// What takes its name is on the disk, or a power cut may leave the name without the bytes.
+TEST_F(SalidaConFallos, SeSincronizaAntesDeTomarSuNombre) {
+  const auto una = [this] { Escribe(ruta, nuevo); };
+  const auto borrador = [this] { Cajon(casa).Guarda("{}"); };
+  for (const auto& graba : {std::function<void()>(una), std::function<void()>(borrador)}) {
+    struct Orden {
+      int escrituras = 0, sinAsegurar = 0, nombres = 0;
+      bool malo = false;
+    } orden;
+    fallos_escucha(
+        [](const fallos_suceso* s, void* de) {
+          auto& o = *static_cast<Orden*>(de);
+          if (s->clase == SUCESO_ESCRIBE) ++o.escrituras, ++o.sinAsegurar;
+          if (s->clase == SUCESO_SINCRONIZA) o.sinAsegurar = 0;
+          if (s->clase != SUCESO_RENOMBRA) return;
+          ++o.nombres;
+          o.malo = o.malo || o.sinAsegurar > 0;
+        },
+        &orden);
+    fallos_arma(casa.c_str(), 0, FALLO_NINGUNO, 0);
+    graba();
+    fallos_desarma();
+    fallos_escucha(nullptr, nullptr);
+    EXPECT_GE(orden.escrituras, 1);
+    EXPECT_EQ(orden.nombres, 1);
+    EXPECT_FALSE(orden.malo);
+  }
+}
+
+TEST_F(SalidaConFallos, UnBorradorNoSeEscribePorUnEnlace) {
+  const Cajon cajon(casa);
+  PonAntes();
+  for (const char* final : {"", "-nuevo"}) {
+    fs::create_symlink(ruta, cajon.ruta().string() + final);
+    try {
+      cajon.Guarda("{}");
+    } catch (const ErrorFichero&) {
+    }
+    EXPECT_EQ(Bytes(ruta), kAntes) << final;
+    fs::remove(cajon.ruta().string() + final);
+  }
 }
 
 }  // namespace

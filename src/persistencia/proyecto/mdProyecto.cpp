@@ -11,6 +11,20 @@ std::int16_t NumeroDe(const std::string& texto) {
   return I16(NumeroTexto(texto).value_or(0.0));
 }
 
+Proyecto Lee(const std::filesystem::path& ruta,
+             ObraLeida (*lee)(EstadoCalculo&, const FicheroRegistros&)) {
+  Proyecto proyecto{
+      FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}, {}};
+  EstadoCalculo e;
+  auto leida = lee(e, proyecto.fichero);
+  proyecto.obra = std::move(e.obra);
+  proyecto.lista = std::move(leida.lista);
+  proyecto.danos = std::move(leida.danos);
+  proyecto.avisos = proyecto.fichero.avisos();
+  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
+  return proyecto;
+}
+
 void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
   try {
     proyecto.ajustes = LeeAjustes(RutaDpe(ruta));
@@ -23,14 +37,14 @@ void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
 }  // namespace
 
 Proyecto LeeProyecto(const std::filesystem::path& ruta) {
-  Proyecto proyecto{FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}};
-  EstadoCalculo e;
-  auto leida = CargaObra(e, proyecto.fichero);
-  proyecto.obra = std::move(e.obra);
-  proyecto.lista = std::move(leida.lista);
-  proyecto.avisos = proyecto.fichero.avisos();
-  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
+  Proyecto proyecto = Lee(ruta, CargaObra);
   TramosPedidos(proyecto);
+  LeeSusAjustes(proyecto, ruta);
+  return proyecto;
+}
+
+Proyecto RescataProyecto(const std::filesystem::path& ruta) {
+  Proyecto proyecto = Lee(ruta, RescataObra);
   LeeSusAjustes(proyecto, ruta);
   return proyecto;
 }

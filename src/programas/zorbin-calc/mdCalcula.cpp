@@ -16,6 +16,7 @@
 #include "persistencia/dpe/mdDpe.h"
 #include "persistencia/proyecto/mdProyecto.h"
 #include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdSalidaPdf.h"
 #include "programas/zorbin-calc/mdValida.h"
@@ -251,7 +252,7 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
     Queja(queja);
     return kPalabrasMalas;
   }
-  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  const Proyecto proyecto = LeeProyectoEntero(opciones.obra, textos);
   PonIdioma(proyecto, opciones, textos);
   for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
   if (proyecto.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));
