@@ -138,22 +138,26 @@ const std::vector<Escena>& Escenas() {
        "obra.zrb",
        ConMuestra,
        AbreLaObra,
-       {GrabaTramoDos, GrabaTramoCinco, GrabaTramoNuevo}, 380},
+       {GrabaTramoDos, GrabaTramoCinco, GrabaTramoNuevo},
+       380},
       {"a new Obra, then its header",
        "obra.zrb",
        nada,
        ObraNueva,
-       {GrabaTramoNuevo, GrabaCabecera}, 310},
+       {GrabaTramoNuevo, GrabaCabecera},
+       310},
       {"adjustments: one changed, one more, those of a Tramo wiped",
        "obra.dpe",
        ConAjustes,
        [](Sesion& s) { EstrenaAjustes(s); },
-       {PisaAjuste, AlargaAjustes, BorraAjustes}, 330},
+       {PisaAjuste, AlargaAjustes, BorraAjustes},
+       330},
       {"the first adjustment of an Obra",
        "obra.dpe",
        nada,
        [](Sesion&) {},
-       {EstrenaAjustes, AlargaAjustes}, 280}};
+       {EstrenaAjustes, AlargaAjustes},
+       280}};
   return escenas;
 }
 
