@@ -48,13 +48,14 @@ TEST(Log, SeAnadeHastaSuTopeYQuedaElAnterior) {
   EXPECT_EQ(Bytes(anterior), "otra" + linea);
 
   // Two programs: the second to find it full does not set aside the new one.
-  FicheroLog uno(carpeta), dos(carpeta);
+  FicheroLog uno(carpeta, 100), dos(carpeta, 100);
   for (auto* l : {&uno, &dos}) {
     FicheroLog& x = *l;
     x.registro() << linea;
     x.registro().Vuelca();
   }
-  EXPECT_EQ(Bytes(log), std::string(99, 'y') + linea + linea);
+  EXPECT_EQ(Bytes(log), linea + linea);
+  EXPECT_EQ(Bytes(anterior), std::string(99, 'y'));
 }
 
 TEST(Log, DondeNoSePuedeNoSeEsperaYSeSabe) {
