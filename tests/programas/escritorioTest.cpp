@@ -198,6 +198,22 @@ TEST_F(Instalado, CalculaConLoQueTieneASuLado) {
       << sinTabla.salida;
 }
 
+TEST_F(Instalado, SinPantallaSeDiceEnUnaFrase) {
+  const std::string zorbin = (prefijo / "bin/zorbin").string();
+  for (const auto& [entorno, frase] : std::to_array<std::pair<std::string, std::string>>({
+           {"LANG=es_ES.UTF-8", "ZORBIN necesita una pantalla y no la encuentra (DISPLAY=)"},
+           {"LC_ALL=fr_FR.UTF-8 DISPLAY=:987",
+            "besoin d'un écran et n'en trouve pas (DISPLAY=:987)"},
+           {"LANGUAGE=en LANG=en_GB.UTF-8 QT_QPA_PLATFORM=nada",
+            "finds none (QT_QPA_PLATFORM=nada)"},
+       })) {
+    const auto r = Corre("env -i " + entorno + ' ' + zorbin);
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_NE(r.salida.find(frase), std::string::npos) << r.salida;
+    EXPECT_EQ(std::count(r.salida.begin(), r.salida.end(), '\n'), 1) << r.salida;
+  }
+}
+
 TEST_F(Instalado, EstaTodoLoQueSeEnsenaAUnaPersona) {
   for (const char* fichero :
        {"bin/zorbin", "share/applications/zorbin.desktop", "share/mime/packages/zorbin.xml",

@@ -37,9 +37,9 @@ struct ObraLeida {
 /// @throws ErrorFichero naming the record and what was expected; the state is then untouched
 ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f);
 
-/// What can be had of a damaged Obra: as CargaObra, but a datum of the header that cannot be read is
-/// that of a new Obra, and a Tramo that cannot be read whole has an empty text in the list. A number
-/// of Tramos that cannot be read is that of the blocks of the file.
+/// What can be had of a damaged Obra: as CargaObra, but a datum of the header that cannot be read
+/// is that of a new Obra, and a Tramo that cannot be read whole has an empty text in the list. A
+/// number of Tramos that cannot be read is that of the blocks of the file.
 /// @throws ErrorFichero for a file that is no Obra at all
 ObraLeida RescataObra(EstadoCalculo& e, const FicheroRegistros& f);
 

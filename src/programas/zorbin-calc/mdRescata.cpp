@@ -4,6 +4,7 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "persistencia/disco/mdDescriptor.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
