@@ -24,7 +24,6 @@ enum class CausaError {
   DemasiadosCasos,
   IncrementoPresion,
   IncrementoAltura,
-  Registro,
 };
 
 /// An error that ends the run of a Tramo. `dato` names the field, file or routine at fault where

@@ -443,8 +443,7 @@ void Cuenta::Suma(const Final& f) {
       {CausaError::DemasiadasVueltas, "demasiadas vueltas"},
       {CausaError::DemasiadosCasos, "demasiados Casos"},
       {CausaError::IncrementoPresion, "incremento de presion"},
-      {CausaError::IncrementoAltura, "incremento de altura"},
-      {CausaError::Registro, "registro"}};
+      {CausaError::IncrementoAltura, "incremento de altura"}};
   const auto& error = f.fallo->error;
   Suma("fallo: " + kNombres.at(error.causa()) + (error.dato().empty() ? "" : ", " + error.dato()));
 }

@@ -83,6 +83,7 @@ class Apagon : public testing::TestWithParam<std::size_t> {
 
   void SetUp() override { fs::create_directories(otra); }
   void TearDown() override {
+    EXPECT_GE(puntos, 7) << "disks that power cuts left";
     std::cout << escena.nombre << ": " << puntos << " power cuts, " << rotos << " torn files\n";
   }
 

@@ -39,6 +39,7 @@ struct Escena {
   std::function<void(const fs::path&)> prepara;  // the folder before the program starts
   std::function<void(Sesion&)> abre;
   std::vector<std::function<bool(Sesion&)>> grabados;
+  int puntos = 0;  // at which a fault is injected, at least
 };
 
 /// Of the header, of a Tramo, of a new one, two in a row, a new Obra, of the adjustments, and of an

@@ -10,6 +10,7 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -20,6 +21,8 @@ static int objetivo;
 static enum fallos_tipo tipo_pedido;
 static int para_siempre;
 static int cuenta;
+static int puestos;
+static int en_consultas;
 static int por_clase[SUCESO_CLASES];
 static int disco_lleno;
 static fallos_oyente oyente;
@@ -34,6 +37,7 @@ void fallos_arma(const char* ruta, int n, enum fallos_tipo tipo, int siempre) {
   tipo_pedido = tipo;
   para_siempre = siempre;
   cuenta = 0;
+  puestos = 0;
   memset(por_clase, 0, sizeof por_clase);
   disco_lleno = 0;
   armado = 1;
@@ -41,10 +45,19 @@ void fallos_arma(const char* ruta, int n, enum fallos_tipo tipo, int siempre) {
 
 void fallos_desarma(void) {
   armado = 0;
+  en_consultas = 0;
 }
 
 int fallos_cuenta(int clase) {
   return clase < 0 ? cuenta : por_clase[clase];
+}
+
+int fallos_puestos(void) {
+  return puestos;
+}
+
+void fallos_en_consultas(int si) {
+  en_consultas = si;
 }
 
 void fallos_escucha(fallos_oyente nuevo, void* quien) {
@@ -67,9 +80,23 @@ __attribute__((constructor)) static void del_entorno(void) {
   const char* n = getenv("FALLOS_N");
   const char* cual = getenv("FALLOS_TIPO");
   if (!donde || !n || !cual) return;
+  fallos_en_consultas(getenv("FALLOS_CONSULTAS") != NULL);
   for (size_t i = 0; i < sizeof tipos / sizeof *tipos; ++i) {
     if (strcmp(cual, tipos[i].nombre) == 0) fallos_arma(donde, atoi(n), tipos[i].tipo, 0);
   }
+}
+
+/* ---- What the system says, uncounted */
+
+static int mira(int d, struct stat* datos) {
+  VERDADERA(fstat);
+  return verdadera(d, datos);
+}
+
+static int existe(const char* ruta) {
+  VERDADERA(lstat);
+  struct stat datos;
+  return verdadera(ruta, &datos) == 0;
 }
 
 /* ---- What is counted */
@@ -110,11 +137,19 @@ static int errno_de(enum fallos_tipo tipo) {
   }
 }
 
+static int puede_sufrirlo(enum fallos_clase clase) {
+  if ((clase >= SUCESO_CONSULTA) != en_consultas) return 0;
+  if (clase == SUCESO_CONSULTA) return tipo_pedido != FALLO_EINTR && tipo_pedido != FALLO_CORTO;
+  return clase != SUCESO_CERROJO || tipo_pedido != FALLO_CORTO;
+}
+
 /* Counts a call. What it is to suffer; one that fails has errno set. */
 static enum fallos_tipo toca(enum fallos_clase clase) {
   ++por_clase[clase];
+  if (!puede_sufrirlo(clase)) return FALLO_NINGUNO;
   ++cuenta;
   if (cuenta != objetivo && !(para_siempre && cuenta > objetivo)) return FALLO_NINGUNO;
+  ++puestos;
   if (tipo_pedido == FALLO_MUERE) muere();
   if (errno_de(tipo_pedido)) errno = errno_de(tipo_pedido);
   return tipo_pedido;
@@ -123,7 +158,7 @@ static enum fallos_tipo toca(enum fallos_clase clase) {
 /* A full disk still takes what lies over something. */
 static int no_cabe(int d, size_t n, off_t desde) {
   struct stat datos;
-  if (!disco_lleno || fstat(d, &datos) != 0 || desde + (off_t)n <= datos.st_size) return 0;
+  if (!disco_lleno || mira(d, &datos) != 0 || desde + (off_t)n <= datos.st_size) return 0;
   errno = ENOSPC;
   return 1;
 }
@@ -140,7 +175,7 @@ static void cuenta_suceso(struct fallos_suceso s) {
 
 static ino_t nodo_de(int d) {
   struct stat datos;
-  return fstat(d, &datos) == 0 ? datos.st_ino : 0;
+  return mira(d, &datos) == 0 ? datos.st_ino : 0;
 }
 
 static void cuenta_escritura(int d, const void* bytes, size_t cuantos, off_t desde) {
@@ -209,7 +244,7 @@ ssize_t pwritev(int d, const struct iovec* trozos, int n, off_t desde) {
 
 static int sincroniza(int d) {
   struct stat datos = {0};
-  const int es_carpeta = fstat(d, &datos) == 0 && S_ISDIR(datos.st_mode);
+  const int es_carpeta = mira(d, &datos) == 0 && S_ISDIR(datos.st_mode);
   const enum fallos_clase clase = es_carpeta ? SUCESO_SINCRONIZA_CARPETA : SUCESO_SINCRONIZA;
   const enum fallos_tipo tipo = toca(clase);
   if (impide(tipo)) return -1;
@@ -296,8 +331,7 @@ int open(const char* ruta, int banderas, ...) {
   if (!(banderas & O_CREAT) || !en_carpeta(ruta)) return verdadera(ruta, banderas, permisos);
   const enum fallos_tipo tipo = toca(SUCESO_CREA);
   if (impide(tipo)) return -1;
-  struct stat antes;
-  const int existia = lstat(ruta, &antes) == 0;
+  const int existia = existe(ruta);
   const int d = verdadera(ruta, banderas, permisos);
   const struct fallos_suceso s = {.clase = SUCESO_CREA, .ruta = ruta, .nodo = nodo_de(d)};
   if (d >= 0 && !existia) cuenta_suceso(s);
@@ -314,4 +348,47 @@ int open64(const char* ruta, int banderas, ...) {
     va_end(resto);
   }
   return open(ruta, banderas, permisos);
+}
+
+/* ---- The calls that ask */
+
+#define CONSULTA(nombre, clase_de_ruta, en, registro)           \
+  int nombre(clase_de_ruta que, struct registro* datos) {       \
+    VERDADERA(nombre);                                          \
+    if (!armado || !en(que)) return verdadera(que, datos);      \
+    const enum fallos_tipo tipo = toca(SUCESO_CONSULTA);        \
+    if (impide(tipo)) return -1;                                \
+    const int r = verdadera(que, datos);                        \
+    acaba(tipo);                                                \
+    return r;                                                   \
+  }
+CONSULTA(stat, const char*, en_carpeta, stat)
+CONSULTA(stat64, const char*, en_carpeta, stat64)
+CONSULTA(lstat, const char*, en_carpeta, stat)
+CONSULTA(lstat64, const char*, en_carpeta, stat64)
+CONSULTA(fstat, int, descriptor_en_carpeta, stat)
+CONSULTA(fstat64, int, descriptor_en_carpeta, stat64)
+
+ssize_t pread(int d, void* bytes, size_t n, off_t desde) {
+  VERDADERA(pread);
+  if (!descriptor_en_carpeta(d)) return verdadera(d, bytes, n, desde);
+  const enum fallos_tipo tipo = toca(SUCESO_LEE);
+  if (impide(tipo)) return -1;
+  const ssize_t leidos = verdadera(d, bytes, parte(tipo, n), desde);
+  acaba(tipo);
+  return leidos;
+}
+
+ssize_t pread64(int d, void* bytes, size_t n, off64_t desde) {
+  return pread(d, bytes, n, desde);
+}
+
+int flock(int d, int operacion) {
+  VERDADERA(flock);
+  if (!descriptor_en_carpeta(d)) return verdadera(d, operacion);
+  const enum fallos_tipo tipo = toca(SUCESO_CERROJO);
+  if (impide(tipo)) return -1;
+  const int r = verdadera(d, operacion);
+  acaba(tipo);
+  return r;
 }

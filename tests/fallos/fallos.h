@@ -3,7 +3,7 @@
  * library, or preloaded: FALLOS_CARPETA=/real/folder FALLOS_N=7 FALLOS_TIPO=muere LD_PRELOAD=...
  *
  * Counted: write, pwrite, writev, pwritev, fsync, fdatasync, ftruncate, rename, renameat2, unlink,
- * and open that may create. */
+ * and open that may create; or, apart from them, stat, lstat, fstat, pread and flock. */
 #ifndef ZORBIN_FALLOS_H
 #define ZORBIN_FALLOS_H
 
@@ -33,8 +33,15 @@ void fallos_arma(const char* carpeta, int n, enum fallos_tipo tipo, int siempre)
 /* Nothing fails from now on. Nothing is counted either, or kept from the disk. */
 void fallos_desarma(void);
 
+/* What is counted and fails from now on: calls that change the folder, as at first, or those that
+ * ask for something. Those of them that cannot suffer the fault are not counted: only pread and
+ * flock are interrupted, only pread falls short. */
+void fallos_en_consultas(int si);
+
 /* Calls counted since it was armed, those of `clase` or all (-1). */
 int fallos_cuenta(int clase);
+/* Calls that suffered the fault since it was armed. */
+int fallos_puestos(void);
 
 enum fallos_clase {
   SUCESO_CREA,
@@ -44,6 +51,9 @@ enum fallos_clase {
   SUCESO_SINCRONIZA_CARPETA,
   SUCESO_RENOMBRA,
   SUCESO_BORRA,
+  SUCESO_CONSULTA, /* stat, lstat, fstat */
+  SUCESO_LEE,
+  SUCESO_CERROJO,
   SUCESO_CLASES
 };
 

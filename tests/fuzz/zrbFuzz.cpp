@@ -1,5 +1,6 @@
-// An Obra: opened as the command line opens it, validated, calculated for some Casos, and each of
-// its Tramos chosen and saved at the capture, which then finds what it saved.
+// An Obra: opened as the command line opens it, validated, calculated, and each of its Tramos
+// chosen and saved at the capture, which then finds what it saved.
+#include <chrono>
 #include <cmath>
 #include <sstream>
 
@@ -18,8 +19,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMaxCasos = 2;                 // of a Tramo
-constexpr std::size_t kMaxTramosUsados = 2;  // of an Obra
+// A run goes to its end unless it is longer than an input may take: more Casos, or more time.
+constexpr int kMaxCasos = 200;
+constexpr std::chrono::milliseconds kMaxEspera{500};
+constexpr std::chrono::seconds kMaxCaso{15};  // of sanitizers, on a busy machine
+constexpr std::size_t kMaxTramosUsados = 2;   // of an Obra
 
 // ---- The state
 
@@ -32,14 +36,28 @@ void ExigeFinitos(const Bloque& b) {
 
 // ---- The run
 
-// The JSON of some Casos; every number of it must be one.
+// What ends a run before its time is this target, never an endless Caso.
+ResultadoTramo CorreEntera(const DatosTramo& datos) {
+  const auto limite = std::chrono::steady_clock::now() + kMaxEspera;
+  const auto sigue = [limite](const AvanceCorrida& avance) {
+    return avance.caso <= kMaxCasos && std::chrono::steady_clock::now() < limite;
+  };
+  auto resultado = CalculaTramo(datos, RangoDe(datos), sigue);
+  Exige(resultado.vueltas.total() <= kMaxVueltasCorrida + kMaxVueltasCaso,
+        "the work of a run has a bound");
+  const bool acaba = resultado.cancelado || resultado.fallo ||
+                     resultado.filas.size() <= static_cast<std::size_t>(kMaxCasos);
+  Exige(acaba, "a run ends, fails or is given up");
+  Exige(std::chrono::steady_clock::now() < limite + kMaxCaso, "a Caso has a bound");
+  return resultado;
+}
+
+// The JSON of a run; every number of it must be one.
 void Corre(const Obra& obra, const TramoPedido& p, const fs::path& ruta) {
   const std::map<int, Tramo> capturados{{p.posicion, p.tramo}};
   std::ostringstream flujo;
   ListadoJson json(flujo, ruta.string(), capturados, Textos(), {true, ','});
-  const auto datos = DatosDeCalculo(obra, p.tramo);
-  const auto resultado = CalculaTramo(
-      datos, RangoDe(datos), [](const AvanceCorrida& avance) { return avance.caso <= kMaxCasos; });
+  const auto resultado = CorreEntera(DatosDeCalculo(obra, p.tramo));
   json.EmpiezaObra(obra);
   json.Tramo(resultado, p.posicion, p.numero, {});
   json.AcabaObra();

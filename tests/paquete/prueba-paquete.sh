@@ -63,6 +63,11 @@ comprueba_fichero() {
   echo "El paquete, sin instalar"
   lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$paquete" || falla "lintian"
   bien "lintian"
+  rm -rf "$taller/abierto"
+  dpkg-deb -x "$paquete" "$taller/abierto"
+  "$aqui/endurecido.sh" "$taller"/abierto/usr/bin/zorbin{,-calc} || falla "las protecciones"
+  rm -rf "$taller/abierto"
+  bien "sus programas llevan las protecciones de Debian"
 }
 
 prepara_raiz() {
@@ -123,6 +128,11 @@ comprueba_linea() {
 
 comprueba_ventana() {
   echo "zorbin"
+  local codigo=0
+  DISPLAY='' con_persona zorbin >"$taller/zorbin.log" 2>&1 || codigo=$?
+  [ $codigo -eq 1 ] && dice "necesita una pantalla" cat "$taller/zorbin.log" ||
+    falla "sin pantalla: código $codigo, $(cat "$taller/zorbin.log")"
+  bien "sin pantalla lo dice en una frase"
   # The language, as an administrator would set it: no question at the first start.
   mkdir -p "$raiz/etc/xdg/ZORBIN"
   printf '[General]\nIdioma=1\n' >"$raiz/etc/xdg/ZORBIN/ZORBIN.ini"

@@ -8,7 +8,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <fstream>
+#include <functional>
+#include <set>
 
 #include "base/textos.h"
 #include "comun/grabadoRoto.h"
@@ -229,6 +232,7 @@ TEST_F(ConDiario, UnaTuberiaSeLeeYSinNadieEnElOtroExtremoNoSeEspera) {
 TEST_F(ConDiario, UnFicheroNuevoTomaSuNombreAlGrabarseYNoUnDiarioViejo) {
   DejaAMedias(ruta, cambio, 1);
   fs::remove(ruta);
+  PonBytes(ruta.string() + "-nuevo", std::string(9999, 'x'));  // longer than what comes
   {
     FicheroRegistros f(ruta, Modo::LecturaEscritura);
     EXPECT_EQ(f.avisos().at(0).texto, txt::DiarioAjeno);
@@ -263,16 +267,67 @@ TEST_F(ConDiario, NoSeEscribeSobreLoQueOtroHaCambiado) {
   EXPECT_EQ(RechazoDeGrabar(f), txt::YaNoEsta);
   fs::rename(carpeta / "movida", ruta);
   EXPECT_EQ(RechazoDeGrabar(f), 0);
-  fs::remove(diario);  // someone tidied up: the next save makes it anew
-  f.EscribeRegistro(3, "tercero");
-  f.Vacia();
-  EXPECT_TRUE(fs::exists(diario));
-  f.EscribeRegistro(3, "cuarto");
-  fs::create_directory(carpeta / "aparte");
-  fs::rename(diario, carpeta / "aparte" / "diario");
-  PonBytes(diario, "de otro");
-  EXPECT_EQ(Rechazo([&] { f.Vacia(); }), txt::SinDiario);
-  EXPECT_EQ(f.LeeRegistro(3), "tercero");
+}
+
+// Whatever is put in the place of the journal while the file is open, the next save makes it anew;
+// what may be of somebody's is set aside.
+TEST_F(ConDiario, ElDiarioQueYaNoEstaSeHaceDeNuevo) {
+  const fs::path aparte = diario.string() + "-1";
+  struct Caso {
+    const char* nombre;
+    std::function<void()> pone;
+    bool seAparta;
+  };
+  for (const auto& [nombre, pone, seAparta] : std::vector<Caso>{
+           {"nothing", [] {}, false},
+           {"a copy of itself", [&] { fs::copy_file(carpeta / "guardado", diario); }, false},
+           {"of another", [&] { PonBytes(diario, "de otro"); }, true},
+           {"of a save", [&] { PonBytes(diario, BytesDiario(CalculaCambios(antes, 404, cambio))); },
+            true},
+           {"a link", [&] { fs::create_symlink(ruta, diario); }, true},
+           {"a folder", [&] { fs::create_directory(diario); }, true}}) {
+    SCOPED_TRACE(nombre);
+    PonBytes(ruta, antes);
+    fs::permissions(ruta, static_cast<fs::perms>(0600));
+    {
+      FicheroRegistros f(ruta, Modo::LecturaEscritura);
+      f.EscribeRegistro(3, "tercero");
+      f.Vacia();
+      fs::rename(diario, carpeta / "guardado");
+      pone();
+      EXPECT_EQ(RechazoDeGrabar(f), 0);
+      EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(diario)));
+      EXPECT_EQ(fs::status(diario).permissions(), fs::status(ruta).permissions());
+      f.EscribeRegistro(3, "cuarto");
+      EXPECT_EQ(Rechazo([&] { f.Vacia(); }), 0);
+    }
+    EXPECT_EQ(fs::exists(fs::symlink_status(aparte)), seAparta);
+    EXPECT_FALSE(fs::exists(diario));
+    EXPECT_EQ(FicheroRegistros(ruta, Modo::Lectura).LeeRegistro(3), "cuarto");
+    fs::remove(aparte);
+    fs::remove(carpeta / "guardado");
+  }
+}
+
+// Programs that were killed before the first save of a new file, and one that is about to do it.
+TEST_F(ConDiario, LoQueDejaUnGrabadoQueNoFueSeRecogeAlAbrirOtroFichero) {
+  const auto deja = [this](const fs::path& fichero) {
+    const pid_t hijo = ::fork();
+    if (hijo == 0) {
+      const FicheroRegistros f(fichero, Modo::LecturaEscritura);
+      ::kill(::getpid(), SIGKILL);
+    }
+    ::waitpid(hijo, nullptr, 0);
+    EXPECT_TRUE(fs::exists(fichero.string() + "-nuevo"));
+  };
+  deja(carpeta / "muerta.zrb");
+  PonBytes(carpeta / "carta-nuevo", "de otro");
+  const FicheroRegistros viva(carpeta / "viva.zrb", Modo::LecturaEscritura);
+  { const FicheroRegistros f(ruta, Modo::LecturaEscritura); }
+  std::set<std::string> quedan;
+  for (const auto& f : fs::directory_iterator(carpeta)) quedan.insert(f.path().filename().string());
+  EXPECT_EQ(quedan,
+            (std::set<std::string>{"carta-nuevo", "obra.zrb", "viva.zrb-nuevo", "viva.zrb-uso"}));
 }
 
 TEST_F(ConDiario, SoloEnFicherosCorrientes) {

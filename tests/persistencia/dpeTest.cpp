@@ -5,7 +5,6 @@
 #include <cerrno>
 
 #include "comun/carpeta.h"
-#include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
 namespace {
@@ -152,19 +151,6 @@ TEST_F(DpeAbierto, ElQueNoCabeSeDice) {
   EXPECT_EQ(f.TotalRegistrosDpe(), 32761);
   EXPECT_THROW(f.GrabaUnTramoPresion({9, 1, 2.5, {1, 1, 1}}, false), ErrorFichero);
   EXPECT_EQ(LeeAjustes(ruta).size(), 4095u);
-}
-
-TEST(Log, SeAnadeYNoSeTrunca) {
-  const pruebas::Carpeta propia;
-  const auto carpeta = propia / "x";
-  for (int i = 0; i < 2; ++i) {
-    FicheroLog log(carpeta);
-    log.registro() << "una";
-    log.registro().FinLinea();
-    log.registro().Vuelca();
-  }
-  EXPECT_EQ(fs::file_size(carpeta / "Debugpim_cal.txt"), 8u);
-  EXPECT_THROW(FicheroLog(carpeta / "Debugpim_cal.txt"), ErrorEjecucion);
 }
 
 }  // namespace

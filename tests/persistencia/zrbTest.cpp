@@ -171,7 +171,13 @@ TEST_F(Zrb, UnFicheroDanadoSeRechazaNombrandoElRegistro) {
       {"cuenta con letra", [&] { Estropea(20, Registro("x")); }, "1159|x"},
       {"numero de Tramo", [&] { Estropea(21, Registro("uno")); }, "1154|21|NumeroTramo|uno"},
       {"byte sin caracter", [&] { Estropea(5, Registro("a\x81")); }, "1156|5"},
-      {"fichero vacio", [&] { fs::resize_file(ruta, 0); }, "508"},
+      {"fichero vacio", [&] { fs::resize_file(ruta, 0); }, "1840"},
+      {"una carta", [&] { pruebas::PonBytes(ruta, std::string(500, 'a')); }, "1840"},
+      {"sin un solo rotulo",
+       [&] {
+         for (int r = 1; r <= 4; ++r) Estropea(r, Registro("x"));
+       },
+       "1840"},
       {"cortado en la cabecera", [&] { fs::resize_file(ruta, 4 * 128 + 5); }, "1152|5|60|5"},
       {"cortado en un texto", [&] { fs::resize_file(ruta, 77 * 128 + 6); }, "1152|78|10|6"},
       {"cortado en un Tramo", [&] { fs::resize_file(ruta, 40 * 128); }, "1155|40|1|80"},
@@ -201,6 +207,66 @@ TEST_F(Zrb, LosCaracteresDeControlQueSeCitanSeVen) {
     const std::string queja = textos.Compone(error.mensaje());
     EXPECT_NE(queja.find("«1,2\\x1B]0;x\\x07»"), std::string::npos) << queja;
   }
+}
+
+// What is whole is read, the rest is named: by the Tramo, or 0 for the header.
+TEST_F(Zrb, LoQueSePuedeLeerDeUnaObraDanadaSeLee) {
+  struct Fila {
+    const char* nombre;
+    std::function<void()> estropea;
+    std::vector<int> quedan;
+    std::vector<int> danos;
+  };
+  const std::vector<Fila> filas{
+      {"entera", [] {}, {1, 2, 3}, {}},
+      {"un dato de un Tramo", [&] { Estropea(52 + 60, Registro("x")); }, {1, 3}, {2}},
+      {"un numero de Tramo", [&] { Estropea(21, Registro("uno")); }, {2, 3}, {1}},
+      {"una longitud", [&] { Estropea(30 + 120, "\xff\xff"); }, {1, 2}, {3}},
+      {"la cabecera",
+       [&] {
+         Estropea(1, Registro("?"));
+         Estropea(7, Registro("x"));
+       },
+       {1, 2, 3},
+       {0, 0}},
+      {"la cuenta", [&] { Estropea(20, Registro("x")); }, {1, 2, 3}, {0}},
+      {"el final", [&] { fs::resize_file(ruta, 170 * 128); }, {1, 2}, {3}},
+      {"el final y la cuenta",
+       [&] {
+         Estropea(20, Registro("x"));
+         fs::resize_file(ruta, 170 * 128);
+       },
+       {1, 2},
+       {0}},
+      {"un blanco tras un dano",
+       [&] {
+         Estropea(52, Registro("x"));
+         Estropea(49 + 74, Registro(""));
+       },
+       {3},
+       {1, 2}},
+  };
+  for (const auto& f : filas) {
+    SCOPED_TRACE(f.nombre);
+    fs::remove(ruta);
+    Escribe({EstadoDeMuestra(1), EstadoDeMuestra(2), EstadoDeMuestra(3)}, {"1", "2", "3"}, ',');
+    const auto sana = TramosPedidos(LeeProyecto(ruta));
+    f.estropea();
+    const std::string bytes = pruebas::Bytes(ruta);
+    const auto proyecto = RescataProyecto(ruta);
+    EXPECT_EQ(PosicionesDe(proyecto.lista), f.quedan);
+    std::vector<int> danos;
+    for (const auto& d : proyecto.danos) danos.push_back(d.posicion);
+    EXPECT_EQ(danos, f.danos);
+    for (const auto& t : TramosPedidos(proyecto)) {
+      EXPECT_EQ(t.tramo.DescriTramo,
+                sana[static_cast<std::size_t>(t.posicion - 1)].tramo.DescriTramo);
+      EXPECT_EQ(t.tramo.Di, sana[static_cast<std::size_t>(t.posicion - 1)].tramo.Di);
+    }
+    EXPECT_EQ(pruebas::Bytes(ruta), bytes);
+  }
+  pruebas::PonBytes(ruta, "una carta");
+  EXPECT_THROW(RescataProyecto(ruta), ErrorFichero);
 }
 
 TEST_F(Zrb, UnFicheroDeAjustesDanadoNoSeLlevaLaObra) {

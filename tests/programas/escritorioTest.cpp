@@ -90,10 +90,10 @@ std::set<std::string> CodigosDePagina(const std::string& pagina) {
 
 TEST(PaginasDeManual, DicenLasOpcionesYLosCodigosDeLaLinea) {
   std::map<std::string, Opciones> deLaAyuda;
-  for (const char* orden : {"calcula", "valida", "ajustes", "hidraulica", "medios"}) {
+  for (const char* orden : {"calcula", "valida", "ajustes", "rescata", "hidraulica", "medios"}) {
     deLaAyuda[orden] =
         OpcionesDeAyuda(Corre(ZORBIN_CALC " " + std::string(orden) + " --help").salida);
-    ASSERT_GT(deLaAyuda[orden].size(), 3u);
+    ASSERT_GT(deLaAyuda[orden].size(), 2u);
   }
   const auto general = OpcionesDeAyuda(Corre(ZORBIN_CALC " --help").salida);
   const std::array<std::pair<const char*, const char*>, 2> paginas{
@@ -196,6 +196,22 @@ TEST_F(Instalado, CalculaConLoQueTieneASuLado) {
   EXPECT_EQ(sinTabla.codigo, 1);
   EXPECT_NE(sinTabla.salida.find((datos / "tablas/TUB#GM").string()), std::string::npos)
       << sinTabla.salida;
+}
+
+TEST_F(Instalado, SinPantallaSeDiceEnUnaFrase) {
+  const std::string zorbin = (prefijo / "bin/zorbin").string();
+  for (const auto& [entorno, frase] : std::to_array<std::pair<std::string, std::string>>({
+           {"LANG=es_ES.UTF-8", "ZORBIN necesita una pantalla y no la encuentra (DISPLAY=)"},
+           {"LC_ALL=fr_FR.UTF-8 DISPLAY=:987",
+            "besoin d'un écran et n'en trouve pas (DISPLAY=:987)"},
+           {"LANGUAGE=en LANG=en_GB.UTF-8 QT_QPA_PLATFORM=nada",
+            "finds none (QT_QPA_PLATFORM=nada)"},
+       })) {
+    const auto r = Corre("env -i " + entorno + ' ' + zorbin);
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_NE(r.salida.find(frase), std::string::npos) << r.salida;
+    EXPECT_EQ(std::count(r.salida.begin(), r.salida.end(), '\n'), 1) << r.salida;
+  }
 }
 
 TEST_F(Instalado, EstaTodoLoQueSeEnsenaAUnaPersona) {

@@ -34,6 +34,10 @@ class Linea : public testing::Test {
   void SetUp() override { fs::create_directories(carpeta); }
   void TearDown() override { fs::remove_all(carpeta); }
 
+  static void PonBytes(const fs::path& ruta, const std::string& bytes) {
+    std::ofstream(ruta, std::ios::binary) << bytes;
+  }
+
   static std::string Lee(const fs::path& ruta) {
     std::ifstream f(ruta, std::ios::binary);
     return {std::istreambuf_iterator<char>(f), {}};
@@ -375,13 +379,58 @@ TEST_F(Linea, LaSalidaNuncaPisaLaObra) {
   EXPECT_EQ(Lee(copia), antes);
 }
 
-// A log that the disk refuses ends each run with its name, and nothing else.
-TEST_F(Linea, UnRegistroQueNoCabeEsUnFalloConNombre) {
+// A log that cannot be written is told once, with its name, and changes nothing else.
+TEST_F(Linea, UnRegistroQueNoSePuedeEscribirSeDiceYNoParaNada) {
   fs::create_symlink("/dev/full", carpeta / "Debugpim_cal.txt");
-  const auto r = Llama("calcula " + acequia + " --formato json --registros " + carpeta.string());
-  EXPECT_EQ(r.codigo, 3);
-  EXPECT_NE(r.quejas.find("Debugpim_cal.txt"), std::string::npos) << r.quejas;
-  EXPECT_EQ(nlohmann::json::parse(r.salida)["tramos"].size(), 7u);
+  const auto sana = Llama("calcula " + acequia + " --formato json");
+  for (const std::string& donde : {carpeta.string(), std::string("/proc/no")}) {
+    const auto r = Llama("calcula " + acequia + " --formato json --registros " + donde);
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_NE(r.quejas.find(donde + "/Debugpim_cal.txt"), std::string::npos) << r.quejas;
+    EXPECT_EQ(std::count(r.quejas.begin(), r.quejas.end(), '\n'), 1) << r.quejas;
+    EXPECT_EQ(r.salida, sana.salida);
+  }
+}
+
+// The sample with a Tramo and its end damaged, and adjustments beside it.
+TEST_F(Linea, LoQueSePuedeLeerDeUnaObraDanadaVaAOtra) {
+  const std::string rota = Copia(52 + 60, "x");
+  {
+    FicheroRegistros f(RutaDpe(rota), FicheroRegistros::Modo::LecturaEscritura);
+    EscribeAjustes(f, {{4, 1, 2, {30, 5, 25}}}, '.');
+  }
+  fs::resize_file(rota, 400 * 128);
+  const std::string bytes = Lee(rota), nueva = (carpeta / "nueva.zrb").string();
+  for (const char* orden : {"calcula ", "valida ", "ajustes "}) {
+    const auto r = Llama(orden + rota);
+    EXPECT_EQ(r.codigo, 1);
+    EXPECT_NE(r.quejas.find("Se pueden leer 5 de sus 7 Tramos"), std::string::npos) << r.quejas;
+  }
+  const std::string rescata = "rescata --separador coma " + rota + " --salida " + nueva;
+  const auto r = Llama(rescata);
+  EXPECT_EQ(r.codigo, 1);
+  EXPECT_EQ(r.salida, nueva + ": 5 de 7 Tramos\n");
+  EXPECT_NE(r.quejas.find("Tramo 2: se deja fuera"), std::string::npos) << r.quejas;
+  EXPECT_NE(r.quejas.find("Tramo 7: se deja fuera"), std::string::npos) << r.quejas;
+  EXPECT_EQ(Lee(rota), bytes);
+  const auto casos = [&](const std::string& obra) {
+    const auto palabras = "calcula --formato json --tramo 1 --tramo 5 " + obra;
+    auto j = nlohmann::json::parse(Llama(palabras).salida)["tramos"];
+    for (auto& t : j) t.erase("posicion");
+    return j;
+  };
+  fs::copy_file(acequia, carpeta / "sana.zrb");
+  fs::copy_file(RutaDpe(rota), carpeta / "sana.dpe");
+  EXPECT_EQ(casos(nueva), casos((carpeta / "sana.zrb").string()));
+  EXPECT_EQ(Llama(rescata).codigo, 1) << "nothing is written over";
+  EXPECT_NE(Llama(rescata).quejas.find("ya existe"), std::string::npos);
+
+  PonBytes(rota, "una carta");
+  for (const std::string& orden : {"calcula " + rota, rescata + "2"}) {
+    const auto carta = Llama(orden);
+    EXPECT_EQ(carta.codigo, 1);
+    EXPECT_NE(carta.quejas.find("no es una Obra de ZORBIN"), std::string::npos) << carta.quejas;
+  }
 }
 
 TEST_F(Linea, LasCalculadoras) {
@@ -412,9 +461,6 @@ TEST_F(Linea, UnaSalidaImposibleSeDiceYNoDejaRestos) {
   EXPECT_EQ(WEXITSTATUS(estado), 4);
   EXPECT_EQ(Llama("calcula " + acequia + " --salida /dev/full").codigo, 4);
   EXPECT_EQ(WEXITSTATUS(std::system(ZORBIN_CALC " --help >/dev/full 2>/dev/null")), 4);
-  const auto sinLog = Llama("calcula " + acequia + " --tramo 1 --registros /proc/no");
-  EXPECT_EQ(sinLog.codigo, 3);
-  EXPECT_NE(sinLog.quejas.find("Debugpim_cal.txt"), std::string::npos);
 }
 
 // The disk fills in the middle: what was there stays, nothing else is left, and it is told why.
@@ -465,10 +511,12 @@ TEST_F(Linea, LosTextosDeUnaObraSalenComoEstanYNoMandan) {
   EXPECT_NE(datos.find(nombre + " ]0;m\n"), std::string::npos) << datos;
 
   // On a terminal, and in what is told, the codes are shown.
-  std::ofstream(carpeta / "orden") << ZORBIN_CALC " " + calcula + " --listado normal";
-  const auto terminal = de("script -qec 'sh " + (carpeta / "orden").string() + "' /dev/null");
-  EXPECT_NE(terminal.find(nombre + "\\x1B]0;m\\x07"), std::string::npos) << terminal;
-  EXPECT_EQ(terminal.find('\x1b'), std::string::npos);
+  for (const char* salida : {"", " --texto /dev/stdout", " --salida /dev/tty"}) {
+    std::ofstream(carpeta / "orden") << ZORBIN_CALC " " + calcula + " --listado normal" + salida;
+    const auto terminal = de("script -qec 'sh " + (carpeta / "orden").string() + "' /dev/null");
+    EXPECT_NE(terminal.find(nombre + "\\x1B]0;m\\x07"), std::string::npos) << terminal;
+    EXPECT_EQ(terminal.find('\x1b'), std::string::npos);
+  }
   const auto r = Llama("calcula " + obra + " --tramo 99");
   EXPECT_NE(r.quejas.find("<b>%s {1}\\x1B[31m.zrb"), std::string::npos) << r.quejas;
   EXPECT_EQ(r.quejas.find('\x1b'), std::string::npos);

@@ -87,8 +87,6 @@ std::string TextoCausa(const ErrorEjecucion& error, const Catalogo& textos) {
       return textos.Texto(dato == "Prs3Tram" ? txt::IncPresionTramo : txt::IncPresionObra);
     case CausaError::IncrementoAltura:
       return textos.Texto(dato == "Hr0Delta" ? txt::IncAlturaTramo : txt::IncAlturaObra);
-    case CausaError::Registro:
-      return textos.Compone(txt::RegistroNoSeEscribe, {dato});
   }
   return {};
 }

@@ -143,7 +143,7 @@ void ListadoNormal::Materiales(const DatosTramo& d) {
 void ListadoNormal::Tubo(const zorbin::Tramo& t) {
   const double y = papel_.Y();
   Linea(8, Texto(txt::TipoDeTubo) + FormatoTexto(TextoTipologia(t.Tipologia), 53));
-  papel_.Figura(Texto(FiguraTubo(t.Tipologia)), 138, y, 55, 55);
+  if (const int figura = FiguraTubo(t.Tipologia)) papel_.Figura(Texto(figura), 138, y, 55, 55);
   EnBlanco(2);
   if (t.EsArmado && t.TipoCamisa != 0) {
     Linea(8, Texto(txt::EspesorMaximoCamisa) + Numero(t.CamMax, 4, 1) + " mm");

@@ -183,11 +183,10 @@ void ListadoTabular::DatosPostesado(const VistaCaso& v) {
   Linea(5 + 7, Texto(v.tramo.datos.obra.EsSI() ? txt::DatosTabularSI : txt::DatosTabularMKS));
   Linea(5 + 7, std::string(96, '-'));
   papel_.Negrita(false);
-  const bool revestida = t.Tipologia == 2221 || t.Tipologia == 2222;
   Linea(9, tension(t.Fckno) + " " + tension(t.Fckn) + tension(t.Fckr) + " " +
                tension(v.Postesado().materiales.Fctr, 2) + Blancos(3) + tension(t.Ep) + " " +
                tension(t.SFck) + Blancos(2) + tension(t.Sf) + Numero(t.Delca * 10.0, 9, 2) +
-               Blancos(2) + FormatoTexto(Texto(revestida ? txt::Revestida : txt::Embebida), 10));
+               Blancos(2) + FormatoTexto(TextoDeCamisaTabular(t.Tipologia, textos_), 10));
   EnBlanco(1);
   LineasResto -= kDatosPostesado;
 }

@@ -15,12 +15,12 @@ struct CodigoTexto {
   int texto;
 };
 
-constexpr std::array<CodigoTexto, 6> kCamisas{{{1210, txt::ConCamisa},
-                                               {1220, txt::ConCamisa},
-                                               {2211, txt::CamisaEmbebida},
-                                               {2212, txt::CamisaEmbebida},
-                                               {2221, txt::CamisaRevestida},
-                                               {2222, txt::CamisaRevestida}}};
+// Those that are designed as they are called: 2222 is worked out as an embedded cylinder.
+constexpr std::array<CodigoTexto, 3> kCamisas{
+    {{1210, txt::ConCamisa}, {2211, txt::CamisaEmbebida}, {2221, txt::CamisaRevestida}}};
+
+constexpr std::array<CodigoTexto, 4> kCamisasTabular{
+    {{2211, txt::Embebida}, {2212, txt::Embebida}, {2221, txt::Revestida}, {2222, txt::Revestida}}};
 
 constexpr std::array<CodigoTexto, 6> kColocaciones{{{11, txt::ZanjaSinCompactar},
                                                     {12, txt::ZanjaCompactada},
@@ -46,6 +46,10 @@ std::string PorLugar(std::span<const int> tabla, int lugar, const Catalogo& text
 
 std::string TextoDeCamisa(std::int16_t Tipologia, const Catalogo& textos) {
   return PorCodigo(kCamisas, Tipologia, textos);
+}
+
+std::string TextoDeCamisaTabular(std::int16_t Tipologia, const Catalogo& textos) {
+  return PorCodigo(kCamisasTabular, Tipologia, textos);
 }
 
 std::string TextoDeCuna(std::int16_t TipoCuna, const Catalogo& textos) {

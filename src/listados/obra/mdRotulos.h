@@ -12,6 +12,7 @@
 namespace zorbin {
 
 std::string TextoDeCamisa(std::int16_t Tipologia, const Catalogo& textos);
+std::string TextoDeCamisaTabular(std::int16_t Tipologia, const Catalogo& textos);
 std::string TextoDeCuna(std::int16_t TipoCuna, const Catalogo& textos);  // value of the run, 1..4
 std::string TextoDeColocacion(std::int16_t TipoApoyo, const Catalogo& textos);
 std::string TextoDeCarga(std::int16_t ICar, const Catalogo& textos);

@@ -8,11 +8,11 @@
 
 namespace zorbin {
 
-/// Section of the pipe wall, by typology.
+/// Section of the pipe wall, by typology; 0 for one without a picture of its own.
 constexpr int FiguraTubo(std::int16_t Tipologia) {
-  if (Tipologia == 2211 || Tipologia == 2212) return txt::FiguraTubo2211;
-  if (Tipologia == 2221 || Tipologia == 2222) return txt::FiguraTubo2221;
-  return txt::FiguraTubo2110;
+  if (Tipologia == 1210) return txt::FiguraTubo2110;
+  if (Tipologia == 2211) return txt::FiguraTubo2211;
+  return Tipologia == 2221 ? txt::FiguraTubo2221 : 0;
 }
 
 /// Detail of the bedding, by the value of the run.

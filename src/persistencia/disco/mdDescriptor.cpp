@@ -16,6 +16,7 @@ namespace zorbin {
 namespace {
 
 constexpr std::size_t kTrozo = 64 * 1024;  // bytes
+constexpr int kMaxApartados = 99;
 
 // A call again and again while a signal interrupts it. @return what it returned
 template <class Llamada>
@@ -41,6 +42,10 @@ ssize_t LeeEn(const Descriptor& d, char* destino, std::size_t n, std::size_t des
     static_cast<void>(::poll(&espera, 1, -1));
   }
   return deTuberia;
+}
+
+bool NoLoHay(Causa causa) {
+  return causa == ENOENT || causa == ENOTDIR;
 }
 
 // A file system that does not know how to take a name only where it is free.
@@ -144,23 +149,47 @@ bool Permite(const std::filesystem::path& ruta, int modo) {
   return ::faccessat(AT_FDCWD, ruta.c_str(), modo, AT_EACCESS) == 0;
 }
 
-bool EsElMismo(const Descriptor& d, const std::filesystem::path& ruta) {
+Causa EsElMismo(const Descriptor& d, const std::filesystem::path& ruta, bool& si) {
   struct stat abierto, nombrado;
-  return ::fstat(d.numero(), &abierto) == 0 && ::stat(ruta.c_str(), &nombrado) == 0 &&
-         abierto.st_ino == nombrado.st_ino && abierto.st_dev == nombrado.st_dev;
+  si = false;
+  if (::fstat(d.numero(), &abierto) != 0) return errno;
+  if (::stat(ruta.c_str(), &nombrado) != 0) return NoLoHay(errno) ? 0 : errno;
+  si = abierto.st_ino == nombrado.st_ino && abierto.st_dev == nombrado.st_dev;
+  return 0;
+}
+
+Causa HayAlgo(const std::filesystem::path& ruta, bool& si) {
+  struct stat datos;
+  si = ::lstat(ruta.c_str(), &datos) == 0;
+  return si || NoLoHay(errno) ? 0 : errno;
 }
 
 Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a) {
   const Causa causa = CausaDe(Repite(
       [&] { return ::renameat2(AT_FDCWD, de.c_str(), AT_FDCWD, a.c_str(), RENAME_NOREPLACE); }));
   if (!NoSabeSinPisar(causa)) return causa;
+<<<<<<< HEAD
   struct stat otro;
   if (::lstat(a.c_str(), &otro) == 0) return EEXIST;
   return TomaNombre(de, a);
 }
 
 Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a) {
+=======
+  bool ocupado = false;
+  if (const Causa otra = HayAlgo(a, ocupado)) return otra;
+  if (ocupado) return EEXIST;
+>>>>>>> h-c
   return CausaDe(Repite([&] { return ::rename(de.c_str(), a.c_str()); }));
+}
+
+Causa ApartaFichero(const std::filesystem::path& ruta, std::filesystem::path& aparte) {
+  Causa causa = EEXIST;
+  for (int i = 1; i <= kMaxApartados && causa == EEXIST; ++i) {
+    aparte = ruta.string() + "-" + std::to_string(i);
+    causa = PonNombre(ruta, aparte);
+  }
+  return causa;
 }
 
 Causa BorraFichero(const std::filesystem::path& ruta) {

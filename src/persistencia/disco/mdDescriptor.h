@@ -60,14 +60,22 @@ inline constexpr mode_t kPermisosFichero = 0666;
 /// @param modo  R_OK or W_OK
 bool Permite(const std::filesystem::path& ruta, int modo);
 
-/// Whether a name leads to the file that is open.
-bool EsElMismo(const Descriptor& d, const std::filesystem::path& ruta);
+/// Whether a name leads to the file that is open. @return why the system does not tell
+[[nodiscard]] Causa EsElMismo(const Descriptor& d, const std::filesystem::path& ruta, bool& si);
+
+/// Whether something has the name, a link too. @return why the system does not tell
+[[nodiscard]] Causa HayAlgo(const std::filesystem::path& ruta, bool& si);
 
 /// Gives a file its final name unless something has that name. @return EEXIST where it has
 [[nodiscard]] Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a);
 
+<<<<<<< HEAD
 /// Gives a file its final name, whatever has it.
 [[nodiscard]] Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a);
+=======
+/// Gives it the name that is free of NAME-1, NAME-2...
+[[nodiscard]] Causa ApartaFichero(const std::filesystem::path& ruta, std::filesystem::path& aparte);
+>>>>>>> h-c
 
 [[nodiscard]] Causa BorraFichero(const std::filesystem::path& ruta);
 

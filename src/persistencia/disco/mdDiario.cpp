@@ -330,11 +330,11 @@ bool MismoGrabado(const std::optional<std::string>& a, const std::optional<std::
 
 // ---------------------------------------------------------------------------------------------
 
-Diario::Diario(const fs::path& fichero)
+Diario::Diario(const fs::path& fichero, bool nuestro)
     : ruta_(RutaDiario(fichero)),
       serie_(
-          static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())) {
-}
+          static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count())),
+      nuestro_(nuestro) {}
 
 Diario::~Diario() {
   if (!d_.abierto() || seConserva_) return;
@@ -346,13 +346,29 @@ Causa Diario::Crea(mode_t permisos) {
   d_.Cierra();
   largo_ = 0;
   nombreEnDisco_ = false;
-  if (const Causa causa =
-          AbreFichero(d_, ruta_, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, permisos)) {
-    return causa;
+  constexpr int kNuevo = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW;
+  Causa causa = AbreFichero(d_, ruta_, kNuevo, permisos);
+  if (causa == EEXIST && nuestro_) {
+    causa = HazSitio();
+    if (causa == 0) causa = AbreFichero(d_, ruta_, kNuevo, permisos);
   }
+  if (causa != 0) return causa;
+  nuestro_ = true;
   // Who may read the file may read what it was. A file system without rights needs none.
   static_cast<void>(::fchmod(d_.numero(), permisos));
   return 0;
+}
+
+// Somebody put something in the place of the journal.
+Causa Diario::HazSitio() const {
+  Descriptor d;
+  std::string bytes;
+  const bool nulo = AbreFichero(d, ruta_, O_RDONLY | O_NOFOLLOW | O_NONBLOCK) == 0 &&
+                    EsCorriente(d) && LeeBytes(d, kMaxDiario, bytes) == 0 &&
+                    InterpretaDiario(bytes).estado == DiarioLeido::Estado::Nulo;
+  if (nulo) return BorraFichero(ruta_);
+  fs::path aparte;
+  return ApartaFichero(ruta_, aparte);
 }
 
 Causa Diario::Prepara(mode_t permisos) {
@@ -362,7 +378,11 @@ Causa Diario::Prepara(mode_t permisos) {
 }
 
 Causa Diario::Escribe(const Cambios& cambios, mode_t permisos) {
-  if (!d_.abierto() || !EsElMismo(d_, ruta_)) {
+  bool sigue = false;
+  if (d_.abierto()) {
+    if (const Causa causa = EsElMismo(d_, ruta_, sigue)) return causa;
+  }
+  if (!sigue) {
     if (const Causa causa = Crea(permisos)) return causa;
   }
   return Fija(BytesDiario(cambios, ++serie_));

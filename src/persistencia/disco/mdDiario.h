@@ -129,7 +129,8 @@ bool MismoGrabado(const std::optional<std::string>& a, const std::optional<std::
 /// The journal of a file that is open for writing. It goes away with this, unless it is kept.
 class Diario {
  public:
-  explicit Diario(const std::filesystem::path& fichero);
+  /// @param nuestro  nobody else has a journal of this file: its lock is ours
+  Diario(const std::filesystem::path& fichero, bool nuestro);
   ~Diario();
   Diario(const Diario&) = delete;
   Diario& operator=(const Diario&) = delete;
@@ -139,7 +140,8 @@ class Diario {
   /// Makes a void one, so that no save has to wait for its name to be on the disk.
   [[nodiscard]] Causa Prepara(mode_t permisos);
 
-  /// The journal and its name are on the disk when this returns without a cause.
+  /// The journal and its name are on the disk when this returns without a cause. One that is no
+  /// longer in its place is made anew; what lies there, unless it is void, is set aside first.
   /// @param permisos  of the file it protects
   [[nodiscard]] Causa Escribe(const Cambios& cambios, mode_t permisos);
 
@@ -152,6 +154,7 @@ class Diario {
 
  private:
   [[nodiscard]] Causa Crea(mode_t permisos);
+  [[nodiscard]] Causa HazSitio() const;
   [[nodiscard]] Causa Fija(std::string bytes);
 
   std::filesystem::path ruta_;
@@ -159,6 +162,7 @@ class Diario {
   std::uint64_t largo_ = 0;
   std::uint64_t serie_;
   bool nombreEnDisco_ = false;
+  bool nuestro_;
   bool seConserva_ = false;
 };
 

@@ -1,6 +1,8 @@
 // A file that a result is written to: a listing, a summary, a PDF.
 #pragma once
 
+#include <sys/stat.h>
+
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -23,7 +25,10 @@ class ErrorSalida : public std::runtime_error {
 
 /// Writes beside the file that was asked for and gives it that name once all is on the disk, so
 /// that what fails leaves the file of before, or none. A link is followed; a device or a pipe is
-/// written as it stands.
+/// written as it stands. A file that was there keeps owner, group and rights. Where a new one could
+/// not have what that one has (other names, an owner that only the administrator can give it, an
+/// access list), the whole bytes are copied into that one: a power cut in that instant may leave it
+/// half written, and then they are beside it.
 class FicheroSalida {
  public:
   /// @throws ErrorSalida
@@ -38,12 +43,18 @@ class FicheroSalida {
   /// The file has its name when this returns. @throws ErrorSalida
   void Termina();
 
+  /// What is written is shown on a screen.
+  bool esTerminal() const;
+
  private:
   std::string nombre_;  // as it was asked for
   std::filesystem::path ruta_;
   std::filesystem::path provisional_;  // empty for a device or a pipe, and at the end
   Descriptor descriptor_;
 
+  bool enSuSitio_ = false;  // the file that was there takes the bytes
+  void HeredaDe(const struct stat& antes);
+  Causa CopiaEnSuSitio();
   void AbreProvisional();
   void Comprueba(Causa causa) const;
 };

@@ -10,6 +10,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "persistencia/disco/mdRecupera.h"
+#include "persistencia/disco/mdRestos.h"
 
 namespace zorbin {
 
@@ -45,15 +46,12 @@ fs::path SinEnlaces(const fs::path& ruta) {
   std::error_code error;
   fs::path real = fs::canonical(ruta, error);
   if (!error) return real;
+  if (error != std::errc::no_such_file_or_directory) {
+    throw Error(txt::NoSeAbre, ruta.string(), error.value());
+  }
   const fs::path carpeta = ruta.has_parent_path() ? ruta.parent_path() : fs::path(".");
   real = fs::canonical(carpeta, error);
   return error ? ruta : real / ruta.filename();
-}
-
-fs::path RutaProvisional(const fs::path& ruta) {
-  auto provisional = ruta;
-  provisional += "-nuevo";
-  return provisional;
 }
 
 std::string Contenido(const Bloques& bloques) {
@@ -72,13 +70,16 @@ FicheroSeguro::FicheroSeguro(const fs::path& ruta, PideCerrojo pide)
     : nombre_(ruta.string()), ruta_(SinEnlaces(ruta)) {
   std::error_code error;
   if (fs::is_directory(ruta_, error)) throw Error(txt::NoSeAbre, nombre_, EISDIR);
-  if (fs::exists(fs::symlink_status(ruta_, error))) {
+  RecogeRestos(ruta_.parent_path());
+  bool existe = false;
+  if (const Causa causa = HayAlgo(ruta_, existe)) throw Error(txt::NoSeAbre, nombre_, causa);
+  if (existe) {
     AbreExistente(pide);
   } else {
     AbreNuevo(pide);
   }
   marca_.emplace(ruta_);
-  diario_.emplace(ruta_);
+  diario_.emplace(ruta_, ConCerrojo());
   AvisaDeCarpeta();
 }
 
@@ -96,8 +97,7 @@ void FicheroSeguro::AbreExistente(PideCerrojo pide) {
     }
     if (causa != 0) throw Error(txt::NoSeAbre, nombre_, causa);
     TomaOSeNiega(pide);
-    // Another program may have put another file in its place before the lock was ours.
-    if (!EsElMismo(d_, ruta_) && i < kIntentosAbrir) d_.Cierra();
+    CompruebaNombre(ruta_, i);
   }
   struct stat datos;
   if (::fstat(d_.numero(), &datos) != 0) throw Error(txt::NoSeAbre, nombre_, errno);
@@ -119,10 +119,17 @@ void FicheroSeguro::AbreNuevo(PideCerrojo pide) {
     const Causa causa = AbreFichero(d_, provisional, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK);
     if (causa != 0) throw Error(txt::NoSeAbre, nombre_, causa);
     TomaOSeNiega(pide);
-    if (!EsElMismo(d_, provisional) && i < kIntentosAbrir) d_.Cierra();
+    CompruebaNombre(provisional, i);
   }
   provisional_.Pon(provisional);
   for (auto& aviso : RetiraDiario(ruta_, nombre_)) avisos_.push_back(std::move(aviso));
+}
+
+// Another program may have put another file in its place before the lock was ours.
+void FicheroSeguro::CompruebaNombre(const fs::path& ruta, int intento) {
+  bool mismo = false;
+  if (const Causa causa = EsElMismo(d_, ruta, mismo)) throw Error(txt::NoSeAbre, nombre_, causa);
+  if (!mismo && intento < kIntentosAbrir) d_.Cierra();
 }
 
 void FicheroSeguro::TomaOSeNiega(PideCerrojo pide) {
@@ -205,7 +212,10 @@ void FicheroSeguro::DeshacePendiente() {
 }
 
 void FicheroSeguro::CompruebaQueSigueAhi() const {
-  if (!EsElMismo(d_, ruta_)) throw ErrorFichero({txt::YaNoEsta, {nombre_}});
+  bool mismo = false;
+  if (const Causa causa = EsElMismo(d_, ruta_, mismo))
+    throw Error(txt::NadaGrabado, nombre_, causa);
+  if (!mismo) throw ErrorFichero({txt::YaNoEsta, {nombre_}});
   if (!Permite(ruta_, W_OK)) throw Error(txt::NadaGrabado, nombre_, errno);
   bool igual = false;
   if (const Causa causa = ComparaBytes(d_, kMaxContenido, contenido_, igual)) {

@@ -80,6 +80,7 @@ class FicheroSeguro {
  private:
   void AbreExistente(PideCerrojo pide);
   void AbreNuevo(PideCerrojo pide);
+  void CompruebaNombre(const std::filesystem::path& ruta, int intento);
   void TomaOSeNiega(PideCerrojo pide);
   void AvisaDeCarpeta();
 

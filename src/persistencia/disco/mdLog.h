@@ -1,40 +1,44 @@
-// Where the debug log of a run is kept.
+// The debug log of the runs.
 #pragma once
 
-#include <cstdio>
+#include <cstdint>
 #include <filesystem>
-#include <memory>
+#include <string>
 #include <string_view>
 
 #include "base/mdRegistro.h"
+#include "persistencia/disco/mdCarpetaPropia.h"
 
 namespace zorbin {
 
-/// Folder of the logs when none is given: $XDG_STATE_HOME/zorbin, or ~/.local/state/zorbin.
-std::filesystem::path CarpetaRegistros();
+/// Bytes of a log at most.
+inline constexpr std::uint64_t kMaxLog = 50'000'000;
 
-/// The file Debugpim_cal.txt of a folder, opened once for a run and appended to in blocks. It is
-/// never truncated and grows without limit.
+/// The file Debugpim_cal.txt of a folder, which only the person may read, appended to in blocks.
+/// One that would grow beyond its limit becomes Debugpim_cal.anterior.txt, in place of the one
+/// before. A log that cannot be written stops no calculation: the rest is lost, and whoever asks is
+/// told.
 class FicheroLog {
  public:
-  /// @throws ErrorEjecucion Registro, with the name of the file, when it cannot be opened
-  explicit FicheroLog(const std::filesystem::path& carpeta);
+  /// @param maximo  bytes
+  explicit FicheroLog(const std::filesystem::path& carpeta, std::uint64_t maximo = kMaxLog);
   FicheroLog(const FicheroLog&) = delete;
   FicheroLog& operator=(const FicheroLog&) = delete;
 
-  /// @throws ErrorEjecucion Registro from its writing when the disk refuses
   Registro& registro() { return registro_; }
 
- private:
-  struct Cierra {
-    // Nothing is left to be written: the file has no buffer.
-    void operator()(std::FILE* f) const { std::fclose(f); }
-  };
+  /// Name of the file where it could not be written; else empty.
+  std::string SinEscribir() const { return causa_ == 0 ? std::string() : ruta_.string(); }
 
+ private:
+  [[nodiscard]] Causa Abre();
+  [[nodiscard]] Causa Cabe(std::uint64_t bytes);
   void Escribe(std::string_view bloque);
 
   std::filesystem::path ruta_;
-  std::unique_ptr<std::FILE, Cierra> fichero_;
+  std::uint64_t maximo_;
+  Descriptor d_;
+  Causa causa_ = 0;
   Registro registro_;
 };
 

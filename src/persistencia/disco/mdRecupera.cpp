@@ -19,7 +19,6 @@ namespace {
 namespace fs = std::filesystem;
 using Estado = DiarioLeido::Estado;
 
-constexpr int kMaxApartados = 99;
 constexpr int kIntentosLectura = 50;
 constexpr std::chrono::milliseconds kEsperaLectura{2};
 
@@ -70,15 +69,11 @@ Causa QuitaDiario(const fs::path& ruta) {
 }
 
 Mensaje Aparta(const fs::path& ruta, const std::string& nombre) {
-  const fs::path diario = RutaDiario(ruta);
-  Causa causa = EEXIST;
   fs::path aparte;
-  for (int i = 1; i <= kMaxApartados && causa == EEXIST; ++i) {
-    aparte = diario.string() + "-" + std::to_string(i);
-    causa = PonNombre(diario, aparte);
+  if (const Causa causa = ApartaFichero(RutaDiario(ruta), aparte)) {
+    throw NoSeQuita(ruta, nombre, causa);
   }
-  if (causa != 0) throw NoSeQuita(ruta, nombre, causa);
-  return {txt::DiarioAjeno, {nombre, diario.string(), aparte.string()}};
+  return {txt::DiarioAjeno, {nombre, NombreDiario(ruta), aparte.string()}};
 }
 
 // A journal from which nothing is undone.
@@ -92,9 +87,10 @@ std::vector<Mensaje> RetiraOtro(const DiarioLeido& diario, const fs::path& ruta,
   return {{txt::LoAMediasDeshecho, {nombre}}};
 }
 
-std::uint64_t Largo(const Descriptor& f) {
+std::uint64_t Largo(const Descriptor& f, const std::string& nombre) {
   struct stat datos;
-  return ::fstat(f.numero(), &datos) == 0 ? static_cast<std::uint64_t>(datos.st_size) : 0;
+  if (::fstat(f.numero(), &datos) != 0) throw NoSeAbre(nombre, errno);
+  return static_cast<std::uint64_t>(datos.st_size);
 }
 
 Encaje EncajaEnDisco(const Descriptor& f, const Cambios& cambios, const std::string& nombre) {
@@ -102,7 +98,7 @@ Encaje EncajaEnDisco(const Descriptor& f, const Cambios& cambios, const std::str
   if (const Causa causa = LeeBytes(f, kMaxContenido, contenido)) {
     throw ErrorFichero({txt::ErrorDeLectura, {nombre, TextoDeCausa(causa)}});
   }
-  return Encaja(cambios, contenido, Largo(f));
+  return Encaja(cambios, contenido, Largo(f, nombre));
 }
 
 // ---- Reading only
@@ -134,7 +130,7 @@ Vista Compon(const DiarioLeido& diario, std::string contenido, std::uint64_t lar
 std::optional<Vista> Mira(const Descriptor& f, const fs::path& ruta, const std::string& nombre) {
   const auto diario = BytesDelDiario(ruta, nombre);
   std::string contenido = BytesDelFichero(f, nombre);
-  const auto largo = Largo(f);
+  const auto largo = Largo(f, nombre);
   // Without a journal it may have come and gone.
   if (!diario && BytesDelFichero(f, nombre) != contenido) return std::nullopt;
   if (!MismoGrabado(diario, BytesDelDiario(ruta, nombre))) return std::nullopt;

@@ -156,8 +156,11 @@ Marca::Marca(const fs::path& fichero) : ruta_(RutaMarca(fichero)) {
   Descriptor d;
   // A mark left behind is of no one: the file is in our hands.
   if (AbreFichero(d, ruta_, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK) != 0) return;
-  if (!EsFicheroCorriente(d)) return;
-  puesta_ = true;
+  struct stat datos;
+  const bool seSabe = ::fstat(d.numero(), &datos) == 0;
+  if (seSabe && !S_ISREG(datos.st_mode)) return;
+  puesta_ = true;  // also where the system does not tell: it must not stay behind
+  if (!seSabe) return;
   const std::string texto = TextoMarca(EsteTitular());
   if (EscribeBytes(d, texto, 0) == 0 && Trunca(d, texto.size()) == 0) return;
   puesta_ = BorraFichero(ruta_) != 0;

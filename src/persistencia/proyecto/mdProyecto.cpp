@@ -11,6 +11,7 @@ std::int16_t NumeroDe(const std::string& texto) {
   return I16(NumeroTexto(texto).value_or(0.0));
 }
 
+<<<<<<< HEAD
 void Anade(std::vector<Mensaje>& avisos, std::vector<Mensaje> otros) {
   for (auto& aviso : otros) avisos.push_back(std::move(aviso));
 }
@@ -21,11 +22,35 @@ std::vector<Mensaje> AvisosDeSusExtras(const Proyecto& proyecto,
   Extras sobrantes = proyecto.extras;
   for (const auto& p : todos) TomaExtras(sobrantes, p.numero, p.tramo.DescriTramo);
   return AvisosDeExtras(sobrantes, RutaZrx(proyecto.fichero.ruta()));
+=======
+Proyecto Lee(const std::filesystem::path& ruta,
+             ObraLeida (*lee)(EstadoCalculo&, const FicheroRegistros&)) {
+  Proyecto proyecto{
+      FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}, {}};
+  EstadoCalculo e;
+  auto leida = lee(e, proyecto.fichero);
+  proyecto.obra = std::move(e.obra);
+  proyecto.lista = std::move(leida.lista);
+  proyecto.danos = std::move(leida.danos);
+  proyecto.avisos = proyecto.fichero.avisos();
+  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
+  return proyecto;
+}
+
+void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
+  try {
+    proyecto.ajustes = LeeAjustes(RutaDpe(ruta));
+  } catch (const ErrorFichero& error) {
+    proyecto.SinAjustes = true;
+    proyecto.avisos.push_back(error.mensaje());
+  }
+>>>>>>> h-c
 }
 
 }  // namespace
 
 Proyecto LeeProyecto(const std::filesystem::path& ruta) {
+<<<<<<< HEAD
   FotoProyecto foto = LeeFoto(ruta);
   auto junto = LeeAcompanantes(foto);
   Proyecto proyecto{std::move(foto.obra), {}, {}, {}, false, {}, false, {}};
@@ -42,6 +67,17 @@ Proyecto LeeProyecto(const std::filesystem::path& ruta) {
   proyecto.SinExtras = junto.SinExtras;
   Anade(proyecto.avisos, std::move(junto.avisos));
   Anade(proyecto.avisos, AvisosDeSusExtras(proyecto, todos));
+=======
+  Proyecto proyecto = Lee(ruta, CargaObra);
+  TramosPedidos(proyecto);
+  LeeSusAjustes(proyecto, ruta);
+>>>>>>> h-c
+  return proyecto;
+}
+
+Proyecto RescataProyecto(const std::filesystem::path& ruta) {
+  Proyecto proyecto = Lee(ruta, RescataObra);
+  LeeSusAjustes(proyecto, ruta);
   return proyecto;
 }
 

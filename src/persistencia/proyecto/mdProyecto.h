@@ -22,6 +22,7 @@ struct Proyecto {
   Extras extras;                       // what the records have no place for; each Tramo's in it
   bool SinExtras = false;              // their file was refused; `avisos` has why
   std::vector<Mensaje> avisos;         // what a person should know, although it opens
+  std::vector<DanoObra> danos;         // what was not to be had of one that was salvaged
 };
 
 /// Reads the project and the files beside it. Every Tramo is looked at, so that a damaged file is
@@ -29,6 +30,11 @@ struct Proyecto {
 /// with it.
 /// @throws ErrorFichero
 Proyecto LeeProyecto(const std::filesystem::path& ruta);
+
+/// What can be had of a project, whole or damaged: a Tramo that cannot be read has no number in the
+/// list, and `danos` names it. Nothing is written.
+/// @throws ErrorFichero for a file that cannot be read, or is no Obra
+Proyecto RescataProyecto(const std::filesystem::path& ruta);
 
 /// A Tramo that was asked for, in the units of its Obra.
 struct TramoPedido {

@@ -107,8 +107,42 @@ std::string ValorRotulado(const FicheroRegistros& f, int registro, std::string_v
   return std::string(Primeros(resto, 20));
 }
 
+constexpr std::string_view kRotuloVersion = "Version: ";
+constexpr std::string_view kRotuloIdioma = "IDIOMA : ";
+constexpr std::string_view kRotuloUnidades = "SisUnid: ";
+constexpr std::string_view kRotuloGolpe = "GAriete: ";
+
+bool Empieza(const FicheroRegistros& f, int registro, std::string_view rotulo) {
+  try {
+    return f.LeeRegistro(registro).starts_with(rotulo);
+  } catch (const ErrorFichero&) {
+    return false;
+  }
+}
+
+// One label in its place is enough: the others may be damaged.
+bool EsObra(const FicheroRegistros& f) {
+  return Empieza(f, 1, kRotuloVersion) || Empieza(f, 2, kRotuloIdioma) ||
+         Empieza(f, 3, kRotuloUnidades) || Empieza(f, 4, kRotuloGolpe);
+}
+
+// Reads something of an Obra. Where the damages are collected, one more is no end.
+template <class Lee>
+void Intenta(std::vector<DanoObra>* danos, int posicion, Lee lee) {
+  if (danos == nullptr) return lee();
+  try {
+    lee();
+  } catch (const ErrorFichero& error) {
+    danos->push_back({posicion, {}, error.mensaje()});
+  }
+}
+
+void LeeVersion(const FicheroRegistros& f) {
+  if (f.LeeRegistro(1) != kVersionFichero) throw OtroFormato(f, txt::FormatoVersion);
+}
+
 void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avisos) {
-  const std::string valor = ValorRotulado(f, 2, "IDIOMA : ", txt::FormatoIdioma);
+  const std::string valor = ValorRotulado(f, 2, kRotuloIdioma, txt::FormatoIdioma);
   const auto idioma = NumeroTexto(Primeros(valor, 2));
   const bool vale = idioma && *idioma >= 1 && *idioma <= kIdiomas && *idioma == Int(*idioma);
   if (!vale) avisos.push_back({txt::IdiomaNoReconocido, {}});
@@ -119,7 +153,7 @@ void LeeIdioma(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avis
 // The caption stands in the language that the Obra was saved in, whatever the record of the
 // language says. Another one is told, and the surge is estimated, which asks for more steel.
 void LeeGolpe(Obra& obra, const FicheroRegistros& f, std::vector<Mensaje>& avisos) {
-  const std::string valor(Recorta(ValorRotulado(f, 4, "GAriete: ", txt::FormatoGolpe)));
+  const std::string valor(Recorta(ValorRotulado(f, 4, kRotuloGolpe, txt::FormatoGolpe)));
   const auto es = [&](std::string_view RotulosGolpe::*rotulo) {
     return std::ranges::find(kRotulosGolpe, valor, rotulo) != kRotulosGolpe.end();
   };
@@ -134,7 +168,12 @@ ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
                         TextoEntero(Base(posicion) + kUltimoOffset)}});
 }
 
+<<<<<<< HEAD
 std::optional<int> CuentaDe(std::string_view texto) {
+=======
+int LeeCuenta(const FicheroRegistros& f) {
+  const std::string texto = f.LeeRegistro(kRegistroCuenta);
+>>>>>>> h-c
   const auto cuenta = NumeroTexto(texto);
   if (!cuenta || *cuenta < 0 || *cuenta > kMaxTramos || *cuenta != Int(*cuenta)) {
     return std::nullopt;
@@ -142,6 +181,7 @@ std::optional<int> CuentaDe(std::string_view texto) {
   return static_cast<int>(*cuenta);
 }
 
+<<<<<<< HEAD
 ListaTramos LeeLista(const FicheroRegistros& f) {
   const std::string texto = f.LeeRegistro(kRegistroCuenta);
   const auto cuenta = CuentaDe(texto);
@@ -153,6 +193,28 @@ ListaTramos LeeLista(const FicheroRegistros& f) {
     const std::string numero(Recorta(f.LeeRegistro(registro)));
     if (!numero.empty()) LeeEntero(f, registro, "NumeroTramo", numero);
     lista.push_back(numero);
+=======
+// Of those that are whole.
+int CuentaDeBloques(const FicheroRegistros& f) {
+  const int sobra = f.UltimoRegistro() - (Base(1) + kUltimoOffsetLeido);
+  return sobra < 0 ? 0 : std::min(sobra / kRegistrosBloque + 1, kMaxTramos);
+}
+
+std::string LeeNumeroTramo(const FicheroRegistros& f, int posicion) {
+  const int registro = Base(posicion) + kOffsetNumero;
+  if (registro > f.UltimoRegistro()) throw Cortado(f, posicion);
+  std::string numero(Recorta(f.LeeRegistro(registro)));
+  if (!numero.empty()) LeeEntero(f, registro, "NumeroTramo", numero);
+  return numero;
+}
+
+ListaTramos LeeLista(const FicheroRegistros& f, std::vector<DanoObra>* danos) {
+  int cuenta = CuentaDeBloques(f);
+  Intenta(danos, 0, [&] { cuenta = LeeCuenta(f); });
+  ListaTramos lista(static_cast<std::size_t>(cuenta));
+  for (int i = 1; i <= cuenta; ++i) {
+    Intenta(danos, i, [&] { lista[static_cast<std::size_t>(i - 1)] = LeeNumeroTramo(f, i); });
+>>>>>>> h-c
   }
   return lista;
 }
@@ -192,12 +254,24 @@ class Lector {
 
 // `base` is what the records of the block count from.
 template <class Bloque>
-void LeeDatos(Bloque& bloque, const FicheroRegistros& f, int base, bool si) {
+void LeeDatos(Bloque& bloque, const FicheroRegistros& f, int base, bool si,
+              std::vector<DanoObra>* danos = nullptr) {
   for (const auto* dato : EnOrden(TablaDe(bloque))) {
     if (!dato->ficha.seLee) continue;
     const Lector lector(f, base + dato->ficha.registro, dato->ficha, si);
-    std::visit([&](const auto miembro) { lector(bloque.*miembro); }, dato->miembro);
+    Intenta(danos, 0, [&] {
+      std::visit([&](const auto miembro) { lector(bloque.*miembro); }, dato->miembro);
+    });
   }
+}
+
+// Whether a blank record of a Tramo leaves what the one before it had.
+bool TomaDelAnterior(const FicheroRegistros& f, int posicion) {
+  return std::ranges::any_of(TablaDe(Tramo{}), [&](const Dato<Tramo>& dato) {
+    const bool deja = dato.ficha.registro != 0 && dato.ficha.seLee && !dato.ficha.Escala() &&
+                      !std::holds_alternative<std::string Tramo::*>(dato.miembro);
+    return deja && Recorta(f.LeeRegistro(Base(posicion) + dato.ficha.registro)).empty();
+  });
 }
 
 // What follows from the fields read.
@@ -306,20 +380,64 @@ void EscribeTodos(FicheroRegistros& f, std::vector<Registro128> registros) {
 
 }  // namespace
 
-ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
+namespace {
+
+// @param danos  where what cannot be read is told; null: it is an error
+ObraLeida LeeObra(EstadoCalculo& e, const FicheroRegistros& f, std::vector<DanoObra>* danos) {
   ObraLeida leida;
   Obra obra;
-  if (f.LeeRegistro(1) != kVersionFichero) throw OtroFormato(f, txt::FormatoVersion);
-  LeeIdioma(obra, f, leida.avisos);
-  obra.SisUnid =
-      Recorta(ValorRotulado(f, 3, "SisUnid: ", txt::FormatoUnidades)) == "MKS" ? "MKS" : "SI";
-  LeeGolpe(obra, f, leida.avisos);
-  LeeDatos(obra, f, 0, obra.EsSI());
-  leida.lista = LeeLista(f);
+  obra.SisUnid = "SI";
+  if (!EsObra(f)) throw ErrorFichero({txt::NoEsUnaObra, {f.Nombre()}});
+  Intenta(danos, 0, [&] { LeeVersion(f); });
+  Intenta(danos, 0, [&] { LeeIdioma(obra, f, leida.avisos); });
+  Intenta(danos, 0, [&] {
+    const auto sistema = ValorRotulado(f, 3, kRotuloUnidades, txt::FormatoUnidades);
+    if (Recorta(sistema) == "MKS") obra.SisUnid = "MKS";
+  });
+  Intenta(danos, 0, [&] { LeeGolpe(obra, f, leida.avisos); });
+  LeeDatos(obra, f, 0, obra.EsSI(), danos);
+  leida.lista = LeeLista(f, danos);
   obra.RutaApp = e.obra.RutaApp;
   obra.NombreFichero = f.Nombre();
   obra.ObraAbierta = true;
   e.obra = std::move(obra);
+  return leida;
+}
+
+// Leaves the Tramos that cannot be read out of the list.
+void DejaFueraLosRotos(const EstadoCalculo& e, const FicheroRegistros& f, ObraLeida& leida) {
+  EstadoCalculo prueba;
+  prueba.obra = e.obra;
+  bool roto = false;
+  for (int i = 1; i <= static_cast<int>(leida.lista.size()); ++i) {
+    auto& numero = leida.lista[static_cast<std::size_t>(i - 1)];
+    if (numero.empty()) {
+      roto = roto || std::ranges::count(leida.danos, i, &DanoObra::posicion) > 0;
+      continue;
+    }
+    const auto habia = leida.danos.size();
+    Intenta(&leida.danos, i, [&] {
+      CargaTramo(prueba, f, i);
+      if (!roto || !TomaDelAnterior(f, i)) return;
+      throw ErrorFichero({txt::HeredaDeUnDanado, {f.Nombre(), numero}});
+    });
+    if (leida.danos.size() == habia) continue;
+    roto = true;
+    leida.danos.back().numero = std::exchange(numero, {});
+  }
+}
+
+}  // namespace
+
+ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f) {
+  return LeeObra(e, f, nullptr);
+}
+
+ObraLeida RescataObra(EstadoCalculo& e, const FicheroRegistros& f) {
+  std::vector<DanoObra> danos;
+  auto leida = LeeObra(e, f, &danos);
+  leida.danos = std::move(danos);
+  DejaFueraLosRotos(e, f, leida);
   return leida;
 }
 
@@ -343,10 +461,11 @@ void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos&
   std::vector<Registro128> r{
       {1, "Version", std::string(kVersionFichero)},
       {2, "Idioma",
-       "IDIOMA : " + TextoEntero(o.Idioma) + " " +
+       std::string(kRotuloIdioma) + TextoEntero(o.Idioma) + " " +
            textos.Texto(txt::NombresIdioma[0] + o.Idioma - 1)},
-      {3, "SisUnid", "SisUnid: " + o.SisUnid + std::string(27, ' ')},
-      {4, "GolpeCalculado", "GAriete: " + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)}};
+      {3, "SisUnid", std::string(kRotuloUnidades) + o.SisUnid + std::string(27, ' ')},
+      {4, "GolpeCalculado",
+       std::string(kRotuloGolpe) + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)}};
   PonDatos(r, o, 0, o.EsSI(), separador);
   PonReserva(r, kPrimeraReserva, kRegistroCuenta - 1);
   r.push_back({kRegistroCuenta, "", TextoEntero(static_cast<int>(lista.size()))});

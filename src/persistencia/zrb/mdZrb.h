@@ -19,15 +19,29 @@ inline constexpr int kMaxTramos = 545;
 /// empty text keeps the place of a block without number.
 using ListaTramos = std::vector<std::string>;
 
+/// What cannot be read of an Obra: a datum of its header, or a whole Tramo.
+struct DanoObra {
+  int posicion = 0;    // of the Tramo, from 1; 0 for the header
+  std::string numero;  // of the Tramo; empty where it cannot be read either
+  Mensaje causa;
+};
+
 struct ObraLeida {
   ListaTramos lista;
   std::vector<Mensaje> avisos;  // what a person should know, although the Obra opens
+  std::vector<DanoObra> danos;  // of one that was salvaged
 };
 
 /// Reads the header and the list of Tramos. Writes e.obra in the units of its system; NombreFichero
 /// and ObraAbierta are set. Numbers may have either decimal separator.
 /// @throws ErrorFichero naming the record and what was expected; the state is then untouched
 ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f);
+
+/// What can be had of a damaged Obra: as CargaObra, but a datum of the header that cannot be read
+/// is that of a new Obra, and a Tramo that cannot be read whole has an empty text in the list. A
+/// number of Tramos that cannot be read is that of the blocks of the file.
+/// @throws ErrorFichero for a file that is no Obra at all
+ObraLeida RescataObra(EstadoCalculo& e, const FicheroRegistros& f);
 
 /// Reads the block at a position, from 1, into e.tramo, in the units of the Obra's system, and sets
 /// the load fields and the heights in force. A blank record leaves the field as it was; a paired

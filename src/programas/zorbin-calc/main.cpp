@@ -12,6 +12,7 @@
 #include "programas/zorbin-calc/mdCalculadoras.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"
 #include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdValida.h"
 #include "programas/zorbin-calc/mdVigia.h"
 
@@ -34,6 +35,7 @@ class Ordenes {
     DeclaraCalcula();
     DeclaraValida();
     DeclaraAjustes();
+    DeclaraRescata();
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -65,11 +67,13 @@ class Ordenes {
   CLI::App* calcula_ = nullptr;
   CLI::App* valida_ = nullptr;
   CLI::App* ajustes_ = nullptr;
+  CLI::App* rescata_ = nullptr;
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
   OpcionesValida deValida_;
   OpcionesListaAjustes deAjustes_;
+  OpcionesRescata deRescata_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -77,6 +81,7 @@ class Ordenes {
     if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
     if (valida_->parsed()) return Valida(deValida_, textos_);
     if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
+    if (rescata_->parsed()) return Rescata(deRescata_, textos_);
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -127,6 +132,15 @@ class Ordenes {
     DeclaraObra(ajustes_, o.obra, o.tramos);
     Eleccion(ajustes_, "--formato", o.formato, txt::AyudaFormatoCalculadora, {"texto", "json"});
     Eleccion(ajustes_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+  }
+
+  void DeclaraRescata() {
+    rescata_ = Orden("rescata", txt::RescataUnaObra);
+    auto& o = deRescata_;
+    Opcion(rescata_, "OBRA.zrb", o.obra, txt::AyudaFichero, "")->required();
+    Opcion(rescata_, "--salida", o.salida, txt::AyudaSalidaNueva, T(txt::PalabraFichero))
+        ->required();
+    Eleccion(rescata_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
   }
 
   void DeclaraCalcula() {

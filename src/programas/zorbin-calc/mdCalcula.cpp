@@ -18,6 +18,7 @@
 #include "persistencia/proyecto/mdProyecto.h"
 #include "persistencia/zrx/mdZrx.h"
 #include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdSalidaPdf.h"
 #include "programas/zorbin-calc/mdValida.h"
@@ -79,22 +80,6 @@ void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const 
     const Tramo pedido = std::exchange(p.tramo, lista.tramos.at(p.posicion));
     p.tramo.NumeroTramo = pedido.NumeroTramo;
     p.tramo.Envolvente = pedido.Envolvente;
-  }
-}
-
-// Runs a Tramo with its debug log; one that cannot be opened is a failure of the run.
-ResultadoTramo CorreTramo(DatosTramo datos, const std::filesystem::path& registros,
-                          const SigueCorrida& sigue) {
-  const Rango rango = RangoDe(datos);
-  try {
-    FicheroLog log(registros);
-    return CalculaTramo(datos, rango, sigue, &log.registro());
-  } catch (const ErrorEjecucion& error) {
-    ResultadoTramo sinCorrer;
-    sinCorrer.datos = std::move(datos);
-    sinCorrer.rango = rango;
-    sinCorrer.fallo = {error};
-    return sinCorrer;
   }
 }
 
@@ -168,13 +153,19 @@ class Calculador {
   // Runs the Tramos one after another.
   template <class Toma>
   void Corre(const Toma& toma) {
-    const auto registros = opciones_.registros.empty() ? CarpetaRegistros() : opciones_.registros;
+    FicheroLog log(opciones_.registros.empty() ? CarpetaPropia() : opciones_.registros);
     Vigia vigia(opciones_.obra.string(), textos_, estilo_);
     for (const auto& p : encargo_.tramos) {
-      auto resultado = CorreTramo(Datos(p), registros, vigia.Progreso(p.tramo.NumeroTramo));
+      const auto datos = Datos(p);
+      auto resultado =
+          CalculaTramo(datos, RangoDe(datos), vigia.Progreso(p.tramo.NumeroTramo), &log.registro());
       vigia.Acaba(resultado, p.numero);
       cuenta_ += CuentaDeVeredictos(resultado);
       toma(std::move(resultado), p);
+    }
+    log.registro().Vuelca();
+    if (const auto fichero = log.SinEscribir(); !fichero.empty()) {
+      Queja(textos_.Compone(txt::SinRegistro, {fichero}));
     }
     hayFallo_ = vigia.hayFallo();
     Cuenta();
@@ -264,7 +255,7 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
     Queja(queja);
     return kPalabrasMalas;
   }
-  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  const Proyecto proyecto = LeeProyectoEntero(opciones.obra, textos);
   PonIdioma(proyecto, opciones, textos);
   for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
   if (proyecto.SinAjustes) Queja(textos.Texto(txt::AjustesSinLeer));

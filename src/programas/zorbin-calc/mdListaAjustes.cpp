@@ -11,6 +11,7 @@
 #include "persistencia/dpe/mdDpe.h"
 #include "persistencia/proyecto/mdProyecto.h"
 #include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdVigia.h"
 
@@ -87,7 +88,7 @@ std::string EnJson(const std::vector<Ajustado>& ajustados, const std::filesystem
 }  // namespace
 
 int Ajustados(const OpcionesListaAjustes& opciones, Catalogo& textos) try {
-  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  const Proyecto proyecto = LeeProyectoEntero(opciones.obra, textos);
   const Obra& obra = proyecto.obra;
   textos.PonIdioma(obra.Idioma);
   for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));

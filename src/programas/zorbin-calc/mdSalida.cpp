@@ -76,6 +76,9 @@ Salida::Salida(const std::filesystem::path& fichero) : flujo_(nullptr) {
   if (!fichero.empty()) {
     fichero_.emplace(fichero);
     escribe = [this](std::string_view bytes) { fichero_->Escribe(bytes); };
+    if (fichero_->esTerminal()) {
+      escribe = [this](std::string_view bytes) { fichero_->Escribe(ParaTerminal(bytes)); };
+    }
   } else if (::isatty(STDOUT_FILENO) != 0) {
     escribe = [](std::string_view bytes) { EscribeEnPantalla(ParaTerminal(bytes)); };
   }

@@ -7,6 +7,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "programas/zorbin-calc/mdPalabras.h"
+#include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdVigia.h"
 
@@ -56,7 +57,7 @@ ListaFaltas BuscaFaltas(const Proyecto& proyecto, const std::filesystem::path& t
 }
 
 int Valida(const OpcionesValida& opciones, Catalogo& textos) try {
-  const Proyecto proyecto = LeeProyecto(opciones.obra);
+  const Proyecto proyecto = LeeProyectoEntero(opciones.obra, textos);
   textos.PonIdioma(proyecto.obra.Idioma);
   for (const auto& aviso : proyecto.avisos) Queja(textos.Compone(aviso));
   const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos);

@@ -5,9 +5,11 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 #include "programas/zorbin/mdAplicacion.h"
 #include "programas/zorbin/mdPrograma.h"
+#include "programas/zorbin/mdSinPantalla.h"
 #include "shell/piezas/mdQt.h"
 
 namespace {
@@ -39,7 +41,9 @@ int main(int argumentos, char** palabras) {
   }
   std::signal(SIGXFSZ, SIG_IGN);  // a file that may not grow is told as a disk that is full
   std::signal(SIGPIPE, SIG_IGN);  // so is a print server that goes away
+  auto espera = std::make_unique<zorbin::EsperaPantalla>();
   zorbin::Aplicacion aplicacion(argumentos, palabras);
+  espera.reset();
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("zorbin")));
   try {
     zorbin::Programa programa(std::make_unique<zorbin::Preferencias>());

@@ -140,20 +140,14 @@ bool Cierra(Ajustes& a) {
 // ---------------------------------------------------------------------------------------------
 // A Caso
 
-// It is calculated with its debug log, as far as the disk takes it: an engineer who cannot write it
-// works all the same, and is told.
 ResultadoTramo Corre(Ajustes& a, double Hr, double DP) {
-  Registro registro([&a](std::string_view bloque) {
-    try {
-      FicheroLog log(a.registros);
-      log.registro() << bloque;
-      log.registro().Vuelca();
-    } catch (const ErrorEjecucion& error) {
-      a.t.pantalla.aviso = a.c.textos.Compone(txt::AjSinRegistro, {error.dato()});
-    }
-  });
+  FicheroLog log(a.registros);
   const auto& datos = a.tramo.datos;
-  return CalculaTramo(datos, RangoDeUnCaso(datos, Hr, DP), {}, &registro);
+  auto resultado = CalculaTramo(datos, RangoDeUnCaso(datos, Hr, DP), {}, &log.registro());
+  if (const auto fichero = log.SinEscribir(); !fichero.empty()) {
+    a.t.pantalla.aviso = a.c.textos.Compone(txt::AjSinRegistro, {fichero});
+  }
+  return resultado;
 }
 
 void EmpiezaCaso(TrabajoAjuste& t, const ResultadoTramo& r) {

@@ -66,9 +66,9 @@ struct Ajustes {
 /// The button and the menu entry. Saves what is unsaved, opens the file of adjustments and
 /// calculates the first Caso.
 /// @return nothing where it is refused; why has been shown
-std::unique_ptr<Ajustes> AjustaArmaduras(
-    Captura& c, const std::filesystem::path& registros = CarpetaRegistros(),
-    PideCerrojo pide = CerrojoDelSistema);
+std::unique_ptr<Ajustes> AjustaArmaduras(Captura& c,
+                                         const std::filesystem::path& registros = CarpetaPropia(),
+                                         PideCerrojo pide = CerrojoDelSistema);
 
 /// Calculates the Caso of a height [m] and a pressure [at] and shows it with what is stored for it.
 /// A Caso that cannot be calculated is told, and the one before stays.

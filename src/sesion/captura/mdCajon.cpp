@@ -6,8 +6,8 @@
 #include <algorithm>
 
 #include "base/textos.h"
+#include "persistencia/disco/mdCarpetaPropia.h"
 #include "persistencia/disco/mdDescriptor.h"
-#include "persistencia/disco/mdLog.h"
 
 namespace zorbin {
 
@@ -61,7 +61,7 @@ std::string Cronologico(const std::string& cuando) {
 }  // namespace
 
 fs::path CarpetaBorradores() {
-  return CarpetaRegistros() / "borradores";
+  return CarpetaPropia() / "borradores";
 }
 
 Cajon::Cajon(fs::path carpeta) : carpeta_(std::move(carpeta)) {
@@ -71,16 +71,15 @@ Cajon::Cajon(fs::path carpeta) : carpeta_(std::move(carpeta)) {
 }
 
 void Cajon::Guarda(const std::string& texto) const {
-  std::error_code error;
-  fs::create_directories(carpeta_, error);
-  if (error) Falla(txt::BorradorSinGuardar, carpeta_, error.value());
+  Exige(PreparaCarpeta(carpeta_), carpeta_);
   const auto nuevo = Con(ruta_, kAMedias);
   Descriptor d;
   Exige(AbreFichero(d, nuevo, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, kSoloSuyo), nuevo);
   Exige(EscribeBytes(d, texto, 0), nuevo);
   Exige(SincronizaDatos(d), nuevo);
+  std::error_code error;
   fs::rename(nuevo, ruta_, error);
-  if (error) Falla(txt::BorradorSinGuardar, ruta_, error.value());
+  Exige(error.value(), ruta_);
   Exige(SincronizaNombre(ruta_), ruta_);
 }
 

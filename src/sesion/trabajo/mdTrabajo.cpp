@@ -55,42 +55,6 @@ bool TieneFichero(Captura& c) {
 // ---------------------------------------------------------------------------------------------
 // Its results
 
-// The debug log while it can be written. An engineer who cannot write it calculates all the same,
-// and is told.
-class LogDeTrabajo {
- public:
-  explicit LogDeTrabajo(const std::filesystem::path& carpeta)
-      : registro_([this](std::string_view bloque) { Escribe(bloque); }) {
-    try {
-      log_.emplace(carpeta);
-    } catch (const ErrorEjecucion& error) {
-      fichero_ = error.dato();
-    }
-  }
-
-  LogDeTrabajo(const LogDeTrabajo&) = delete;
-  LogDeTrabajo& operator=(const LogDeTrabajo&) = delete;
-
-  Registro& registro() { return registro_; }
-  const std::string& SinEscribir() const { return fichero_; }
-
- private:
-  std::optional<FicheroLog> log_;
-  std::string fichero_;  // that could not be written
-  Registro registro_;
-
-  void Escribe(std::string_view bloque) {
-    if (!log_) return;
-    try {
-      log_->registro() << bloque;
-      log_->registro().Vuelca();
-    } catch (const ErrorEjecucion& error) {
-      fichero_ = error.dato();
-      log_.reset();
-    }
-  }
-};
-
 std::string Fallo(const ResultadoTramo& r, const std::string& numero, const Encargo& encargo) {
   if (r.fallo) return TextoFallo(*r.fallo, encargo.fichero, numero, encargo.textos, encargo.estilo);
   if (r.filas.empty() && !r.cancelado) {
@@ -195,7 +159,7 @@ std::string Calculo::Aviso() const {
 Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
                        const std::filesystem::path& registros) {
   Calculo calculo;
-  LogDeTrabajo log(registros);
+  FicheroLog log(registros);
   Avance avance;
   avance.posiciones = static_cast<int>(encargo.tramos.size());
   const auto pregunta = [&](const AvanceCorrida& a) {

@@ -78,7 +78,7 @@ struct Calculo {
 
 /// Calculates what was asked for. @param registros  folder of the debug log
 Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue = {},
-                       const std::filesystem::path& registros = CarpetaRegistros());
+                       const std::filesystem::path& registros = CarpetaPropia());
 
 /// The text of the summary. Where whoever is asked says no it ends there, and the calculation
 /// counts as given up.

@@ -71,7 +71,10 @@ QByteArray Bytes(const QMap<QString, QVariant>& claves, const QString& carpeta) 
 bool FicheroIni::Guarda() {
   if (pendientes_.isEmpty()) return true;
   const QString carpeta = QFileInfo(ruta_).absolutePath();
+  const bool habia = QFileInfo::exists(carpeta);
   if (!QDir().mkpath(carpeta)) return false;
+  if (!habia)
+    QFile::setPermissions(carpeta, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   const Claves juntas = Juntas();
   const QByteArray bytes = Bytes(juntas, carpeta);
   if (bytes.isEmpty() && !juntas.isEmpty()) return false;
