@@ -83,6 +83,11 @@ int HipotesisQueRige(const ResultadoCaso& caso, const FilaCaso& fila) {
   return std::max(rige, 1);
 }
 
+Lista<double, kSecciones> MomentosDe(const ResultadoCaso& caso, int h) {
+  if (caso.EsArmado()) return caso.Armado().esfuerzos.M.filas(h);
+  return EsfuerzosHipotesis(caso).TablaMom.filas(h);
+}
+
 AnilloCaso AnilloDe(const ResultadoTramo& tramo, const FilaCaso& fila, const ResultadoCaso& caso,
                     int h) {
   const auto& t = tramo.datos.tramo;

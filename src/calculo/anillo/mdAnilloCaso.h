@@ -28,6 +28,9 @@ int CuentaHipotesis(const DatosTramo& datos);
 /// check with the greatest use.
 int HipotesisQueRige(const ResultadoCaso& caso, const FilaCaso& fila);
 
+/// Moments of a hypothesis at the three sections [m·t/m].
+Lista<double, kSecciones> MomentosDe(const ResultadoCaso& caso, int h);
+
 /// M and N of a hypothesis: the sum of its load terms with the factor of the bedding. In a
 /// reinforced design N holds the ring force of the pressure too; in a post-tensioned one, whose
 /// pressure goes to the thick cylinder, it does not.
