@@ -11,7 +11,7 @@ namespace zorbin {
 namespace {
 
 constexpr int kPasos = 120;                         // of half a diagram
-constexpr double kParteAnillo = 0.56;               // radius of the ring, of the room that there is
+constexpr double kParteLey = 0.42;                  // of the radius of the ring, its greatest value
 constexpr double kNoEsSeccion = 4.0 * kPi / 180.0;  // from one of the three [rad]
 
 double Grados(double angulo) {
@@ -30,13 +30,16 @@ struct Ley {
 class Diagrama {
  public:
   Diagrama(Plano& plano, const Marco& m, const Ley& ley, const PalabrasDibujo& w)
-      : plano_(plano), ley_(ley), w_(w), centro_(m.Centro()) {
-    const double sitio = std::max(8.0, std::min(m.ancho / 2 - 17.0, m.alto / 2 - 13.0));
-    radio_ = sitio * kParteAnillo;
+      : plano_(plano), ley_(ley), w_(w), marco_(m) {
     mayor_ = ley.f.Mayor();
     menor_ = ley.f.Menor();
     const double limite = std::max(std::fabs(mayor_.valor), std::fabs(menor_.valor));
-    porUnidad_ = limite > 0 ? (sitio - radio_) / limite : 0.0;
+    const double parte = limite > 0 ? kParteLey / limite : 0.0;
+    const double sitio =
+        std::max(8.0, std::min(m.ancho / 2 - kCifras, (m.alto - kTitulo) / 2 - kPie));
+    radio_ = sitio / (1.0 + parte * std::max(0.0, mayor_.valor));
+    porUnidad_ = radio_ * parte;
+    centro_ = {m.Centro().x, m.y + kTitulo + (m.alto - kTitulo) / 2};
   }
 
   void Pinta() {
@@ -49,21 +52,24 @@ class Diagrama {
     for (int s = 1; s <= kSecciones; ++s) Seccion(s);
     for (const auto* e : {&mayor_, &menor_}) Extremo(*e);
     plano_.En(Capa::Textos);
-    plano_.Negrita({centro_.x, centro_.y - 0.5}, ley_.titulo, AnclaX::Centro, AnclaY::Base);
-    plano_.Texto({centro_.x, centro_.y + 4.0}, ley_.unidad, AnclaX::Centro, AnclaY::Base,
-                 kLetraMenor, Tinta::Tenue);
+    plano_.Negrita({centro_.x, marco_.y + 4.0}, ley_.titulo + ", " + ley_.unidad, AnclaX::Centro,
+                   AnclaY::Base);
   }
 
  private:
+  static constexpr double kTitulo = 6.0;   // over the diagram [mm]
+  static constexpr double kCifras = 19.0;  // beside it
+  static constexpr double kPie = 6.0;      // over and under it
+
   Plano& plano_;
   const Ley& ley_;
   const PalabrasDibujo& w_;
+  const Marco marco_;
   Xy centro_;
   double radio_ = 0, porUnidad_ = 0;
   FuncionAnillo::Extremo mayor_, menor_;
 
-  // A negative value may not pass the centre of the ring.
-  double R(double valor) const { return std::max(0.12 * radio_, radio_ + porUnidad_ * valor); }
+  double R(double valor) const { return radio_ + porUnidad_ * valor; }
 
   Puntos Circulo() const { return Arco(centro_, radio_, 0.0, 2.0 * kPi); }
 

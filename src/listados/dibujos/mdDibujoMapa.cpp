@@ -120,8 +120,8 @@ class DibujoMapa {
     plano_.En(Capa::Datos);
     Celdas();
     Tramas();
-    Niveles();
     Rango();
+    Niveles();
     if (caso != nullptr) Marca(*caso);
     PintaEjes(plano_, ejes, w_, false);
   }
@@ -225,7 +225,7 @@ class DibujoMapa {
     for (auto& [k, region] : areas) {
       const double tono = kTonoMenor + (kTonoMayor - kTonoMenor) * (k % kTonos) / (kTonos - 1);
       const Mancha mancha{TintaDe(k / kTonos), k / kTonos == 0 ? 0.4 : tono};
-      for (auto& p : region) plano_.Area(std::move(p), mancha);
+      plano_.Region(std::move(region), mancha);
     }
   }
 

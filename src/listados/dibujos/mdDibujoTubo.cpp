@@ -11,13 +11,15 @@ namespace zorbin {
 namespace {
 
 constexpr double kMm = 1000.0;        // of a metre
-constexpr double kVueloCuna = 1.35;   // half width of a bed, in external radii
+constexpr double kVueloCuna = 1.2;    // half width of a bed, in external radii
 constexpr double kMinimoAcero = 0.3;  // thinner lines are not seen [mm of paper]
 
 // Space that dimensions and texts take round the views [mm].
-constexpr double kLados = 16.0;
+constexpr double kLados = 7.0;
 constexpr double kEncima = 4.0;
-constexpr double kDebajo = 18.0;
+constexpr double kMargenes = 8.0;
+constexpr double kCabecera = 22.0;
+constexpr double kDebajo = 21.0;
 
 std::string Barras(const PalabrasDibujo& w, double n, double diametro) {
   return w.Con(txt::DibBarras, {w.Corto(n, 1), w.Corto(diametro, 1)});
@@ -109,7 +111,7 @@ class Corte {
   }
   void Barras(const CapaAcero& a) {
     const double paso = kMm / a.porMetro;
-    const int n = static_cast<int>(std::floor(largo_ / paso));
+    const int n = static_cast<int>(std::floor(largo_ * a.porMetro / kMm + 1e-9));
     const double primera = (largo_ - (n - 1) * paso) / 2.0;
     for (int i = 0; i < std::max(1, n); ++i) {
       const double x = n > 0 ? primera + i * paso : largo_ / 2.0;
@@ -119,10 +121,11 @@ class Corte {
   }
   void Cotas(const PalabrasDibujo& w) {
     const double izquierda = vista_.origen.x, derecha = vista_.P(largo_, 0).x;
-    plano_.CotaVertical(Y(pared_.espesor), Y(0.0), izquierda, -5.0, w.Corto(pared_.espesor, 1));
-    plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, w.Corto(pared_.Reci, 1));
+    plano_.CotaVertical(Y(pared_.espesor), Y(0.0), izquierda, -5.0,
+                        "e " + w.Corto(pared_.espesor, 1));
+    plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, "ri " + w.Corto(pared_.Reci, 1));
     plano_.CotaVertical(Y(pared_.espesor), Y(pared_.espesor - pared_.Rece), derecha, 4.0,
-                        w.Corto(pared_.Rece, 1));
+                        "re " + w.Corto(pared_.Rece, 1));
   }
 };
 
@@ -183,6 +186,12 @@ void PintaLeyenda(Plano& plano, Xy sitio, const std::vector<LineaLeyenda>& linea
   }
 }
 
+Marco Cabeza(Plano& plano, const CasoDibujado& caso, const PalabrasDibujo& w,
+             const HojaDibujo& hoja) {
+  return PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion),
+                     w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
+}
+
 // The whole section with its diameters.
 class Transversal {
  public:
@@ -200,8 +209,7 @@ class Transversal {
   double AnchoEnPapel(double escala) const { return Ancho() / escala + 2 * kLados; }
   double AltoEnPapel(double escala) const { return Alto() / escala + kEncima + kDebajo; }
 
-  // @return where it ends below
-  double Pinta(const Marco& sitio, double escala, const PalabrasDibujo& w) {
+  void Pinta(const Marco& sitio, double escala, const PalabrasDibujo& w) {
     const double De = t_.De * kMm, Di = t_.Di * kMm;
     Vista v{{sitio.x + sitio.ancho / 2, 0}, escala};
     const double sobra = sitio.alto - AltoEnPapel(escala);
@@ -217,16 +225,14 @@ class Transversal {
     const auto cota = [&](const char* nombre, double mm) {
       return std::string(nombre) + " " + w.Corto(mm, 1);
     };
-    // Above the axis, so that the figure is not crossed by it.
-    const double alto = v.L(Di) * 0.16;
-    const double semi = std::sqrt(std::max(0.0, v.L(Di / 2) * v.L(Di / 2) - alto * alto));
-    if (semi > 10.0) {
-      plano_.Encima({v.origen.x, v.origen.y - alto}, cota("Di", Di), AnclaX::Centro, AnclaY::Medio,
-                    kLetra);
-    }
     plano_.CotaHorizontal(v.P(-De / 2, 0).x, v.P(De / 2, 0).x, abajo, 6.0, cota("De", De));
     plano_.CotaHorizontal(v.P(-Di / 2, 0).x, v.P(Di / 2, 0).x, abajo, 11.5, cota("Di", Di));
-    return abajo + kDebajo;
+    plano_.En(Capa::Textos);
+    const auto cuna = CunaDe(t_);
+    plano_.Texto({v.origen.x, abajo + 18.5},
+                 w.Con(cuna.hormigon ? txt::DibCunaHormigon : txt::DibCunaGranular,
+                       {w.Corto(cuna.semiangulo * 360.0 / kPi, 0)}),
+                 AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
   }
 
  private:
@@ -289,40 +295,63 @@ void PintaTubo(Plano& plano, const Vista& v, const Tramo& t, const ParedDibujada
   plano.Circulo(v.origen, v.L(Ri), {}, {Tinta::Tinta, kGrueso});
 }
 
-Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& pedida) {
-  constexpr double kParteIzquierda = 0.5;
+Lamina DibujaTransversal(const CasoDibujado& caso, const PalabrasDibujo& w,
+                         const HojaDibujo& pedida) {
   const auto pared = ParedDe(caso);
   HojaDibujo hoja = pedida;
   Lamina lamina;
   Plano plano(lamina);
   Transversal transversal(plano, caso, pared);
   if (hoja.escala > 0) {
-    hoja.ancho = std::max(hoja.ancho, transversal.AnchoEnPapel(hoja.escala) / kParteIzquierda + 8);
-    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + 26);
+    hoja.ancho = std::max(hoja.ancho, transversal.AnchoEnPapel(hoja.escala) + kMargenes);
+    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
   }
   lamina = LaminaVacia(hoja);
-  const Marco m = PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion),
-                              w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
-  const Marco izquierda{m.x, m.y, m.ancho * kParteIzquierda, m.alto};
-  const double escala =
-      hoja.escala > 0 ? hoja.escala : transversal.Cabe(izquierda.ancho, izquierda.alto - 6);
-  transversal.Pinta({izquierda.x, izquierda.y, izquierda.ancho, izquierda.alto - 6}, escala, w);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  const double escala = hoja.escala > 0 ? hoja.escala : transversal.Cabe(m.ancho, m.alto);
+  transversal.Pinta(m, escala, w);
   PonEscala(plano, hoja, w, escala);
-  plano.En(Capa::Textos);
-  const auto cuna = CunaDe(caso.Datos());
-  plano.Texto({izquierda.Centro().x, m.Abajo() - 1.0},
-              w.Con(cuna.hormigon ? txt::DibCunaHormigon : txt::DibCunaGranular,
-                    {w.Corto(cuna.semiangulo * 360.0 / kPi, 0)}),
-              AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
-  const double alto = std::min(m.alto - 34.0, m.ancho * 0.32);
-  const double arriba = m.y + (m.alto - 34.0 - alto) / 2;
-  Corte corte(plano, pared, {izquierda.Derecha(), arriba, m.ancho - izquierda.ancho, alto});
+  return lamina;
+}
+
+Lamina DibujaPared(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& hoja) {
+  const auto pared = ParedDe(caso);
+  Lamina lamina = LaminaVacia(hoja);
+  Plano plano(lamina);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  Corte corte(plano, pared, m);
+  corte.Pinta(w);
+  PonEscala(plano, hoja, w, corte.Escala());
+  return lamina;
+}
+
+Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& pedida) {
+  constexpr double kLeyenda = 40.0;  // paper for the caption of the cut and the steel [mm]
+  const auto pared = ParedDe(caso);
+  HojaDibujo hoja = pedida;
+  Lamina lamina;
+  Plano plano(lamina);
+  Transversal transversal(plano, caso, pared);
+  if (hoja.escala > 0) {
+    hoja.ancho = std::max(hoja.ancho, 2 * transversal.AnchoEnPapel(hoja.escala) + kMargenes);
+    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
+  }
+  lamina = LaminaVacia(hoja);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  const Marco izquierda{m.x, m.y, m.ancho / 2, m.alto};
+  const double escala =
+      hoja.escala > 0 ? hoja.escala : transversal.Cabe(izquierda.ancho, izquierda.alto);
+  transversal.Pinta(izquierda, escala, w);
+  PonEscala(plano, hoja, w, escala);
+  const double alto = std::min(m.alto - kLeyenda, m.ancho / 3);
+  const double arriba = m.y + (m.alto - kLeyenda - alto) / 2;
+  Corte corte(plano, pared, {izquierda.Derecha(), arriba, m.ancho / 2, alto});
   corte.Pinta(w);
   plano.En(Capa::Textos);
-  plano.Texto({corte.CentroX(), corte.Abajo() + 6.0},
+  plano.Texto({corte.CentroX(), corte.Abajo() + 7.0},
               w.Con(txt::DibPared, {w.Metros(corte.Largo() / kMm), w.Corto(corte.Escala(), 2)}),
               AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
-  PintaLeyenda(plano, {izquierda.Derecha() + 10.0, corte.Abajo() + 15.0},
+  PintaLeyenda(plano, {izquierda.Derecha() + 8.0, corte.Abajo() + 17.0},
                caso.caso.EsArmado() ? LeyendaArmada(caso, w) : LeyendaPostesada(caso, w));
   return lamina;
 }

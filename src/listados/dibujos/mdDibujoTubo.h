@@ -10,6 +10,12 @@ namespace zorbin {
 Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& palabras,
                      const HojaDibujo& hoja = {});
 
+/// The cross section, or the wall, alone: for a panel that has its own words.
+Lamina DibujaTransversal(const CasoDibujado& caso, const PalabrasDibujo& palabras,
+                         const HojaDibujo& hoja = {});
+Lamina DibujaPared(const CasoDibujado& caso, const PalabrasDibujo& palabras,
+                   const HojaDibujo& hoja = {});
+
 /// Steel of a wall, as it is drawn [mm], measured from the inner face.
 struct CapaAcero {
   double distancia = 0;  // of its axis

@@ -84,7 +84,9 @@ class DibujoColocacion {
     Relleno();
     Perfil();
     PintaCuna(plano_, v_, t_, std::max(c_.semiZanja, c_.R * 1.02));
-    PintaTubo(plano_, v_, t_, ParedDe(caso_));
+    auto pared = ParedDe(caso_);
+    pared.acero.clear();  // at this scale it would be a smear
+    PintaTubo(plano_, v_, t_, pared);
     Carga();
     Cotas();
     Nombres();
@@ -121,7 +123,7 @@ class DibujoColocacion {
     suelo.push_back(v_.P(-c_.semi, Abajo()));
     plano_.En(Capa::Terreno);
     plano_.Area(suelo, {Tinta::Terreno, 0.22});
-    plano_.Rayado({suelo}, Trama::Tierra, Tinta::Terreno, 3.2);
+    plano_.Rayado({suelo}, Trama::Tierra, Tinta::Terreno, 4.8);
   }
 
   void Relleno() {

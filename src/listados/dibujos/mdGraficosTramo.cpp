@@ -118,23 +118,30 @@ struct FilaCargaDibujada {
   DeCarga valor;
 };
 
+// Earth by the two formulas of a trench, of which one was adopted.
+std::optional<double> PorFormula(const Tramo& t, const CargasAltura& c, bool terraplen) {
+  if (t.TipoApoyo >= 30 || t.IndCar != 1) return std::nullopt;
+  const auto& q = c.cargas;
+  return q.TerraplenRige == terraplen ? q.Q - q.QMovil : q.QTierras;
+}
+
+std::optional<double> PorEcuacionCompleta(const CargasAltura& c) {
+  if (!c.contraste) return std::nullopt;
+  return c.contraste->adoptada.completa;
+}
+
 // Loads know no pressure: one line for each load.
-std::vector<SerieGrafico> SeriesCargas(const Malla& malla, const PalabrasDibujo& w) {
-  const std::array<FilaCargaDibujada, 5> filas{{
+std::vector<SerieGrafico> SeriesCargas(const Malla& malla, const Tramo& t,
+                                       const PalabrasDibujo& w) {
+  const std::array<FilaCargaDibujada, 6> filas{{
       {txt::DibCargaTotal, Patron::Continuo, [](const auto& c) { return c.cargas.Q; }},
       {txt::DibCargaTierras, Patron::Continuo,
        [](const auto& c) { return c.cargas.Q - c.cargas.QMovil; }},
       {txt::DibCargaMoviles, Patron::Continuo, [](const auto& c) { return c.cargas.QMovil; }},
-      {txt::DibCargaTerraplen, Patron::Discontinuo,
-       [](const auto& c) -> std::optional<double> {
-         if (c.contraste) return c.contraste->terraplen.metodo;
-         return std::nullopt;
-       }},
-      {txt::DibCargaCompleta, Patron::Punteado,
-       [](const auto& c) -> std::optional<double> {
-         if (c.contraste) return c.contraste->adoptada.completa;
-         return std::nullopt;
-       }},
+      {txt::DibCargaZanja, Patron::Discontinuo,
+       [&t](const auto& c) { return PorFormula(t, c, false); }},
+      {txt::DibCargaTerraplen, Patron::Eje, [&t](const auto& c) { return PorFormula(t, c, true); }},
+      {txt::DibCargaCompleta, Patron::Punteado, PorEcuacionCompleta},
   }};
   std::vector<SerieGrafico> series;
   for (std::size_t i = 0; i < filas.size(); ++i) {
@@ -187,7 +194,7 @@ LaminaConEjes DibujaGraficoTramo(QueGrafico que, EjeDeGrafico eje, const DatosTr
       unidad = w.Unidad(kMomento) + "/m";
       break;
     case QueGrafico::Cargas:
-      series = SeriesCargas(malla, w);
+      series = SeriesCargas(malla, datos.tramo, w);
       unidad = w.Unidad(kCarga);
       desdeCero = true;
       break;
@@ -214,17 +221,19 @@ LaminaConEjes DibujaTensiones(const CasoDibujado& caso, int hipotesis, const Pal
       series.push_back({w.T(txt::DibSeccionAnillo[i]), LineaTensiones(r.radios, h, s, w),
                         Serie(s - 1), PatronDe(i)});
     }
-    const auto limite = [&](int nombre, double sigma, double desde, double hasta) {
+    const auto limite = [&](int nombre, double sigma, double desde, double hasta, Patron patron) {
       const double y = w.Convertido(sigma, kTension);
       series.push_back(
           {w.T(nombre),
            {{(desde - r.radios.RadioInt) * 10.0, y}, {(hasta - r.radios.RadioInt) * 10.0, y}},
            Tinta::NoCumple,
-           Patron::Discontinuo});
+           patron});
     };
     if (h.hecha) {
-      limite(txt::DibLimiteNucleo, h.LimPrimario, r.radios.RadioInt, r.radios.RadioNuc);
-      limite(txt::DibLimiteRevestimiento, r.materiales.Fctr, r.radios.RadioNuc, r.radios.RadioRev);
+      limite(txt::DibLimiteNucleo, h.LimPrimario, r.radios.RadioInt, r.radios.RadioNuc,
+             Patron::Eje);
+      limite(txt::DibLimiteRevestimiento, r.materiales.Fctr, r.radios.RadioNuc, r.radios.RadioRev,
+             Patron::Punteado);
     }
   }
   const std::string& titulo = w.T(txt::DibGrafico[static_cast<std::size_t>(QueGrafico::Tensiones)]);

@@ -45,8 +45,8 @@ class PalabrasDibujo {
   std::string Corto(double valor, int decimales) const;
   std::string Metros(double m) const { return Numero(m, 2) + " m"; }
   std::string Milimetros(double mm) const { return Corto(mm, 1) + " mm"; }
-  std::string Presion(double at) const { return Numero(at, 2, "at->MPa"); }
-  /// Unit of a conversion in the system in force, and the factor from the value of calculation.
+  std::string Presion(double at) const { return Numero(at, 0, "at->MPa"); }
+  /// Unit of a conversion in the system in force, and a value of calculation in it.
   std::string Unidad(std::string_view conversion) const;
   double Convertido(double valor, std::string_view conversion) const;
 
@@ -60,6 +60,9 @@ class PalabrasDibujo {
   EstiloNumeros estilo_;
 };
 
+/// What of a text fits a width [mm], with an ellipsis where it is cut.
+std::string Recortado(const std::string& texto, double ancho, double alto, bool negrita = false);
+
 /// Smallest scale of those in use that is not below `minimo`: 1, 1.5, 2, 2.5, 3, 4, 5, 7.5 times a
 /// power of ten.
 double EscalaRedonda(double minimo);
@@ -72,7 +75,7 @@ Marco PonCabecera(Plano& plano, const HojaDibujo& hoja, const std::string& titul
 /// Writes the scale at the right end of the head.
 void PonEscala(Plano& plano, const HojaDibujo& hoja, const PalabrasDibujo& palabras, double escala);
 
-/// The empty sheet, its size grown by what a drawing at a given scale needs beyond it [mm].
+/// The empty sheet.
 Lamina LaminaVacia(const HojaDibujo& hoja);
 
 }  // namespace zorbin

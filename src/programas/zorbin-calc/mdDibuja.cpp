@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/dibujos/mdDibujoAnillo.h"
@@ -43,6 +44,12 @@ Tema TemaDe(const std::string& palabra) {
   return palabra == "claro" ? Tema::Claro : Tema::Papel;
 }
 
+// A number typed on the line; none that is not above 0.
+std::optional<double> Positivo(const std::string& texto, const OpcionesDibuja& o) {
+  const auto valor = NumeroTecleado(texto, SeparadorDeLinea(o.separador)).valor;
+  return valor && *valor > 0 ? valor : std::nullopt;
+}
+
 // What is wrong with options that do not go together, or nothing.
 std::string NoVanJuntas(const OpcionesDibuja& o, const Catalogo& textos) {
   const std::array<std::pair<const char*, const std::filesystem::path&>, 3> salidas{
@@ -63,13 +70,10 @@ std::string NoVanJuntas(const OpcionesDibuja& o, const Catalogo& textos) {
     return textos.Compone(txt::NecesitaOtra, {o.altura ? "--altura" : "--presion",
                                               o.altura ? "--presion" : "--altura"});
   }
-  const auto positivo = [&](const char* nombre, const std::optional<double>& valor) {
-    return !valor || *valor > 0
-               ? ""
-               : textos.Compone(txt::ValorNoSirve, {nombre, std::to_string(*valor)});
-  };
-  for (const auto& queja : {positivo("--altura", o.altura), positivo("--escala", o.escala)}) {
-    if (!queja.empty()) return queja;
+  for (const auto& [nombre, texto] :
+       {std::pair{"--altura", &o.altura}, {"--presion", &o.presion}, {"--escala", &o.escala}}) {
+    if (*texto && !Positivo(**texto, o))
+      return textos.Compone(txt::ValorNoSirve, {nombre, **texto});
   }
   return "";
 }
@@ -128,7 +132,7 @@ class Dibujante {
 
   HojaDibujo Hoja() const {
     HojaDibujo hoja;
-    hoja.escala = o_.escala.value_or(0.0);
+    hoja.escala = o_.escala ? Positivo(*o_.escala, o_).value_or(0.0) : 0.0;
     return hoja;
   }
 
@@ -136,8 +140,8 @@ class Dibujante {
   bool BuscaCaso() {
     Rango rango = RangoDe(datos_);
     if (o_.altura) {
-      const double DP = *o_.presion / palabras_.Convertido(1.0, "at->MPa");
-      rango = RangoDeUnCaso(datos_, *o_.altura, DP);
+      const double DP = *Positivo(*o_.presion, o_) / palabras_.Convertido(1.0, "at->MPa");
+      rango = RangoDeUnCaso(datos_, *Positivo(*o_.altura, o_), DP);
     }
     resultado_ = CalculaTramo(datos_, rango);
     fila_ = CuentaDeVeredictos(resultado_).peor;

@@ -13,14 +13,14 @@ namespace zorbin {
 struct OpcionesDibuja {
   std::filesystem::path obra;
   std::vector<int> tramos;              // one
-  std::optional<double> altura;         // [m]; none for the worst Caso
-  std::optional<double> presion;        // DP, in the unit of the Obra
+  std::optional<std::string> altura;    // [m]; none for the worst Caso
+  std::optional<std::string> presion;   // DP, in the unit of the Obra
   std::optional<int> hipotesis;         // none for the governing one
   std::string que;                      // "seccion", "zanja", "anillo", "mapa" or "grafico"
   std::string grafico;                  // "acero", which is also the empty one, "interior"...
   std::string eje;                      // "presion", which is also the empty one, or "altura"
   std::filesystem::path svg, pdf, png;  // one of them
-  std::optional<double> escala;         // 1:escala
+  std::optional<std::string> escala;    // 1:escala
   std::string tema;                     // "papel", which is also the empty one, "claro", "oscuro"
   std::string idioma;                   // "es", "en"... or empty for the Obra's
   std::string separador;                // "coma", "punto" or empty for the machine's
