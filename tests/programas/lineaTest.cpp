@@ -75,6 +75,39 @@ TEST_F(Linea, ElResumenDeLaObraDeMuestra) {
   EXPECT_EQ(Lee(fichero), r.salida);
 }
 
+TEST_F(Linea, DibujaEnCadaFormaYDiceLoQueFalta) {
+  const auto f = (carpeta / "d").string();
+  const std::string dibuja = "dibuja " + acequia;
+  struct Caso {
+    std::string palabras, cabeza;
+  };
+  for (const auto& [palabras, cabeza] : std::vector<Caso>{
+           {"--tramo 1 --que seccion --escala 10 --svg ", "<svg "},
+           {"--tramo 3 --que zanja --altura 3,2 --presion 0,45 --separador coma --pdf ", "%PDF-"},
+           {"--tramo 6 --que anillo --hipotesis 6 --idioma fr --svg ", "<svg "},
+           {"--tramo 6 --que grafico --grafico tensiones --tema oscuro --png ", "\x89PNG"},
+           {"--tramo 5 --que mapa --svg ", "<svg "}}) {
+    fs::remove(f);
+    const auto r = Llama(dibuja + " " + palabras + f);
+    EXPECT_EQ(r.codigo, 0) << palabras;
+    EXPECT_EQ(r.quejas, "") << palabras;
+    EXPECT_EQ(Lee(f).substr(0, cabeza.size()), cabeza) << palabras;
+  }
+  for (const auto& [palabras, queja] : std::vector<Caso>{
+           {"--tramo 9 --que seccion --svg " + f, "el Tramo 9 no está en"},
+           {"--tramo 1 --que seccion", "falta: --svg, --pdf, --png"},
+           {"--tramo 1 --que seccion --altura 3 --svg " + f, "--altura necesita --presion"},
+           {"--tramo 1 --que anillo --hipotesis 6 --svg " + f, "no tiene hipótesis 6; tiene 5"},
+           {"--tramo 1 --que grafico --grafico tensiones --svg " + f, "Tramo postesado"},
+           {"--tramo 1 --que seccion --svg " + f + " --png " + f, "--svg"},
+           {"--tramo 1 --que seccion --escala 0 --svg " + f, "--escala"},
+           {"--tramo 1 --que plano --svg " + f, "no sirve para --que"}}) {
+    const auto r = Llama(dibuja + " " + palabras);
+    EXPECT_EQ(r.codigo, 2) << palabras;
+    EXPECT_NE(r.quejas.find(queja), std::string::npos) << r.quejas;
+  }
+}
+
 TEST_F(Linea, UnaObraSinTramosSeDiceYNoDejaHoja) {
   const auto pdf = carpeta / "vacia.pdf";
   const auto r = Llama("calcula " + Copia(20, "0") + " --listado normal --pdf " + pdf.string());

@@ -29,25 +29,27 @@ constexpr TablaCuna KNvA{ {{  0.10610,  0.00000, -0.10610,  0.10610,  0.00000, -
 constexpr TablaCuna KNvB{ {{ -0.08720, -0.50000, -0.11990, -0.10695, -0.50000, -0.18220, -0.15690, -0.50000, -0.26385 }}};
 // clang-format on
 
-constexpr std::int16_t kMenorDe90 = 4;
 constexpr double kFactorMenorDe90 = 1.25;
 
-// Resultants of the loads.
-struct Resultantes {
-  double Dm;  // mean diameter [m]
-  double w;   // De / Dm [-]
-  double Wp;  // weight of the pipe [t/m]
-  double Wf;  // weight of the water [t/m]
-  double Wt;  // earth of the spandrels [t/m]
-  double Wq;  // vertical load without the moving part [t/m]
-  double Wm;  // moving part [t/m]
-  double Wl;  // lateral thrust for each metre of height [t/m2]
-  double h1;  // height of earth equivalent to QH [m]
-  double h0;  // the same without the moving part [m]
-};
+double MomentoLateral(const ResultantesOval& r, double De, int col, double h) {
+  return ((KMlA(col) * r.w + KMlB(col)) * h + (KMlC(col) * r.w + KMlD(col)) * De) * r.Wl * r.Dm;
+}
 
-Resultantes CalculaResultantes(const DatosOval& d) {
-  Resultantes r{};
+double AxilLateral(const ResultantesOval& r, double De, int col, double h) {
+  return ((KNlA(col) * r.w + KNlB(col)) * h + (KNlC(col) * r.w + KNlD(col)) * De) * r.Wl;
+}
+
+void ExigeFinitos(const EsfuerzoSecciones& e) {
+  for (int s = 1; s <= kSecciones; ++s) {
+    Finito(e.M(s));
+    Finito(e.N(s));
+  }
+}
+
+}  // namespace
+
+ResultantesOval ResultantesDe(const DatosOval& d) {
+  ResultantesOval r;
   r.Dm = (d.Di + d.De) / 2.0;
   r.w = Div(d.De, r.Dm);
   r.Wp = (d.De * d.De - d.Di * d.Di) * d.GAMAB * kPi / 4.0;
@@ -61,26 +63,9 @@ Resultantes CalculaResultantes(const DatosOval& d) {
   return r;
 }
 
-double MomentoLateral(const Resultantes& r, double De, int col, double h) {
-  return ((KMlA(col) * r.w + KMlB(col)) * h + (KMlC(col) * r.w + KMlD(col)) * De) * r.Wl * r.Dm;
-}
-
-double AxilLateral(const Resultantes& r, double De, int col, double h) {
-  return ((KNlA(col) * r.w + KNlB(col)) * h + (KNlC(col) * r.w + KNlD(col)) * De) * r.Wl;
-}
-
-void ExigeFinitos(const EsfuerzoSecciones& e) {
-  for (int s = 1; s <= kSecciones; ++s) {
-    Finito(e.M(s));
-    Finito(e.N(s));
-  }
-}
-
-}  // namespace
-
 TerminosOval CalculaTerminos(const DatosOval& d) {
-  const Resultantes r = CalculaResultantes(d);
-  const bool menor = d.ICUNA == kMenorDe90;
+  const ResultantesOval r = ResultantesDe(d);
+  const bool menor = d.ICUNA == kCunaMenorDe90;
   const int grupo = menor ? 1 : d.ICUNA;
   TerminosOval t;
   t.factor = menor ? kFactorMenorDe90 : 1.0;

@@ -25,6 +25,29 @@ struct DatosOval {
   std::int16_t ICUNA = 0;  // bedding of the run, 1..4
 };
 
+/// Resultants of the loads, to which the tabulated coefficients belong.
+struct ResultantesOval {
+  double Dm = 0;  // mean diameter [m]
+  double w = 0;   // De / Dm [-]
+  double Wp = 0;  // weight of the pipe [t/m]
+  double Wf = 0;  // weight of the water [t/m]
+  double Wt = 0;  // earth of the spandrels [t/m]
+  double Wq = 0;  // vertical load without the moving part [t/m]
+  double Wm = 0;  // moving part [t/m]
+  double Wl = 0;  // lateral thrust for each metre of height [t/m2]
+  double h1 = 0;  // height of earth equivalent to QH [m]
+  double h0 = 0;  // the same without the moving part [m]
+};
+
+/// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
+ResultantesOval ResultantesDe(const DatosOval& d);
+
+/// Beddings of the run.
+inline constexpr std::int16_t kCunaGranular90 = 1;
+inline constexpr std::int16_t kCunaHormigon90 = 2;
+inline constexpr std::int16_t kCunaHormigon120 = 3;
+inline constexpr std::int16_t kCunaMenorDe90 = 4;  // 1.25 times the granular one
+
 /// Moment [m·t/m] and axial force [t/m] at the three sections.
 struct EsfuerzoSecciones {
   Lista<double, kSecciones> M;

@@ -1,16 +1,14 @@
 #include "listados/pintor/mdPintor.h"
 
 #include <QFontDatabase>
-#include <QIODevice>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
 
 #include "base/mdCarpetas.h"
-#include "persistencia/disco/mdFicheroSalida.h"
+#include "listados/pintor/mdFicheroPdf.h"
 
 namespace zorbin {
 
@@ -51,52 +49,7 @@ QString EnUnaLinea(QString texto) {
   return texto.simplified();
 }
 
-// A file that fails, as the painter tells it.
-template <class Accion>
-auto EnFichero(const Accion& accion) {
-  try {
-    return accion();
-  } catch (const ErrorSalida& error) {
-    throw ErrorPintor(error.what());
-  }
-}
-
 }  // namespace
-
-// The PDF writer never looks back at what became of its bytes: this device writes them whole, or
-// remembers that it could not.
-class FicheroPdf : public QIODevice {
- public:
-  explicit FicheroPdf(const std::filesystem::path& ruta) : salida_(ruta) { open(WriteOnly); }
-
-  /// @throws ErrorSalida of the first write that failed, or of the end
-  void Cierra() {
-    close();
-    Comprueba();
-    salida_.Termina();
-  }
-
-  /// @throws ErrorSalida where a write has failed
-  void Comprueba() const {
-    if (fallo_) throw ErrorSalida(*fallo_);
-  }
-
- protected:
-  qint64 readData(char*, qint64) override { return -1; }
-
-  qint64 writeData(const char* datos, qint64 cuantos) override {
-    try {
-      if (!fallo_) salida_.Escribe({datos, static_cast<std::size_t>(cuantos)});
-    } catch (const ErrorSalida& error) {  // it may not pass through the toolkit
-      fallo_ = error;
-    }
-    return fallo_ ? -1 : cuantos;
-  }
-
- private:
-  FicheroSalida salida_;
-  std::optional<ErrorSalida> fallo_;
-};
 
 Pintor::Pintor() : familia_(EligeFamilia()) {}
 

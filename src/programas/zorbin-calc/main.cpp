@@ -10,6 +10,7 @@
 #include "programas/zorbin-calc/mdAyuda.h"
 #include "programas/zorbin-calc/mdCalcula.h"
 #include "programas/zorbin-calc/mdCalculadoras.h"
+#include "programas/zorbin-calc/mdDibuja.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdRescata.h"
@@ -35,7 +36,11 @@ class Ordenes {
     DeclaraCalcula();
     DeclaraValida();
     DeclaraAjustes();
+<<<<<<< HEAD
     DeclaraRescata();
+=======
+    DeclaraDibuja();
+>>>>>>> h-b
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -67,13 +72,21 @@ class Ordenes {
   CLI::App* calcula_ = nullptr;
   CLI::App* valida_ = nullptr;
   CLI::App* ajustes_ = nullptr;
+<<<<<<< HEAD
   CLI::App* rescata_ = nullptr;
+=======
+  CLI::App* dibuja_ = nullptr;
+>>>>>>> h-b
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
   OpcionesValida deValida_;
   OpcionesListaAjustes deAjustes_;
+<<<<<<< HEAD
   OpcionesRescata deRescata_;
+=======
+  OpcionesDibuja deDibuja_;
+>>>>>>> h-b
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -81,7 +94,11 @@ class Ordenes {
     if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
     if (valida_->parsed()) return Valida(deValida_, textos_);
     if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
+<<<<<<< HEAD
     if (rescata_->parsed()) return Rescata(deRescata_, textos_);
+=======
+    if (dibuja_->parsed()) return Dibuja(deDibuja_, textos_);
+>>>>>>> h-b
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -134,6 +151,7 @@ class Ordenes {
     Eleccion(ajustes_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
   }
 
+<<<<<<< HEAD
   void DeclaraRescata() {
     rescata_ = Orden("rescata", txt::RescataUnaObra);
     auto& o = deRescata_;
@@ -141,6 +159,32 @@ class Ordenes {
     Opcion(rescata_, "--salida", o.salida, txt::AyudaSalidaNueva, T(txt::PalabraFichero))
         ->required();
     Eleccion(rescata_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+=======
+  void DeclaraDibuja() {
+    dibuja_ = Orden("dibuja", txt::AyudaDibuja);
+    auto& o = deDibuja_;
+    Opcion(dibuja_, "OBRA.zrb", o.obra, txt::AyudaFichero, "")->required();
+    Opcion(dibuja_, "--tramo", o.tramos, txt::AyudaTramoDibujo, "N")->expected(1)->required();
+    Eleccion(dibuja_, "--que", o.que, txt::AyudaQueDibuja,
+             {"seccion", "zanja", "anillo", "mapa", "grafico"});
+    dibuja_->get_option("--que")->required();
+    Opcion(dibuja_, "--altura", o.altura, txt::AyudaAlturaDibujo, "H");
+    Opcion(dibuja_, "--presion", o.presion, txt::AyudaPresionDibujo, "P");
+    Opcion(dibuja_, "--hipotesis", o.hipotesis, txt::AyudaHipotesisDibujo, "K");
+    Eleccion(dibuja_, "--grafico", o.grafico, txt::AyudaGrafico,
+             {"acero", "interior", "exterior", "momentos", "cargas", "tensiones"});
+    Eleccion(dibuja_, "--eje", o.eje, txt::AyudaEje, {"presion", "altura"});
+    Opcion(dibuja_, "--svg", o.svg, txt::AyudaSvg, T(txt::PalabraFichero));
+    Opcion(dibuja_, "--pdf", o.pdf, txt::AyudaPdfDibujo, T(txt::PalabraFichero));
+    Opcion(dibuja_, "--png", o.png, txt::AyudaPng, T(txt::PalabraFichero));
+    Opcion(dibuja_, "--escala", o.escala, txt::AyudaEscalaDibujo, "N");
+    Eleccion(dibuja_, "--tema", o.tema, txt::AyudaTema, {"papel", "claro", "oscuro"});
+    Eleccion(dibuja_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});
+    Eleccion(dibuja_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+    dibuja_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
+    dibuja_->add_flag("--envolvente", o.envolvente, T(txt::AyudaEnvolvente));
+    Opcion(dibuja_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
+>>>>>>> h-b
   }
 
   void DeclaraCalcula() {

@@ -1,0 +1,359 @@
+#include "listados/dibujos/mdDibujoTubo.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/textos.h"
+#include "calculo/cargas/mdOval.h"
+
+namespace zorbin {
+
+namespace {
+
+constexpr double kMm = 1000.0;        // of a metre
+constexpr double kVueloCuna = 1.2;    // half width of a bed, in external radii
+constexpr double kMinimoAcero = 0.3;  // thinner lines are not seen [mm of paper]
+
+// Space that dimensions and texts take round the views [mm].
+constexpr double kLados = 7.0;
+constexpr double kEncima = 4.0;
+constexpr double kMargenes = 8.0;
+constexpr double kCabecera = 22.0;
+constexpr double kDebajo = 21.0;
+
+std::string Barras(const PalabrasDibujo& w, double n, double diametro) {
+  return w.Con(txt::DibBarras, {w.Corto(n, 1), w.Corto(diametro, 1)});
+}
+
+ParedDibujada ParedArmada(const CasoDibujado& c) {
+  const auto& t = c.Datos();
+  const auto& f = c.fila;
+  ParedDibujada p{t.Esp * kMm, 0.0, t.Reci * kMm, t.Rece * kMm, {}};
+  if (f.ErrorPostesado == 1) return p;  // the wall is too thin: there is no steel
+  const double chapa = f.ajustado ? c.caso.Armado().ajuste->Camisa / 10.0 : f.CAMISA;
+  if (chapa > 0) p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa});
+  if (f.ajustado) return p;  // its bars are nobody's choice
+  // With a sheet the spirals lie against it, on the side of the middle of the wall.
+  const double dentro = chapa > 0 ? p.Reci + (chapa + f.FIIN) / 2.0 : p.Reci;
+  if (f.NESPIN > 0) p.acero.push_back({dentro, f.FIIN, f.NESPIN, Tinta::Barra});
+  if (f.NEXPEX > 0) p.acero.push_back({p.espesor - p.Rece, f.FIEX, f.NEXPEX, Tinta::Barra});
+  return p;
+}
+
+ParedDibujada ParedPostesada(const CasoDibujado& c) {
+  const auto& t = c.Datos();
+  const auto& r = c.caso.Postesado();
+  ParedDibujada p{t.Esp * kMm, 0.0, t.Reci * kMm, t.Rece * kMm, {}};
+  const auto desde = [&](double radio) { return (radio - r.radios.RadioInt) * 10.0; };
+  p.nucleo = desde(r.radios.RadioNuc);
+  if (t.Delca > 0) p.acero.push_back({desde(r.radios.RadioCam), t.Delca * 10.0, 0.0, Tinta::Chapa});
+  if (r.FIPRDEFI > 0) {
+    const double fi = r.FIPRDEFI * 10.0;
+    p.acero.push_back({p.nucleo + fi / 2.0, fi, r.NESPDEFI, Tinta::Alambre});
+  }
+  return p;
+}
+
+// Length of the cut along the wall [mm]: a round one, some four times as long as the wall is thick.
+double LargoCorte(double espesor) {
+  return std::clamp(std::ceil(4.0 * espesor / 50.0) * 50.0, 150.0, 1000.0);
+}
+
+// Cut along the wall, with the outer face above.
+class Corte {
+ public:
+  Corte(Plano& plano, const ParedDibujada& pared, Marco sitio)
+      : plano_(plano), pared_(pared), largo_(LargoCorte(pared.espesor)) {
+    vista_.escala = EscalaRedonda(
+        std::max(largo_ / (sitio.ancho - 2 * kCotas), pared.espesor / (sitio.alto - kPies)));
+    vista_.origen = {sitio.x + (sitio.ancho - vista_.L(largo_)) / 2,
+                     sitio.y + (sitio.alto - kPies - vista_.L(pared.espesor)) / 2};
+  }
+
+  double Escala() const { return vista_.escala; }
+  double Largo() const { return largo_; }
+  double Abajo() const { return Y(0.0); }
+  double CentroX() const { return vista_.P(largo_ / 2, 0).x; }
+
+  void Pinta(const PalabrasDibujo& w) {
+    plano_.En(Capa::Hormigon);
+    Banda(0.0, pared_.espesor, {Tinta::Hormigon, 0.55});
+    if (pared_.nucleo > 0) Banda(pared_.nucleo, pared_.espesor, {Tinta::Revestimiento, 0.8});
+    plano_.Rayado({Rectangulo(Caja(0.0, pared_.espesor))}, Trama::Hormigon, Tinta::Tenue, 4.0);
+    plano_.Area(Rectangulo(Caja(0.0, pared_.espesor)), {}, {Tinta::Tinta, kGrueso});
+    if (pared_.nucleo > 0) Raya(pared_.nucleo, {Tinta::Tinta, kFino});
+    plano_.En(Capa::Armadura);
+    for (const auto& a : pared_.acero) a.porMetro > 0 ? Barras(a) : Chapa(a);
+    Cotas(w);
+  }
+
+ private:
+  static constexpr double kCotas = 17.0;
+  static constexpr double kPies = 10.0;
+
+  Plano& plano_;
+  const ParedDibujada& pared_;
+  double largo_;
+  Vista vista_;
+
+  double Y(double distancia) const { return vista_.P(0, pared_.espesor - distancia).y; }
+  Marco Caja(double desde, double hasta) const {
+    return {vista_.origen.x, Y(hasta), vista_.L(largo_), vista_.L(hasta - desde)};
+  }
+  void Banda(double desde, double hasta, Mancha m) {
+    plano_.Area(Rectangulo(Caja(desde, hasta)), m);
+  }
+  void Raya(double d, Trazo trazo) {
+    plano_.Linea({vista_.origen.x, Y(d)}, {vista_.P(largo_, 0).x, Y(d)}, trazo);
+  }
+  void Chapa(const CapaAcero& a) {
+    Raya(a.distancia, {a.tinta, std::max(kMinimoAcero, vista_.L(a.grueso))});
+  }
+  void Barras(const CapaAcero& a) {
+    const double paso = kMm / a.porMetro;
+    const int n = static_cast<int>(std::floor(largo_ * a.porMetro / kMm + 1e-9));
+    const double primera = (largo_ - (n - 1) * paso) / 2.0;
+    for (int i = 0; i < std::max(1, n); ++i) {
+      const double x = n > 0 ? primera + i * paso : largo_ / 2.0;
+      plano_.Circulo({vista_.P(x, 0).x, Y(a.distancia)},
+                     std::max(kMinimoAcero / 2, vista_.L(a.grueso) / 2), {a.tinta, 1.0});
+    }
+  }
+  void Cotas(const PalabrasDibujo& w) {
+    const double izquierda = vista_.origen.x, derecha = vista_.P(largo_, 0).x;
+    plano_.CotaVertical(Y(pared_.espesor), Y(0.0), izquierda, -5.0,
+                        "e " + w.Corto(pared_.espesor, 1));
+    plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, "ri " + w.Corto(pared_.Reci, 1));
+    plano_.CotaVertical(Y(pared_.espesor), Y(pared_.espesor - pared_.Rece), derecha, 4.0,
+                        "re " + w.Corto(pared_.Rece, 1));
+  }
+};
+
+struct LineaLeyenda {
+  Tinta tinta;
+  std::string texto;
+};
+
+std::vector<LineaLeyenda> LeyendaArmada(const CasoDibujado& c, const PalabrasDibujo& w) {
+  const auto& f = c.fila;
+  const auto area = [&w](double a) { return w.Con(txt::DibArea, {w.Numero(a, 1)}); };
+  if (f.ErrorPostesado == 1) return {{Tinta::NoCumple, w.T(txt::DibSinArmadura)}};
+  std::string dentro, fuera;
+  const auto y = [](const std::string& a, const std::string& b) {
+    return a.empty() || b.empty() ? a + b : a + " + " + b;
+  };
+  if (f.ajustado) {
+    const auto& a = *c.caso.Armado().ajuste;
+    if (a.Camisa > 0) dentro = w.Con(txt::DibChapa, {w.Corto(a.Camisa / 10.0, 2)});
+    if (a.Espiras > 0) dentro = y(dentro, w.Con(txt::DibAjustada, {area(a.Espiras)}));
+    fuera = w.Con(txt::DibAjustada, {area(a.Exterior)});
+  } else {
+    if (f.CAMISA > 0) dentro = w.Con(txt::DibChapa, {w.Corto(f.CAMISA, 2)});
+    if (f.NESPIN > 0) dentro = y(dentro, Barras(w, f.NESPIN, f.FIIN));
+    if (f.NEXPEX > 0) fuera = Barras(w, f.NEXPEX, f.FIEX);
+  }
+  const auto linea = [&](int n, const std::string& que, double as) {
+    return w.Con(n, {que.empty() ? "-" : que, area(as)});
+  };
+  return {{Tinta::Chapa, linea(txt::DibInterior, dentro, f.AsInt)},
+          {Tinta::Barra, linea(txt::DibExterior, fuera, f.AsExt)},
+          {Tinta::Tinta, w.Con(txt::DibTotal, {area(f.Total)})}};
+}
+
+std::vector<LineaLeyenda> LeyendaPostesada(const CasoDibujado& c, const PalabrasDibujo& w) {
+  const auto& r = c.caso.Postesado();
+  std::vector<LineaLeyenda> lineas;
+  if (c.Datos().Delca > 0) {
+    lineas.push_back({Tinta::Chapa, w.Con(txt::DibChapa, {w.Corto(c.Datos().Delca * 10.0, 2)})});
+  }
+  if (r.FIPRDEFI > 0) {
+    lineas.push_back({Tinta::Alambre, w.Con(txt::DibAlambre, {w.Corto(r.FIPRDEFI * 10.0, 1),
+                                                              w.Corto(r.NESPDEFI, 1)})});
+  } else {
+    lineas.push_back({Tinta::NoCumple, w.T(txt::DibSinArmadura)});
+  }
+  lineas.push_back({Tinta::Hormigon, w.T(txt::DibNucleo)});
+  lineas.push_back({Tinta::Revestimiento, w.T(txt::DibRevestimiento)});
+  return lineas;
+}
+
+void PintaLeyenda(Plano& plano, Xy sitio, const std::vector<LineaLeyenda>& lineas) {
+  plano.En(Capa::Textos);
+  for (const auto& linea : lineas) {
+    plano.Area(Rectangulo({sitio.x, sitio.y - 2.2, 3.2, 2.4}), {linea.tinta, 1.0});
+    plano.Texto({sitio.x + 5.0, sitio.y}, linea.texto);
+    sitio.y += 5.4;
+  }
+}
+
+Marco Cabeza(Plano& plano, const CasoDibujado& caso, const PalabrasDibujo& w,
+             const HojaDibujo& hoja) {
+  return PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion),
+                     w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
+}
+
+// The whole section with its diameters.
+class Transversal {
+ public:
+  Transversal(Plano& plano, const CasoDibujado& c, const ParedDibujada& pared)
+      : plano_(plano), t_(c.Datos()), pared_(pared) {}
+
+  double Ancho() const { return 2.0 * SemiCuna(t_.De * kMm); }
+  double Alto() const { return t_.De * kMm + Lecho(t_.De * kMm); }
+
+  // Scale at which it fits a place.
+  double Cabe(double ancho, double alto) const {
+    return EscalaRedonda(
+        std::max(Ancho() / (ancho - 2 * kLados), Alto() / (alto - kEncima - kDebajo)));
+  }
+  double AnchoEnPapel(double escala) const { return Ancho() / escala + 2 * kLados; }
+  double AltoEnPapel(double escala) const { return Alto() / escala + kEncima + kDebajo; }
+
+  void Pinta(const Marco& sitio, double escala, const PalabrasDibujo& w) {
+    const double De = t_.De * kMm, Di = t_.Di * kMm;
+    Vista v{{sitio.x + sitio.ancho / 2, 0}, escala};
+    const double sobra = sitio.alto - AltoEnPapel(escala);
+    v.origen.y = sitio.y + kEncima + std::max(0.0, sobra / 2) + v.L(De / 2);
+    PintaCuna(plano_, v, t_, SemiCuna(De));
+    PintaTubo(plano_, v, t_, pared_);
+    plano_.En(Capa::Ejes);
+    const double r = v.L(De / 2) + 2.5;
+    const Trazo eje{Tinta::Tenue, kFino, Patron::Eje};
+    plano_.Linea({v.origen.x, v.origen.y - r}, {v.origen.x, v.origen.y + r}, eje);
+    plano_.Linea({v.origen.x - r, v.origen.y}, {v.origen.x + r, v.origen.y}, eje);
+    const double abajo = v.P(0, De / 2 + Lecho(De)).y;
+    const auto cota = [&](const char* nombre, double mm) {
+      return std::string(nombre) + " " + w.Corto(mm, 1);
+    };
+    plano_.CotaHorizontal(v.P(-De / 2, 0).x, v.P(De / 2, 0).x, abajo, 6.0, cota("De", De));
+    plano_.CotaHorizontal(v.P(-Di / 2, 0).x, v.P(Di / 2, 0).x, abajo, 11.5, cota("Di", Di));
+    plano_.En(Capa::Textos);
+    const auto cuna = CunaDe(t_);
+    plano_.Texto({v.origen.x, abajo + 18.5},
+                 w.Con(cuna.hormigon ? txt::DibCunaHormigon : txt::DibCunaGranular,
+                       {w.Corto(cuna.semiangulo * 360.0 / kPi, 0)}),
+                 AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
+  }
+
+ private:
+  Plano& plano_;
+  const Tramo& t_;
+  const ParedDibujada& pared_;
+};
+
+}  // namespace
+
+ParedDibujada ParedDe(const CasoDibujado& caso) {
+  return caso.caso.EsArmado() ? ParedArmada(caso) : ParedPostesada(caso);
+}
+
+CunaDibujada CunaDe(const Tramo& t) {
+  const bool hormigon = t.TipoCuna == kCunaHormigon90 || t.TipoCuna == kCunaHormigon120;
+  return {t.TipoCuna == kCunaHormigon120 ? kPi / 3.0 : kPi / 4.0, hormigon};
+}
+
+double Lecho(double De) {
+  return std::max(100.0, De / 8.0);
+}
+
+double SemiCuna(double De) {
+  return kVueloCuna * De / 2.0;
+}
+
+void PintaCuna(Plano& plano, const Vista& v, const Tramo& t, double semiZanja) {
+  const double R = t.De * kMm / 2.0;
+  const auto cuna = CunaDe(t);
+  const double semi = cuna.hormigon ? std::min(SemiCuna(2 * R), semiZanja) : semiZanja;
+  const double y = R * std::cos(cuna.semiangulo), fondo = R + Lecho(2 * R);
+  // Round the pipe from the right edge of the bed to the left one, through the invert.
+  Puntos contorno = Arco(v.origen, v.L(R), kPi - cuna.semiangulo, kPi + cuna.semiangulo);
+  for (const auto& p : {v.P(-semi, y), v.P(-semi, fondo), v.P(semi, fondo), v.P(semi, y)}) {
+    contorno.push_back(p);
+  }
+  plano.En(cuna.hormigon ? Capa::Hormigon : Capa::Terreno);
+  plano.Area(contorno, {cuna.hormigon ? Tinta::Revestimiento : Tinta::Relleno, 0.45});
+  plano.Rayado({contorno}, cuna.hormigon ? Trama::Hormigon : Trama::Grava, Tinta::Tenue, 2.6);
+  plano.Area(contorno, {}, {Tinta::Tinta, kMedio});
+}
+
+void PintaTubo(Plano& plano, const Vista& v, const Tramo& t, const ParedDibujada& pared) {
+  const double Re = t.De * kMm / 2.0, Ri = t.Di * kMm / 2.0;
+  plano.En(Capa::Hormigon);
+  plano.Corona(v.origen, v.L(Re), v.L(Ri), {Tinta::Hormigon, 0.6});
+  if (pared.nucleo > 0) {
+    plano.Corona(v.origen, v.L(Re), v.L(Ri + pared.nucleo), {Tinta::Revestimiento, 0.8});
+  }
+  plano.En(Capa::Agua);
+  plano.Circulo(v.origen, v.L(Ri), {Tinta::Agua, 0.22});
+  plano.En(Capa::Armadura);
+  for (const auto& a : pared.acero) {
+    plano.Circulo(v.origen, v.L(Ri + a.distancia), {},
+                  {a.tinta, std::max(kMinimoAcero, v.L(a.grueso))});
+  }
+  plano.En(Capa::Hormigon);
+  plano.Circulo(v.origen, v.L(Re), {}, {Tinta::Tinta, kGrueso});
+  plano.Circulo(v.origen, v.L(Ri), {}, {Tinta::Tinta, kGrueso});
+}
+
+Lamina DibujaTransversal(const CasoDibujado& caso, const PalabrasDibujo& w,
+                         const HojaDibujo& pedida) {
+  const auto pared = ParedDe(caso);
+  HojaDibujo hoja = pedida;
+  Lamina lamina;
+  Plano plano(lamina);
+  Transversal transversal(plano, caso, pared);
+  if (hoja.escala > 0) {
+    hoja.ancho = std::max(hoja.ancho, transversal.AnchoEnPapel(hoja.escala) + kMargenes);
+    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
+  }
+  lamina = LaminaVacia(hoja);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  const double escala = hoja.escala > 0 ? hoja.escala : transversal.Cabe(m.ancho, m.alto);
+  transversal.Pinta(m, escala, w);
+  PonEscala(plano, hoja, w, escala);
+  return lamina;
+}
+
+Lamina DibujaPared(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& hoja) {
+  const auto pared = ParedDe(caso);
+  Lamina lamina = LaminaVacia(hoja);
+  Plano plano(lamina);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  Corte corte(plano, pared, m);
+  corte.Pinta(w);
+  PonEscala(plano, hoja, w, corte.Escala());
+  return lamina;
+}
+
+Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& pedida) {
+  constexpr double kLeyenda = 40.0;  // paper for the caption of the cut and the steel [mm]
+  const auto pared = ParedDe(caso);
+  HojaDibujo hoja = pedida;
+  Lamina lamina;
+  Plano plano(lamina);
+  Transversal transversal(plano, caso, pared);
+  if (hoja.escala > 0) {
+    hoja.ancho = std::max(hoja.ancho, 2 * transversal.AnchoEnPapel(hoja.escala) + kMargenes);
+    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
+  }
+  lamina = LaminaVacia(hoja);
+  const Marco m = Cabeza(plano, caso, w, hoja);
+  const Marco izquierda{m.x, m.y, m.ancho / 2, m.alto};
+  const double escala =
+      hoja.escala > 0 ? hoja.escala : transversal.Cabe(izquierda.ancho, izquierda.alto);
+  transversal.Pinta(izquierda, escala, w);
+  PonEscala(plano, hoja, w, escala);
+  const double alto = std::min(m.alto - kLeyenda, m.ancho / 3);
+  const double arriba = m.y + (m.alto - kLeyenda - alto) / 2;
+  Corte corte(plano, pared, {izquierda.Derecha(), arriba, m.ancho / 2, alto});
+  corte.Pinta(w);
+  plano.En(Capa::Textos);
+  plano.Texto({corte.CentroX(), corte.Abajo() + 7.0},
+              w.Con(txt::DibPared, {w.Metros(corte.Largo() / kMm), w.Corto(corte.Escala(), 2)}),
+              AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
+  PintaLeyenda(plano, {izquierda.Derecha() + 8.0, corte.Abajo() + 17.0},
+               caso.caso.EsArmado() ? LeyendaArmada(caso, w) : LeyendaPostesada(caso, w));
+  return lamina;
+}
+
+}  // namespace zorbin

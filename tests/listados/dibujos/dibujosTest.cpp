@@ -1,0 +1,209 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "base/mdCarpetas.h"
+#include "comun/comparaFichero.h"
+#include "comun/estadoDeJson.h"
+#include "comun/listado.h"
+#include "listados/dibujos/mdDibujoAnillo.h"
+#include "listados/dibujos/mdDibujoMapa.h"
+#include "listados/dibujos/mdDibujoTubo.h"
+#include "listados/dibujos/mdDibujoZanja.h"
+#include "listados/dibujos/mdGraficosTramo.h"
+#include "listados/dibujos/mdSvg.h"
+
+namespace zorbin {
+namespace {
+
+using Ajusta = std::function<void(Tramo&)>;
+
+// A Tramo of the sample Obra, changed, with the words of a language; its last Caso is in hand.
+class Escena {
+ public:
+  explicit Escena(int posicion, std::int16_t idioma = 1, const Ajusta& ajusta = {})
+      : textos_(Catalogo::Lee(CarpetaRecursos() / "textos")) {
+    textos_.PonIdioma(idioma);
+    auto e = pruebas::EstadoDeMuestra(posicion);
+    if (ajusta) ajusta(e.tramo);
+    resultado_ = pruebas::ResultadoDe(e);
+    caso_ = CasoEntero(resultado_, Fila());
+  }
+  const FilaCaso& Fila() const { return resultado_.filas.back(); }
+  CasoDibujado Caso() const { return {resultado_, Fila(), caso_}; }
+  const DatosTramo& Datos() const { return resultado_.datos; }
+  PalabrasDibujo Palabras() const { return {textos_, {true, ','}}; }
+
+  std::vector<Lamina> Todas(const HojaDibujo& hoja) const {
+    const auto w = Palabras();
+    std::vector<Lamina> x{DibujaSeccion(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
+                          DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
+    for (int h = 1; h <= CuentaHipotesis(Datos()); ++h) {
+      x.push_back(DibujaAnillo(Caso(), h, w, hoja));
+      if (!Datos().tramo.EsArmado) x.push_back(DibujaTensiones(Caso(), h, w, hoja).lamina);
+    }
+    for (const auto eje : {EjeDeGrafico::Altura, EjeDeGrafico::Presion}) {
+      const auto malla = CalculaMalla(Datos(), EjesDelGrafico(Datos(), eje, 12), {false, true});
+      for (const auto que : {QueGrafico::Acero, QueGrafico::Momentos, QueGrafico::Cargas}) {
+        x.push_back(DibujaGraficoTramo(que, eje, Datos(), malla, w, hoja).lamina);
+      }
+    }
+    return x;
+  }
+
+ private:
+  Catalogo textos_;
+  ResultadoTramo resultado_;
+  ResultadoCaso caso_;
+};
+
+std::vector<Rotulo> Rotulos(const Lamina& l) {
+  std::vector<Rotulo> r;
+  for (const auto& p : l.piezas) {
+    if (const auto* x = std::get_if<Rotulo>(&p); x != nullptr && x->giro == 0) r.push_back(*x);
+  }
+  return r;
+}
+
+bool SePisan(const Rotulo& a, const Rotulo& b) {
+  const auto p = CajaTexto(a), q = CajaTexto(b);
+  return p.x < q.Derecha() && q.x < p.Derecha() && p.y < q.Abajo() && q.y < p.Abajo();
+}
+
+// No text runs over another or off the sheet, in any drawing, language and size of pipe.
+TEST(Dibujos, NingunTextoPisaOtroNiSeSaleDeLaHoja) {
+  const Ajusta enorme = [](Tramo& t) { t.Di = 12.0, t.Esp = 50.0, t.De = 13.0, t.B0 = 1.0; };
+  const Ajusta menudo = [](Tramo& t) {
+    t.Di = 0.2, t.Esp = 5.0, t.De = 0.3, t.Hr0Tramo = t.Hr0Final = 20.0;
+  };
+  const std::vector<Escena> escenas{Escena(1),    Escena(3, 5),         Escena(4, 2),
+                                    Escena(6, 5), Escena(1, 1, enorme), Escena(4, 3, menudo)};
+  for (std::size_t e = 0; e < escenas.size(); ++e) {
+    const auto laminas = escenas[e].Todas({});
+    for (std::size_t n = 0; n < laminas.size(); ++n) {
+      const auto rotulos = Rotulos(laminas[n]);
+      for (std::size_t i = 0; i < rotulos.size(); ++i) {
+        const auto m = CajaTexto(rotulos[i]);
+        EXPECT_TRUE(m.x >= 0 && m.y >= 0 && m.Derecha() <= laminas[n].ancho &&
+                    m.Abajo() <= laminas[n].alto)
+            << e << "," << n << ": " << rotulos[i].texto;
+        for (std::size_t j = 0; j < i; ++j) {
+          EXPECT_FALSE(SePisan(rotulos[i], rotulos[j]))
+              << e << "," << n << ": " << rotulos[i].texto << " / " << rotulos[j].texto;
+        }
+      }
+    }
+  }
+}
+
+// What is told in figures is what is drawn: diameters, covers and number of bars by the scale.
+TEST(Dibujos, LaSeccionEstaAEscala) {
+  const Escena escena(1);
+  HojaDibujo hoja;
+  hoja.escala = 10.0;
+  const auto l = DibujaTransversal(escena.Caso(), escena.Palabras(), hoja);
+  const auto& t = escena.Datos().tramo;
+  EXPECT_EQ(l.escala, 10.0);
+  EXPECT_GE(l.ancho, t.De * 100.0);
+  std::vector<double> radios;
+  for (const auto& p : l.piezas) {
+    const auto* r = std::get_if<Redondo>(&p);
+    if (r != nullptr && r->trazo.grueso > 0) radios.push_back(r->radio * 10.0);
+  }
+  const auto& f = escena.Fila();
+  const double Ri = t.Di * 500.0;
+  for (const double radio :
+       {Ri, t.De * 500.0, Ri + 25.0, t.De * 500.0 - 25.0, Ri + 25.0 + (f.CAMISA + f.FIIN) / 2.0}) {
+    EXPECT_TRUE(std::any_of(radios.begin(), radios.end(), [radio](double r) {
+      return std::fabs(r - radio) < 1e-6;
+    })) << radio;
+  }
+  const auto pared = ParedDe(escena.Caso());
+  const auto seccion = DibujaPared(escena.Caso(), escena.Palabras());
+  int barras = 0;
+  for (const auto& p : seccion.piezas) {
+    const auto* r = std::get_if<Redondo>(&p);
+    barras += r != nullptr && r->capa == Capa::Armadura;
+  }
+  // The cut is 0.5 m long.
+  EXPECT_EQ(barras, static_cast<int>(f.NESPIN * 0.5) + static_cast<int>(f.NEXPEX * 0.5));
+}
+
+TEST(Dibujos, LasMarcasSonRedondasYCaenDentro) {
+  const std::vector<std::tuple<double, double, int, std::vector<double>>> casos{
+      {0.0, 1.0, 5, {0.0, 0.2, 0.4, 0.6, 0.8, 1.0}},
+      {23.0, 61.0, 4, {30.0, 40.0, 50.0, 60.0}},
+      {-3.1, 2.2, 6, {-3.0, -2.0, -1.0, 0.0, 1.0, 2.0}},
+      {5.0, 5.0, 3, {5.0}},
+  };
+  for (const auto& [desde, hasta, cuantas, esperadas] : casos) {
+    const auto marcas = Marcas(desde, hasta, cuantas);
+    ASSERT_EQ(marcas.size(), esperadas.size()) << desde;
+    for (std::size_t i = 0; i < marcas.size(); ++i) EXPECT_NEAR(marcas[i], esperadas[i], 1e-12);
+  }
+}
+
+// On z = x + y, on a saddle and round a peak; a hole in the values cuts the line.
+TEST(Dibujos, LasLineasDeNivelSiguenLosValores) {
+  const auto malla = [](const std::function<double(double, double)>& z) {
+    std::vector<double> v;
+    for (int y = 0; y < 6; ++y) {
+      for (int x = 0; x < 8; ++x) v.push_back(z(x, y));
+    }
+    return v;
+  };
+  auto plano = malla([](double x, double y) { return x + y; });
+  const auto recta = LineasDeNivel(plano, 8, 4.5);
+  ASSERT_EQ(recta.size(), 1u);
+  for (const auto& p : recta.front()) EXPECT_NEAR(p.x + p.y, 4.5, 1e-12);
+  const auto cima = LineasDeNivel(
+      malla([](double x, double y) { return -std::hypot(x - 3.3, y - 2.4); }), 8, -1.5);
+  ASSERT_EQ(cima.size(), 1u);
+  EXPECT_NEAR(cima.front().front().x, cima.front().back().x, 1e-9);
+  EXPECT_EQ(
+      LineasDeNivel(malla([](double x, double y) { return (x - 3.5) * (y - 2.5); }), 8, 0.1).size(),
+      2u);
+  plano[2 * 8 + 2] = std::nan("");
+  EXPECT_EQ(LineasDeNivel(plano, 8, 4.5).size(), 2u);
+}
+
+TEST(Dibujos, SeSenalaLoQueHayBajoElPuntero) {
+  Lamina l;
+  Plano plano(l);
+  plano.Id(7);
+  plano.Area(Rectangulo({10, 10, 20, 20}), {Tinta::Agua, 1.0});
+  plano.Id(8);
+  plano.Corona({20, 20}, 6, 3, {Tinta::Hormigon, 1.0});
+  plano.Id(9);
+  plano.Linea({0, 50}, {50, 50}, {Tinta::Tinta, 0.2});
+  EXPECT_EQ(QueHayEn(l, {12, 12}, 0.5), 7);
+  EXPECT_EQ(QueHayEn(l, {20, 15.5}, 0.5), 8);
+  EXPECT_EQ(QueHayEn(l, {20, 20}, 0.5), 7);  // through the hole of the ring
+  EXPECT_EQ(QueHayEn(l, {25, 50.4}, 0.5), 9);
+  EXPECT_EQ(QueHayEn(l, {25, 51}, 0.5), kSinId);
+  const Escena escena(1);
+  const auto malla = CalculaMapa(escena.Datos());
+  const auto mapa = DibujaMapa(malla, escena.Datos(), nullptr, escena.Palabras());
+  const auto& ejes = malla.ejes;
+  const Xy p = mapa.ejes.P(ejes.presiones[12] / 10.0, ejes.alturas[30]);
+  const auto punto = PuntoEn(mapa, malla, escena.Palabras(), p);
+  ASSERT_TRUE(punto);
+  EXPECT_EQ(punto->altura, 30u);
+  EXPECT_EQ(punto->presion, 12u);
+  EXPECT_FALSE(PuntoEn(mapa, malla, escena.Palabras(), {1, 1}));
+}
+
+TEST(Dibujos, DoradosEnSvg) {
+  const Escena armado(1), postesado(6, 5);
+  const Paleta papel(Tema::Papel), oscuro(Tema::Oscuro);
+  const auto w = armado.Palabras(), fr = postesado.Palabras();
+  const auto compara = [](const char* nombre, const Lamina& l, const Paleta& paleta) {
+    EXPECT_EQ(pruebas::Compara(std::string("dibujos/") + nombre, SvgDe(l, paleta, nombre)), "");
+  };
+  compara("seccion.svg", DibujaSeccion(armado.Caso(), w), papel);
+  compara("seccion-postesado-fr-oscuro.svg", DibujaSeccion(postesado.Caso(), fr), oscuro);
+  compara("anillo.svg", DibujaAnillo(armado.Caso(), 5, w), papel);
+}
+
+}  // namespace
+}  // namespace zorbin
