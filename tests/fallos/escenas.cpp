@@ -133,17 +133,10 @@ void Sesion::EligeElTramo(const std::string& numero) {
 
 const std::vector<Escena>& Escenas() {
   static const auto nada = [](const fs::path&) {};
-<<<<<<< HEAD
   static const std::vector<Escena> solas{
-      {"header of the Obra", "obra.zrb", ConMuestra, AbreLaObra, {GrabaCabecera}},
-      {"a Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoDos}},
-      {"a new Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoNuevo}},
-=======
-  static const std::vector<Escena> escenas{
       {"header of the Obra", "obra.zrb", ConMuestra, AbreLaObra, {GrabaCabecera}, 120},
       {"a Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoDos}, 180},
       {"a new Tramo", "obra.zrb", ConMuestra, AbreLaObra, {GrabaTramoNuevo}, 140},
->>>>>>> h-c
       {"two Tramos and a new one",
        "obra.zrb",
        ConMuestra,
@@ -166,17 +159,13 @@ const std::vector<Escena>& Escenas() {
        "obra.dpe",
        nada,
        [](Sesion&) {},
-<<<<<<< HEAD
-       {EstrenaAjustes, AlargaAjustes}}};
+       {EstrenaAjustes, AlargaAjustes},
+       280}};
   static const std::vector<Escena> escenas = [] {
     auto todas = solas;
     todas.insert(todas.end(), EscenasDeConjunto().begin(), EscenasDeConjunto().end());
     return todas;
   }();
-=======
-       {EstrenaAjustes, AlargaAjustes},
-       280}};
->>>>>>> h-c
   return escenas;
 }
 
@@ -200,16 +189,11 @@ void Prepara(const Escena& escena, const fs::path& carpeta) {
 
 Ficheros AbreYCierra(const Escena& escena, const fs::path& carpeta) {
   const fs::path ruta = carpeta / escena.fichero;
-<<<<<<< HEAD
-  if (fs::exists(ruta) || fs::exists(RutaConjunto(ruta))) {
+  std::error_code error;
+  if (fs::exists(ruta, error) || fs::exists(RutaConjunto(ruta), error)) {
     FicheroRegistros(ruta, FicheroRegistros::Modo::LecturaEscritura);
   }
   return EstadoDe(carpeta);
-=======
-  std::error_code error;
-  if (fs::exists(ruta, error)) FicheroRegistros(ruta, FicheroRegistros::Modo::LecturaEscritura);
-  return BytesDe(ruta);
->>>>>>> h-c
 }
 
 std::string Leido(const Escena& escena, const fs::path& carpeta) {

@@ -155,15 +155,9 @@ class Fallos : public testing::TestWithParam<std::size_t> {
 
   // The program is started again on what was left. @return which of the states it found
   int Comprueba(const std::string& donde) {
-<<<<<<< HEAD
-    ++puntos;
     const std::string leido = Leido(escena, carpeta);
     const Ficheros ficheros = AbreYCierra(escena, carpeta);
     const int indice = Indice(estados, ficheros);
-=======
-    const Bytes bytes = AbreYCierra(escena, carpeta);
-    const int indice = Indice(estados, bytes);
->>>>>>> h-c
     rotos += indice < 0;
     EXPECT_GE(indice, parte->grabados) << donde << ": a save that was done is lost";
     EXPECT_LE(indice, parte->grabados + 1) << donde;

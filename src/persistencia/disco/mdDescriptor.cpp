@@ -168,18 +168,13 @@ Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a)
   const Causa causa = CausaDe(Repite(
       [&] { return ::renameat2(AT_FDCWD, de.c_str(), AT_FDCWD, a.c_str(), RENAME_NOREPLACE); }));
   if (!NoSabeSinPisar(causa)) return causa;
-<<<<<<< HEAD
-  struct stat otro;
-  if (::lstat(a.c_str(), &otro) == 0) return EEXIST;
+  bool ocupado = false;
+  if (const Causa otra = HayAlgo(a, ocupado)) return otra;
+  if (ocupado) return EEXIST;
   return TomaNombre(de, a);
 }
 
 Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a) {
-=======
-  bool ocupado = false;
-  if (const Causa otra = HayAlgo(a, ocupado)) return otra;
-  if (ocupado) return EEXIST;
->>>>>>> h-c
   return CausaDe(Repite([&] { return ::rename(de.c_str(), a.c_str()); }));
 }
 

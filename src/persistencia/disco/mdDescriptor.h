@@ -69,13 +69,10 @@ bool Permite(const std::filesystem::path& ruta, int modo);
 /// Gives a file its final name unless something has that name. @return EEXIST where it has
 [[nodiscard]] Causa PonNombre(const std::filesystem::path& de, const std::filesystem::path& a);
 
-<<<<<<< HEAD
 /// Gives a file its final name, whatever has it.
 [[nodiscard]] Causa TomaNombre(const std::filesystem::path& de, const std::filesystem::path& a);
-=======
 /// Gives it the name that is free of NAME-1, NAME-2...
 [[nodiscard]] Causa ApartaFichero(const std::filesystem::path& ruta, std::filesystem::path& aparte);
->>>>>>> h-c
 
 [[nodiscard]] Causa BorraFichero(const std::filesystem::path& ruta);
 

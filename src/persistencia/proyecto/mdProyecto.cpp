@@ -11,7 +11,6 @@ std::int16_t NumeroDe(const std::string& texto) {
   return I16(NumeroTexto(texto).value_or(0.0));
 }
 
-<<<<<<< HEAD
 void Anade(std::vector<Mensaje>& avisos, std::vector<Mensaje> otros) {
   for (auto& aviso : otros) avisos.push_back(std::move(aviso));
 }
@@ -22,63 +21,38 @@ std::vector<Mensaje> AvisosDeSusExtras(const Proyecto& proyecto,
   Extras sobrantes = proyecto.extras;
   for (const auto& p : todos) TomaExtras(sobrantes, p.numero, p.tramo.DescriTramo);
   return AvisosDeExtras(sobrantes, RutaZrx(proyecto.fichero.ruta()));
-=======
+}
+
+// @param lee  what of the file, and with what said of the rest
 Proyecto Lee(const std::filesystem::path& ruta,
              ObraLeida (*lee)(EstadoCalculo&, const FicheroRegistros&)) {
-  Proyecto proyecto{
-      FicheroRegistros(ruta, FicheroRegistros::Modo::Lectura), {}, {}, {}, false, {}, {}};
+  FotoProyecto foto = LeeFoto(ruta);
+  auto junto = LeeAcompanantes(foto);
+  Proyecto proyecto{std::move(foto.obra), {}, {}, {}, false, {}, false, {}, {}};
   EstadoCalculo e;
   auto leida = lee(e, proyecto.fichero);
   proyecto.obra = std::move(e.obra);
   proyecto.lista = std::move(leida.lista);
   proyecto.danos = std::move(leida.danos);
   proyecto.avisos = proyecto.fichero.avisos();
-  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
-  return proyecto;
-}
-
-void LeeSusAjustes(Proyecto& proyecto, const std::filesystem::path& ruta) {
-  try {
-    proyecto.ajustes = LeeAjustes(RutaDpe(ruta));
-  } catch (const ErrorFichero& error) {
-    proyecto.SinAjustes = true;
-    proyecto.avisos.push_back(error.mensaje());
-  }
->>>>>>> h-c
-}
-
-}  // namespace
-
-Proyecto LeeProyecto(const std::filesystem::path& ruta) {
-<<<<<<< HEAD
-  FotoProyecto foto = LeeFoto(ruta);
-  auto junto = LeeAcompanantes(foto);
-  Proyecto proyecto{std::move(foto.obra), {}, {}, {}, false, {}, false, {}};
-  EstadoCalculo e;
-  auto leida = CargaObra(e, proyecto.fichero);
-  proyecto.obra = std::move(e.obra);
-  proyecto.lista = std::move(leida.lista);
-  proyecto.avisos = proyecto.fichero.avisos();
-  proyecto.avisos.insert(proyecto.avisos.end(), leida.avisos.begin(), leida.avisos.end());
-  const auto todos = TramosPedidos(proyecto);
+  Anade(proyecto.avisos, std::move(leida.avisos));
   proyecto.ajustes = std::move(junto.ajustes);
   proyecto.SinAjustes = junto.SinAjustes;
   proyecto.extras = std::move(junto.extras);
   proyecto.SinExtras = junto.SinExtras;
   Anade(proyecto.avisos, std::move(junto.avisos));
-  Anade(proyecto.avisos, AvisosDeSusExtras(proyecto, todos));
-=======
-  Proyecto proyecto = Lee(ruta, CargaObra);
-  TramosPedidos(proyecto);
-  LeeSusAjustes(proyecto, ruta);
->>>>>>> h-c
+  Anade(proyecto.avisos, AvisosDeSusExtras(proyecto, TramosPedidos(proyecto)));
   return proyecto;
 }
 
+}  // namespace
+
+Proyecto LeeProyecto(const std::filesystem::path& ruta) {
+  return Lee(ruta, CargaObra);
+}
+
 Proyecto RescataProyecto(const std::filesystem::path& ruta) {
-  Proyecto proyecto = Lee(ruta, RescataObra);
-  LeeSusAjustes(proyecto, ruta);
-  return proyecto;
+  return Lee(ruta, RescataObra);
 }
 
 std::vector<TramoPedido> TramosPedidos(const Proyecto& proyecto,

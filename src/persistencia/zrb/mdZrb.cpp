@@ -168,12 +168,7 @@ ErrorFichero Cortado(const FicheroRegistros& f, int posicion) {
                         TextoEntero(Base(posicion) + kUltimoOffset)}});
 }
 
-<<<<<<< HEAD
 std::optional<int> CuentaDe(std::string_view texto) {
-=======
-int LeeCuenta(const FicheroRegistros& f) {
-  const std::string texto = f.LeeRegistro(kRegistroCuenta);
->>>>>>> h-c
   const auto cuenta = NumeroTexto(texto);
   if (!cuenta || *cuenta < 0 || *cuenta > kMaxTramos || *cuenta != Int(*cuenta)) {
     return std::nullopt;
@@ -181,19 +176,13 @@ int LeeCuenta(const FicheroRegistros& f) {
   return static_cast<int>(*cuenta);
 }
 
-<<<<<<< HEAD
-ListaTramos LeeLista(const FicheroRegistros& f) {
+int LeeCuenta(const FicheroRegistros& f) {
   const std::string texto = f.LeeRegistro(kRegistroCuenta);
   const auto cuenta = CuentaDe(texto);
   if (!cuenta) throw ErrorFichero({txt::CuentaDeTramos, {f.Nombre(), texto}});
-  ListaTramos lista;
-  for (int i = 1; i <= *cuenta; ++i) {
-    const int registro = Base(i) + kOffsetNumero;
-    if (registro > f.UltimoRegistro()) throw Cortado(f, i);
-    const std::string numero(Recorta(f.LeeRegistro(registro)));
-    if (!numero.empty()) LeeEntero(f, registro, "NumeroTramo", numero);
-    lista.push_back(numero);
-=======
+  return *cuenta;
+}
+
 // Of those that are whole.
 int CuentaDeBloques(const FicheroRegistros& f) {
   const int sobra = f.UltimoRegistro() - (Base(1) + kUltimoOffsetLeido);
@@ -214,7 +203,6 @@ ListaTramos LeeLista(const FicheroRegistros& f, std::vector<DanoObra>* danos) {
   ListaTramos lista(static_cast<std::size_t>(cuenta));
   for (int i = 1; i <= cuenta; ++i) {
     Intenta(danos, i, [&] { lista[static_cast<std::size_t>(i - 1)] = LeeNumeroTramo(f, i); });
->>>>>>> h-c
   }
   return lista;
 }

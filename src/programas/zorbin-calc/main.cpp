@@ -36,11 +36,8 @@ class Ordenes {
     DeclaraCalcula();
     DeclaraValida();
     DeclaraAjustes();
-<<<<<<< HEAD
     DeclaraRescata();
-=======
     DeclaraDibuja();
->>>>>>> h-b
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -72,21 +69,15 @@ class Ordenes {
   CLI::App* calcula_ = nullptr;
   CLI::App* valida_ = nullptr;
   CLI::App* ajustes_ = nullptr;
-<<<<<<< HEAD
   CLI::App* rescata_ = nullptr;
-=======
   CLI::App* dibuja_ = nullptr;
->>>>>>> h-b
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
   OpcionesValida deValida_;
   OpcionesListaAjustes deAjustes_;
-<<<<<<< HEAD
   OpcionesRescata deRescata_;
-=======
   OpcionesDibuja deDibuja_;
->>>>>>> h-b
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -94,11 +85,8 @@ class Ordenes {
     if (hidraulica_->parsed()) return Hidraulica(deHidraulica_, textos_);
     if (valida_->parsed()) return Valida(deValida_, textos_);
     if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
-<<<<<<< HEAD
     if (rescata_->parsed()) return Rescata(deRescata_, textos_);
-=======
     if (dibuja_->parsed()) return Dibuja(deDibuja_, textos_);
->>>>>>> h-b
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -151,7 +139,6 @@ class Ordenes {
     Eleccion(ajustes_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
   }
 
-<<<<<<< HEAD
   void DeclaraRescata() {
     rescata_ = Orden("rescata", txt::RescataUnaObra);
     auto& o = deRescata_;
@@ -159,7 +146,8 @@ class Ordenes {
     Opcion(rescata_, "--salida", o.salida, txt::AyudaSalidaNueva, T(txt::PalabraFichero))
         ->required();
     Eleccion(rescata_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
-=======
+  }
+
   void DeclaraDibuja() {
     dibuja_ = Orden("dibuja", txt::AyudaDibuja);
     auto& o = deDibuja_;
@@ -184,7 +172,6 @@ class Ordenes {
     dibuja_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
     dibuja_->add_flag("--envolvente", o.envolvente, T(txt::AyudaEnvolvente));
     Opcion(dibuja_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
->>>>>>> h-b
   }
 
   void DeclaraCalcula() {

@@ -118,7 +118,6 @@ class Dibujante {
       const auto lista =
           BuscaFaltas(proyecto, o_.tablas, {*posiciones, SeparadorDeLinea(o_.separador)}, textos_);
       for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos_));
-      for (const auto& p : lista.preguntas) Queja(TextoPregunta(p, textos_));
       if (!lista.Vale(posiciones->front())) throw Acaba{kFicheroRechazado};
       PonComprobada(obra, lista.obra);
       const auto NumeroTramo = tramo.NumeroTramo;

@@ -263,6 +263,20 @@ bool OfreceOtroFichero(Captura& c, const ErrorFichero& error, const Version& v) 
   return !nombre.empty() && GrabaEn(c, nombre, v);
 }
 
+// Into the file that is open.
+bool GrabaAqui(Captura& c, Version v) {
+  try {
+    const auto avisos =
+        GrabaProyecto(*c.fichero, AGrabar(c, v, v.obra.SisUnid != c.guardada.obra.SisUnid),
+                      c.textos, c.SeparadorDecimal);
+    for (const auto& aviso : avisos) c.voz.Anuncia(c.textos.Compone(aviso));
+  } catch (const ErrorFichero& error) {
+    return OfreceOtroFichero(c, error, v);
+  }
+  QuedaGrabada(c, std::move(v));
+  return true;
+}
+
 }  // namespace
 
 // ---------------------------------------------------------------------------------------------
@@ -313,23 +327,18 @@ bool Graba(Captura& c) {
     const std::string nombre = PideNombre(c, txt::TituloGrabar);
     return !nombre.empty() && GrabaEn(c, nombre, std::move(*v));
   }
-  try {
-    const auto avisos =
-        GrabaProyecto(*c.fichero, AGrabar(c, *v, v->obra.SisUnid != c.guardada.obra.SisUnid),
-                      c.textos, c.SeparadorDecimal);
-    for (const auto& aviso : avisos) c.voz.Anuncia(c.textos.Compone(aviso));
-  } catch (const ErrorFichero& error) {
-    return OfreceOtroFichero(c, error, *v);
-  }
-  QuedaGrabada(c, std::move(*v));
-  return true;
+  return GrabaAqui(c, std::move(*v));
 }
 
 bool GrabaComo(Captura& c) {
   auto v = QueGrabar(c);
   if (!v) return false;
   const std::string nombre = PideNombre(c, txt::TituloGrabarComo);
-  return !nombre.empty() && GrabaEn(c, nombre, std::move(*v));
+  if (nombre.empty()) return false;
+  std::error_code sinFichero;
+  const bool elMismo = c.fichero && fs::equivalent(nombre, c.fichero->ruta(), sinFichero);
+  if (elMismo && !c.SoloLectura()) return GrabaAqui(c, std::move(*v));
+  return GrabaEn(c, nombre, std::move(*v));
 }
 
 bool PuedeIrse(Captura& c) {
