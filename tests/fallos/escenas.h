@@ -30,7 +30,7 @@ class Sesion {
   Captura c;
   std::optional<FicheroDpe> dpe;
   std::optional<FicheroRegistros> abierta;  // an Obra that is saved as a whole
-  std::string queja;  // of a save that was refused
+  std::string queja;                        // of a save that was refused
 };
 
 struct Escena {

@@ -75,7 +75,10 @@ bool SinQueja(Sesion& s, Accion accion) {
 
 template <ProyectoAGrabar (*kCual)()>
 bool Graba(Sesion& s) {
-  return SinQueja(s, [&] { GrabaProyecto(*s.abierta, kCual(), Textos(), ','); });
+  return SinQueja(s, [&] {
+    if (!s.abierta) Abre(s);
+    GrabaProyecto(*s.abierta, kCual(), Textos(), ',');
+  });
 }
 
 template <ProyectoAGrabar (*kCual)()>
@@ -108,7 +111,10 @@ const std::vector<Escena>& EscenasDeConjunto() {
        [](const fs::path&) {},
        nada,
        {GrabaComo<DeTodo>, Graba<OtroDeTodo>}},
-      {"an Obra over another one with its companions", kObra, conOtra, nada,
+      {"an Obra over another one with its companions",
+       kObra,
+       conOtra,
+       nada,
        {GrabaComo<SinCompaneras>}}};
   return escenas;
 }

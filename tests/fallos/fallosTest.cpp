@@ -285,8 +285,7 @@ TEST(FallosAlAbrir, LoQueNoSePuedePreguntarSeDice) {
 
 INSTANTIATE_TEST_SUITE_P(Grabados, Fallos, testing::Range(std::size_t{0}, Escenas().size()));
 // The file grows; a journal that was used before is used again; companions are brought back.
-INSTANTIATE_TEST_SUITE_P(Grabados, FallosAlDeshacer,
-                         testing::Values(2, 3, Escenas().size() - 1));
+INSTANTIATE_TEST_SUITE_P(Grabados, FallosAlDeshacer, testing::Values(2, 3, Escenas().size() - 1));
 
 }  // namespace
 }  // namespace zorbin::fallos

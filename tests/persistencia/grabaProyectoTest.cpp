@@ -181,8 +181,7 @@ TEST_F(GrabaTodo, LosAjustesAbiertosSeDicenYNadaCambia) {
 TEST_F(GrabaTodo, QuienSoloLeeVeElConjuntoComoAntesYNoTocaNada) {
   const std::string antes = Resumido(obra);
   const auto bytes = Bytes(dpe) + Bytes(zrx);
-  const Conjunto conjunto =
-      ConjuntoDe(Bytes(obra), {{".dpe", Bytes(dpe)}, {".zrx", Bytes(zrx)}});
+  const Conjunto conjunto = ConjuntoDe(Bytes(obra), {{".dpe", Bytes(dpe)}, {".zrx", Bytes(zrx)}});
   ASSERT_EQ(EscribeConjunto(obra, conjunto), 0);
   const std::string entero = Bytes(RutaConjunto(obra));
   pruebas::PonBytes(dpe, "a medias");

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "comun/comparaFichero.h"
@@ -13,6 +14,7 @@
 #include "comun/estadoDeJson.h"
 #include "comun/grabadoRoto.h"
 #include "persistencia/dpe/mdDpe.h"
+#include "persistencia/proyecto/mdProyecto.h"
 #include "persistencia/zrb/mdZrb.h"
 
 namespace zorbin {
@@ -279,6 +281,21 @@ TEST_F(Linea, LosCasosQueNoCumplenSeCuentanYSoloEstrictoLosCastiga) {
   }
   const auto envolvente = Llama("calcula --envolvente " + acequia + " --tramo 1 --listado tabular");
   EXPECT_NE(envolvente.salida.find("diseño envolvente"), std::string::npos);
+}
+
+// The choice of a Tramo, which lies beside the Obra, is that of its run; refused, that is told.
+TEST_F(Linea, ElDisenoEnvolventeDeUnTramoNoHayQuePedirlo) {
+  const std::string copia = Copia(6, "C");
+  const fs::path zrx = RutaZrx(copia);
+  const auto descripcion = TramosPedidos(LeeProyecto(copia)).at(1).tramo.DescriTramo;
+  pruebas::PonBytes(zrx, TextoDeExtras({{{"2", descripcion, true, {}}}, {}, {}}));
+  for (const auto& [tramo, si] : std::map<std::string, bool>{{"1", false}, {"2", true}}) {
+    const auto r = Llama("calcula " + copia + " --formato json --tramo " + tramo);
+    EXPECT_EQ(r.codigo, 0);
+    EXPECT_EQ(r.salida.find("\"Envolvente\":true") != std::string::npos, si) << tramo;
+  }
+  pruebas::PonBytes(zrx, "{");
+  EXPECT_EQ(Llama("calcula " + copia + " --tramo 2").codigo, 1);
 }
 
 // Another pressure of the same Caso takes the adjustment; one 0.05 off does not. The records are

@@ -190,14 +190,14 @@ std::vector<Mensaje> Restaura(const fs::path& obra, const Conjunto& conjunto) {
   for (const auto& c : conjunto.antes) {
     if (!EstaComo(obra, c)) avisos = {{txt::LoAMediasDeshecho, {obra.string()}}};
     if (const Causa causa = RestauraCompanera(obra, c)) {
-      throw ErrorFichero(
-          {txt::NoSeDeshace, {obra.string(), TextoDeCausa(causa), NombreDe(obra)}});
+      throw ErrorFichero({txt::NoSeDeshace, {obra.string(), TextoDeCausa(causa), NombreDe(obra)}});
     }
   }
   return avisos;
 }
 
-// Once its save is undone, or came to its end: the name of a new Obra may not have reached the disk.
+// Once its save is undone, or came to its end: the name of a new Obra may not have reached the
+// disk.
 void Retira(const fs::path& obra, bool deshecho) {
   Causa causa = deshecho ? 0 : SincronizaNombre(SinEnlaces(obra));
   if (causa == 0) causa = QuitaConjunto(obra);
@@ -290,8 +290,8 @@ Causa EscribeConjunto(const fs::path& obra, const Conjunto& conjunto) {
   return causa;
 }
 
-// Removed and come back after a power cut it would undo a later save: either it is void for good, or
-// its absence is.
+// Removed and come back after a power cut it would undo a later save: either it is void for good,
+// or its absence is.
 Causa QuitaConjunto(const fs::path& obra) {
   const fs::path ruta = RutaConjunto(obra);
   Descriptor d;

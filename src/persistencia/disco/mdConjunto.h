@@ -11,9 +11,10 @@
 //                          an empty line, and the bytes of the companions in their order
 //
 // The order of a save: what the companions are to hold written beside them; this file made durable;
-// the companions put in their place, each of them durable; the save of the Obra, which is that of all; this file made void and removed. While the Obra is as before, so
-// are its companions, for whoever reads them and for the next opening, which brings them back. Where
-// the Obra itself does not change, it is the removal that makes the save.
+// the companions put in their place, each of them durable; the save of the Obra, which is that of
+// all; this file made void and removed. While the Obra is as before, so are its companions, for
+// whoever reads them and for the next opening, which brings them back. Where the Obra itself does
+// not change, it is the removal that makes the save.
 #pragma once
 
 #include <cstdint>

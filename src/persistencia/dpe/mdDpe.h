@@ -22,7 +22,8 @@ std::vector<EntradaAjuste> LeeAjustes(const std::filesystem::path& dpe);
 /// The same of records that are open. @throws ErrorFichero
 std::vector<EntradaAjuste> LeeAjustes(const FicheroRegistros& f);
 
-/// Opens the file for writing. @throws ErrorFichero where another program, or another window, has it
+/// Opens the file for writing. @throws ErrorFichero where another program, or another window, has
+/// it
 FicheroRegistros AbreDpe(const std::filesystem::path& ruta, PideCerrojo pide = CerrojoDelSistema);
 
 /// Writes the entries from the first record on, all or none.

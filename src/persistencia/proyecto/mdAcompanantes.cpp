@@ -108,8 +108,7 @@ FotoProyecto LeeFoto(const fs::path& ruta) {
 }
 
 Acompanantes LeeAcompanantes(const FotoProyecto& foto) {
-  const auto pendiente =
-      ConjuntoPendiente(foto.conjunto, foto.obra.ruta(), foto.obra.Contenido());
+  const auto pendiente = ConjuntoPendiente(foto.conjunto, foto.obra.ruta(), foto.obra.Contenido());
   if (!pendiente) return Interpreta(foto);
   FotoProyecto antes{FicheroRegistros::EnMemoria(foto.obra.ruta()), {}, foto.dpe, foto.zrx};
   for (const auto& c : pendiente->antes) PonDeAntes(c, antes);

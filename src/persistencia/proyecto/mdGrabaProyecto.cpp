@@ -96,8 +96,8 @@ class Companeras {
   void Cambia(std::string_view extension, std::optional<std::string> antes,
               std::optional<std::string> despues) {
     if (antes == despues) return;
-    cambios_.push_back({{std::string(extension), std::move(antes)},
-                        {std::string(extension), std::move(despues)}});
+    cambios_.push_back(
+        {{std::string(extension), std::move(antes)}, {std::string(extension), std::move(despues)}});
   }
 
   static bool SonLosDelDisco(const fs::path& ruta, const std::vector<EntradaAjuste>& nuevos,
@@ -197,7 +197,8 @@ Conjunto EscribeElDeAntes(const FicheroRegistros& f, const std::vector<Cambio>& 
   return conjunto;
 }
 
-void GrabaConjunto(FicheroRegistros& f, Transaccion& registros, const std::vector<Cambio>& cambios) {
+void GrabaConjunto(FicheroRegistros& f, Transaccion& registros,
+                   const std::vector<Cambio>& cambios) {
   const fs::path& obra = f.ruta();
   const bool cambiaLaObra = f.Cambia();
   const Conjunto conjunto = EscribeElDeAntes(f, cambios);

@@ -39,8 +39,8 @@ struct ProyectoAGrabar {
 /// @param f  open for writing
 /// @param separador  decimal separator of the machine
 /// @return what the person should know, although it is saved
-/// @throws ErrorFichero naming the field that can't be stored, or the disk's refusal; all is then as
-/// before, or will be when the Obra is opened again, and the message says which
+/// @throws ErrorFichero naming the field that can't be stored, or the disk's refusal; all is then
+/// as before, or will be when the Obra is opened again, and the message says which
 std::vector<Mensaje> GrabaProyecto(FicheroRegistros& f, const ProyectoAGrabar& proyecto,
                                    const Catalogo& textos, char separador);
 
@@ -49,7 +49,8 @@ std::vector<Mensaje> GrabaProyecto(FicheroRegistros& f, const ProyectoAGrabar& p
 /// @param origen  from which blocks without data are copied as they are; none when all have them
 /// @return the new file, open for writing and locked; its avisos() tell of its opening
 /// @throws SoloParaLeer where another program has that Obra, or its rights forbid it
-/// @throws ErrorFichero as GrabaProyecto; also for a file that is no Obra, which is not written over
+/// @throws ErrorFichero as GrabaProyecto; also for a file that is no Obra, which is not written
+/// over
 FicheroRegistros GrabaProyectoComo(const std::filesystem::path& ruta,
                                    const ProyectoAGrabar& proyecto, const FicheroRegistros* origen,
                                    const Catalogo& textos, char separador);

@@ -131,7 +131,8 @@ void FicheroRegistros::Graba() {
   if (bloques.empty()) return;
   if (disco_) return disco_->Graba(bloques);
   leido_.resize(std::max(leido_.size(), Desde(bloques.rbegin()->first + 1)));
-  for (const auto& [numero, b] : bloques) leido_.replace(Desde(numero), b.size(), b.data(), b.size());
+  for (const auto& [numero, b] : bloques)
+    leido_.replace(Desde(numero), b.size(), b.data(), b.size());
 }
 
 // The records that wait are those of a moment before.

@@ -67,7 +67,8 @@ class FicheroRegistros {
   /// Whether the records that wait would change the file.
   bool Cambia() const;
 
-  /// What a save that was refused left in doubt is settled, so that the file is what Contenido says.
+  /// What a save that was refused left in doubt is settled, so that the file is what Contenido
+  /// says.
   /// @throws ErrorFichero where the disk still refuses it
   void Asienta();
 

@@ -88,8 +88,7 @@ Extras ExtrasDe(Json j, std::string_view texto) {
   if (entradas.size() > kMaxEntradasZrx) throw Ilegible{txt::ZrxExcesivo, {}};
   Extras extras;
   for (std::size_t i = 0; i < entradas.size(); ++i) {
-    extras.tramos.push_back(
-        EntradaDe(std::move(entradas[i]), "tramos[" + std::to_string(i) + "]"));
+    extras.tramos.push_back(EntradaDe(std::move(entradas[i]), "tramos[" + std::to_string(i) + "]"));
   }
   if (!j.empty()) extras.otras = Texto(j);
   if (version > kVersion) extras.ajeno = texto;

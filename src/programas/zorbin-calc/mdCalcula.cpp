@@ -275,7 +275,9 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
 
   Calculador calculador(proyecto, encargo, opciones, textos);
   const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.EnPaginas();
-  return codigo == kHecho && (faltan || proyecto.SinAjustes || proyecto.SinExtras) ? kFicheroRechazado : codigo;
+  return codigo == kHecho && (faltan || proyecto.SinAjustes || proyecto.SinExtras)
+             ? kFicheroRechazado
+             : codigo;
 } catch (const ErrorFichero& error) {
   Queja(textos.Compone(error.mensaje()));
   return kFicheroRechazado;
