@@ -23,7 +23,7 @@ for p in "$@"; do
   case $(uname -m) in
     x86_64)
       codigo=$(objdump -d --no-show-raw-insn "$p")
-      exige "$p" "-fstack-clash-protection" "$codigo" '*or[ql]*$0x0,*(%rsp*'
+      exige "$p" "-fstack-clash-protection" "$codigo" '*orq*$0x0,[(]%rsp[)]*'
       # The mark of the whole program needs that of the system's own start files.
       exige "$p" "-fcf-protection" "$codigo" '*endbr64*endbr64*endbr64*'
       ;;
