@@ -94,63 +94,59 @@ std::uint64_t HuellaDeTodo(const Captura& c) {
   return huella;
 }
 
-// All the Tramos of the file. A block that cannot be read gives its place and why.
-std::vector<TramoFijo> LeeTramos(Captura& c, const ListaTramos& lista, Acompanantes& suyos) {
+// All the Tramos of the file. One that cannot be read gives its place and why.
+std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanantes& suyos) {
   EstadoCalculo e;  // a blank record keeps the value of the Tramo before
   e.obra = c.e.obra;
   std::vector<TramoFijo> tramos;
-  for (std::size_t i = 0; i < lista.size(); ++i) {
+  for (std::size_t i = 0; i < leida.lista.size(); ++i) {
+    const int posicion = static_cast<int>(i) + 1;
     TramoEnObra t;
     t.id = ++c.ultimoId;
-    t.numero = lista[i];
+    t.numero = leida.lista[i];
     const int numero = NumeroDe(t.numero);
     if (!t.numero.empty()) {
-      try {
-        CargaTramo(e, *c.fichero, static_cast<int>(i) + 1);
-        t.datos = e.tramo;
-        t.datos.Envolvente = false;
-        t.ajustes = LosDe(suyos.ajustes, numero);
-        if (auto extras = TomaExtras(suyos.extras, t.numero, t.datos.DescriTramo)) {
-          t.datos.Envolvente = extras->Envolvente;
-          t.extras = std::move(extras->otras);
-        }
-      } catch (const ErrorFichero& error) {
-        t.dano = TextoDeError(c, error);
+      CargaTramo(e, *c.fichero, posicion);
+      t.datos = e.tramo;
+      t.ajustes = LosDe(suyos.ajustes, numero);
+      if (auto extras = TomaExtras(suyos.extras, t.numero, t.datos.DescriTramo)) {
+        t.datos.Envolvente = extras->Envolvente;
+        t.extras = std::move(extras->otras);
       }
     }
+    const auto dano = std::ranges::find(leida.danos, posicion, &DanoObra::posicion);
+    if (dano != leida.danos.end()) t.dano = c.textos.Compone(dano->causa);
     t.datos.NumeroTramo = static_cast<std::int16_t>(numero);
     tramos.push_back(std::make_shared<TramoEnObra>(std::move(t)));
   }
   return tramos;
 }
 
+// What could not be read, told at once.
+void DiDanos(Captura& c, const std::vector<DanoObra>& danos) {
+  c.Danada = !danos.empty();
+  if (!c.Danada) return;
+  std::string texto = c.textos.Compone(txt::ObraDanada, {c.fichero->Nombre()});
+  for (const auto& dano : danos) texto += "\n" + c.textos.Compone(dano.causa);
+  c.voz.Muestra(texto, {});
+}
+
 // Header and Tramos of the file that is open. @throws ErrorFichero
 void LeeTodo(Captura& c) {
-  const auto leida = CargaObra(c.e, *c.fichero);
+  const auto leida = RescataObra(c.e, *c.fichero);
   for (const auto& aviso : leida.avisos) c.voz.Anuncia(c.textos.Compone(aviso));
   auto suyos = LeeDeAlLado(c);
-  c.version.tramos = LeeTramos(c, leida.lista, suyos);
+  c.version.tramos = LeeTramos(c, leida, suyos);
   for (const auto& aviso : AvisosDeExtras(suyos.extras, RutaZrx(c.fichero->ruta()))) {
     c.voz.Anuncia(c.textos.Compone(aviso));
   }
   c.version.extras = std::move(suyos.extras);
   c.huella = HuellaDeTodo(c);
   c.ObraCargada = true;
+  DiDanos(c, leida.danos);
   MuestraObra(c);
   c.version = c.guardada = VersionActual(c);
   MuestraTodo(c);
-}
-
-// What could not be read, told at once.
-void DiDanos(Captura& c) {
-  std::string danos;
-  for (const auto& t : c.version.tramos) {
-    if (!t->dano.empty()) danos += "\n" + t->dano;
-  }
-  c.Danada = !danos.empty();
-  if (c.Danada) {
-    c.voz.Muestra(c.textos.Compone(txt::ObraDanada, {c.fichero->Nombre()}) + danos, {});
-  }
 }
 
 // ---- Saving
@@ -314,7 +310,6 @@ bool AbreObra(Captura& c, const fs::path& ruta) {
     ActualizaMenus(c);
     return false;
   }
-  DiDanos(c);
   return true;
 }
 

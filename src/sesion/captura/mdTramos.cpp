@@ -269,7 +269,7 @@ std::vector<RenglonTramo> RenglonesTramos(const Captura& c) {
   const Version ahora = VersionActual(c);
   std::vector<RenglonTramo> renglones;
   for (const auto& t : ahora.tramos) {
-    if (t->numero.empty()) continue;
+    if (t->numero.empty() && t->dano.empty()) continue;
     const auto antes = LugarDe(c.guardada, t->id);
     const bool sinGrabar =
         !antes || (c.guardada.tramos[*antes] != t && *c.guardada.tramos[*antes] != *t);
