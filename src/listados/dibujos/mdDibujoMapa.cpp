@@ -97,7 +97,7 @@ class DibujoMapa {
   DibujoMapa(Plano& plano, const Malla& malla, const DatosTramo& datos, const PalabrasDibujo& w)
       : plano_(plano), malla_(malla), datos_(datos), w_(w) {
     for (const auto& p : malla.puntos) {
-      const double a = p && p->fila.verificacion.OfreceArmadura() ? p->acero : kNada;
+      const double a = p ? p->acero.value_or(kNada) : kNada;
       acero_.push_back(a);
       if (std::isfinite(a)) {
         minimo_ = std::min(minimo_, a);
@@ -341,7 +341,7 @@ std::size_t Cercano(const std::vector<double>& valores, double v) {
 }  // namespace
 
 Malla CalculaMapa(const DatosTramo& datos, const SigueMalla& sigue) {
-  return CalculaMalla(datos, EjesAlrededor(datos, kColumnasMapa, kFilasMapa), {true, false}, sigue);
+  return CalculaMalla(datos, EjesAlrededor(datos, kColumnasMapa, kFilasMapa), false, sigue);
 }
 
 std::vector<std::vector<Xy>> LineasDeNivel(const std::vector<double>& z, std::size_t columnas,
