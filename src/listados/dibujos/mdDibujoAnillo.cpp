@@ -58,7 +58,7 @@ class Diagrama {
 
  private:
   static constexpr double kTitulo = 6.0;   // over the diagram [mm]
-  static constexpr double kCifras = 19.0;  // beside it
+  static constexpr double kCifras = 15.0;  // beside it
   static constexpr double kPie = 6.0;      // over and under it
 
   Plano& plano_;
@@ -185,7 +185,7 @@ std::vector<std::string> TextoExcesos(const AnilloCaso& anillo, const PalabrasDi
 }
 
 Lamina DibujaAnillo(const CasoDibujado& caso, int hipotesis, const PalabrasDibujo& w,
-                    const HojaDibujo& hoja) {
+                    const HojaDibujo& hoja, LeyesDibujadas leyes) {
   const auto anillo = AnilloDe(caso.tramo, caso.fila, caso.caso, hipotesis);
   const bool armado = caso.caso.EsArmado();
   Lamina lamina = LaminaVacia(hoja);
@@ -196,14 +196,18 @@ Lamina DibujaAnillo(const CasoDibujado& caso, int hipotesis, const PalabrasDibuj
       w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
   const auto notas = Notas(anillo, armado, !hoja.cabecera, w);
   const double alturaNotas = kLineaNota * static_cast<double>(notas.size()) + 2.0;
-  const Marco izquierda{m.x, m.y, m.ancho / 2, m.alto - alturaNotas};
-  const Marco derecha{m.x + m.ancho / 2, m.y, m.ancho / 2, m.alto - alturaNotas};
   const Ley M{anillo.leyes.M, anillo.M, w.T(txt::DibMomentos), w.Unidad("mT->mkN") + "/m",
               "mT->mkN",      2,        Tinta::Serie3};
   const Ley N{anillo.leyes.N, anillo.N, w.T(txt::DibAxiles), w.Unidad("T->kN") + "/m",
               "T->kN",        1,        Tinta::Serie1};
-  Diagrama(plano, izquierda, M, w).Pinta();
-  Diagrama(plano, derecha, N, w).Pinta();
+  std::vector<const Ley*> pedidas;
+  if (leyes != LeyesDibujadas::Axiles) pedidas.push_back(&M);
+  if (leyes != LeyesDibujadas::Momentos) pedidas.push_back(&N);
+  Marco sitio{m.x, m.y, m.ancho / static_cast<double>(pedidas.size()), m.alto - alturaNotas};
+  for (const Ley* ley : pedidas) {
+    Diagrama(plano, sitio, *ley, w).Pinta();
+    sitio.x += sitio.ancho;
+  }
   PintaNotas(plano, m, notas);
   return lamina;
 }

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <fstream>
 
 #include "base/mdCarpetas.h"
 #include "comun/comparaFichero.h"
@@ -37,12 +36,13 @@ class Escena {
 
   std::vector<Lamina> Todas(const HojaDibujo& hoja) const {
     const auto w = Palabras();
-    std::vector<Lamina> x{hoja.cabecera ? DibujaSeccion(Caso(), w, hoja)
-                                        : DibujaTransversal(Caso(), w, hoja),
-                          DibujaPared(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
-                          DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
+    std::vector<Lamina> x{
+        hoja.cabecera ? DibujaSeccion(Caso(), w, hoja) : DibujaTransversal(Caso(), w, hoja),
+        DibujaPared(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
+        DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
     for (int h = 1; h <= CuentaHipotesis(Datos()); ++h) {
-      x.push_back(DibujaAnillo(Caso(), h, w, hoja));
+      x.push_back(DibujaAnillo(Caso(), h, w, hoja,
+                               hoja.cabecera ? LeyesDibujadas::Ambas : LeyesDibujadas::Momentos));
       if (!Datos().tramo.EsArmado) x.push_back(DibujaTensiones(Caso(), h, w, hoja).lamina);
     }
     for (const auto eje : {EjeDeGrafico::Altura, EjeDeGrafico::Presion}) {
@@ -87,7 +87,6 @@ TEST(Dibujos, NingunTextoPisaOtroNiSeSaleDeLaHoja) {
     const HojaDibujo panel{120, 80, false, 0};
     for (auto& l : escenas[e].Todas(panel)) laminas.push_back(std::move(l));
     for (std::size_t n = 0; n < laminas.size(); ++n) {
-      if (std::getenv("VUELCA")) std::ofstream("/tmp/dib/p" + std::to_string(e) + "_" + std::to_string(n) + ".svg") << SvgDe(laminas[n], Paleta(Tema::Claro), "");
       const auto rotulos = Rotulos(laminas[n]);
       for (std::size_t i = 0; i < rotulos.size(); ++i) {
         const auto m = CajaTexto(rotulos[i]);
