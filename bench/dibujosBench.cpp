@@ -65,7 +65,7 @@ void PanelPintado(benchmark::State& state) {
     const CasoDibujado caso{x, fila, entero};
     Pinta(DibujaTransversal(caso, palabras, hoja), imagen);
     Pinta(DibujaPared(caso, palabras, hoja), imagen);
-    Pinta(DibujaAnillo(caso, HipotesisQueRige(entero, fila), palabras, hoja), imagen);
+    Pinta(DibujaAnillo(caso, std::max(1, HipotesisQueRige(datos, fila)), palabras, hoja), imagen);
   }
 }
 BENCHMARK(PanelPintado)->DenseRange(1, 7)->Unit(benchmark::kMillisecond);

@@ -81,6 +81,7 @@ struct ResumenVerificacion {
   Veredicto veredicto = Veredicto::SinComprobar;
   MotivoVeredicto motivo = MotivoVeredicto::Ninguno;
   QueComprueba que = QueComprueba::Armadura;  // the check with the greatest use
+  std::int8_t hipotesis = 0;                  // post-tensioned: the hypothesis that uses most
   std::uint32_t avisos = 0;                   // of AvisoVerificacion
   double uso = 0;                             // the greatest [-]
 

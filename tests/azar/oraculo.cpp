@@ -375,11 +375,10 @@ std::optional<Falta> Capturador::Valida(EstadoCalculo& e) {
   e_ = e;
   c_[Ed::rdSistemaUnidades].opcion = e.obra.EsSI() ? 0 : 1;
   MuestraObra(c_);
-  if (!ValidaObra(c_)) return c_.falta;
+  if (!ValidaObra(c_)) return c_.faltas.front();
   Escribe(c_, Ed::edTramo, TextoEntero(e.tramo.NumeroTramo));
   MuestraTramo(c_);
-  c_.falta.reset();
-  if (!ValidaTramo(c_, false)) return c_.falta ? c_.falta : Falta{};
+  if (!ValidaTramo(c_)) return c_.faltas.front();
   e.obra = e_.obra;
   e.tramo = e_.tramo;
   return std::nullopt;

@@ -37,10 +37,13 @@ void AbreLaObra(Sesion& s) {
   AbreObra(s.c, s.carpeta / "obra.zrb");
 }
 
-bool GrabaElTramo(Sesion& s) {
+// A save that the disk refuses is told in a question: into another file? No.
+bool GrabaLaObra(Sesion& s) {
   s.voz.Olvida();
-  const bool grabado = AccionGrabaTramo(s.c);
-  s.queja = grabado ? std::string{} : s.voz.Ultimo();
+  s.voz.responde = false;
+  const bool grabado = Graba(s.c);
+  s.queja.clear();
+  if (!grabado) s.queja = s.voz.preguntas.empty() ? s.voz.Ultimo() : s.voz.preguntas.back().texto;
   return grabado;
 }
 
@@ -49,33 +52,28 @@ bool GrabaTramoDos(Sesion& s) {
   s.Teclea(Ed::edDescriTramo, "Descripción cambiada del Tramo 2");
   s.Teclea(Ed::edGr0, "1,95");
   s.Teclea(Ed::edGamaB, "1,55");
-  return GrabaElTramo(s);
+  return GrabaLaObra(s);
 }
 
 bool GrabaTramoCinco(Sesion& s) {
-  CancelaCaptura(s.c);
   s.EligeElTramo("5");
   s.Teclea(Ed::edDescriTramo, std::string(120, 'x'));
-  return GrabaElTramo(s);
+  return GrabaLaObra(s);
 }
 
 bool GrabaTramoNuevo(Sesion& s) {
   if (!s.c.EnAltas()) {
-    CancelaCaptura(s.c);
     NuevoTramo(s.c);
     s.Teclea(Ed::edDescriTramo, "Tramo nuevo");
     s.Teclea(Ed::edDi0, "1,2");
   }
-  return GrabaElTramo(s);
+  return GrabaLaObra(s);
 }
 
 bool GrabaCabecera(Sesion& s) {
-  s.voz.Olvida();
   s.Teclea(Ed::edCliente, "Otro cliente");
   s.Teclea(Ed::edObra, "Otra obra");
-  const bool grabada = AccionGrabaObra(s.c);
-  s.queja = grabada ? std::string{} : s.voz.Ultimo();
-  return grabada;
+  return GrabaLaObra(s);
 }
 
 void ObraNueva(Sesion& s) {

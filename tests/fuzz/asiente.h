@@ -14,7 +14,10 @@ class Asiente : public Interlocutor {
     ultimo = texto;
   }
   bool Pregunta(const std::string&, const std::string&) override { return true; }
-  std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+  Respuesta PreguntaGrabar(const std::string&) override { return Respuesta::Grabar; }
+  std::optional<std::string> PideFichero(const std::string&, const std::string&) override {
+    return std::nullopt;
+  }
   void VaA(Ed) override {}
   std::string ultimo;
 };

@@ -2,9 +2,8 @@
 #include "fuzz/asiente.h"
 #include "sesion/captura/mdBorrador.h"
 #include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdComprueba.h"
 #include "sesion/captura/mdPresenta.h"
-#include "sesion/captura/mdValidaObra.h"
-#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin::hostil {
 
@@ -20,7 +19,7 @@ void Pon(const Borrador& b) {
   PonBorrador(c, b);
   const Borrador tomado = TomaBorrador(c);
   Exige(LeeBorrador(TextoDeBorrador(tomado)).has_value(), "what is kept can be put back");
-  static_cast<void>(ValidaObra(c) && ValidaTramo(c, false));
+  static_cast<void>(Comprueba(c, IdsDe(c.version)));
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ void Usa(const TablasCatalogo& t) {
   Catalogo& textos = TextosParaCambiar();
   static const Proyecto proyecto = LeeProyecto(ZORBIN_FUENTES "muestras/acequia.zrb");
   const auto faltas = ValidaProyecto(proyecto, textos, t, {});
-  for (const auto& p : faltas.preguntas) Exige(EsTextoLimpio(p.texto), "a question is clean text");
+  for (const auto& a : faltas.avisos) Exige(EsTextoLimpio(a.texto), "a notice is clean text");
   for (const auto& [posicion, tramo] : faltas.tramos) {
     for (const double v : {tramo.Esp, tramo.Reci, tramo.Rece, tramo.De, tramo.B0}) {
       Exige(std::isfinite(v), "a dimension is a number");

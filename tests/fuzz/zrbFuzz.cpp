@@ -12,6 +12,7 @@
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdFaltas.h"
 #include "sesion/captura/mdPresenta.h"
+#include "sesion/captura/mdTramos.h"
 
 namespace zorbin::hostil {
 
@@ -102,10 +103,16 @@ bool GrabaTramoDe(const fs::path& ruta, const std::string& numero, std::string& 
   Captura c(e, textos, Tablas(), voz, ',');
   PreparaPantalla(c);
   Exige(AbreObra(c, ruta), "what is read can be opened", voz.ultimo);
+  const auto antes = VersionActual(c);
   Escribe(c, Ed::edTramo, numero);
   EligeTramo(c);
-  const bool grabado = c.EnModificaciones() && AccionGrabaTramo(c);
-  queja = voz.ultimo;
+  Exige(VersionActual(c) == antes, "to look is not to change");
+  if (c.SinTramoEnMano()) return false;
+  // Any change, for what is as it was is not saved.
+  Cambia(c, Ed::edDescriTramo, c[Ed::edDescriTramo].texto == "x" ? "y" : "x");
+  Sale(c, Ed::edDescriTramo);
+  const bool grabado = Graba(c);
+  queja = c.faltas.empty() ? voz.ultimo : c.faltas.front().mensaje;
   return grabado;
 }
 
@@ -118,11 +125,12 @@ std::string TextoDe(std::string_view registro) {
 // format keeps as a word of the language of the Obra and reads in Spanish, and the increment of a
 // Tramo without heights of its own, which follows the Obra's one save later and is of no use.
 std::string Diferencia(const std::string& una, const std::string& otra) {
-  constexpr std::size_t kGolpe = 4, kIncremento = 76, kPaso = 60;
+  constexpr std::size_t kGolpe = 4, kDescripcion = 22, kIncremento = 76, kPaso = 60;
   for (std::size_t n = 1; (n - 1) * kBytesRegistro < std::max(una.size(), otra.size()); ++n) {
     const auto a = una.substr(std::min((n - 1) * kBytesRegistro, una.size()), kBytesRegistro);
     const auto b = otra.substr(std::min((n - 1) * kBytesRegistro, otra.size()), kBytesRegistro);
-    const bool puede = n == kGolpe || n % kPaso == kIncremento % kPaso;
+    const bool puede = n == kGolpe || n % kPaso == kIncremento % kPaso ||
+                       (n > kDescripcion - 1 && n % kPaso == kDescripcion % kPaso);
     if (a != b && !puede) return std::to_string(n) + ": " + TextoDe(a) + " | " + TextoDe(b);
   }
   return {};

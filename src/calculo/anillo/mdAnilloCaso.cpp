@@ -71,16 +71,8 @@ int CuentaHipotesis(const DatosTramo& datos) {
   return datos.tramo.EsArmado ? kHipotesisArmado : kHipotesisPostesado;
 }
 
-int HipotesisQueRige(const ResultadoCaso& caso, const FilaCaso& fila) {
-  if (caso.EsArmado()) return fila.HipotesisRige;
-  int rige = 0;
-  double uso = 0;
-  for (const auto& c : caso.verificacion.comprobaciones) {
-    if (c.hipotesis == 0 || c.uso <= uso) continue;
-    uso = c.uso;
-    rige = c.hipotesis;
-  }
-  return std::max(rige, 1);
+int HipotesisQueRige(const DatosTramo& datos, const FilaCaso& fila) {
+  return datos.tramo.EsArmado ? fila.HipotesisRige : fila.verificacion.hipotesis;
 }
 
 Lista<double, kSecciones> MomentosDe(const ResultadoCaso& caso, int h) {

@@ -25,8 +25,8 @@ struct AnilloCaso {
 int CuentaHipotesis(const DatosTramo& datos);
 
 /// The hypothesis that asks for most in a Caso: the governing one, or, post-tensioned, that of the
-/// check with the greatest use.
-int HipotesisQueRige(const ResultadoCaso& caso, const FilaCaso& fila);
+/// check with the greatest use; 0 where no hypothesis was checked.
+int HipotesisQueRige(const DatosTramo& datos, const FilaCaso& fila);
 
 /// Moments of a hypothesis at the three sections [m·t/m].
 Lista<double, kSecciones> MomentosDe(const ResultadoCaso& caso, int h);

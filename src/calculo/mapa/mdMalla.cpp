@@ -1,8 +1,9 @@
 #include "calculo/mapa/mdMalla.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
-#include <functional>
+#include <thread>
 
 #include "calculo/anillo/mdAnilloCaso.h"
 
@@ -12,20 +13,23 @@ namespace {
 
 constexpr double kAlturaMinima = 0.3;   // shown [m]
 constexpr double kPresionMinima = 0.1;  // [at]
+constexpr std::size_t kAlturasPorHilo = 4;
+constexpr unsigned kMaxHilos = 8;
 constexpr double kDePresion = 2.0 / 3.0;
 
-double AreaAlambre(const FilaCaso& f) {
+constexpr std::int16_t kParedDelgada = 1;  // of ErrorPostesado in a reinforced pipe
+
+std::optional<double> AceroDe(const FilaCaso& f, bool armado) {
+  if (!f.verificacion.OfreceArmadura()) return std::nullopt;
+  if (armado) return f.ErrorPostesado == kParedDelgada ? std::nullopt : std::optional(f.Total);
+  if (f.FIIN <= 0) return std::nullopt;
   return f.NESPIN * kPi * f.FIIN * f.FIIN / 400.0;
 }
 
-PuntoMalla PuntoDe(const ResultadoTramo& x, const FilaCaso& fila, QueMasMalla mas) {
-  const bool armado = x.datos.tramo.EsArmado;
-  PuntoMalla p{fila, armado ? fila.Total : AreaAlambre(fila), armado ? fila.HipotesisRige : 0};
-  if (!mas.momentos && (armado || !mas.hipotesis)) return p;
-  const auto caso = CasoEntero(x, fila);
-  p.hipotesis = HipotesisQueRige(caso, fila);
-  if (!mas.momentos) return p;
-  const auto M = MomentosDe(caso, p.hipotesis);
+PuntoMalla PuntoDe(const ResultadoTramo& x, const FilaCaso& fila, bool conMomentos) {
+  PuntoMalla p{fila, AceroDe(fila, x.datos.tramo.EsArmado), HipotesisQueRige(x.datos, fila)};
+  if (!conMomentos || p.hipotesis == 0) return p;
+  const auto M = MomentosDe(CasoEntero(x, fila), p.hipotesis);
   p.mayorM = std::max({M(CLAVE), M(RINONES), M(SOLERA)});
   p.menorM = std::min({M(CLAVE), M(RINONES), M(SOLERA)});
   return p;
@@ -34,8 +38,8 @@ PuntoMalla PuntoDe(const ResultadoTramo& x, const FilaCaso& fila, QueMasMalla ma
 // One height. A run of it goes on from the pressure after the one at which another failed.
 class FilaMalla {
  public:
-  FilaMalla(const DatosTramo& datos, QueMasMalla mas, Malla& malla)
-      : datos_(datos), mas_(mas), malla_(malla) {}
+  FilaMalla(const DatosTramo& datos, bool conMomentos, Malla& malla)
+      : datos_(datos), conMomentos_(conMomentos), malla_(malla) {}
 
   void Calcula(std::size_t altura) {
     const auto n = malla_.ejes.presiones.size();
@@ -45,7 +49,7 @@ class FilaMalla {
 
  private:
   const DatosTramo& datos_;
-  const QueMasMalla mas_;
+  const bool conMomentos_;
   Malla& malla_;
 
   // @return points that are settled
@@ -81,7 +85,7 @@ class FilaMalla {
   void Pon(std::size_t altura, std::size_t presion, const ResultadoTramo& x, const FilaCaso& fila) {
     auto& punto = malla_.puntos[altura * malla_.ejes.presiones.size() + presion];
     try {
-      punto = PuntoDe(x, fila, mas_);
+      punto = PuntoDe(x, fila, conMomentos_);
     } catch (const ErrorEjecucion&) {
       punto.reset();
     }
@@ -102,6 +106,12 @@ std::vector<double> Algunos(const std::vector<double>& v, std::size_t n) {
   return x;
 }
 
+// Threads for so many heights: a few of them are not worth one.
+unsigned Hilos(std::size_t alturas) {
+  const auto pedidos = static_cast<unsigned>(alturas / kAlturasPorHilo);
+  return std::clamp(std::min(pedidos, std::thread::hardware_concurrency()), 1u, kMaxHilos);
+}
+
 // The lowest pressure at which MDP is one.
 double PresionConMDP(const Rango& r) {
   if (r.PendienteMDP <= 0) return kPresionMinima;
@@ -110,18 +120,35 @@ double PresionConMDP(const Rango& r) {
 
 }  // namespace
 
-Malla CalculaMalla(const DatosTramo& datos, const EjesMalla& ejes, QueMasMalla mas,
+Malla CalculaMalla(const DatosTramo& datos, const EjesMalla& ejes, bool conMomentos,
                    const SigueMalla& sigue) {
   Malla malla;
   malla.ejes = ejes;
   malla.cargas.resize(ejes.alturas.size());
   malla.puntos.resize(ejes.alturas.size() * ejes.presiones.size());
-  FilaMalla fila(datos, mas, malla);
-  for (std::size_t i = 0; i < ejes.alturas.size(); ++i) {
-    if (sigue && !sigue()) return malla;
-    fila.Calcula(i);
+  // No height knows another: each thread takes the next one that nobody has.
+  std::atomic<std::size_t> siguiente{0};
+  std::atomic<bool> basta{false};
+  const auto trabaja = [&](const SigueMalla& pregunta) {
+    FilaMalla fila(datos, conMomentos, malla);
+    while (!basta) {
+      if (pregunta && !pregunta()) {
+        basta = true;
+        return;
+      }
+      const std::size_t i = siguiente++;
+      if (i >= ejes.alturas.size()) return;
+      fila.Calcula(i);
+    }
+  };
+  {
+    std::vector<std::jthread> otros;
+    for (unsigned n = 1; n < Hilos(ejes.alturas.size()); ++n) {
+      otros.emplace_back([&trabaja] { trabaja({}); });
+    }
+    trabaja(sigue);
   }
-  malla.entera = true;
+  malla.entera = !basta;
   return malla;
 }
 

@@ -15,17 +15,11 @@ struct EjesMalla {
   std::vector<double> presiones;  // DP [at]
 };
 
-/// Which parts of a point are calculated besides its row; each costs the whole Caso again.
-struct QueMasMalla {
-  bool hipotesis = false;  // which one asks for the wire of a post-tensioned pipe
-  bool momentos = false;   // of the governing hypothesis
-};
-
 struct PuntoMalla {
   FilaCaso fila;
-  double acero = 0;               // in all; post-tensioned: of the wire [cm2/m]
+  std::optional<double> acero;    // in all, or of the wire; none where nothing was found [cm2/m]
   int hipotesis = 0;              // that governs, 0 where it is not known
-  double mayorM = 0, menorM = 0;  // of the three sections [m·t/m]
+  double mayorM = 0, menorM = 0;  // of the three sections, where asked for [m·t/m]
 };
 
 struct Malla {
@@ -44,8 +38,10 @@ using SigueMalla = std::function<bool()>;
 
 /// Calculates each point as a run of that one Caso would, its adjustments by hand among it. A point
 /// whose calculation fails stays empty, and the others go on.
-/// @param datos  in calculation units
-Malla CalculaMalla(const DatosTramo& datos, const EjesMalla& ejes, QueMasMalla mas = {},
+/// @param datos        in calculation units
+/// @param conMomentos  of the governing hypothesis, which ask for the whole Caso
+/// @param sigue        asked on the thread of the caller; the heights are shared among several
+Malla CalculaMalla(const DatosTramo& datos, const EjesMalla& ejes, bool conMomentos = false,
                    const SigueMalla& sigue = {});
 
 /// Round about the heights and pressures of the Tramo: half of their range more below and all of it

@@ -111,8 +111,13 @@ template <class Toma>
 ResumenVerificacion Juzga(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP,
                           Toma&& toma) {
   ResumenVerificacion resumen;
+  double usoHipotesis = 0;
   const auto anota = [&](const ComprobacionCaso& c) {
     Anota(resumen, c);
+    if (c.hipotesis != 0 && c.uso > usoHipotesis) {
+      usoHipotesis = c.uso;
+      resumen.hipotesis = c.hipotesis;
+    }
     toma(c);
   };
   RecorridoPostesado(t, r, DP, anota).Corre();

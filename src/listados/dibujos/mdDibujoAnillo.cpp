@@ -58,7 +58,7 @@ class Diagrama {
 
  private:
   static constexpr double kTitulo = 6.0;   // over the diagram [mm]
-  static constexpr double kCifras = 19.0;  // beside it
+  static constexpr double kCifras = 15.0;  // beside it
   static constexpr double kPie = 6.0;      // over and under it
 
   Plano& plano_;
@@ -141,20 +141,30 @@ class Diagrama {
   }
 };
 
-void PintaNotas(Plano& plano, const Marco& m, const AnilloCaso& anillo, bool armado,
-                const PalabrasDibujo& w) {
-  std::vector<std::string> notas{w.T(txt::DibHaciaFuera)};
-  if (armado && anillo.presion > 0) {
-    notas.push_back(w.Con(txt::DibConPresion, {w.Numero(anillo.presion, 1, "T->kN") + "/m"}));
-  } else if (!armado) {
-    notas.push_back(w.T(txt::DibSinPresion));
+constexpr double kLineaNota = 4.4;
+
+// A panel, which has no room, is told no more than what passes the three sections.
+std::vector<std::string> Notas(const AnilloCaso& anillo, bool armado, bool panel,
+                               const PalabrasDibujo& w) {
+  std::vector<std::string> notas;
+  if (!panel) {
+    notas.push_back(w.T(txt::DibHaciaFuera));
+    if (!armado) notas.push_back(w.T(txt::DibSinPresion));
+    if (armado && anillo.presion > 0) {
+      notas.push_back(w.Con(txt::DibConPresion, {w.Numero(anillo.presion, 1, "T->kN") + "/m"}));
+    }
   }
   for (auto& texto : TextoExcesos(anillo, w)) notas.push_back(std::move(texto));
-  double y = m.Abajo() - 4.4 * static_cast<double>(notas.size() - 1) - 0.8;
+  return notas;
+}
+
+void PintaNotas(Plano& plano, const Marco& m, const std::vector<std::string>& notas) {
+  double y = m.Abajo() - kLineaNota * static_cast<double>(notas.size() - 1) - 0.8;
   plano.En(Capa::Textos);
   for (const auto& nota : notas) {
-    plano.Texto({m.x, y}, nota, AnclaX::Izquierda, AnclaY::Base, kLetraMenor, Tinta::Tenue);
-    y += 4.4;
+    plano.Texto({m.x, y}, Recortado(nota, m.ancho, kLetraMenor), AnclaX::Izquierda, AnclaY::Base,
+                kLetraMenor, Tinta::Tenue);
+    y += kLineaNota;
   }
 }
 
@@ -175,7 +185,7 @@ std::vector<std::string> TextoExcesos(const AnilloCaso& anillo, const PalabrasDi
 }
 
 Lamina DibujaAnillo(const CasoDibujado& caso, int hipotesis, const PalabrasDibujo& w,
-                    const HojaDibujo& hoja) {
+                    const HojaDibujo& hoja, LeyesDibujadas leyes) {
   const auto anillo = AnilloDe(caso.tramo, caso.fila, caso.caso, hipotesis);
   const bool armado = caso.caso.EsArmado();
   Lamina lamina = LaminaVacia(hoja);
@@ -184,16 +194,21 @@ Lamina DibujaAnillo(const CasoDibujado& caso, int hipotesis, const PalabrasDibuj
       plano, hoja,
       w.Con(txt::DibTituloAnillo, {TextoEntero(hipotesis), w.Hipotesis(armado, hipotesis)}),
       w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
-  constexpr double kNotas = 20.0;
-  const Marco izquierda{m.x, m.y, m.ancho / 2, m.alto - kNotas};
-  const Marco derecha{m.x + m.ancho / 2, m.y, m.ancho / 2, m.alto - kNotas};
+  const auto notas = Notas(anillo, armado, !hoja.cabecera, w);
+  const double alturaNotas = kLineaNota * static_cast<double>(notas.size()) + 2.0;
   const Ley M{anillo.leyes.M, anillo.M, w.T(txt::DibMomentos), w.Unidad("mT->mkN") + "/m",
               "mT->mkN",      2,        Tinta::Serie3};
   const Ley N{anillo.leyes.N, anillo.N, w.T(txt::DibAxiles), w.Unidad("T->kN") + "/m",
               "T->kN",        1,        Tinta::Serie1};
-  Diagrama(plano, izquierda, M, w).Pinta();
-  Diagrama(plano, derecha, N, w).Pinta();
-  PintaNotas(plano, m, anillo, armado, w);
+  std::vector<const Ley*> pedidas;
+  if (leyes != LeyesDibujadas::Axiles) pedidas.push_back(&M);
+  if (leyes != LeyesDibujadas::Momentos) pedidas.push_back(&N);
+  Marco sitio{m.x, m.y, m.ancho / static_cast<double>(pedidas.size()), m.alto - alturaNotas};
+  for (const Ley* ley : pedidas) {
+    Diagrama(plano, sitio, *ley, w).Pinta();
+    sitio.x += sitio.ancho;
+  }
+  PintaNotas(plano, m, notas);
   return lamina;
 }
 

@@ -8,10 +8,12 @@
 
 namespace zorbin {
 
+enum class LeyesDibujadas : std::uint8_t { Ambas, Momentos, Axiles };
+
 /// @param hipotesis  1 to the number of those of the design
 /// @throws ErrorEjecucion Subindice for another
 Lamina DibujaAnillo(const CasoDibujado& caso, int hipotesis, const PalabrasDibujo& palabras,
-                    const HojaDibujo& hoja = {});
+                    const HojaDibujo& hoja = {}, LeyesDibujadas leyes = LeyesDibujadas::Ambas);
 
 /// What a moment beyond the three sections is told with; one line for each face that has one.
 std::vector<std::string> TextoExcesos(const AnilloCaso& anillo, const PalabrasDibujo& palabras);

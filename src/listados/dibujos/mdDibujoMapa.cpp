@@ -97,7 +97,7 @@ class DibujoMapa {
   DibujoMapa(Plano& plano, const Malla& malla, const DatosTramo& datos, const PalabrasDibujo& w)
       : plano_(plano), malla_(malla), datos_(datos), w_(w) {
     for (const auto& p : malla.puntos) {
-      const double a = p && p->fila.verificacion.OfreceArmadura() ? p->acero : kNada;
+      const double a = p ? p->acero.value_or(kNada) : kNada;
       acero_.push_back(a);
       if (std::isfinite(a)) {
         minimo_ = std::min(minimo_, a);
@@ -150,6 +150,34 @@ class DibujoMapa {
     Linea(sitio, w_.T(txt::DibCasoEnMano));
   }
 
+  // Of a panel: the colours alone, one after another in as many lines as they need.
+  void LeyendaSeguida(const Marco& m) {
+    plano_.En(Capa::Textos);
+    Xy sitio{m.x, m.y + 3.2};
+    for (const auto& [fuerza, trama, tinta, texto] : Muestras()) {
+      const double ancho = AnchoTexto(texto, kLetraMenor) + 8.0;
+      if (sitio.x > m.x && sitio.x + ancho > m.Derecha()) sitio = {m.x, sitio.y + kLineaSeguida};
+      const Puntos muestra = Rectangulo({sitio.x, sitio.y - 2.4, 4.2, 2.8});
+      plano_.Area(muestra, {tinta, fuerza}, {tinta, kFino});
+      plano_.Rayado({muestra}, trama, tinta, 1.2);
+      plano_.Texto({sitio.x + 5.2, sitio.y}, texto, AnclaX::Izquierda, AnclaY::Base, kLetraMenor);
+      sitio.x += ancho + 1.0;
+    }
+  }
+
+  double AltoDeLeyendaSeguida(double ancho) const {
+    double x = 0, alto = kLineaSeguida;
+    for (const auto& m : Muestras()) {
+      const double largo = AnchoTexto(m.texto, kLetraMenor) + 8.0;
+      if (x > 0 && x + largo > ancho) {
+        x = 0;
+        alto += kLineaSeguida;
+      }
+      x += largo + 1.0;
+    }
+    return alto;
+  }
+
   double AnchoDeLeyenda() const {
     double ancho = 0;
     for (const int n : {txt::DibNoCumple, txt::DibLineasAcero, txt::DibLineasAlambre,
@@ -164,6 +192,26 @@ class DibujoMapa {
   }
 
  private:
+  static constexpr double kLineaSeguida = 4.4;  // [mm]
+
+  struct Muestra {
+    double fuerza;
+    Trama trama;
+    Tinta tinta;
+    std::string texto;
+  };
+
+  std::vector<Muestra> Muestras() const {
+    std::vector<Muestra> x;
+    for (const int h : Hipotesis()) {
+      x.push_back({0.5, TramaDe(h), TintaDe(h), w_.Hipotesis(datos_.tramo.EsArmado, h)});
+    }
+    if (HayIncumplidos()) {
+      x.push_back({0.0, Trama::Cruzada, Tinta::NoCumple, w_.T(txt::DibNoCumple)});
+    }
+    return x;
+  }
+
   static constexpr double kPaso = 1.8;  // of the hatches [mm]
 
   Plano& plano_;
@@ -341,7 +389,7 @@ std::size_t Cercano(const std::vector<double>& valores, double v) {
 }  // namespace
 
 Malla CalculaMapa(const DatosTramo& datos, const SigueMalla& sigue) {
-  return CalculaMalla(datos, EjesAlrededor(datos, kColumnasMapa, kFilasMapa), {true, false}, sigue);
+  return CalculaMalla(datos, EjesAlrededor(datos, kColumnasMapa, kFilasMapa), false, sigue);
 }
 
 std::vector<std::vector<Xy>> LineasDeNivel(const std::vector<double>& z, std::size_t columnas,
@@ -382,6 +430,14 @@ LaminaConEjes DibujaMapa(const Malla& malla, const DatosTramo& datos, const Fila
   Plano plano(l.lamina);
   const Marco m = PonCabecera(plano, hoja, w.T(txt::DibTituloMapa), w.TramoEnLetra(datos.tramo));
   DibujoMapa dibujo(plano, malla, datos, w);
+  if (!hoja.cabecera) {
+    const double alto = dibujo.AltoDeLeyendaSeguida(m.ancho);
+    l.ejes = dibujo.Ejes({m.x + kMargenEjeY, m.y + 2.0, m.ancho - kMargenEjeY - 4.0,
+                          m.alto - 3.0 - kMargenEjeX - alto});
+    dibujo.Pinta(l.ejes, caso);
+    dibujo.LeyendaSeguida({m.x, m.Abajo() - alto, m.ancho, alto});
+    return l;
+  }
   const double leyenda = dibujo.AnchoDeLeyenda() + 5.0;
   l.ejes = dibujo.Ejes({m.x + kMargenEjeY, m.y + 2.0, m.ancho - kMargenEjeY - leyenda - 1.0,
                         m.alto - 3.0 - kMargenEjeX});

@@ -187,11 +187,14 @@ class DibujoColocacion {
     }
     const double abajo = v_.P(0, Abajo()).y;
     const double De = 2 * c_.R;
-    plano_.CotaHorizontal(v_.P(-De / 2, 0).x, v_.P(De / 2, 0).x, abajo, 4.0, rotulo("De", t_.De));
-    if (c_.clase != Colocacion::Terraplen) {
-      plano_.CotaHorizontal(v_.P(-c_.semiZanja, 0).x, v_.P(c_.semiZanja, 0).x, abajo, 9.5,
-                            rotulo("B", t_.B0));
-    }
+    const bool zanja = c_.clase != Colocacion::Terraplen;
+    // The shorter one nearer, or its lines would cross the figure of the other.
+    const bool cabe = !zanja || De <= 2 * c_.semiZanja;
+    plano_.CotaHorizontal(v_.P(-De / 2, 0).x, v_.P(De / 2, 0).x, abajo, cabe ? 4.0 : 9.5,
+                          rotulo("De", t_.De));
+    if (!zanja) return;
+    plano_.CotaHorizontal(v_.P(-c_.semiZanja, 0).x, v_.P(c_.semiZanja, 0).x, abajo,
+                          cabe ? 9.5 : 4.0, rotulo("B", t_.B0));
   }
 
   void Nombres() {

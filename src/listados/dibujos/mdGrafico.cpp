@@ -121,8 +121,8 @@ EjeGrafico EjeRedondo(std::string titulo, double minimo, double maximo) {
 
 void PintaEjes(Plano& plano, const EjesEnLamina& e, const PalabrasDibujo& w, bool rejilla) {
   const Marco& m = e.marco;
-  const auto xs = Marcas(e.x.desde, e.x.hasta, std::max(2, static_cast<int>(m.ancho / 22.0)));
-  const auto ys = Marcas(e.y.desde, e.y.hasta, std::max(2, static_cast<int>(m.alto / 14.0)));
+  const auto xs = Marcas(e.x.desde, e.x.hasta, std::max(4, static_cast<int>(m.ancho / 22.0)));
+  const auto ys = Marcas(e.y.desde, e.y.hasta, std::max(4, static_cast<int>(m.alto / 14.0)));
   plano.En(Capa::Ejes);
   const Trazo hilo{Tinta::Rejilla, kFino}, marca{Tinta::Tenue, kFino};
   for (const double v : xs) {

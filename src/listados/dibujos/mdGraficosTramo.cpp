@@ -83,9 +83,9 @@ EjeGrafico EjeY(const std::string& titulo, const std::vector<SerieGrafico>& seri
 
 std::vector<SerieGrafico> SeriesAcero(QueGrafico que, const Datos& d) {
   const auto valor = [que](const PuntoMalla& p) {
-    if (!p.fila.verificacion.OfreceArmadura()) return kNada;
+    if (!p.acero) return kNada;
     if (que == QueGrafico::Interior) return p.fila.AsInt;
-    return que == QueGrafico::Exterior ? p.fila.AsExt : p.acero;
+    return que == QueGrafico::Exterior ? p.fila.AsExt : *p.acero;
   };
   std::vector<SerieGrafico> series;
   for (std::size_t i = 0; i < d.Lineas(); ++i) {

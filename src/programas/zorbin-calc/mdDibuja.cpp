@@ -163,7 +163,7 @@ class Dibujante {
   CasoDibujado Dibujado() const { return {resultado_, *fila_, *caso_}; }
 
   int Hipotesis() const {
-    if (!o_.hipotesis) return HipotesisQueRige(*caso_, *fila_);
+    if (!o_.hipotesis) return std::max(1, HipotesisQueRige(datos_, *fila_));
     const int cuantas = CuentaHipotesis(datos_);
     if (*o_.hipotesis < 1 || *o_.hipotesis > cuantas) {
       Queja(textos_.Compone(txt::HipotesisQueNoEsta,
@@ -183,7 +183,7 @@ class Dibujante {
     const auto que = GraficoDe(o_.grafico);
     const auto ejes =
         EjesDelGrafico(datos_, que == QueGrafico::Cargas ? EjeDeGrafico::Altura : eje);
-    const auto malla = CalculaMalla(datos_, ejes, {false, que == QueGrafico::Momentos});
+    const auto malla = CalculaMalla(datos_, ejes, que == QueGrafico::Momentos);
     return DibujaGraficoTramo(que, eje, datos_, malla, palabras_, Hoja()).lamina;
   }
 

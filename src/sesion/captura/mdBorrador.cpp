@@ -34,6 +34,8 @@ const TramoEnObra* DelFichero(const Version& fichero, const OrigenTramo& origen)
 // The version of a draft, over what the file holds now.
 Version SobreElFichero(Captura& c, const Borrador& b) {
   Version v = b.version;
+  Version fichero = c.guardada;
+  CambiaUnidades(fichero, v.obra.EsSI());
   std::vector<TramoFijo> tramos;
   const auto llegados = [&](const TramoFijo& t) {
     return std::ranges::find(b.lista, t->numero) == b.lista.end();
@@ -49,7 +51,7 @@ Version SobreElFichero(Captura& c, const Borrador& b) {
     for (auto& ajuste : t->ajustes) ajuste.Tramo = t->datos.NumeroTramo;
     tramos.push_back(std::move(t));
   }
-  for (const auto& t : c.guardada.tramos) {
+  for (const auto& t : fichero.tramos) {
     if (!llegados(t)) continue;
     tramos.push_back(t);
     // The number of a new Tramo gives way to the one that the file has by now.

@@ -30,14 +30,11 @@ void AdelantaSi(int& pagina, int pedida) {
   if (pedida >= 0) pagina = pedida;
 }
 
-}  // namespace
-
-namespace {
-
 std::vector<TextoPendiente> Pendientes(const Captura& c, bool deObra) {
   std::vector<TextoPendiente> pendientes;
   for (const auto& fila : TablaCampos()) {
     const auto& control = c[fila.id];
+    if (fila.id == Ed::edTramo) continue;  // the choice of a Tramo is no datum
     if (control.falta.empty() || (fila.pagina.TabPrincipal == 0) != deObra) continue;
     pendientes.push_back({fila.id, control.texto, control.falta});
   }

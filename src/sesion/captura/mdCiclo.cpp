@@ -202,6 +202,7 @@ std::optional<Version> QueGrabar(Captura& c) {
   }
   auto sinVanos = SinAjustesVanos(c.guardada, std::move(comprobado.version));
   if (!AceptaAnular(c, sinVanos)) return std::nullopt;
+  std::erase_if(sinVanos.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
   return std::move(sinVanos.version);
 }
 
@@ -236,7 +237,6 @@ void QuedaGrabada(Captura& c, Version v) {
 
 bool GrabaEn(Captura& c, const std::string& nombre, Version v) {
   try {
-    std::erase_if(v.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
     auto f = GrabaProyectoComo(nombre, AGrabar(c, v, true), nullptr, c.textos, c.SeparadorDecimal);
     c.fichero.reset();
     c.Danada = false;
@@ -281,6 +281,7 @@ void NuevaObra(Captura& c, int idioma) {
   Vacia(c);
   auto& o = c.e.obra;
   o.Idioma = static_cast<std::int16_t>(idioma);
+  o.IdiomaOffset = static_cast<std::int16_t>((idioma - 1) * kPasoIdioma);
   o.GolpeCalculado = true;
   o.Alt1 = kAlturaNuevaObra;
   MuestraObra(c);

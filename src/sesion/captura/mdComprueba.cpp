@@ -1,8 +1,10 @@
 #include "sesion/captura/mdComprueba.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "sesion/captura/mdCiclo.h"
+#include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdTramos.h"
 #include "sesion/captura/mdValidaObra.h"
 #include "sesion/captura/mdValidaTramo.h"
@@ -23,20 +25,50 @@ class Nadie : public Interlocutor {
   void VaA(Ed) override {}
 };
 
-// The faults of a validation, with what they are of; those of fields that it does not look at too.
-void Recoge(std::vector<Falta>& todas, Captura& c, int tramo,
-            const std::vector<TextoPendiente>& pendientes) {
+// Texts that were refused are tried again, since what kept them out may be right by now. @return
+// the faults of those that still are not taken
+std::vector<Falta> Reintenta(Captura& c, const std::vector<TextoPendiente>& pendientes) {
+  std::vector<Falta> faltas;
   for (const auto& p : pendientes) {
-    const bool dicha =
-        std::ranges::any_of(c.faltas, [&](const Falta& f) { return f.campo == p.campo; });
-    const bool leido = c[p.campo].falta.empty();
-    if (!dicha && !leido) c.faltas.push_back({p.campo, p.texto, {}, p.mensaje, 0});
+    auto& control = c[p.campo];
+    c.faltas.clear();
+    control.texto.push_back(' ');  // so that it counts as typed
+    Cambia(c, p.campo, p.texto);
+    Sale(c, p.campo);
+    if (control.falta.empty()) continue;
+    faltas.push_back(c.faltas.empty() ? Falta{p.campo, p.texto, {}, p.mensaje} : c.faltas.front());
   }
+  return faltas;
+}
+
+// The faults of a validation and those of refused texts, with what they are of.
+void Recoge(std::vector<Falta>& todas, Captura& c, int tramo, std::vector<Falta> rechazadas) {
+  std::erase_if(rechazadas, [&](const Falta& r) {
+    return std::ranges::any_of(c.faltas, [&](const Falta& f) { return f.campo == r.campo; });
+  });
+  std::ranges::move(rechazadas, std::back_inserter(c.faltas));
   for (auto& falta : c.faltas) {
     falta.tramo = tramo;
     todas.push_back(std::move(falta));
   }
   c.faltas.clear();
+}
+
+// Validates a Tramo of the shadow. @return it with what the rules complete; as it was with a fault
+TramoFijo Completo(Captura& c, const TramoFijo& t, std::vector<Falta>& faltas) {
+  if (!t->dano.empty()) {
+    faltas.push_back({Ed::edTramo, t->numero, {}, t->dano, t->id});
+    return t;
+  }
+  PonEnMano(c, t->id);
+  auto rechazadas = Reintenta(c, t->pendientes);
+  const bool vale = ValidaTramo(c) && rechazadas.empty();
+  Recoge(faltas, c, t->id, std::move(rechazadas));
+  if (!vale) return t;
+  auto completo = std::make_shared<TramoEnObra>(*t);
+  completo->datos = c.e.tramo;
+  completo->pendientes.clear();
+  return *completo == *t ? t : completo;
 }
 
 }  // namespace
@@ -61,26 +93,15 @@ Comprobado Comprueba(const Version& version, const std::vector<int>& ids, const 
   Sombra sombra(textos, tablas, separador);
   Captura& c = sombra.c;
   VuelveA(c, version, 0);
+  auto rechazadas = Reintenta(c, version.pendientes);
   ValidaObra(c);
-  Recoge(r.faltas, c, 0, version.pendientes);
-  for (auto& t : c.version.tramos) {
-    if (std::ranges::find(ids, t->id) == ids.end()) continue;
-    if (!t->dano.empty()) {
-      r.faltas.push_back({Ed::edTramo, t->numero, {}, t->dano, t->id});
-      continue;
-    }
-    PonEnMano(c, t->id);
-    c.faltas.clear();
-    ValidaTramo(c);
-    const bool vale = c.faltas.empty();
-    Recoge(r.faltas, c, t->id, t->pendientes);
-    if (!vale) continue;
-    auto completo = std::make_shared<TramoEnObra>(*t);
-    completo->datos = c.e.tramo;
-    completo->pendientes.clear();
-    if (*completo != *t) t = std::move(completo);
+  Recoge(r.faltas, c, 0, std::move(rechazadas));
+  auto tramos = c.version.tramos;
+  for (auto& t : tramos) {
+    if (std::ranges::find(ids, t->id) != ids.end()) t = Completo(c, t, r.faltas);
   }
   r.version = std::move(c.version);
+  r.version.tramos = std::move(tramos);
   r.version.obra = SinSesion(c.e.obra);
   r.version.pendientes.clear();
   return r;

@@ -87,8 +87,12 @@ std::optional<Recomendadas> RecomendadasDistintas(const Captura& c) {
 
 std::optional<double> DiametroCercano(const Captura& c) {
   const double D = c.e.tramo.Di * 1000.0;
+  const int grupo = GrupoDeTipologia(c.e.tramo.Tipologia);
+  if (grupo == 0) return std::nullopt;
   std::optional<double> cercano;
   for (const auto& fila : c.tablas.TablaDimensiones) {
+    const bool seFabrica = fila.grupos[static_cast<std::size_t>((grupo - 2) / 3)].Reci != 0;
+    if (!seFabrica) continue;
     if (!cercano || std::fabs(fila.Diametro - D) < std::fabs(*cercano - D)) {
       cercano = fila.Diametro;
     }

@@ -35,7 +35,7 @@ struct Recomendadas {
 };
 /// Those of the Tramo in hand, where its own lie outside what the table allows.
 std::optional<Recomendadas> RecomendadasDistintas(const Captura& c);
-/// The diameter of the table that lies nearest to that of the Tramo in hand [m].
+/// The diameter made in its typology that lies nearest to that of the Tramo in hand [m].
 std::optional<double> DiametroCercano(const Captura& c);
 
 /// Values offered by edEsp0, edReci0 and edRece0 for a group.

@@ -208,7 +208,7 @@ void EligeTipologia(Captura& c, bool postesada) {
 }
 
 void EligeOpcionCamisa(Captura& c, int opcion) {
-  if (c.LeyendoDatos || c.pantalla.pagina.TabTipologia != 1) return;
+  if (c.LeyendoDatos || c.e.tramo.EsArmado) return;
   c[Ed::rdTipoCamisa].opcion = opcion;
   PonTipologia(c, opcion == 1 ? kRevestida : kEmbebida);
   AplicaTipologia(c);

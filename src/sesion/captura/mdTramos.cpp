@@ -14,8 +14,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kMayorNumeroTramo = 32767;
-
 bool Esta(const std::vector<int>& ids, int id) {
   return std::ranges::find(ids, id) != ids.end();
 }
@@ -41,12 +39,9 @@ RenglonTramo Renglon(const Captura& c, const TramoEnObra& t, bool sinGrabar) {
           !t.pendientes.empty()};
 }
 
-// Whether so many Tramos more fit; what keeps them from it is told.
-bool Caben(Captura& c, std::size_t cuantos) {
-  if (c.version.tramos.size() + cuantos <= kMaxTramos &&
-      NumeroLibre(c.version) + static_cast<int>(cuantos) - 1 <= kMayorNumeroTramo) {
-    return true;
-  }
+// What keeps so many Tramos more from fitting is told.
+bool HaySitio(Captura& c, std::size_t cuantos) {
+  if (Caben(c.version, cuantos)) return true;
   c.voz.Muestra(c.textos.Compone(txt::DemasiadosTramos, {TextoEntero(kMaxTramos)}), {});
   return false;
 }
@@ -113,7 +108,7 @@ void MuestraTodo(Captura& c) {
 }
 
 bool NuevoTramo(Captura& c) {
-  if (!Caben(c, 1)) return false;
+  if (!HaySitio(c, 1)) return false;
   const int numero = NumeroLibre(c.version);
   const EnUnPaso paso(c, c.textos.Compone(txt::PasoNuevoTramo, {TextoEntero(numero)}));
   c.version = VersionActual(c);
@@ -134,7 +129,7 @@ bool NuevoTramo(Captura& c) {
 }
 
 bool DuplicaTramos(Captura& c, const std::vector<int>& ids) {
-  if (ids.empty() || !Caben(c, ids.size())) return false;
+  if (ids.empty() || !HaySitio(c, ids.size())) return false;
   const EnUnPaso paso(c, NombreDeIds(c, txt::PasoDuplica, ids));
   const int primero = c.ultimoId + 1;
   CambiaLista(c, [&](Version& v) {
@@ -206,7 +201,7 @@ std::string RenumeraTramo(Captura& c, int id, const std::string& texto) {
   const auto leido = NumeroTecleado(texto, c.SeparadorDecimal);
   const int numero = NumeroDe(texto);
   if (!leido.valor || numero < 1 || *leido.valor != numero) {
-    return c.textos.Compone(txt::NumeroDeTramoMalo, {texto, TextoEntero(kMayorNumeroTramo)});
+    return c.textos.Compone(txt::NumeroDeTramoMalo, {texto, TextoEntero(kMayorNumeroDeTramo)});
   }
   const auto otro = LugarDeNumero(c.version, numero);
   if (otro && c.version.tramos[*otro]->id != id) {
@@ -233,9 +228,17 @@ void Relee(Captura& c) {
   if (c.SinTramoEnMano()) return;
   if (c.EnAltas()) return BorraTramos(c, {c.enMano});
   const EnUnPaso paso(c, NombreDeIds(c, txt::PasoRelee, {c.enMano}));
-  const TramoFijo antes = c.guardada.tramos[*LugarDe(c.guardada, c.enMano)];
+  Version guardada = c.guardada;
+  CambiaUnidades(guardada, c.EsSI());
+  TramoFijo antes = guardada.tramos[*LugarDe(guardada, c.enMano)];
   c.Tecleando = false;
-  CambiaLista(c, [&](Version& v) { v.tramos[*LugarDe(v, c.enMano)] = antes; });
+  CambiaLista(c, [&](Version& v) {
+    auto& t = v.tramos[*LugarDe(v, c.enMano)];
+    // Its number may have gone to another Tramo meanwhile.
+    const auto lugar = LugarDeNumero(v, NumeroDe(antes->numero));
+    const bool tomado = lugar && v.tramos[*lugar]->id != c.enMano;
+    t = tomado ? ConNumero(*antes, NumeroDe(t->numero)) : antes;
+  });
 }
 
 SalidaCampo EligeTramo(Captura& c) {
@@ -252,7 +255,7 @@ SalidaCampo EligeTramo(Captura& c) {
     NuevoTramo(c);
     return SalidaCampo::Pasa;
   }
-  const auto lugar = valor <= kMayorNumeroTramo && valor == Redondea(valor)
+  const auto lugar = valor <= kMayorNumeroDeTramo && valor == Redondea(valor)
                          ? LugarDeNumero(c.version, static_cast<int>(valor))
                          : std::nullopt;
   if (!lugar) {

@@ -239,7 +239,7 @@ Pegado PegaTramos(Captura& c, std::string_view tabla) {
   Pegado pegado;
   auto tramos = LectorTabla(c).Lee(tabla, pegado);
   if (!pegado.faltas.empty()) return pegado;
-  if (c.version.tramos.size() + tramos.size() > kMaxTramos) {
+  if (!Caben(c.version, tramos.size())) {
     pegado.faltas.push_back(c.textos.Compone(txt::DemasiadosTramos, {TextoEntero(kMaxTramos)}));
     return pegado;
   }

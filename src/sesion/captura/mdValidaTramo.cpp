@@ -221,7 +221,9 @@ class Validacion {
   bool FallaAltura(Ed campo, int texto) { return Falla(campo, texto, {}); }
 
   bool Alturas() {
-    const auto r = EligeAlturas(c_);
+    const auto r = AlturasDe(c_.e.obra, c_.e.tramo);
+    // Where the heights are the Obra's, so is the increment.
+    c_.e.tramo.Hr0Delta = r.Hr0Delta;
     if (!(r.Hr0 > 0)) return FallaAltura(Ed::edHr0, txt::DebeTeclearAltura);
     // Only an Obra without a height is held to the 1 m.
     if (r.Hr0 < 1.0 && !(c_.e.obra.Alt1 > 0.01)) {
@@ -316,12 +318,6 @@ bool ValidaTramo(Captura& c) {
   const bool vale = Validacion(c).Todo();
   RenuevaEtiquetas(c);
   return vale;
-}
-
-Alturas EligeAlturas(Captura& c) {
-  const auto alturas = AlturasDe(c.e.obra, c.e.tramo);
-  c.e.tramo.Hr0Delta = alturas.Hr0Delta;
-  return alturas;
 }
 
 void EligeCarga(Tramo& t) {

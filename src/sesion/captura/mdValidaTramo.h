@@ -13,9 +13,6 @@ namespace zorbin {
 /// refusals are kept in `faltas`.
 bool ValidaTramo(Captura& c);
 
-/// The fill heights in force. Where they are the Obra's, so is the increment of the Tramo.
-Alturas EligeAlturas(Captura& c);
-
 /// Whether the load is calculated, which it is where none is given; a given one has no load by its
 /// side.
 void EligeCarga(Tramo& t);

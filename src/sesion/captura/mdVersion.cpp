@@ -12,8 +12,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kMayorNumero16 = 32767;
-
 bool Igual(const TramoFijo& a, const TramoFijo& b) {
   return a == b || *a == *b;
 }
@@ -89,13 +87,18 @@ ListaTramos ListaDe(const Version& v) {
 
 int NumeroDe(const std::string& texto) {
   const auto valor = NumeroTexto(texto);
-  return valor && *valor >= 0 && *valor <= kMayorNumero16 ? static_cast<int>(*valor + 0.5) : 0;
+  return valor && *valor >= 0 && *valor <= kMayorNumeroDeTramo ? static_cast<int>(*valor + 0.5) : 0;
 }
 
 int NumeroLibre(const Version& v) {
   int mayor = 0;
   for (const auto& t : v.tramos) mayor = std::max(mayor, NumeroDe(t->numero));
   return mayor + 1;
+}
+
+bool Caben(const Version& v, std::size_t cuantos) {
+  return v.tramos.size() + cuantos <= kMaxTramos &&
+         NumeroLibre(v) + static_cast<int>(cuantos) - 1 <= kMayorNumeroDeTramo;
 }
 
 bool MismosDatos(const TramoEnObra& a, const TramoEnObra& b) {

@@ -17,6 +17,8 @@
 
 namespace zorbin {
 
+inline constexpr int kMayorNumeroDeTramo = 32767;
+
 /// What stands in a field that its rule refuses. The datum behind it is not that.
 struct TextoPendiente {
   Ed campo = Ed::edObra;
@@ -60,6 +62,9 @@ ListaTramos ListaDe(const Version& v);
 int NumeroDe(const std::string& texto);
 /// A number that no Tramo has, above all the others.
 int NumeroLibre(const Version& v);
+
+/// Whether so many Tramos more fit, each with a number of its own.
+bool Caben(const Version& v, std::size_t cuantos);
 
 /// Same data, whatever their place and number.
 bool MismosDatos(const TramoEnObra& a, const TramoEnObra& b);

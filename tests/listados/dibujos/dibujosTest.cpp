@@ -36,14 +36,17 @@ class Escena {
 
   std::vector<Lamina> Todas(const HojaDibujo& hoja) const {
     const auto w = Palabras();
-    std::vector<Lamina> x{DibujaSeccion(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
-                          DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
+    std::vector<Lamina> x{
+        hoja.cabecera ? DibujaSeccion(Caso(), w, hoja) : DibujaTransversal(Caso(), w, hoja),
+        DibujaPared(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
+        DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
     for (int h = 1; h <= CuentaHipotesis(Datos()); ++h) {
-      x.push_back(DibujaAnillo(Caso(), h, w, hoja));
+      x.push_back(DibujaAnillo(Caso(), h, w, hoja,
+                               hoja.cabecera ? LeyesDibujadas::Ambas : LeyesDibujadas::Momentos));
       if (!Datos().tramo.EsArmado) x.push_back(DibujaTensiones(Caso(), h, w, hoja).lamina);
     }
     for (const auto eje : {EjeDeGrafico::Altura, EjeDeGrafico::Presion}) {
-      const auto malla = CalculaMalla(Datos(), EjesDelGrafico(Datos(), eje, 12), {false, true});
+      const auto malla = CalculaMalla(Datos(), EjesDelGrafico(Datos(), eje, 12), true);
       for (const auto que : {QueGrafico::Acero, QueGrafico::Momentos, QueGrafico::Cargas}) {
         x.push_back(DibujaGraficoTramo(que, eje, Datos(), malla, w, hoja).lamina);
       }
@@ -79,7 +82,10 @@ TEST(Dibujos, NingunTextoPisaOtroNiSeSaleDeLaHoja) {
   const std::vector<Escena> escenas{Escena(1),    Escena(3, 5),         Escena(4, 2),
                                     Escena(6, 5), Escena(1, 1, enorme), Escena(4, 3, menudo)};
   for (std::size_t e = 0; e < escenas.size(); ++e) {
-    const auto laminas = escenas[e].Todas({});
+    auto laminas = escenas[e].Todas({});
+    // On a panel of a window too.
+    const HojaDibujo panel{120, 80, false, 0};
+    for (auto& l : escenas[e].Todas(panel)) laminas.push_back(std::move(l));
     for (std::size_t n = 0; n < laminas.size(); ++n) {
       const auto rotulos = Rotulos(laminas[n]);
       for (std::size_t i = 0; i < rotulos.size(); ++i) {

@@ -195,6 +195,29 @@ TEST(Ajuste, LasAreasAjustadasSalenEnTodoLoQueSeLista) {
   }
 }
 
+// What is chosen on the screen is of the Tramo from then on, is undone with it, and saved anew.
+TEST(Ajuste, LoElegidoSigueASuTramoYSeDeshace) {
+  BancoAjustes b;
+  ASSERT_TRUE(b.Abre());
+  EligeFila(*b.a, 5);
+  b.Pulsa(btAceptarAjuste);
+  EXPECT_FALSE(b.c.EnCambio());
+  ASSERT_EQ(b.c.version.tramos[0]->ajustes.size(), 1u);
+  EXPECT_EQ(RenumeraTramo(b.c, b.Id(1), "9"), "");
+  ASSERT_TRUE(Graba(b.c));
+  EXPECT_EQ(b.Guardados().at(0).Tramo, 9);
+  b.Deshace();
+  EXPECT_TRUE(b.c.EnCambio());
+  b.Deshace();
+  EXPECT_TRUE(b.c.version.tramos[0]->ajustes.empty());
+  ASSERT_TRUE(Graba(b.c));
+  EXPECT_TRUE(b.Guardados().empty() || b.Guardados()[0].Libre());
+  b.Rehace();
+  b.Rehace();
+  ASSERT_TRUE(Graba(b.c));
+  EXPECT_EQ(b.Guardados().at(0).areas.Camisa, 16);
+}
+
 // The file keeps the number of the Tramo, not its place in the list.
 TEST(Ajuste, ElTramoSeGuardaPorSuNumero) {
   BancoAjustes b;

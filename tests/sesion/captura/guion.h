@@ -10,6 +10,7 @@
 #include "comun/carpeta.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdTramos.h"
 
 namespace zorbin::prueba {
 
@@ -21,9 +22,16 @@ class Guion : public Interlocutor {
   void Anuncia(const std::string& texto) override { anuncios.push_back(texto); }
   bool Pregunta(const std::string& texto, const std::string& titulo) override {
     preguntas.push_back({texto, titulo});
-    return responde && titulo != niega;
+    return responde;
   }
-  std::optional<std::string> PideFichero(const std::string&) override { return fichero; }
+  Respuesta PreguntaGrabar(const std::string& texto) override {
+    preguntas.push_back({texto, {}});
+    return alIrse;
+  }
+  std::optional<std::string> PideFichero(const std::string&, const std::string&) override {
+    ++ficherosPedidos;
+    return fichero;
+  }
   void VaA(Ed campo) override { foco = campo; }
 
   struct Caja {
@@ -34,8 +42,9 @@ class Guion : public Interlocutor {
   std::vector<Caja> preguntas;
   std::vector<std::string> anuncios;
   bool responde = true;
-  std::string niega = "-";  // a box with this title is answered No
+  Respuesta alIrse = Respuesta::Cancelar;
   std::optional<std::string> fichero;
+  int ficherosPedidos = 0;
   std::optional<Ed> foco;
 
   std::string Ultimo() const { return mensajes.empty() ? std::string{} : mensajes.back().texto; }
@@ -56,8 +65,33 @@ struct Banco {
       : textos(Catalogo::Lee(ZORBIN_FUENTES "recursos/textos")),
         tablas(LeeTablas(ZORBIN_FUENTES "recursos/tablas")),
         c(e, textos, tablas, voz, separador) {
+    c.alDarPaso = [this](Paso paso) {
+      pasos.resize(dados);
+      pasos.push_back(std::move(paso));
+      ++dados;
+    };
     NuevaObra(c);
   }
+
+  // ---- Undoing, as a window does
+
+  bool Deshace() {
+    if (dados == 0) return false;
+    zorbin::Deshace(c, pasos[--dados]);
+    return true;
+  }
+  bool Rehace() {
+    if (dados == pasos.size()) return false;
+    zorbin::Rehace(c, pasos[dados++]);
+    return true;
+  }
+  /// The file that it has from now on, opened or new, has no step yet.
+  void OlvidaPasos() {
+    pasos.clear();
+    dados = 0;
+  }
+
+  // ---- Typing
 
   /// Enters a field, types key by key over what it held, and leaves it.
   SalidaCampo Teclea(Ed campo, const std::string& teclas) {
@@ -98,6 +132,10 @@ struct Banco {
     Sale(c, campo);
   }
 
+  /// What the last refusal said, and of what.
+  std::string Porque() const { return c.faltas.empty() ? std::string{} : c.faltas.back().mensaje; }
+  std::string DeQue() const { return c.faltas.empty() ? std::string{} : c.faltas.back().titulo; }
+
   /// An Obra with pressures, and a new Tramo that only lacks a diameter.
   void ObraYTramo() {
     Teclea(Ed::edPrsM1, "0,5");
@@ -110,6 +148,9 @@ struct Banco {
     Teclea(Ed::edDi0, "1,2");
     Olvida();
   }
+  /// The Tramo that a number means.
+  int Id(int numero) const { return c.version.tramos.at(*LugarDeNumero(c.version, numero))->id; }
+
   void Olvida() { voz.Olvida(); }
 
   EstadoCalculo e;
@@ -117,11 +158,30 @@ struct Banco {
   TablasCatalogo tablas;
   Guion voz;
   Captura c;
+  std::vector<Paso> pasos;
+  std::size_t dados = 0;  // of them, those that are not undone
 };
 
 /// With a Tramo in hand that validates.
 struct ConTramo : Banco {
   ConTramo() { TramoValido(); }
+};
+
+/// Over a copy of the sample Obra: seven Tramos, the sixth and the seventh post-tensioned.
+struct ConMuestra : Banco {
+  ConMuestra() {
+    std::filesystem::copy_file(ZORBIN_FUENTES "muestras/acequia.zrb", ruta);
+    Abre();
+  }
+  void Abre() {
+    EXPECT_TRUE(AbreObra(c, ruta)) << voz.Ultimo();
+    OlvidaPasos();
+    Olvida();
+  }
+  void Toma(int numero) { PonEnMano(c, Id(numero)); }
+
+  const Carpeta carpeta;
+  const std::filesystem::path ruta = carpeta / "o.zrb";
 };
 
 }  // namespace zorbin::prueba

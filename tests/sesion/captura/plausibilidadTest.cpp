@@ -73,12 +73,12 @@ TEST(Plausibilidad, SeDiceEnSuPaginaYSuRemedioLoQuita) {
   ASSERT_EQ(AvisosDelante(b.c.pantalla).size(), 1u);
   b.c.pantalla.pagina.TabPrincipal = 1;
   EXPECT_TRUE(AvisosDelante(b.c.pantalla).empty());
-  b.c.ObraEditada = false;
-  TomaIncremento(b.c, AvisoDeCampo(b.c.pantalla.avisos[0]));
+  TomaRemedio(b.c, AvisoDeCampo(b.c.pantalla.avisos[0]));
   EXPECT_EQ(b.c[edAlt3].texto, "0,70");
-  EXPECT_TRUE(b.c.ObraEditada);
   EXPECT_TRUE(b.c.pantalla.avisos.empty());
   EXPECT_TRUE(b.voz.mensajes.empty());
+  EXPECT_TRUE(b.Deshace());
+  EXPECT_EQ(b.c[edAlt3].texto, "1,00");
 }
 
 }  // namespace

@@ -1,9 +1,10 @@
 // Every numbered step of the two validations, reached once: texts in, message and focus out.
 #include <gtest/gtest.h>
 
-#include "base/textos.h"
 #include "sesion/captura/guion.h"
+#include "sesion/captura/mdComprueba.h"
 #include "sesion/captura/mdGeometria.h"
+#include "sesion/captura/mdPlausibilidad.h"
 #include "sesion/captura/mdTipologias.h"
 #include "sesion/captura/mdValidaObra.h"
 #include "sesion/captura/mdValidaTramo.h"
@@ -13,7 +14,7 @@ namespace {
 
 using enum Ed;
 
-constexpr const char* kValor = "Valor incorrecto";
+constexpr const char* kValor = nullptr;  // below its least value
 constexpr const char* kNoNumero = "Seleccione un valor númerico ";
 constexpr const char* kMDP = "La presión MDP no puede ser inferior a la DP";
 constexpr const char* kUnMetro = "La altura de tierra no puede ser inferior a 1 m.";
@@ -32,10 +33,19 @@ struct Paso {
     for (const auto& [campo, texto] : textos) b.Pon(campo, texto);
     b.Olvida();
   }
-  void ExigeAviso(const Banco& b) const {
-    ASSERT_EQ(b.voz.mensajes.size(), 1U);
-    EXPECT_EQ(b.voz.Ultimo(), mensaje);
-    EXPECT_EQ(b.voz.Titulo(), titulo);
+  // The least value of a field that none has.
+  static std::string Minimo(const Banco& b) {
+    const std::string texto = b.c.faltas[0].mensaje;
+    const bool dicho = texto.starts_with("Debe ser") || texto == "No puede ser negativo";
+    return dicho ? texto : "its least value";
+  }
+  void ExigeFalta(const Banco& b) const {
+    ASSERT_FALSE(b.c.faltas.empty());
+    EXPECT_EQ(b.c.faltas[0].mensaje, mensaje != nullptr ? mensaje : Minimo(b));
+    EXPECT_EQ(b.c.faltas[0].titulo, titulo);
+    EXPECT_EQ(b.c.faltas[0].campo, foco);
+    EXPECT_FALSE(b.c[foco].falta.empty());
+    EXPECT_TRUE(b.voz.mensajes.empty() && b.voz.preguntas.empty());
   }
 };
 
@@ -69,11 +79,8 @@ TEST(ValidaObra, CadaFallaConSuMensajeYSuFoco) {
     Banco b;
     p.Prepara(b);
     EXPECT_FALSE(ValidaObra(b.c));
-    p.ExigeAviso(b);
-    EXPECT_EQ(b.voz.foco, p.foco);
-    EXPECT_EQ(b.c.pantalla.pagina.TabPrincipal, 0);
+    p.ExigeFalta(b);
     EXPECT_FALSE(b.c[p.foco].bloqueado);
-    EXPECT_TRUE(b.c.falta);
   }
 }
 
@@ -98,7 +105,7 @@ TEST(ValidaObra, LoQueSoloMiraLaEdicionPasaAqui) {
   b.Pon({{edPrsM2, "6"}, {edPrs3, "0,01"}});
   b.e.obra.Prs3 = 0.01;
   b.Pon(edAlt2, "2");  // and a final height
-  EXPECT_TRUE(ValidaObra(b.c)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaObra(b.c)) << b.Porque();
   EXPECT_EQ(b.e.obra.Alt3, 0.0);
 }
 
@@ -106,7 +113,7 @@ TEST(ValidaObra, LoQueSoloMiraLaEdicionPasaAqui) {
 
 // A post-tensioned Tramo that is otherwise whole.
 void Postesado(Banco& b) {
-  EligePaginaTipologia(b.c, 1);
+  EligeOpcion(b.c, rdTipologia, 1);
   b.Pon(edFYKPost, "210");
 }
 void AlturasDeTresACuatro(Banco& b) {
@@ -136,12 +143,11 @@ const std::vector<Paso> kTramo{
     {"P1_11", edGamaB, "Coeficiente Minoración del Hormigón", {{edGamaB, "0"}}},
 
     {"P2_1", edCoepre1, "Coeficiente de Presión", {}, kValor,
-     [](Banco& b) { EligePaginaTipologia(b.c, 1), CambiaMarca(b.c, edIcontes1, true); }},
+     [](Banco& b) { EligeOpcion(b.c, rdTipologia, 1), CambiaMarca(b.c, edIcontes1, true); }},
     {"P2_2", edDelca, "Espesor máximo (mm.)", {{edDelca, "0"}}, kValor, Postesado},
     {"P2_3", edEs, "Mod. Elasticidad Acero", {{edEs, "0"}}, kValor, Postesado},
     {"P2_4", edEp, "Mod. Elasticidad Alambre", {{edEp, "0"}}, kValor, Postesado},
-    {"P2_5_NadieEntroEnElCampo", edFYKPost, "Resistencia característica del acero", {}, kValor,
-     [](Banco& b) { EligePaginaTipologia(b.c, 1); }},
+    {"P2_5", edFYKPost, "Resistencia característica del acero", {{edFYKPost, "0"}}, kValor, Postesado},
     {"P2_6", edFckno, "Resistencia Primario al zunchar", {{edFckno, "0"}}, kValor, Postesado},
     {"P2_7", edFckn, "Resistencia Primario al Final", {{edFckn, "0"}}, kValor, Postesado},
     {"P2_8", edFckn, "ERROR:", {{edFckn, "29,9"}}, "Resistencia del Primario al final menor que al zunchar", Postesado},
@@ -192,29 +198,49 @@ TEST(ValidaTramo, CadaFallaConSuMensajeYSuFoco) {
     SCOPED_TRACE(p.nombre);
     ConTramo b;
     p.Prepara(b);
-    b.c.pantalla.pagina = {0, b.c.pantalla.pagina.TabTipologia, 0, 0};
-    EXPECT_FALSE(ValidaTramo(b.c, true));
-    p.ExigeAviso(b);
+    b.c.pantalla.pagina = {0, 1 - b.c.pantalla.pagina.TabTipologia, 0, 0};
+    EXPECT_FALSE(ValidaTramo(b.c));
+    p.ExigeFalta(b);
+    EXPECT_EQ(b.c.pantalla.pagina.TabPrincipal, 0);  // to look is not to go
+    LlevaALaFalta(b.c, Falta(b.c.faltas[0]));
     EXPECT_EQ(b.voz.foco, p.foco);
     const auto& pagina = Fila(p.foco).pagina;
     EXPECT_EQ(b.c.pantalla.pagina.TabPrincipal, pagina.TabPrincipal);
     if (pagina.TabPostesados >= 0) {
       EXPECT_EQ(b.c.pantalla.pagina.TabPostesados, pagina.TabPostesados);
     }
-    // In the silent manner the same message, and nothing moves.
-    const auto antes = b.c.pantalla.pagina;
-    b.Olvida();
-    EXPECT_FALSE(ValidaTramo(b.c, false));
-    EXPECT_EQ(b.voz.Ultimo(), p.mensaje);
-    EXPECT_FALSE(b.voz.foco);
-    EXPECT_EQ(b.c.pantalla.pagina, antes);
   }
+}
+
+// With the unit of the field, in the system in force.
+TEST(ValidaTramo, UnMinimoSeDiceConSuUnidad) {
+  Banco b;
+  b.ObraYTramo();
+  for (const auto& [campo, teclas, dice] :
+       {std::tuple{edHr0, "-1", "negativo"}, {edFyk, "0", "0,001 MPa"}, {edDi0, "0", "0,001 m"}}) {
+    b.Teclea(campo, teclas);
+    EXPECT_NE(b.Porque().find(dice), std::string::npos) << b.Porque();
+    EXPECT_NE(b.c[campo].falta.find(b.Porque()), std::string::npos);
+  }
+  EligeOpcion(b.c, rdSistemaUnidades, 1);
+  b.Teclea(edFyk, "-1");
+  EXPECT_NE(b.Porque().find("kp/cm2"), std::string::npos) << b.Porque();
+}
+
+// All that is wrong is told at once, each beside its field.
+TEST(ValidaTramo, TodasLasFaltasDeUnaVez) {
+  ConTramo b;
+  b.Pon({{edPrs1Tram, "x"}, {edFck, "0"}, {edGc0, "-1"}, {edTipoCuna0, "q"}, {edQDato0, "y"}});
+  EXPECT_FALSE(ValidaTramo(b.c));
+  std::vector<Ed> campos;
+  for (const auto& f : b.c.faltas) campos.push_back(f.campo);
+  EXPECT_EQ(campos, (std::vector<Ed>{edPrs1Tram, edFck, edGc0, edTipoCuna0, edQDato0}));
 }
 
 TEST(ValidaTramo, CalculaLoQueNadieTeclea) {
   ConTramo b;
   b.Pon(edPrsM1Tram, "10");
-  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaTramo(b.c)) << b.Porque();
   const auto& t = b.e.tramo;
   EXPECT_EQ(b.c[edPrs1Tram].texto, "9,09");
   EXPECT_DOUBLE_EQ(t.Prs2Tram, 10 / 1.1);
@@ -234,7 +260,7 @@ TEST(ValidaTramo, LaCargaDadaQuitaLaConcentrada) {
   ConTramo b;
   EligeEntrada(b.c, edTipoApoyo0, 1);
   b.Pon({{edQDato0, "0,05"}, {edICar0, ""}});
-  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaTramo(b.c)) << b.Porque();
   const auto& t = b.e.tramo;
   EXPECT_EQ(t.IndCar, 0);
   EXPECT_EQ(t.ICar, 0);
@@ -248,79 +274,33 @@ TEST(ValidaTramo, LosLimitesQuePasan) {
   b.e.tramo.Hr0Final = 0.5;
   b.Pon(edPrs1Tram, "0,2");
   b.Pon(edPrs2Tram, "0,1");  // a final DP below the initial one
-  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaTramo(b.c)) << b.Porque();
   EligeOpcion(b.c, rdTipoColocacion, 1);
   b.Pon(edHr1, "0,5");
-  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaTramo(b.c)) << b.Porque();
   EXPECT_EQ(b.e.tramo.TipoApoyo, 22);
   EXPECT_EQ(b.e.tramo.TipoRelleno, 0);
 }
 
 TEST(ValidaTramo, LaRetraccionDelRevestimientoNoSeLee) {
   ConTramo b;
-  EligePaginaTipologia(b.c, 1);
+  EligeOpcion(b.c, rdTipologia, 1);
   b.Pon({{edFYKPost, "210"}, {edEpsr, "cualquier cosa"}});
   b.Pon(edFckn, "30");  // as at winding
   b.Pon(edSf, "");
   b.e.tramo.Fyk = 210;
-  EXPECT_TRUE(ValidaTramo(b.c, true)) << b.voz.Ultimo();
+  EXPECT_TRUE(ValidaTramo(b.c)) << b.Porque();
   EXPECT_DOUBLE_EQ(b.e.tramo.Epsr, 0.0003);
   EXPECT_DOUBLE_EQ(b.e.tramo.Sf, 0.75 * 1700);
   EXPECT_EQ(b.e.tramo.Fck, 0.0);
   EXPECT_EQ(b.e.tramo.Fyk, 210.0);  // left alone
 }
 
-TEST(ValidaTramo, LaTensionDelAceroSePreguntaYNoSeProhibe) {
-  ConTramo b;
-  b.Pon(edFyd, "140");
-  EXPECT_TRUE(ValidaTramo(b.c, true));
-  EXPECT_TRUE(b.voz.preguntas.empty());
-  b.Pon(edFyd, "140,1");
-  EXPECT_TRUE(ValidaTramo(b.c, true));
-  ASSERT_EQ(b.voz.preguntas.size(), 1U);
-  EXPECT_EQ(b.voz.preguntas[0].texto,
-            "La Tensión de cálculo del acero supera el valor140,000 MPa\n¿ Desea Continuar ?");
-  b.voz.responde = false;
-  OlvidaCambios(b.c);
-  EXPECT_FALSE(ValidaTramo(b.c, true));
-  EXPECT_EQ(b.voz.foco, edFyd);
-  EXPECT_TRUE(b.c.EnCambio());
-  EXPECT_FALSE(ValidaTramo(b.c, false));
-  EXPECT_FALSE(b.c.EnCambio());
-  EXPECT_TRUE(b.c.pantalla.Habilitada(Orden::btGrabar));
-}
-
-TEST(ValidaTramo, LasDimensionesSePreguntanYEnSilencioNo) {
-  ConTramo b;
-  b.Pon(edReci0, "5,0");
-  b.voz.responde = true;  // wants to change them
-  EXPECT_FALSE(ValidaTramo(b.c, true));
-  EXPECT_EQ(b.voz.foco, edDi0);
-  ASSERT_EQ(b.voz.preguntas.size(), 1U);
-  EXPECT_NE(b.voz.preguntas[0].texto.find("Rec.  Interior: 50,00 Recomendado: 30,00"),
-            std::string::npos);
-  b.voz.responde = false;
-  EXPECT_TRUE(ValidaTramo(b.c, true));
-  b.Olvida();
-  EXPECT_TRUE(ValidaTramo(b.c, false));
-  EXPECT_TRUE(b.voz.preguntas.empty());
-}
-
-TEST(ValidaTramo, EnSilencioNoPareceUnaEdicion) {
-  ConTramo b;
-  b.c.TramoEditado = b.c.ObraEditada = true;
-  EXPECT_TRUE(ValidaTramo(b.c, true));
-  EXPECT_TRUE(b.c.EnCambio());
-  EXPECT_TRUE(ValidaTramo(b.c, false));
-  EXPECT_FALSE(b.c.EnCambio());
-}
-
 TEST(ValidaTramo, SinTipologia) {
   ConTramo b;
   b.e.tramo.Tipologia = 1100;  // known to the listings, not to the capture
-  EXPECT_FALSE(ValidaTramo(b.c, true));
-  EXPECT_EQ(b.voz.Ultimo(), "Sin definir la Tipología");
-  EXPECT_EQ(b.c.pantalla.pagina.TabPrincipal, 1);
+  EXPECT_FALSE(ValidaTramo(b.c));
+  EXPECT_EQ(b.c.faltas.at(0).mensaje, "Sin definir la Tipología");
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -342,24 +322,24 @@ TEST(Geometria, BuscaElDiametroEnMilimetros) {
   EXPECT_EQ(busca(1.2, 1210), kGeomNoListado);
 }
 
-TEST(Geometria, LaBandaQueSeAceptaSinPreguntar) {
-  Banco b;
-  const auto pregunta = [&](double espMm, double reciMm, double receMm, int tipologia) {
-    b.Olvida();
-    double esp = espMm / 10, reci = reciMm / 10, rece = receMm / 10;
-    RecomendadosGeom(b.c, esp, reci, rece, tipologia, 1.0, ModoGeom::Compara);
-    return !b.voz.preguntas.empty();
+TEST(Geometria, LaBandaQueNoSeAvisa) {
+  ConTramo b;
+  const auto distintas = [&](double espMm, double reciMm, double receMm, std::int16_t tipologia) {
+    auto& t = b.e.tramo;
+    t.Di = 1.0, t.Tipologia = tipologia;
+    t.Esp = espMm / 10, t.Reci = reciMm / 10, t.Rece = receMm / 10;
+    return RecomendadasDistintas(b.c).has_value();
   };
-  EXPECT_FALSE(pregunta(120, 30, 30, 1210));  // the table
-  EXPECT_FALSE(pregunta(140, 20, 40, 1210));  // 2 % of the diameter, both ends of the band
-  EXPECT_TRUE(pregunta(141, 30, 30, 1210));
-  EXPECT_TRUE(pregunta(120, 19, 30, 1210));
-  EXPECT_TRUE(pregunta(120, 30, 41, 1210));
-  EXPECT_FALSE(pregunta(95, 40, 50, 2221));  // of a lined pipe only the inner cover
-  EXPECT_TRUE(pregunta(95, 50, 25, 2221));
+  EXPECT_FALSE(distintas(120, 30, 30, 1210));  // the table
+  EXPECT_FALSE(distintas(140, 20, 40, 1210));  // 2 % of the diameter, both ends of the band
+  EXPECT_TRUE(distintas(141, 30, 30, 1210));
+  EXPECT_TRUE(distintas(120, 19, 30, 1210));
+  EXPECT_TRUE(distintas(120, 30, 41, 1210));
+  EXPECT_FALSE(distintas(95, 40, 50, 2221));  // of a lined pipe only the inner cover
+  EXPECT_TRUE(distintas(95, 50, 25, 2221));
 }
 
-TEST(Geometria, ElDiametroRellenaYRotula) {
+TEST(Geometria, ElDiametroRellenaRotulaYOfreceElComercial) {
   Banco b;
   b.ObraYTramo();
   EXPECT_EQ(b.Teclea(edDi0, "1,2"), SalidaCampo::Pasa);
@@ -373,14 +353,29 @@ TEST(Geometria, ElDiametroRellenaYRotula) {
   EXPECT_EQ(b.c[edEsp0].texto, "14,0");
   EXPECT_EQ(b.Teclea(edEsp0, "14"), SalidaCampo::Pasa);
   EXPECT_DOUBLE_EQ(b.e.tramo.Esp, 14.0);
-  // Not commercial: the person may keep it.
-  b.voz.responde = true;
-  EXPECT_EQ(b.Teclea(edDi0, "1,25"), SalidaCampo::Queda);
-  b.voz.responde = false;
+  // Neither another diameter nor another thickness is a question: the page offers those of the table.
+  const auto toma = [&](Ed campo) {
+    for (const auto& aviso : std::vector(b.c.pantalla.avisos)) {
+      if (aviso.campo == campo && !aviso.remedio.empty()) return TomaRemedio(b.c, aviso), true;
+    }
+    return false;
+  };
+  EXPECT_FALSE(toma(edDi0));
   EXPECT_EQ(b.Teclea(edDi0, "1,26"), SalidaCampo::Pasa);
-  EXPECT_EQ(b.voz.preguntas.back().titulo, "Este Diametro no es Comercial");
   EXPECT_EQ(b.c[edEsp0].etiqueta, "Espesor (cm.)");
   EXPECT_EQ(b.Teclea(edRece0, "0"), SalidaCampo::Queda);
+  EXPECT_TRUE(toma(edDi0));
+  EXPECT_EQ(b.c[edDi0].texto, "1,300");
+  EXPECT_TRUE(b.c.EsComercial);
+  b.Teclea(edReci0, "5,0");
+  EXPECT_TRUE(toma(edEsp0));
+  EXPECT_EQ(b.c[edReci0].texto, "3,0");
+  EXPECT_FALSE(toma(edEsp0));
+  // One of the table that this typology is not made of is none to offer.
+  b.Teclea(edDi0, "0,3");
+  ASSERT_TRUE(toma(edDi0));
+  EXPECT_TRUE(b.c.EsComercial);
+  EXPECT_TRUE(b.voz.preguntas.empty());
 }
 
 TEST(Geometria, LasListasRepitenElEspesorYNoElRecubrimientoSeguido) {

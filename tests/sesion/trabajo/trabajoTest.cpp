@@ -19,7 +19,6 @@
 #include "persistencia/proyecto/mdProyecto.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdFaltas.h"
-#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin::prueba {
 namespace {
@@ -59,10 +58,8 @@ struct Oficina {
   }
 
   void Elige(int numero) {
-    if (!b.c.SinTramoEnMano()) CancelaCaptura(b.c);
     b.Teclea(Ed::edTramo, std::to_string(numero));
     EXPECT_EQ(b.e.tramo.NumeroTramo, numero);
-    ValidaTramo(b.c, true);  // what it completes is written on the screen
   }
 
   std::vector<std::string> Textos() const {
@@ -178,7 +175,7 @@ TEST(Trabajo, CadaTramoSaleComoEnLaLineaYNadaSeMueve) {
   EXPECT_TRUE(o.b.voz.mensajes.empty());
 }
 
-TEST(Trabajo, LaObraEnteraDejaElUltimoTramoEnPantalla) {
+TEST(Trabajo, LaObraEnteraDejaTodoComoEstaba) {
   Oficina o;
   o.Elige(3);  // whatever is on the screen, the same file gives the same listing
   const auto hecho = o.LaObra();
@@ -187,12 +184,7 @@ TEST(Trabajo, LaObraEnteraDejaElUltimoTramoEnPantalla) {
   EXPECT_TRUE(hecho->HayPostesado());
   EXPECT_TRUE(hecho->Fallos().empty());
   EXPECT_EQ(hecho->Aviso(), "");
-
-  EXPECT_EQ(o.b.c[Ed::edTramo].texto, "7");
-  EXPECT_EQ(o.b.c.EstadoCaptura, kModificaciones);
-  EXPECT_TRUE(o.b.c[Ed::edTramo].bloqueado);
-  EXPECT_TRUE(o.b.c.pantalla.Habilitada(Orden::mnCalculaTramo));
-  EXPECT_FALSE(o.b.c.pantalla.Habilitada(Orden::mnAjustarArmaduras));
+  EXPECT_EQ(o.b.c[Ed::edTramo].texto, "3");
   EXPECT_FALSE(o.b.c.EnCambio());
   for (const auto tipo : {TipoListado::Normal, TipoListado::Tabular}) {
     EXPECT_EQ(Diferencia(PapelSinPantalla(o, {}, tipo), EnTexto(*hecho.calculo, tipo)), "");
@@ -222,35 +214,36 @@ TEST(Trabajo, LoQueHabiaEnPantallaNoEntraEnLaObra) {
     Oficina o(61, "");
     if (antes != 0) o.Elige(antes);
     const auto r = o.LaObra();
-    EXPECT_EQ(r->fin, FinTrabajo::Detenido) << antes;
-    EXPECT_NE(r.resumen.find("Tramo 1"), std::string::npos) << r.resumen.substr(0, 200);
+    ASSERT_EQ(r->encargo.rechazados.size(), 1u) << antes;
+    EXPECT_NE(r->encargo.rechazados[0].find('1'), std::string::npos) << r->encargo.rechazados[0];
+    EXPECT_EQ(r->tramos.size(), 6u);
   }
 }
 
-TEST(Trabajo, SinGrabarOConCambiosNoEmpieza) {
+// All is calculated as it stands in memory, saved or not. An Obra that has no file yet is saved.
+TEST(Trabajo, SinGrabarSeCalculaLoQueHay) {
   Oficina o;
   o.Elige(2);
   o.b.Teclea(Ed::edGr0, "1,9");
-  EXPECT_FALSE(EncargaObra(o.b.c));
-  EXPECT_EQ(o.b.voz.Ultimo(), o.b.textos.Texto(txt::SalvePrimero));
-  EXPECT_EQ(o.b.voz.Titulo(), "AVISO");
-  EXPECT_EQ(o.b.c[Ed::edTramo].texto, "2");
-  // A Tramo is calculated as it stands on the screen, saved or not.
-  EXPECT_NE(o.ElTramo().resumen, ResumenSinPantalla(o, 2));
-  EXPECT_EQ(o.b.c[Ed::edGr0].texto, "1,90");
+  o.Elige(3);
+  const auto r = o.LaObra();
+  EXPECT_EQ(r->tramos.at(1).datos.tramo.Gr, 1.9);
   EXPECT_TRUE(o.b.c.EnCambio());
+  EXPECT_TRUE(o.b.voz.mensajes.empty() && o.b.voz.preguntas.empty());
 
   Banco nueva;
   nueva.TramoValido();
   EXPECT_FALSE(EncargaTramo(nueva.c));
-  EXPECT_EQ(nueva.voz.Ultimo(), "Debe primero salvar la obra");
+  EXPECT_EQ(nueva.voz.ficherosPedidos, 1);
+  nueva.voz.fichero = (o.carpeta / "nueva.zrb").string();
+  EXPECT_TRUE(EncargaTramo(nueva.c));
+  EXPECT_FALSE(nueva.c.EnCambio());
 }
 
 TEST(Trabajo, UnaObraSinTramosSeDice) {
   Oficina o(20, "0");
   EXPECT_FALSE(EncargaObra(o.b.c));
   EXPECT_EQ(o.b.voz.Ultimo(), o.b.textos.Compone(txt::ObraSinTramos, {"copia.zrb"}));
-  EXPECT_EQ(o.b.c.EstadoCaptura, kSinTramo);
 }
 
 TEST(Trabajo, ElAvanceCuentaLosCasosQueHay) {
@@ -287,7 +280,6 @@ TEST(Trabajo, CancelarDejaLosDatosYUnResumenCortado) {
     ASSERT_NE(nota, std::string::npos);
     EXPECT_EQ(Diferencia(entero.substr(0, nota), resumen.substr(0, nota)), "");
     EXPECT_EQ(o.Textos(), textos);
-    EXPECT_EQ(o.b.c.EstadoCaptura, kModificaciones);
   }
   o.sigue = [](const Avance& a) { return a.caso < 3; };
   const auto r = o.ElTramo();
@@ -296,9 +288,8 @@ TEST(Trabajo, CancelarDejaLosDatosYUnResumenCortado) {
 
   o.sigue = [](const Avance& a) { return a.tramo < 4; };
   EXPECT_EQ(o.LaObra()->fin, FinTrabajo::Cancelado);
-  EXPECT_EQ(o.b.c.EstadoCaptura, kModificaciones);
   o.sigue = {};
-  EXPECT_EQ(o.ElTramo().resumen, ResumenSinPantalla(o, 7));
+  EXPECT_EQ(o.ElTramo().resumen, ResumenSinPantalla(o, 1));
 }
 
 // Tramo 2 has no friction angle (record 49 of its block): the others are calculated all the same.
@@ -327,39 +318,33 @@ TEST(Trabajo, UnFalloAritmeticoSeDiceConSuLugar) {
   EXPECT_EQ(o.b.e.tramo.Esp, Esp);
 }
 
-// Strength of the concrete of Tramo 2, record 30 of its block.
-TEST(Trabajo, UnTramoRechazadoDetieneLaObraYLoHechoSale) {
+// Strength of the concrete of Tramo 2, record 30 of its block: the others are calculated, and it
+// is told with its fault. A fault of the Obra is one of all.
+TEST(Trabajo, UnTramoConFaltasSeDiceYLosDemasSeCalculan) {
   Oficina o(30 + 60, "0 // 0,0");
+  o.Elige(3);
   const auto r = o.LaObra();
-  EXPECT_EQ(r->fin, FinTrabajo::Detenido);
-  const std::string nota =
-      "El cálculo de la Obra se detiene en el Tramo 2: Resist. del hormigón a compresión: Valor "
-      "incorrecto";
-  EXPECT_EQ(r->encargo.detenido, nota);
-  EXPECT_EQ(r.resumen, ResumenSinPantalla(o, 1) + "\n** " + nota + " **\n\n");
-  EXPECT_EQ(o.b.voz.mensajes.size(), 1U);
-  EXPECT_EQ(o.b.c[Ed::edTramo].texto, "2");
-  EXPECT_EQ(o.b.c.EstadoCaptura, kModificaciones);
+  EXPECT_EQ(r->fin, FinTrabajo::Completo);
+  ASSERT_EQ(r->encargo.rechazados.size(), 1u);
+  EXPECT_NE(r->encargo.rechazados[0].find("Resist. del hormigón a compresión: Valor incorrecto"),
+            std::string::npos);
+  EXPECT_EQ(r->tramos.size(), 6u);
+  EXPECT_EQ(o.b.c[Ed::edTramo].texto, "3");
+  ASSERT_EQ(o.b.c.faltas.size(), 1u);
+  EXPECT_EQ(o.b.c.faltas[0].tramo, o.b.Id(2));
   EXPECT_FALSE(o.b.c.EnCambio());
-  EXPECT_EQ(EnTexto(*r.calculo, TipoListado::Pantalla),
-            PapelSinPantalla(o, {1}, TipoListado::Pantalla));
+  o.Elige(2);
+  EXPECT_FALSE(EncargaTramo(o.b.c));
+  EXPECT_EQ(o.b.voz.foco, Ed::edFck);
+  o.Elige(1);
+  EXPECT_TRUE(EncargaTramo(o.b.c));
+  o.b.Teclea(Ed::edAlt1, "0,5");
+  EXPECT_FALSE(EncargaTramo(o.b.c) || EncargaObra(o.b.c));
+  EXPECT_EQ(o.b.voz.foco, Ed::edAlt1);
+  EXPECT_TRUE(o.b.voz.mensajes.empty() && o.b.voz.preguntas.empty());
 }
 
-// Design strength of the steel of Tramo 2, record 33 of its block, over the limit.
-TEST(Trabajo, ElLimiteDelAceroSePreguntaTambienEnLaObra) {
-  for (const bool sigue : {true, false}) {
-    Oficina o(33 + 60, "2000 // 200,0");
-    o.b.Olvida();
-    o.b.voz.responde = sigue;
-    const auto r = o.LaObra();
-    EXPECT_EQ(o.b.voz.preguntas.size(), 1U);
-    EXPECT_EQ(r->fin, sigue ? FinTrabajo::Completo : FinTrabajo::Detenido);
-    EXPECT_EQ(r.resumen.find("1/   3  ") != std::string::npos, sigue);
-    EXPECT_EQ(o.b.c[Ed::edTramo].texto, sigue ? "7" : "2");
-  }
-}
-
-TEST(Trabajo, UnFicheroQueSeRompeMientrasTantoDetieneLaObra) {
+TEST(Trabajo, DeUnaObraDanadaSeCalculaLoEntero) {
   Oficina o;
   {
     std::fstream f(o.obra, std::ios::binary | std::ios::in | std::ios::out);
@@ -367,12 +352,12 @@ TEST(Trabajo, UnFicheroQueSeRompeMientrasTantoDetieneLaObra) {
     f.write("\xFF\x7F", 2);  // a length that no record has
   }
   Banco b;
-  EXPECT_TRUE(AbreObra(b.c, o.obra));  // the header is whole
-  const auto r = o.Haz(EncargaObra(b.c));
-  EXPECT_EQ(r->fin, FinTrabajo::Detenido);
-  EXPECT_NE(r->encargo.detenido.find("Tramo 3"), std::string::npos) << r->encargo.detenido;
+  EXPECT_TRUE(AbreObra(b.c, o.obra));
   EXPECT_NE(b.voz.Ultimo().find("copia.zrb: registro"), std::string::npos) << b.voz.Ultimo();
-  EXPECT_EQ(b.c[Ed::edTramo].texto, "2");
+  const auto r = o.Haz(EncargaObra(b.c));
+  EXPECT_EQ(r->tramos.size(), 6u);
+  ASSERT_EQ(r->encargo.rechazados.size(), 1u);
+  EXPECT_NE(r->encargo.rechazados[0].find('3'), std::string::npos) << r->encargo.rechazados[0];
 }
 
 TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
@@ -381,6 +366,7 @@ TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
     FicheroRegistros f(RutaDpe(o.obra), FicheroRegistros::Modo::LecturaEscritura);
     EscribeAjustes(f, {{4, 1, 2, {30, 5, 25}}}, '.');
   }
+  ASSERT_TRUE(AbreObra(o.b.c, o.obra));
   o.Elige(1);
   EXPECT_NE(o.ElTramo().resumen.find(" 60,00 cm2/m"), std::string::npos);
   {
@@ -388,6 +374,8 @@ TEST(Trabajo, LosAjustesEntranYUnFicheroDeAjustesRotoNoSeCalla) {
     f.EscribeRegistro(1, "x");
     f.Vacia();
   }
+  ASSERT_TRUE(AbreObra(o.b.c, o.obra));
+  o.Elige(1);
   const auto sinAjustes = o.ElTramo();
   EXPECT_EQ(sinAjustes->fin, FinTrabajo::Completo);
   EXPECT_NE(sinAjustes->Aviso().find("copia.dpe"), std::string::npos) << sinAjustes->Aviso();
