@@ -108,7 +108,7 @@ std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanante
     if (!t.numero.empty()) {
       CargaTramo(e, *c.fichero, posicion);
       t.datos = e.tramo;
-      t.ajustes = LosDe(suyos.ajustes, numero);
+      PonAjustes(t, e.obra, LosDe(suyos.ajustes, numero));
       if (auto extras = TomaExtras(suyos.extras, t.numero, t.datos.DescriTramo)) {
         t.datos.Envolvente = extras->Envolvente;
         t.extras = std::move(extras->otras);
@@ -169,8 +169,7 @@ std::vector<int> Cambiados(const Captura& c, const Version& ahora) {
   std::vector<int> ids;
   for (const auto& t : ahora.tramos) {
     const auto antes = LugarDe(c.guardada, t->id);
-    if (!t->numero.empty() && t->dano.empty() &&
-        (!antes || *c.guardada.tramos[*antes] != *t)) {
+    if (!t->numero.empty() && t->dano.empty() && (!antes || *c.guardada.tramos[*antes] != *t)) {
       ids.push_back(t->id);
     }
   }
@@ -184,9 +183,9 @@ bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
   for (const auto& [tramo, cuantos] : r.anulados) {
     cuales += "\n" + c.textos.Compone(txt::AjustesDelTramo, {tramo, TextoEntero(cuantos)});
   }
-  return c.voz.Pregunta(Texto(c, txt::AjustesQueSeAnulan) + cuales + "\n\n" +
-                            Texto(c, txt::GrabaDeTodosModos),
-                        Texto(c, txt::TituloAviso));
+  return c.voz.Pregunta(
+      Texto(c, txt::AjustesQueSeAnulan) + cuales + "\n\n" + Texto(c, txt::GrabaDeTodosModos),
+      Texto(c, txt::TituloAviso));
 }
 
 // What is to be written: complete and without a fault. Nothing where there are some, which are
@@ -200,7 +199,7 @@ std::optional<Version> QueGrabar(Captura& c) {
     c.faltas = std::move(comprobado.faltas);
     return std::nullopt;
   }
-  auto sinVanos = SinAjustesVanos(c.guardada, std::move(comprobado.version));
+  auto sinVanos = SinAjustesVanos(std::move(comprobado.version));
   if (!AceptaAnular(c, sinVanos)) return std::nullopt;
   std::erase_if(sinVanos.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
   return std::move(sinVanos.version);
@@ -383,7 +382,7 @@ void RecogeAjustes(Captura& c) {
   for (auto* v : {&c.version, &c.guardada}) {
     for (auto& t : v->tramos) {
       auto otro = std::make_shared<TramoEnObra>(*t);
-      otro->ajustes = LosDe(ajustes, NumeroDe(t->numero));
+      PonAjustes(*otro, v->obra, LosDe(ajustes, NumeroDe(t->numero)));
       if (otro->ajustes != t->ajustes) t = std::move(otro);
     }
   }

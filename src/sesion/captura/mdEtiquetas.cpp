@@ -75,7 +75,8 @@ void RenuevaLista(Captura& c, const FilaCampo& fila) {
 void RenuevaOpciones(Captura& c) {
   c[Ed::rdSistemaUnidades].entradas = Entradas(c, {txt::RotSI, txt::RotMKS});
   c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::Si, txt::No});
-  c[Ed::rdTipologia].entradas = {SinMarcas(Texto(c, txt::PagArmado)), SinMarcas(Texto(c, txt::PagPostesado))};
+  c[Ed::rdTipologia].entradas = {SinMarcas(Texto(c, txt::PagArmado)),
+                                 SinMarcas(Texto(c, txt::PagPostesado))};
   c[Ed::rdTipoCamisa].entradas = Entradas(c, {txt::OpcionEmbebida, txt::OpcionRevestida});
   c[Ed::rdTipoColocacion].entradas =
       Entradas(c, {txt::OpcionZanja, txt::OpcionZanjaTerraplenada, txt::OpcionTerraplen});

@@ -37,8 +37,8 @@ class LoQueTrae {
       const std::string& ahora = c_[kSiguen[i]].texto;
       if (ahora == antes_[i] || antes_[i].empty()) continue;
       if (!cambios.empty()) cambios += "; ";
-      cambios += c_.textos.Compone(txt::CambioDe,
-                                   {NombreDeCampo(c_, kSiguen[i]), antes_[i], ahora});
+      cambios +=
+          c_.textos.Compone(txt::CambioDe, {NombreDeCampo(c_, kSiguen[i]), antes_[i], ahora});
     }
     if (!cambios.empty()) c_.voz.Anuncia(c_.textos.Compone(txt::DiametroTrae, {cambios}));
   }
@@ -52,22 +52,16 @@ class LoQueTrae {
 // A diameter of the table brings its dimensions; any other has none, and no band.
 void TomaDimensiones(Captura& c, bool otroDi) {
   const auto& t = c.e.tramo;
-  c.EspRecomMin = c.EspRecomMax = 0;
-  c.BandaReci = c.BandaRece = false;
+  PonBandas(c);
   if (!c.EsComercial) return;
   BuscaEnTramo(c, ModoGeom::Espesor);
-  const double margen = t.Di * kToleranciaEspesor * 100.0;
-  c.EspRecomMin = Redondea(t.Esp - margen);
-  c.EspRecomMax = Redondea(margen + t.Esp);
   Reemplaza(c, Ed::edEsp0, otroDi);
   if (t.Tipologia != kRevestida) {
     BuscaEnTramo(c, ModoGeom::Interior);
     Reemplaza(c, Ed::edReci0, otroDi);
-    c.BandaReci = true;
   }
   BuscaEnTramo(c, ModoGeom::Exterior);
   Reemplaza(c, Ed::edRece0, otroDi);
-  c.BandaRece = true;
 }
 
 // One that is not given takes that of the table. @return whether there is one

@@ -7,6 +7,7 @@
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdOrdenes.h"
+#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin {
 
@@ -92,7 +93,7 @@ void LimpiaSeccion(Captura& c) {
   t.TipoCuna = 1;
   t.TipoApoyo = 12;
   t.TipoRelleno = 21;
-  t.ICar = 1;  // and 2 once the validation reads the field
+  t.ICar = 2;
   t.IAs = 0;
   c.AnchoZanjaAuto = false;
   c.EsComercial = false;
@@ -239,6 +240,7 @@ void EligeColocacion(Captura& c, int opcion) {
     EligeEntrada(c, Ed::edTipoApoyo0, 0);
   } else {
     if (EnBlanco(c, Ed::edTipoApoyo0)) EligeEntrada(c, Ed::edTipoApoyo0, 2);
+    t.TipoApoyo = ValorDeLista(c, Ed::edTipoApoyo0, PosicionEnLista(c, Ed::edTipoApoyo0));
     RellenaB0(c);
   }
   AplicaColocacion(c);

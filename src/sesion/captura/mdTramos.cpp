@@ -53,15 +53,6 @@ TramoFijo ConNumero(TramoEnObra t, int numero) {
   return std::make_shared<TramoEnObra>(std::move(t));
 }
 
-// The screen of a Tramo that nobody has.
-void SinTramo(Captura& c) {
-  c.enMano = 0;
-  c.e.tramo = Tramo{};
-  LimpiaCaptura(c, 0);
-  RenuevaTitulo(c);
-  ActualizaMenus(c);
-}
-
 // A change of the list itself: what is in hand goes into its version first, and is shown anew.
 template <class F>
 void CambiaLista(Captura& c, const F& cambia) {
@@ -81,9 +72,10 @@ std::string NombreDeIds(const Captura& c, int texto, const std::vector<int>& ids
 
 void PonEnMano(Captura& c, int id) {
   const auto* t = Busca(c.version, id);
-  if (t == nullptr || !t->dano.empty()) return SinTramo(c);
-  c.enMano = id;
-  c.e.tramo = t->datos;
+  const bool hay = t != nullptr && t->dano.empty();
+  c.enMano = hay ? id : 0;
+  c.e.tramo = hay ? t->datos : Tramo{};
+  if (!hay) LimpiaCaptura(c, 0);
   MuestraTodo(c);
 }
 

@@ -42,8 +42,8 @@ Encargo EncargoVacio(const Captura& c) {
   encargo.textos = c.textos;
   encargo.textos.PonIdioma(c.e.obra.Idioma);
   encargo.estilo = {c.EsSI(), c.SeparadorDecimal};
-  encargo.fichero = c.fichero ? c.fichero->ruta().filename().string()
-                              : Texto(c, txt::ObraSinNombre);
+  encargo.fichero =
+      c.fichero ? c.fichero->ruta().filename().string() : Texto(c, txt::ObraSinNombre);
   return encargo;
 }
 
@@ -117,7 +117,8 @@ std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
           c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
       continue;
     }
-    encargo.tramos.push_back({DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
+    encargo.tramos.push_back(
+        {DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
   }
   return encargo;
 }

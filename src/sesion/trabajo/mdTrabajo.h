@@ -29,12 +29,12 @@ struct Encargo {
   Catalogo textos;
   EstiloNumeros estilo;
   std::string fichero;     // name of that of the Obra
-  std::string sinAjustes;               // why its hand adjustments were refused; empty where they were not
+  std::string sinAjustes;  // why its hand adjustments were refused; empty where they were not
   std::vector<std::string> rechazados;  // Tramos with faults, each with its first one
 };
 
-/// mnCalculaTramo: the Tramo in hand. Its faults, and those of the Obra, are listed in `faltas`, and
-/// the first one leads to its field.
+/// mnCalculaTramo: the Tramo in hand. Its faults, and those of the Obra, are listed in `faltas`,
+/// and the first one leads to its field.
 /// @return nothing where there are some, or no file was given to an Obra without one
 std::optional<Encargo> EncargaTramo(Captura& c);
 

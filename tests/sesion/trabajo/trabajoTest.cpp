@@ -326,7 +326,7 @@ TEST(Trabajo, UnTramoConFaltasSeDiceYLosDemasSeCalculan) {
   const auto r = o.LaObra();
   EXPECT_EQ(r->fin, FinTrabajo::Completo);
   ASSERT_EQ(r->encargo.rechazados.size(), 1u);
-  EXPECT_NE(r->encargo.rechazados[0].find("Resist. del hormigón a compresión: Valor incorrecto"),
+  EXPECT_NE(r->encargo.rechazados[0].find("Resist. del hormigón a compresión: Debe ser"),
             std::string::npos);
   EXPECT_EQ(r->tramos.size(), 6u);
   EXPECT_EQ(o.b.c[Ed::edTramo].texto, "3");
