@@ -252,7 +252,7 @@ TEST(PantallaAjustes, ElResumenLoLlevaYUnDatoLoBorra) {
   EXPECT_EQ(antes.find("45,47"), std::string::npos);
   EXPECT_NE(despues.find("45,47"), std::string::npos) << despues;
   s.b.Teclea(Ed::edGr0, "1,95");
-  ASSERT_TRUE(AccionGrabaTramo(s.b.c)) << s.b.voz.Ultimo();
+  ASSERT_TRUE(Graba(s.b.c)) << s.b.voz.Ultimo();
   EXPECT_EQ(s.Resumen().find("45,47"), std::string::npos);
   s.Ajusta([&](frAjustes& p) {
     Pulsa(p, "btSiguientePresion");
@@ -262,10 +262,6 @@ TEST(PantallaAjustes, ElResumenLoLlevaYUnDatoLoBorra) {
 
 TEST(PantallaAjustes, LoQueSeNiegaNoAbreNada) {
   Sala s;
-  s.b.Teclea(Ed::edGr0, "1,95");
-  EXPECT_EQ(s.Ajusta([](frAjustes&) {}), 0);
-  EXPECT_EQ(s.b.voz.Ultimo(), "Debe primero salvar los cambios realizados");
-  ASSERT_TRUE(AccionGrabaTramo(s.b.c));
   const FicheroDpe otro(RutaDpe(s.b.obra), ',');
   EXPECT_EQ(s.Ajusta([](frAjustes&) {}), 0);
   EXPECT_NE(s.b.voz.Ultimo().find("otro programa"), std::string::npos);
@@ -371,7 +367,7 @@ class AjustesEnIdioma : public testing::TestWithParam<int> {};
 TEST_P(AjustesEnIdioma, TodoTextoEsDelCatalogoYCabe) {
   Sala s("2");
   CambiaIdioma(s.b.c, static_cast<std::int16_t>(GetParam()));
-  ASSERT_TRUE(AccionGrabaTramo(s.b.c));
+  ASSERT_TRUE(Graba(s.b.c));
   const auto buenos = Buenos(s.b.textos);
   const int veces = s.Ajusta([&](frAjustes& p) {
     p.resize(1366, 700);
