@@ -97,7 +97,8 @@ TEST(Recuperacion, SeGuardaMientrasHayAlgoQuePerder) {
   const auto b = LeeBorrador(pruebas::Bytes(s.Borradores().at(0)));
   ASSERT_TRUE(b.has_value());
   ASSERT_TRUE(b->ConTramo());
-  EXPECT_DOUBLE_EQ(b->version.tramos[static_cast<std::size_t>(b->enMano)]->datos.Fck, 41.0);
+  ASSERT_TRUE(b->tecleado.has_value());
+  EXPECT_EQ(b->tecleado->texto, "41");
   EXPECT_EQ(b->fichero, S(s.ruta));
 
   p->ventana().accion(Orden::mnGrabaObra)->trigger();

@@ -1,6 +1,7 @@
 #include "sesion/captura/mdReglasDimensiones.h"
 
 #include <array>
+#include <cmath>
 
 #include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -29,6 +30,9 @@ class LoQueTrae {
  public:
   explicit LoQueTrae(Captura& c) : c_(c) {
     for (std::size_t i = 0; i < kSiguen.size(); ++i) antes_[i] = c[kSiguen[i]].texto;
+    // A width that follows the pipe was typed by nobody.
+    constexpr double kCifra = 0.005;  // [m]
+    if (std::fabs(c.e.tramo.B0 - AnchoAutomatico(c)) < kCifra) antes_.back().clear();
   }
 
   void Di() const {

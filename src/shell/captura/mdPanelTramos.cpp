@@ -53,17 +53,15 @@ PanelTramos::PanelTramos(const Captura& c, QWidget* padre)
   lista_->setColumnCount(kColumnas);
   lista_->setContextMenuPolicy(Qt::ActionsContextMenu);
   lista_->header()->setStretchLastSection(true);
-  lista_->header()->setSortIndicatorClearable(true);
-  lista_->header()->setSortIndicator(-1, Qt::AscendingOrder);
-  lista_->setSortingEnabled(true);
+  lista_->header()->setSectionsClickable(true);
+  connect(lista_->header(), &QHeaderView::sectionClicked, this, &PanelTramos::OrdenaPor);
   filas->addWidget(busca_);
   filas->addWidget(lista_, 1);
   connect(busca_, &QLineEdit::textChanged, this, &PanelTramos::Filtra);
   connect(lista_, &QTreeWidget::currentItemChanged, this,
-          [this](QTreeWidgetItem* fila, QTreeWidgetItem*) {
-            if (refrescando_ || fila == nullptr) return;
-            emit tramoPedido(fila->data(0, kPapelId).toInt());
-          });
+          [this](QTreeWidgetItem* fila, QTreeWidgetItem*) { Pide(fila); });
+  connect(lista_, &QTreeWidget::itemActivated, this,
+          [this](QTreeWidgetItem* fila, int) { Pide(fila); });
   RenuevaTextos();
 }
 
@@ -128,7 +126,6 @@ void PanelTramos::Refresca() {
   auto renglones = c_.ObraCargada ? RenglonesTramos(c_) : std::vector<RenglonTramo>{};
   if (std::ranges::equal(renglones, puestos_, Iguales)) return MarcaEnMano();
   refrescando_ = true;
-  lista_->setSortingEnabled(false);
   const auto elegidos = Elegidos();
   while (lista_->topLevelItemCount() > static_cast<int>(renglones.size())) {
     delete lista_->takeTopLevelItem(lista_->topLevelItemCount() - 1);
@@ -146,10 +143,32 @@ void PanelTramos::Refresca() {
     for (int i = 0; i < kTipologia; ++i) lista_->resizeColumnToContents(i);
   }
   puestos_ = std::move(renglones);
-  lista_->setSortingEnabled(true);
+  if (orden_ >= 0) lista_->sortItems(orden_, sentido_);
   Filtra();
   refrescando_ = false;
   MarcaEnMano();
+}
+
+void PanelTramos::Pide(const QTreeWidgetItem* fila) {
+  if (refrescando_ || fila == nullptr) return;
+  const int id = fila->data(0, kPapelId).toInt();
+  if (id != c_.enMano) emit tramoPedido(id);
+}
+
+// A column, the other way round, and the order of the Obra again.
+void PanelTramos::OrdenaPor(int columna) {
+  if (columna != orden_) {
+    orden_ = columna;
+    sentido_ = Qt::AscendingOrder;
+  } else if (sentido_ == Qt::AscendingOrder) {
+    sentido_ = Qt::DescendingOrder;
+  } else {
+    orden_ = -1;
+  }
+  lista_->header()->setSortIndicatorShown(orden_ >= 0);
+  lista_->header()->setSortIndicator(std::max(orden_, 0), sentido_);
+  puestos_.clear();
+  Refresca();
 }
 
 void PanelTramos::MarcaEnMano() {

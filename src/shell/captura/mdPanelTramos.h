@@ -43,11 +43,15 @@ class PanelTramos : public QWidget {
   QTreeWidget* lista_;
   std::map<int, EstadoTramo> estados_;
   std::vector<RenglonTramo> puestos_;
+  int orden_ = -1;  // column; -1 for the order of the Obra
+  Qt::SortOrder sentido_ = Qt::AscendingOrder;
   bool refrescando_ = false;
 
   void Filtra();
   void Pon(QTreeWidgetItem& fila, const RenglonTramo& r);
   void MarcaEnMano();
+  void Pide(const QTreeWidgetItem* fila);
+  void OrdenaPor(int columna);
 };
 
 }  // namespace zorbin

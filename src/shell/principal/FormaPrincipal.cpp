@@ -618,6 +618,9 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   } else {
     entorno_.preferencias.OlvidaObra(ruta);
   }
+  if (abierta && !c_.version.tramos.empty()) {
+    captura().Hace([this] { PonEnMano(c_, c_.version.tramos.front()->id); }, true);
+  }
   historia_->Olvida();
   panel_->OlvidaEstados();
   ActualizaRecientes();
