@@ -74,6 +74,7 @@ struct Programa {
   void ElijeTramo(int lugar) {
     auto* lista = ventana->findChild<QTreeWidget*>("Tramos");
     lista->setCurrentItem(lista->topLevelItem(lugar));
+    emit lista->itemActivated(lista->topLevelItem(lugar), 0);
     Delante();
   }
   void Lanza(Orden orden) { ventana->accion(orden)->trigger(); }
@@ -328,7 +329,9 @@ TEST(Captura, LaListaDeTramosLlevaAUnoSinPreguntar) {
   EXPECT_EQ(p.e.tramo.NumeroTramo, 6);
   EXPECT_EQ(p.c.pantalla.pagina.TabPrincipal, 1);
   p.Pincha(Ed::edDescriTramo);
+  ASSERT_TRUE(p.TieneFoco(Ed::edDescriTramo)) << S(QApplication::focusWidget()->objectName());
   p.Teclea("Cambiado");
+  EXPECT_EQ(p.e.tramo.DescriTramo, "Cambiado") << p.c[Ed::edDescriTramo].texto;
   lista->setCurrentItem(lista->topLevelItem(0));
   EXPECT_EQ(p.e.tramo.NumeroTramo, 1);
   EXPECT_TRUE(p.persona.cajas.empty()) << S(p.persona.Ultima());

@@ -60,8 +60,9 @@ PanelTramos::PanelTramos(const Captura& c, QWidget* padre)
   connect(busca_, &QLineEdit::textChanged, this, &PanelTramos::Filtra);
   connect(lista_, &QTreeWidget::currentItemChanged, this,
           [this](QTreeWidgetItem* fila, QTreeWidgetItem*) { Pide(fila); });
-  connect(lista_, &QTreeWidget::itemActivated, this,
-          [this](QTreeWidgetItem* fila, int) { Pide(fila); });
+  for (const auto senal : {&QTreeWidget::itemActivated, &QTreeWidget::itemClicked}) {
+    connect(lista_, senal, this, [this](QTreeWidgetItem* fila, int) { Pide(fila); });
+  }
   RenuevaTextos();
 }
 
@@ -151,8 +152,7 @@ void PanelTramos::Refresca() {
 
 void PanelTramos::Pide(const QTreeWidgetItem* fila) {
   if (refrescando_ || fila == nullptr) return;
-  const int id = fila->data(0, kPapelId).toInt();
-  if (id != c_.enMano) emit tramoPedido(id);
+  emit tramoPedido(fila->data(0, kPapelId).toInt());
 }
 
 // A column, the other way round, and the order of the Obra again.
@@ -194,6 +194,10 @@ void PanelTramos::Filtra() {
     }
     fila->setHidden(!dentro);
   }
+}
+
+void PanelTramos::DaFoco() {
+  lista_->setFocus(Qt::OtherFocusReason);
 }
 
 std::vector<int> PanelTramos::Elegidos() const {

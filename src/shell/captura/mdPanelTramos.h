@@ -31,6 +31,8 @@ class PanelTramos : public QWidget {
   void PonEstado(int id, EstadoTramo estado);
   void OlvidaEstados();
 
+  void DaFoco();
+
   /// The Tramos chosen, in their order; the one in hand where none is.
   std::vector<int> Elegidos() const;
 

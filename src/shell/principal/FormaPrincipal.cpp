@@ -220,10 +220,14 @@ void FormaPrincipal::CreaPanelTramos() {
   addDockWidget(Qt::LeftDockWidgetArea, marcoTramos_);
   marcoTramos_->hide();
   connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
+    // Whoever goes down the list by its keys stays in it.
+    const bool enLaLista = panel_->isAncestorOf(QApplication::focusWidget());
     captura().Hace([this, id] {
-      PonEnMano(c_, id);
+      if (id != c_.enMano) PonEnMano(c_, id);
       if (c_.pantalla.pagina.TabPrincipal == 0) CambiaPagina(c_, 1);
+      if (c_.pantalla.pagina.TabPrincipal == 1) c_.pantalla.foco = Ed::edDescriTramo;
     });
+    if (enLaLista) panel_->DaFoco();
   });
 }
 
