@@ -221,9 +221,27 @@ ProyectoAGrabar AGrabar(const Captura& c, const Version& v, bool todos) {
   return p;
 }
 
+// A version that was saved, with the digits that the file has of it: today's calculation is that of
+// tomorrow.
+Version ComoEnElFichero(const Captura& c, Version v) {
+  EstadoCalculo e;
+  CargaObra(e, *c.fichero);
+  v.obra = SinSesion(e.obra);
+  for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+    auto leido = std::make_shared<TramoEnObra>(*v.tramos[i]);
+    if (leido->numero.empty()) continue;
+    e.tramo = leido->datos;
+    CargaTramo(e, *c.fichero, static_cast<int>(i) + 1);
+    leido->datos = e.tramo;
+    if (*leido != *v.tramos[i]) v.tramos[i] = std::move(leido);
+  }
+  return v;
+}
+
 // The file holds a version from now on.
 void QuedaGrabada(Captura& c, Version v) {
   const EnUnPaso paso(c, Texto(c, txt::PasoCompleta));
+  v = ComoEnElFichero(c, std::move(v));
   c.guardada = v;
   const auto& o = c.e.obra;
   v.obra.RutaApp = o.RutaApp;
