@@ -197,12 +197,7 @@ bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
 std::optional<Version> QueGrabar(Captura& c) {
   const Version ahora = VersionActual(c);
   auto comprobado = Comprueba(c, Cambiados(c, ahora));
-  c.faltas = comprobado.faltas;
-  if (!c.faltas.empty()) {
-    LlevaALaFalta(c, Falta(c.faltas.front()));
-    c.faltas = std::move(comprobado.faltas);
-    return std::nullopt;
-  }
+  if (MuestraFaltas(c, std::move(comprobado.faltas))) return std::nullopt;
   auto sinVanos = SinAjustesVanos(std::move(comprobado.version));
   if (!AceptaAnular(c, sinVanos)) return std::nullopt;
   std::erase_if(sinVanos.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });

@@ -202,7 +202,8 @@ class Paseo {
 
   // A refused text is there when one comes back to its Tramo.
   void Teclea(Ed campo) {
-    if (campo == edTramo) return;
+    const bool deTramo = Fila(campo).pagina.TabPrincipal != 0;
+    if (campo == edTramo || (deTramo && b_.c.SinTramoEnMano())) return;
     const std::string texto = kTextos[static_cast<std::size_t>(Dado(kTextos.size()))];
     const auto antes = b_.e;
     if (b_.Teclea(campo, texto) != SalidaCampo::Queda) return;
