@@ -25,11 +25,12 @@ constexpr double kEngancheLimite = 0.01;  // a pressure this near to the end of 
 // ---------------------------------------------------------------------------------------------
 // The Tramo
 
-// The Tramo in hand with what the rules complete; it has been saved, so that they refuse nothing.
+// The Tramo in hand with what the rules complete. What they refuse of one that came from its file
+// so, and was saved with nothing to save, is shown.
 std::optional<TramoAjustado> TomaElTramo(Captura& c) {
   auto comprobado = Comprueba(c, {c.enMano});
+  if (MuestraFaltas(c, comprobado.faltas)) return std::nullopt;
   const auto* t = Busca(comprobado.version, c.enMano);
-  if (t == nullptr || !comprobado.Vale(c.enMano)) return std::nullopt;
   auto datos = DatosDeCalculo(comprobado.version.obra, t->datos);
   const Rango rango = RangoDe(datos);
   return TramoAjustado{t->datos, std::move(datos), rango, c.EsComercial};

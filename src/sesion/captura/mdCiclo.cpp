@@ -193,33 +193,66 @@ bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
 std::optional<Version> QueGrabar(Captura& c) {
   const Version ahora = VersionActual(c);
   auto comprobado = Comprueba(c, Cambiados(c, ahora));
-  c.faltas = comprobado.faltas;
-  if (!c.faltas.empty()) {
-    LlevaALaFalta(c, Falta(c.faltas.front()));
-    c.faltas = std::move(comprobado.faltas);
-    return std::nullopt;
-  }
+  if (MuestraFaltas(c, std::move(comprobado.faltas))) return std::nullopt;
   auto sinVanos = SinAjustesVanos(std::move(comprobado.version));
   if (!AceptaAnular(c, sinVanos)) return std::nullopt;
   std::erase_if(sinVanos.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
   return std::move(sinVanos.version);
 }
 
-// Blocks that the file has already, at the same place, stay as they are.
+// The block at a place, with what a Tramo has that no block says. @param e  what comes before it
+Tramo Leido(const FicheroRegistros& f, EstadoCalculo& e, std::size_t lugar, const TramoEnObra& t) {
+  CargaTramo(e, f, static_cast<int>(lugar) + 1);
+  e.tramo.NumeroTramo = t.datos.NumeroTramo;
+  e.tramo.Envolvente = t.datos.Envolvente;
+  return e.tramo;
+}
+
+// Whether the file has a Tramo at its place already, whatever comes before it by now: a blank record
+// of a block means the value of the Tramo before.
+bool EstaEnElFichero(const Captura& c, const Version& v, std::size_t lugar) {
+  const auto& t = *v.tramos[lugar];
+  if (lugar >= c.guardada.tramos.size() || *c.guardada.tramos[lugar] != t) return false;
+  if (t.numero.empty()) return true;
+  EstadoCalculo e;
+  e.obra = c.guardada.obra;
+  for (std::size_t i = 0; i < lugar; ++i) {
+    if (!v.tramos[i]->numero.empty()) e.tramo = v.tramos[i]->datos;
+  }
+  return Leido(*c.fichero, e, lugar, t) == t.datos;
+}
+
+// Blocks that the file has already stay as they are.
 ProyectoAGrabar AGrabar(const Captura& c, const Version& v, bool todos) {
   ProyectoAGrabar p{v.obra, {}, {}, v.extras};
   for (std::size_t i = 0; i < v.tramos.size(); ++i) {
     const auto& t = *v.tramos[i];
-    const bool esta = !todos && i < c.guardada.tramos.size() && *c.guardada.tramos[i] == t;
-    p.tramos.push_back({t.numero, esta ? std::nullopt : std::optional(t.datos), t.extras});
+    p.tramos.push_back({t.numero, t.datos, t.extras, !todos && EstaEnElFichero(c, v, i)});
     p.ajustes.insert(p.ajustes.end(), t.ajustes.begin(), t.ajustes.end());
   }
   return p;
 }
 
+// A version that was saved, with the digits that the file has of it: today's calculation is that of
+// tomorrow.
+Version ComoEnElFichero(const Captura& c, Version v) {
+  EstadoCalculo e;
+  CargaObra(e, *c.fichero);
+  v.obra = SinSesion(e.obra);
+  for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+    auto leido = std::make_shared<TramoEnObra>(*v.tramos[i]);
+    if (leido->numero.empty()) continue;
+    e.tramo = leido->datos;
+    leido->datos = Leido(*c.fichero, e, i, *leido);
+    if (*leido != *v.tramos[i]) v.tramos[i] = std::move(leido);
+  }
+  return v;
+}
+
 // The file holds a version from now on.
 void QuedaGrabada(Captura& c, Version v) {
   const EnUnPaso paso(c, Texto(c, txt::PasoCompleta));
+  v = ComoEnElFichero(c, std::move(v));
   c.guardada = v;
   const auto& o = c.e.obra;
   v.obra.RutaApp = o.RutaApp;

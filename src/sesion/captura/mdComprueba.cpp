@@ -132,6 +132,12 @@ std::vector<int> IdsDe(const Version& version) {
   return ids;
 }
 
+bool MuestraFaltas(Captura& c, std::vector<Falta> faltas) {
+  if (!faltas.empty()) LlevaALaFalta(c, faltas.front());
+  c.faltas = std::move(faltas);
+  return !c.faltas.empty();
+}
+
 void LlevaALaFalta(Captura& c, const Falta& falta) {
   if (falta.tramo != 0 && falta.tramo != c.enMano) {
     c.version = VersionActual(c);

@@ -13,9 +13,12 @@ namespace {
 
 constexpr double kMinimo = 0.001;  // below it a dimension is not given
 
-// A dimension takes the place of the text when the diameter is another or the field is blank.
-void Reemplaza(Captura& c, Ed campo, bool otroDi) {
-  if (otroDi || EnBlanco(c, campo)) MuestraVariable(c, campo);
+// A dimension of the table takes the place of another when the diameter is another or the field is
+// blank.
+void Propone(Captura& c, Ed campo, ModoGeom modo, bool otroDi) {
+  if (!otroDi && !EnBlanco(c, campo)) return;
+  BuscaEnTramo(c, modo);
+  MuestraVariable(c, campo);
 }
 
 // The inner cover of a lined cylinder is what the coating leaves.
@@ -61,17 +64,11 @@ class LoQueTrae {
 
 // A diameter of the table brings its dimensions; any other has none, and no band.
 void TomaDimensiones(Captura& c, bool otroDi) {
-  const auto& t = c.e.tramo;
   PonBandas(c);
   if (!c.EsComercial) return;
-  BuscaEnTramo(c, ModoGeom::Espesor);
-  Reemplaza(c, Ed::edEsp0, otroDi);
-  if (t.Tipologia != kRevestida) {
-    BuscaEnTramo(c, ModoGeom::Interior);
-    Reemplaza(c, Ed::edReci0, otroDi);
-  }
-  BuscaEnTramo(c, ModoGeom::Exterior);
-  Reemplaza(c, Ed::edRece0, otroDi);
+  Propone(c, Ed::edEsp0, ModoGeom::Espesor, otroDi);
+  if (c.e.tramo.Tipologia != kRevestida) Propone(c, Ed::edReci0, ModoGeom::Interior, otroDi);
+  Propone(c, Ed::edRece0, ModoGeom::Exterior, otroDi);
 }
 
 // One that is not given takes that of the table. @return whether there is one

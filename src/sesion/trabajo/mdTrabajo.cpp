@@ -97,14 +97,12 @@ std::string NotaFinal(const Calculo& calculo) {
 
 std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
   auto comprobado = Comprueba(c, ids);
-  c.faltas = comprobado.faltas;
-  const auto primera = std::ranges::find_if(c.faltas, [&](const Falta& f) { return f.tramo == 0; });
-  if (primera != c.faltas.end() || (ids.size() == 1 && !c.faltas.empty())) {
-    auto faltas = c.faltas;
-    LlevaALaFalta(c, faltas.front());
-    c.faltas = std::move(faltas);
-    return std::nullopt;
+  const bool deLaObra = std::ranges::any_of(comprobado.faltas,
+                                            [](const Falta& f) { return f.tramo == 0; });
+  if (deLaObra || ids.size() == 1) {
+    if (MuestraFaltas(c, comprobado.faltas)) return std::nullopt;
   }
+  c.faltas = comprobado.faltas;
   if (!TieneFichero(c)) return std::nullopt;
   Encargo encargo = EncargoVacio(c);
   encargo.sinAjustes = c.sinAjustes;

@@ -314,6 +314,26 @@ TEST(Sesion, LosTramosSinTocarQuedanComoEstabanEnElFichero) {
   }
 }
 
+// What the file says of a Tramo beside its block, or leaves blank in it, stays too.
+TEST(Sesion, LoQueDependeDeOtroTramoNoCambiaConEl) {
+  ConMuestra b;
+  b.c.fichero->EscribeRegistro(61 + 60, "");  // a width as that of the Tramo before
+  b.c.fichero->Vacia();
+  b.Abre();
+  b.Toma(3);
+  CambiaMarca(b.c, edEnvolvente, true);
+  ASSERT_TRUE(Graba(b.c)) << b.Porque();
+  const double ancho = b.c.version.tramos[1]->datos.B0;
+  EXPECT_EQ(ancho, b.c.version.tramos[0]->datos.B0);
+  b.Toma(1);
+  b.Teclea(edB0, "3,3");
+  ASSERT_TRUE(Graba(b.c)) << b.Porque();
+  b.Abre();
+  EXPECT_EQ(b.c.version.tramos[0]->datos.B0, 3.3);
+  EXPECT_EQ(b.c.version.tramos[1]->datos.B0, ancho);
+  EXPECT_TRUE(b.c.version.tramos[2]->datos.Envolvente);
+}
+
 // ---- Hand adjustments
 
 // What a Caso is calculated from makes them void, with the save and after a question.
