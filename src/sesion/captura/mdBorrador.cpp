@@ -165,6 +165,9 @@ Versiones ComparaVersiones(const Borrador& b, const Catalogo& textos, const Tabl
     if (b.fichero.empty()) continue;
     try {
       AbreParaMirar(*c, b.fichero);
+      if (c->danos.empty()) continue;
+      v.causa = c->danos.front();
+      NuevaObra(*c);
     } catch (const ErrorFichero& error) {
       v.causa = textos.Compone(error.mensaje());
       NuevaObra(*c);

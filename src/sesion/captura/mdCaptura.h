@@ -92,7 +92,7 @@ struct Captura {
 
   /// The Obra is open for reading: another program has it, its rights forbid writing, or it is
   /// damaged.
-  bool SoloLectura() const { return Danada || (fichero && fichero->SoloLectura()); }
+  bool SoloLectura() const { return !danos.empty() || (fichero && fichero->SoloLectura()); }
   /// There is something that the file does not hold.
   bool EnCambio() const;
   bool EsSI() const { return e.obra.EsSI(); }

@@ -36,7 +36,8 @@ void Vacia(Captura& c) {
   c.enMano = 0;
   c.faltas.clear();
   c.sinAjustes.clear();
-  c.ObraCargada = c.Danada = c.Tecleando = false;
+  c.danos.clear();
+  c.ObraCargada = c.Tecleando = false;
   c.e.obra = Obra{};
   c.e.tramo = Tramo{};
   c.e.obra.RutaApp = carpeta;
@@ -115,7 +116,10 @@ std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanante
       }
     }
     const auto dano = std::ranges::find(leida.danos, posicion, &DanoObra::posicion);
-    if (dano != leida.danos.end()) t.dano = c.textos.Compone(dano->causa);
+    if (dano != leida.danos.end()) {
+      t.dano = c.textos.Compone(dano->causa);
+      t.numero = dano->numero;
+    }
     t.datos.NumeroTramo = static_cast<std::int16_t>(numero);
     tramos.push_back(std::make_shared<TramoEnObra>(std::move(t)));
   }
@@ -124,10 +128,12 @@ std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanante
 
 // What could not be read, told at once.
 void DiDanos(Captura& c, const std::vector<DanoObra>& danos) {
-  c.Danada = !danos.empty();
-  if (!c.Danada) return;
+  if (danos.empty()) return;
   std::string texto = c.textos.Compone(txt::ObraDanada, {c.fichero->Nombre()});
-  for (const auto& dano : danos) texto += "\n" + c.textos.Compone(dano.causa);
+  for (const auto& dano : danos) {
+    c.danos.push_back(c.textos.Compone(dano.causa));
+    texto += "\n" + c.danos.back();
+  }
   c.voz.Muestra(texto, {});
 }
 
@@ -271,7 +277,7 @@ bool GrabaEn(Captura& c, const std::string& nombre, Version v) {
   try {
     auto f = GrabaProyectoComo(nombre, AGrabar(c, v, true), nullptr, c.textos, c.SeparadorDecimal);
     c.fichero.reset();
-    c.Danada = false;
+    c.danos.clear();
     TomaFichero(c, std::move(f));
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);

@@ -127,7 +127,7 @@ Comprobado Comprueba(const Captura& c, const std::vector<int>& ids) {
 std::vector<int> IdsDe(const Version& version) {
   std::vector<int> ids;
   for (const auto& t : version.tramos) {
-    if (!t->numero.empty()) ids.push_back(t->id);
+    if (!t->numero.empty() || !t->dano.empty()) ids.push_back(t->id);
   }
   return ids;
 }
