@@ -77,7 +77,7 @@ struct Captura {
   std::function<void(Paso)> alDarPaso;  // of whoever undoes
   int pasosAbiertos = 0;                // a step within another is a part of it
   bool ObraCargada = false;
-  bool Danada = false;          // not all of the file could be read: it is never written
+  std::vector<std::string> danos;  // what of the file could not be read: it is never written
   bool Tecleando = false;       // a field holds what its rule has not seen yet
   bool LeyendoDatos = false;    // fields are being filled by the program: rules of change are off
   bool AnchoZanjaAuto = false;  // B0 follows De

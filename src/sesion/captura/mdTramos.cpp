@@ -53,6 +53,15 @@ TramoFijo ConNumero(TramoEnObra t, int numero) {
   return std::make_shared<TramoEnObra>(std::move(t));
 }
 
+void MuestraPendientes(Captura& c, const std::vector<TextoPendiente>& pendientes) {
+  for (const auto& p : pendientes) {
+    auto& control = c[p.campo];
+    control.texto = p.texto;
+    control.falta = p.mensaje;
+    control.rehusado = true;
+  }
+}
+
 // A change of the list itself: what is in hand goes into its version first, and is shown anew.
 template <class F>
 void CambiaLista(Captura& c, const F& cambia) {
@@ -86,15 +95,9 @@ void MuestraTodo(Captura& c) {
     Escribe(c, Ed::edTramo, t->numero);
     Escribe(c, Ed::edTramo2, t->numero);
     MuestraTramo(c);
-    for (const auto& p : t->pendientes) {
-      c[p.campo].texto = p.texto;
-      c[p.campo].falta = p.mensaje;
-    }
+    MuestraPendientes(c, t->pendientes);
   }
-  for (const auto& p : c.version.pendientes) {
-    c[p.campo].texto = p.texto;
-    c[p.campo].falta = p.mensaje;
-  }
+  MuestraPendientes(c, c.version.pendientes);
   RenuevaTitulo(c);
   ActualizaMenus(c);
 }

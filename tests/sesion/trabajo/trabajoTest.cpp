@@ -336,6 +336,8 @@ TEST(Trabajo, UnTramoConFaltasSeDiceYLosDemasSeCalculan) {
   o.Elige(2);
   EXPECT_FALSE(EncargaTramo(o.b.c));
   EXPECT_EQ(o.b.voz.foco, Ed::edFck);
+  EXPECT_NE(o.b.c[Ed::edFck].falta, "");
+  EXPECT_FALSE(o.b.c.EnCambio());  // what is shown of the file is no change of it
   o.Elige(1);
   EXPECT_TRUE(EncargaTramo(o.b.c));
   o.b.Teclea(Ed::edAlt1, "0,5");
