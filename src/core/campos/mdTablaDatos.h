@@ -20,7 +20,7 @@ inline constexpr Paginas kPaginaResistencias{1, 1, 1};
 inline constexpr Paginas kPaginaTensiones{1, 1, 2};
 inline constexpr Paginas kPaginaCoeficientes{1, 1, 3};
 inline constexpr Paginas kPaginaColocacion{2};
-inline constexpr Paginas kPaginaTubo{2, -1, -1, 0};
+inline constexpr Paginas kPaginaTubo{1};
 inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
@@ -33,7 +33,7 @@ inline constexpr auto kDatosObra = std::to_array<Dato<Obra>>({
      {.nombre = "Idioma", .magnitud = Magnitud::Codigo,
       .campo = {.id = Ed::edIdioma, .nombre = "edIdioma", .clase = Clase::Lista,
        .etiqueta = txt::RotIdioma, .rotulo = txt::RotIdioma, .consejo = txt::TipIdioma,
-       .entrada = txt::NombresIdioma[0], .entradas = 5, .entradaDefecto = 1}}},
+       .entrada = txt::IdiomasPropios[0], .entradas = 5, .entradaDefecto = 1}}},
     {&Obra::IdiomaOffset,
      {.nombre = "IdiomaOffset", .magnitud = Magnitud::Codigo, .deSesion = true}},
     {&Obra::SisUnid,

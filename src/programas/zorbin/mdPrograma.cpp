@@ -24,6 +24,7 @@
 #include "shell/impresion/frImpresoras.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdTema.h"
 #include "shell/principal/mdArranque.h"
 #include "shell/resultados/mdCalculos.h"
 
@@ -59,6 +60,7 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon)
       documentos_(DocumentosDelPrograma(textos_, RutaDocumento)),
       entorno_{textos_, tablas_, *preferencias_, impresora_, SeparadorDeLaMaquina()},
       voz_(textos_, *preferencias_) {
+  PonTema(static_cast<Tema>(preferencias_->Tema()));
   EligeIdioma();
   LeeLasTablas();
   estado_.obra.RutaApp = (CarpetaRecursos() / "").string();

@@ -252,13 +252,10 @@ void AvisosDeTabla(const Captura& c, std::vector<AvisoDeCampo>& avisos) {
   }
 }
 
-// Whether all the tabs that a field stands on show it.
+// Whether the page in front shows a field.
 bool Delante(const Paginas& delante, const Paginas& pagina) {
-  const auto cabe = [](int pedida, int puesta) { return pedida < 0 || pedida == puesta; };
   return pagina.TabPrincipal == delante.TabPrincipal &&
-         cabe(pagina.TabTipologia, delante.TabTipologia) &&
-         cabe(pagina.TabPostesados, delante.TabPostesados) &&
-         cabe(pagina.TabDatosColocacion, delante.TabDatosColocacion);
+         (pagina.TabTipologia < 0 || pagina.TabTipologia == delante.TabTipologia);
 }
 
 }  // namespace

@@ -139,6 +139,15 @@ void Preferencias::PonCopias(int copias) {
   Guarda();
 }
 
+int Preferencias::Tema() const {
+  return std::clamp(usuario_.Valor(QStringLiteral("Ver/Tema"), 0).toInt(), 0, 2);
+}
+
+void Preferencias::PonTema(int tema) {
+  usuario_.Pon(QStringLiteral("Ver/Tema"), tema);
+  Guarda();
+}
+
 bool Preferencias::NuevaEnSI() const {
   return usuario_.Valor(QStringLiteral("Obras/NuevaEnSI"), true).toBool();
 }

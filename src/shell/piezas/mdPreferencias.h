@@ -55,6 +55,10 @@ class Preferencias {
   int Copias() const;
   void PonCopias(int copias);
 
+  /// Colours: 0 as the system, 1 light, 2 dark.
+  int Tema() const;
+  void PonTema(int tema);
+
   /// Units of a new Obra.
   bool NuevaEnSI() const;
   void PonNuevaEnSI(bool si);

@@ -33,6 +33,7 @@
 #include "shell/piezas/mdRotuloCorto.h"
 #include "shell/principal/mdAvisoEstado.h"
 #include "shell/principal/mdHistoria.h"
+#include "shell/principal/mdMenuVer.h"
 #include "shell/principal/mdPaginaInicio.h"
 
 namespace zorbin {
@@ -152,6 +153,8 @@ void FormaPrincipal::CreaMenus() {
   salir->setMenuRole(QAction::QuitRole);
   CreaMenuEdicion();
   CreaMenuTramos();
+  ver_ = new MenuVer(*NuevoMenu(txt::MenuVer), c_.textos, entorno_.preferencias);
+  connect(ver_, &MenuVer::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   auto* otras = NuevoMenu(txt::MenuOtras);
   NuevaAccion(*otras, txt::MenuHidraulico, {}, [this] {
     pantallas_.hidraulico();
@@ -196,8 +199,7 @@ void FormaPrincipal::CreaMenuTramos() {
   NuevaAccion(*tramos, Orden::mnBajaTramos, txt::MenuBajar, Qt::CTRL | Qt::Key_Down);
   NuevaAccion(*tramos, Orden::mnCopiaTramos, txt::MenuCopiarTramos,
               Qt::CTRL | Qt::SHIFT | Qt::Key_C);
-  NuevaAccion(*tramos, Orden::mnPegaTramos, txt::MenuPegarTramos,
-              Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  NuevaAccion(*tramos, Orden::mnPegaTramos, txt::MenuPegarTramos, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   tramos->addSeparator();
   NuevaAccion(*tramos, Orden::mnCancelar, txt::BotonReleer, {});
   NuevaAccion(*tramos, Orden::mnCalculaTramo, txt::MenuCalcula, Qt::Key_F9);
@@ -333,10 +335,20 @@ void FormaPrincipal::AplicaIdioma() {
   }
   barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
   inicio_->Renueva();
+  ver_->Renueva();
   marcoTramos_->setWindowTitle(Rotulo(c_.textos.Texto(txt::MenuTramos)));
   panel_->RenuevaTextos();
   if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
   Actualiza();
+}
+
+// The screen speaks it at once; the paper goes on in the language of the Obra.
+void FormaPrincipal::PonIdioma(int idioma) {
+  Protege([this, idioma] {
+    const auto cambia = [this, idioma] { CambiaIdioma(c_, static_cast<std::int16_t>(idioma)); };
+    captura_ != nullptr ? static_cast<void>(captura_->Hace(cambia)) : cambia();
+    entorno_.preferencias.GrabaIdioma(idioma);
+  });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -379,7 +391,7 @@ void FormaPrincipal::ActualizaHistoria() {
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
-  return Q(c_.textos.Texto(txt::NombresIdioma[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
+  return Q(c_.textos.Texto(txt::IdiomasPropios[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
 }
 
 QString FormaPrincipal::NombreDeObra() const {
@@ -573,8 +585,8 @@ void FormaPrincipal::Pega() {
     texto += "\n" + pegado.faltas[i];
   }
   if (pegado.faltas.size() > kDichas) {
-    texto += "\n" + c_.textos.Compone(txt::FallosDeMas,
-                                      {std::to_string(pegado.faltas.size() - kDichas)});
+    texto += "\n" +
+             c_.textos.Compone(txt::FallosDeMas, {std::to_string(pegado.faltas.size() - kDichas)});
   }
   Avisa(this, c_.textos, Q(texto));
 }

@@ -27,6 +27,7 @@ class AvisoEstado;
 class Historia;
 class PanelTramos;
 class CapturaDatos;
+class MenuVer;
 class PaginaInicio;
 
 /// Screens that the window opens and does not make. Each runs to its end, or shows a window of its
@@ -109,6 +110,7 @@ class FormaPrincipal : public QMainWindow {
   std::vector<Menu> menus_;
   std::vector<Entrada> entradas_;
   std::map<Orden, QAction*> acciones_;
+  MenuVer* ver_ = nullptr;
   AvisoEstado* aviso_ = nullptr;
   Historia* historia_ = nullptr;
   PanelTramos* panel_ = nullptr;
@@ -126,6 +128,7 @@ class FormaPrincipal : public QMainWindow {
   void CreaMenus();
   void CreaMenuEdicion();
   void CreaMenuTramos();
+  void PonIdioma(int idioma);
   void CreaPanelTramos();
   void CreaBarra();
   void CreaEstado();
