@@ -82,6 +82,18 @@ std::vector<EntradaAjuste> LosDe(const std::vector<EntradaAjuste>& ajustes, int 
   return suyos;
 }
 
+// Those of numbers that no Tramo has. A save keeps them: who knows what they are for.
+std::vector<EntradaAjuste> Sueltos(const std::vector<EntradaAjuste>& ajustes,
+                                   const ListaTramos& lista) {
+  std::vector<EntradaAjuste> sueltos;
+  std::ranges::copy_if(ajustes, std::back_inserter(sueltos), [&](const EntradaAjuste& x) {
+    return !x.Libre() && std::ranges::none_of(lista, [&](const std::string& numero) {
+      return !numero.empty() && NumeroDe(numero) == static_cast<int>(Redondea(x.Tramo));
+    });
+  });
+  return sueltos;
+}
+
 // Whether the file is still the same. What can't be read has the mark of nothing.
 std::uint64_t HuellaDeTodo(const Captura& c) {
   std::uint64_t huella = HuellaDe(*c.fichero, 0);
@@ -147,6 +159,7 @@ void LeeTodo(Captura& c) {
     c.voz.Anuncia(c.textos.Compone(aviso));
   }
   c.version.extras = std::move(suyos.extras);
+  c.version.ajustesSueltos = Sueltos(suyos.ajustes, leida.lista);
   c.huella = HuellaDeTodo(c);
   c.ObraCargada = true;
   DiDanos(c, leida.danos);
@@ -236,6 +249,9 @@ ProyectoAGrabar AGrabar(const Captura& c, const Version& v, bool todos) {
     p.tramos.push_back({t.numero, t.datos, t.extras, !todos && EstaEnElFichero(c, v, i)});
     p.ajustes.insert(p.ajustes.end(), t.ajustes.begin(), t.ajustes.end());
   }
+  // A number that was taken since means another pipe.
+  const auto sueltos = Sueltos(v.ajustesSueltos, ListaDe(v));
+  p.ajustes.insert(p.ajustes.end(), sueltos.begin(), sueltos.end());
   return p;
 }
 

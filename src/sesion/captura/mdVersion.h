@@ -54,6 +54,7 @@ struct Version {
   std::vector<TramoFijo> tramos;
   std::vector<TextoPendiente> pendientes;  // of the fields of the Obra
   Extras extras;                           // beside the file, and of no Tramo
+  std::vector<EntradaAjuste> ajustesSueltos;  // of numbers that no Tramo has
 
   bool operator==(const Version& otra) const;
 };
