@@ -7,15 +7,14 @@
 #include <vector>
 
 #include "sesion/captura/mdTramos.h"
+#include "shell/captura/mdPintorTramo.h"
 
 class QLineEdit;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace zorbin {
-
-/// What a calculation said last of a Tramo.
-enum class EstadoTramo { SinCalcular, Cumple, NoCumple, Falla };
 
 class PanelTramos : public QWidget {
   Q_OBJECT
@@ -36,15 +35,22 @@ class PanelTramos : public QWidget {
 
  signals:
   void tramoPedido(int id);
+  /// Keys pressed in the list.
+  void borradoPedido();
+  void numeroPedido();
 
  private:
   const Captura& c_;
   QLineEdit* busca_;
+  QToolButton* ordena_;
   QTreeWidget* lista_;
   std::map<int, EstadoTramo> estados_;
   std::vector<RenglonTramo> puestos_;
   bool refrescando_ = false;
 
+  void CreaLista();
+  void CreaOrden();
+  void OrdenaPor(int columna);
   void Filtra();
   void Pon(QTreeWidgetItem& fila, const RenglonTramo& r);
   void MarcaEnMano();

@@ -221,6 +221,8 @@ void FormaPrincipal::CreaPanelTramos() {
   marcoTramos_->setWidget(panel_);
   addDockWidget(Qt::LeftDockWidgetArea, marcoTramos_);
   marcoTramos_->hide();
+  connect(panel_, &PanelTramos::borradoPedido, this, [this] { Ejecuta(Orden::mnBorraTramos); });
+  connect(panel_, &PanelTramos::numeroPedido, this, [this] { Ejecuta(Orden::mnRenumeraTramo); });
   connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
     captura().Hace([this, id] {
       PonEnMano(c_, id);
