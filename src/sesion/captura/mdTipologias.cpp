@@ -131,6 +131,20 @@ void Pide(Captura& c, Ed campo, bool pedido) {
   pedido ? Enciende(c, campo) : Apaga(c, campo);
 }
 
+// Some typologies have no picture of their own, and none of another.
+std::string FiguraDeTubo(const Captura& c) {
+  switch (c.e.tramo.Tipologia) {
+    case kArmada:
+      return Texto(c, txt::FiguraTubo2110);
+    case kEmbebida:
+      return Texto(c, txt::FiguraTubo2211);
+    case kRevestida:
+      return Texto(c, txt::FiguraTubo2221);
+    default:
+      return {};
+  }
+}
+
 void RellenaB0(Captura& c) {
   if (!EnBlanco(c, Ed::edB0) || EnBlanco(c, Ed::edDi0)) return;
   c.e.tramo.B0 = AnchoAutomatico(c);
@@ -266,10 +280,7 @@ void RenuevaFiguras(Captura& c) {
   const int primera =
       t.TipoCuna == 2 ? txt::FigurasColocacionHormigon[0] : txt::FigurasColocacionGranular[0];
   c.pantalla.figuraColocacion = Texto(c, primera + t.TipoColocacion);
-  const int opcion = c[Ed::rdTipoCamisa].opcion;
-  c.pantalla.figuraTubo = Texto(c, opcion == 0   ? txt::FiguraTubo2211
-                                   : opcion == 1 ? txt::FiguraTubo2221
-                                                 : txt::FiguraTubo2110);
+  c.pantalla.figuraTubo = FiguraDeTubo(c);
 }
 
 void BloqueosObra(Captura& c) {

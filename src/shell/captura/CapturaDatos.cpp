@@ -333,7 +333,7 @@ Aspecto CapturaDatos::AspectoDe(Ed campo) const {
   aspecto.porque = PorqueDe(aspecto.marca, campo);
   const auto& control = c_[campo];
   aspecto.unidad = Q(UnidadEscrita(campo, c_.EsSI()));
-  aspecto.rotulo = Q(aspecto.unidad.isEmpty() ? control.etiqueta : SinUnidad(control.etiqueta));
+  aspecto.rotulo = Q(SinUnidad(control.etiqueta));
   if (control.texto.empty()) aspecto.enBlanco = Q(ValorEnBlanco(c_, campo));
   return aspecto;
 }

@@ -78,6 +78,7 @@ CampoPantalla::CampoPantalla(Ed id, const Catalogo& textos, QWidget* padre)
   nota_->setObjectName(QStringLiteral("nt") + Q(fila.nombre.substr(2)));
   nota_->setTextFormat(Qt::PlainText);
   nota_->setWordWrap(true);
+  nota_->setForegroundRole(QPalette::WindowText);
   nota_->hide();
 }
 

@@ -76,6 +76,7 @@ void PaginasCaptura::Refresca(const Captura& c) {
   for (auto* tarjeta : armado_) tarjeta->setVisible(!postesado);
   for (auto* tarjeta : postesado_) tarjeta->setVisible(postesado);
   RefrescaFigura(*ptPostesado_, p.figuraTubo);
+  ptPostesado_->parentWidget()->setVisible(!p.figuraTubo.empty());
   RefrescaFigura(*ptColocacion_, p.figuraColocacion);
 }
 

@@ -19,6 +19,8 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include "base/mdCarpetas.h"
+#include "base/mdNumeros.h"
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -42,6 +44,7 @@ namespace {
 
 const QString kNombreVentana = QStringLiteral("FormaPrincipal");
 constexpr int kSinRuta = 0;
+constexpr char kMuestra[] = "acequia.zrb";
 
 // Letters that the tabs of the capture answer to, in capitals: the menus take others.
 QString LetrasDePestanas(const Catalogo& textos) {
@@ -75,6 +78,11 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
   connect(inicio_, &PaginaInicio::nuevaPedida, this, &FormaPrincipal::Nueva);
   connect(inicio_, &PaginaInicio::abrirPedido, this, &FormaPrincipal::AbreConDialogo);
   connect(inicio_, &PaginaInicio::obraPedida, this, &FormaPrincipal::Abre);
+  connect(inicio_, &PaginaInicio::muestraPedida, this,
+          [this] { Protege([this] { AbreMuestra(); }); });
+  connect(inicio_, &PaginaInicio::advertenciaPedida, this,
+          [this] { Protege([this] { pantallas_.advertencia(); }); });
+  connect(inicio_, &PaginaInicio::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   historia_ = new Historia(c_, [this](const std::function<void()>& hace) {
     captura().Hace(hace);
     Actualiza();
@@ -221,6 +229,8 @@ void FormaPrincipal::CreaPanelTramos() {
   marcoTramos_->setWidget(panel_);
   addDockWidget(Qt::LeftDockWidgetArea, marcoTramos_);
   marcoTramos_->hide();
+  connect(panel_, &PanelTramos::borradoPedido, this, [this] { Ejecuta(Orden::mnBorraTramos); });
+  connect(panel_, &PanelTramos::numeroPedido, this, [this] { Ejecuta(Orden::mnRenumeraTramo); });
   connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
     // Whoever goes down the list by its keys stays in it.
     const bool enLaLista = panel_->isAncestorOf(QApplication::focusWidget());
@@ -345,7 +355,11 @@ void FormaPrincipal::AplicaIdioma() {
 // The screen speaks it at once; the paper goes on in the language of the Obra.
 void FormaPrincipal::PonIdioma(int idioma) {
   Protege([this, idioma] {
-    const auto cambia = [this, idioma] { CambiaIdioma(c_, static_cast<std::int16_t>(idioma)); };
+    const auto cambia = [this, idioma] {
+      CambiaIdioma(c_, static_cast<std::int16_t>(idioma));
+      c_.SeparadorDecimal = SeparadorDeIdioma(idioma);
+      if (c_.ObraCargada) MuestraTodo(c_);
+    };
     captura_ != nullptr ? static_cast<void>(captura_->Hace(cambia)) : cambia();
     entorno_.preferencias.GrabaIdioma(idioma);
   });
@@ -642,6 +656,20 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   ActualizaRecientes();
   Actualiza();
   return abierta;
+}
+
+// It stays as it is: what is made of it is saved under another name.
+void FormaPrincipal::AbreMuestra() {
+  if (!DejaLaObra()) return;
+  aviso_->Vacia();
+  captura().Hace([this] { AbreParaMirar(c_, RutaMuestra(kMuestra)); }, true);
+  historia_->Olvida();
+  panel_->OlvidaEstados();
+  if (!c_.version.tramos.empty()) PonEnMano(c_, c_.version.tramos.front()->id);
+}
+
+void FormaPrincipal::RenuevaInicio() {
+  inicio_->Renueva();
 }
 
 bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {

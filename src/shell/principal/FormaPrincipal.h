@@ -70,6 +70,9 @@ class FormaPrincipal : public QMainWindow {
   CapturaDatos& captura();
   QAction* accion(Orden orden) const { return acciones_.at(orden); }
 
+  /// The page of the start as the settings have it.
+  void RenuevaInicio();
+
   /// All texts in the language in force.
   void AplicaIdioma();
 
@@ -148,6 +151,7 @@ class FormaPrincipal : public QMainWindow {
   void Pega();
   void ActualizaHistoria();
   bool AbreFichero(const QString& ruta);
+  void AbreMuestra();
   void Actualiza();
   void ActualizaEstado();
   QString NombreDeObra() const;
