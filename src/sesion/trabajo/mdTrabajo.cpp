@@ -42,14 +42,33 @@ Encargo EncargoVacio(const Captura& c) {
   encargo.textos = c.textos;
   encargo.textos.PonIdioma(c.e.obra.Idioma);
   encargo.estilo = {c.EsSI(), c.SeparadorDecimal};
-  encargo.fichero = c.fichero ? c.fichero->ruta().filename().string()
-                              : Texto(c, txt::ObraSinNombre);
+  encargo.fichero =
+      c.fichero ? c.fichero->ruta().filename().string() : Texto(c, txt::ObraSinNombre);
   return encargo;
 }
 
 // Calculating is asked of an Obra that has a file: its listings name it.
 bool TieneFichero(Captura& c) {
   return c.fichero || Graba(c);
+}
+
+// What was checked and complies, and what was not.
+void LlenaEncargo(Encargo& encargo, const Captura& c, const Comprobado& comprobado,
+                  const std::vector<int>& ids) {
+  encargo.sinAjustes = c.sinAjustes;
+  const auto& v = comprobado.version;
+  for (const auto& t : v.tramos) {
+    if (std::ranges::find(ids, t->id) == ids.end()) continue;
+    if (!comprobado.Vale(t->id)) {
+      const auto falta = std::ranges::find_if(
+          comprobado.faltas, [&](const Falta& f) { return f.tramo == 0 || f.tramo == t->id; });
+      encargo.rechazados.push_back(
+          c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
+      continue;
+    }
+    encargo.tramos.push_back(
+        {DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero, t->id});
+  }
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -107,18 +126,7 @@ std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
   }
   if (!TieneFichero(c)) return std::nullopt;
   Encargo encargo = EncargoVacio(c);
-  encargo.sinAjustes = c.sinAjustes;
-  const auto& v = comprobado.version;
-  for (const auto& t : v.tramos) {
-    if (std::ranges::find(ids, t->id) == ids.end()) continue;
-    if (!comprobado.Vale(t->id)) {
-      const auto falta = std::ranges::find(comprobado.faltas, t->id, &Falta::tramo);
-      encargo.rechazados.push_back(
-          c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
-      continue;
-    }
-    encargo.tramos.push_back({DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
-  }
+  LlenaEncargo(encargo, c, comprobado, ids);
   return encargo;
 }
 
@@ -135,6 +143,14 @@ std::optional<Encargo> EncargaObra(Captura& c) {
     return std::nullopt;
   }
   return EncargaTramos(c, ids);
+}
+
+Encargo EncargaParaVer(const Captura& c) {
+  Encargo encargo = EncargoVacio(c);
+  encargo.textos = c.textos;
+  const auto ids = IdsDe(c.version);
+  LlenaEncargo(encargo, c, Comprueba(c, ids), ids);
+  return encargo;
 }
 
 bool Calculo::HayPostesado() const {
@@ -167,11 +183,12 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
     avance.casos = a.casos;
     return !sigue || sigue(avance);
   };
-  for (const auto& [datos, numero] : encargo.tramos) {
+  for (const auto& [datos, numero, id] : encargo.tramos) {
     avance.posicion = static_cast<int>(calculo.tramos.size()) + 1;
     avance.tramo = datos.tramo.NumeroTramo;
     calculo.tramos.push_back(CalculaTramo(datos, RangoDe(datos), pregunta, &log.registro()));
     calculo.numeros.push_back(numero);
+    calculo.ids.push_back(id);
     calculo.fallos.push_back(Fallo(calculo.tramos.back(), numero, encargo));
     if (!calculo.tramos.back().cancelado) continue;
     Cancela(calculo, avance);

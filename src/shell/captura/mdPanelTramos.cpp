@@ -5,6 +5,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "base/textos.h"
 #include "shell/piezas/mdIconos.h"
@@ -83,7 +84,7 @@ void PanelTramos::PonAcciones(const QList<QAction*>& acciones) {
 }
 
 void PanelTramos::PonEstado(int id, EstadoTramo estado) {
-  estados_[id] = estado;
+  if (std::exchange(estados_[id], estado) == estado) return;
   puestos_.clear();
   Refresca();
 }

@@ -152,6 +152,13 @@ void FormaPrincipal::CreaMenus() {
   salir->setMenuRole(QAction::QuitRole);
   CreaMenuEdicion();
   CreaMenuTramos();
+  auto* resultados = NuevoMenu(txt::MenuResultados);
+  NuevaAccion(*resultados, txt::MenuTablaResultados, Qt::Key_F10, [this] {
+    LanzaPantalla(pantallas_.resultados, false);
+  })->setObjectName(QStringLiteral("mnResultados"));
+  NuevaAccion(*resultados, txt::MenuDiseno, Qt::Key_F8, [this] {
+    pantallas_.diseno();
+  })->setObjectName(QStringLiteral("mnDiseno"));
   auto* otras = NuevoMenu(txt::MenuOtras);
   NuevaAccion(*otras, txt::MenuHidraulico, {}, [this] {
     pantallas_.hidraulico();
