@@ -70,23 +70,24 @@ void PanelDiseno::CreaPiezas() {
   insignia_->setObjectName(QStringLiteral("disVeredicto"));
   pesimo_ = new QPushButton(cuerpo_);
   pesimo_->setObjectName(QStringLiteral("btPesimo"));
-  seccion_ = new VistaLamina(entorno_, {150, 190}, cuerpo_);
-  anillo_ = new VistaLamina(entorno_, {150, 230}, cuerpo_);
+  seccion_ = new VistaLamina(entorno_, {120, 200}, cuerpo_);
+  pared_ = new VistaLamina(entorno_, {150, 200}, cuerpo_);
+  anillo_ = new VistaLamina(entorno_, {150, 210}, cuerpo_);
   comboHipotesis_ = new QComboBox(cuerpo_);
   comboHipotesis_->setObjectName(QStringLiteral("cbHipotesis"));
   acero_ = new TablaCorta(cuerpo_);
   rotuloBarras_ = Rotulado("disRotuloBarras", cuerpo_);
   PonLetra(*rotuloBarras_, 1.0, true);
   barras_ = new Barras(cuerpo_);
-  tensiones_ = new VistaLamina(entorno_, {150, 230}, cuerpo_);
+  tensiones_ = new VistaLamina(entorno_, {150, 220}, cuerpo_);
   postesado_ = new TablaCorta(cuerpo_);
   rotuloMapa_ = Rotulado("disRotuloMapa", cuerpo_);
   PonLetra(*rotuloMapa_, 1.0, true);
-  mapa_ = new VistaLamina(entorno_, {150, 300}, cuerpo_);
+  mapa_ = new VistaLamina(entorno_, {150, 290}, cuerpo_);
   mapa_->setObjectName(QStringLiteral("disMapa"));
   punto_ = Rotulado("disPunto", cuerpo_);
   avisos_ = Rotulado("disAvisos", cuerpo_);
-  for (auto* vista : {seccion_, anillo_, tensiones_, mapa_}) vista->DejaLaRueda();
+  for (auto* vista : Dibujos()) vista->DejaLaRueda();
 }
 
 void PanelDiseno::Coloca() {
@@ -94,29 +95,34 @@ void PanelDiseno::Coloca() {
   cabeza->addWidget(titulo_, 1);
   cabeza->addWidget(pesimo_);
   cabeza->addWidget(insignia_, 0, Qt::AlignTop);
+  auto* tubo = new QWidget(cuerpo_);
+  auto* deTubo = new QHBoxLayout(tubo);
+  deTubo->setContentsMargins(0, 0, 0, 0);
+  deTubo->setSpacing(0);
+  deTubo->addWidget(seccion_, 2);
+  deTubo->addWidget(pared_, 3);
   auto* filas = new QVBoxLayout(cuerpo_);
   filas->setSpacing(6);
   filas->addLayout(cabeza);
   for (QWidget* w : {static_cast<QWidget*>(presiones_), static_cast<QWidget*>(rige_),
-                     static_cast<QWidget*>(motivo_), static_cast<QWidget*>(avisos_),
-                     static_cast<QWidget*>(seccion_), static_cast<QWidget*>(acero_),
-                     static_cast<QWidget*>(rotuloBarras_), static_cast<QWidget*>(barras_),
-                     static_cast<QWidget*>(comboHipotesis_), static_cast<QWidget*>(anillo_),
-                     static_cast<QWidget*>(tensiones_), static_cast<QWidget*>(postesado_),
-                     static_cast<QWidget*>(rotuloMapa_), static_cast<QWidget*>(mapa_),
-                     static_cast<QWidget*>(punto_)}) {
+                     static_cast<QWidget*>(motivo_), static_cast<QWidget*>(avisos_), tubo,
+                     static_cast<QWidget*>(acero_), static_cast<QWidget*>(rotuloBarras_),
+                     static_cast<QWidget*>(barras_), static_cast<QWidget*>(comboHipotesis_),
+                     static_cast<QWidget*>(anillo_), static_cast<QWidget*>(tensiones_),
+                     static_cast<QWidget*>(postesado_), static_cast<QWidget*>(rotuloMapa_),
+                     static_cast<QWidget*>(mapa_), static_cast<QWidget*>(punto_)}) {
     filas->addWidget(w);
   }
   filas->addStretch();
-  auto* vista = new QScrollArea(this);
-  vista->setWidgetResizable(true);
-  vista->setFrameShape(QFrame::NoFrame);
-  vista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  vista->setWidget(cuerpo_);
+  vista_ = new QScrollArea(this);
+  vista_->setWidgetResizable(true);
+  vista_->setFrameShape(QFrame::NoFrame);
+  vista_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  vista_->setWidget(cuerpo_);
   auto* todo = new QVBoxLayout(this);
   todo->setContentsMargins(0, 0, 0, 0);
   todo->addWidget(aviso_);
-  todo->addWidget(vista, 1);
+  todo->addWidget(vista_, 1);
   aviso_->setMargin(8);
   aviso_->setAutoFillBackground(true);
   aviso_->setBackgroundRole(QPalette::ToolTipBase);
@@ -295,7 +301,7 @@ void PanelDiseno::PonAtraso(bool atrasado, const QString& reparo) {
                      static_cast<QWidget*>(motivo_), static_cast<QWidget*>(avisos_)}) {
     w->setEnabled(!atrasado);
   }
-  for (auto* vista : {seccion_, anillo_, tensiones_, mapa_}) vista->PonAtrasada(atrasado);
+  for (auto* vista : Dibujos()) vista->PonAtrasada(atrasado);
 }
 
 int PanelDiseno::Hipotesis() const {
@@ -307,9 +313,9 @@ int PanelDiseno::Hipotesis() const {
 
 void PanelDiseno::Muestra() {
   const bool hay = mostrado_ && mostrado_->caso != nullptr;
-  cuerpo_->setVisible(hay);
+  vista_->setVisible(hay);
   if (!hay) {
-    for (auto* vista : {seccion_, anillo_, tensiones_, mapa_}) vista->Pon({});
+    for (auto* vista : Dibujos()) vista->Pon({});
     return;
   }
   const auto caso = mostrado_->caso->Dibujado();
@@ -423,7 +429,10 @@ void PanelDiseno::MuestraDibujos() {
   const auto w = Palabras();
   const auto caso = mostrado_->caso;
   seccion_->Pon([caso, w](const HojaDibujo& hoja) {
-    return LaminaConEjes{DibujaSeccion(caso->Dibujado(), w, hoja), {}};
+    return LaminaConEjes{DibujaTransversal(caso->Dibujado(), w, hoja), {}};
+  });
+  pared_->Pon([caso, w](const HojaDibujo& hoja) {
+    return LaminaConEjes{DibujaPared(caso->Dibujado(), w, hoja), {}};
   });
 }
 
@@ -434,6 +443,12 @@ void PanelDiseno::MuestraAnillo() {
   const int h = Hipotesis();
   anillo_->Pon([caso, w, h](const HojaDibujo& hoja) {
     return LaminaConEjes{DibujaAnillo(caso->Dibujado(), h, w, hoja), {}};
+  });
+  anillo_->PonCuenta([caso, w, h](const LaminaConEjes&, Xy) {
+    QStringList excesos;
+    const auto anillo = AnilloDe(caso->tramo, caso->fila, caso->caso, h);
+    for (const auto& texto : TextoExcesos(anillo, w)) excesos += Q(texto);
+    return excesos.join('\n');
   });
   if (caso->caso.EsArmado()) return;
   tensiones_->Pon([caso, w, h](const HojaDibujo& hoja) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -16,6 +17,7 @@
 class QComboBox;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 
 namespace zorbin {
 
@@ -41,6 +43,7 @@ class PanelDiseno : public QWidget {
   const std::optional<Diseno>& mostrado() const { return mostrado_; }
   const QString& reparo() const { return reparo_; }
   bool Atrasado() const { return atrasado_; }
+  QSize sizeHint() const override { return {440, 700}; }
   VistaLamina& mapa() { return *mapa_; }
 
  public slots:
@@ -78,6 +81,7 @@ class PanelDiseno : public QWidget {
   Insignia* insignia_;
   QPushButton* pesimo_;
   VistaLamina* seccion_;
+  VistaLamina* pared_;
   VistaLamina* anillo_;
   QComboBox* comboHipotesis_;
   TablaCorta* acero_;
@@ -90,11 +94,15 @@ class PanelDiseno : public QWidget {
   QLabel* punto_;
   QLabel* avisos_;
   QWidget* cuerpo_;
+  QScrollArea* vista_;
 
   UltimaFaena faena_;  // ends before what it tells
 
   PalabrasDibujo Palabras() const;
   int Hipotesis() const;
+  std::array<VistaLamina*, 5> Dibujos() const {
+    return {seccion_, pared_, anillo_, tensiones_, mapa_};
+  }
   void CreaPiezas();
   void Coloca();
   void Enlaza();

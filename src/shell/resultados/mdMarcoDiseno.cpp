@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QMainWindow>
+#include <QTimer>
 
 #include "base/textos.h"
 #include "shell/piezas/mdQt.h"
@@ -20,7 +21,7 @@ MarcoDiseno::MarcoDiseno(const Entorno& entorno, QMainWindow& ventana, QWidget* 
   setWidget(panel);
   setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
   ventana.addDockWidget(Qt::RightDockWidgetArea, this);
-  if (!ventana.restoreDockWidget(this)) ventana.resizeDocks({this}, {kAncho}, Qt::Horizontal);
+  sinAncho_ = !ventana.restoreDockWidget(this);
   hide();
   ventana.installEventFilter(this);
   RenuevaTextos();
@@ -55,6 +56,9 @@ void MarcoDiseno::Alterna() {
 
 void MarcoDiseno::Aplica() {
   setVisible(hayObra_ && LoQuiere());
+  if (!isVisible() || !sinAncho_) return;
+  sinAncho_ = false;
+  QTimer::singleShot(0, this, [this] { ventana_.resizeDocks({this}, {kAncho}, Qt::Horizontal); });
 }
 
 void MarcoDiseno::closeEvent(QCloseEvent* suceso) {

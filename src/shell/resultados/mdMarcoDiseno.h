@@ -35,6 +35,7 @@ class MarcoDiseno : public QDockWidget {
   QMainWindow& ventana_;
   bool hayObra_ = false;
   bool conSitio_ = false;
+  bool sinAncho_ = false;  // nobody has given it one
 
   QString Clave() const;
   bool LoQuiere() const;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 #include "shell/resultados/mdVistaLamina.h"
@@ -15,8 +16,16 @@ constexpr int kMargen = 8;
 constexpr QColor kSinComprobarClaro(0x8a, 0x5a, 0x00);
 constexpr QColor kSinComprobarOscuro(0xf0, 0xb4, 0x4c);
 
-QColor Qt_(Color c) {
+QColor DeTinta(Color c) {
   return {c.r, c.g, c.b};
+}
+
+// Takes what does not fit from the widest.
+void Encoge(std::vector<int>& anchos, int caben) {
+  if (anchos.empty()) return;
+  const int sobra = std::accumulate(anchos.begin(), anchos.end(), 0) - caben;
+  auto& mayor = *std::ranges::max_element(anchos);
+  if (sobra > 0) mayor = std::max(mayor / 4, mayor - sobra);
 }
 
 QFont Negrita(QFont fuente) {
@@ -34,8 +43,8 @@ QColor Tenue(const QPalette& colores) {
 
 QColor ColorVeredicto(Veredicto veredicto, const QPalette& colores) {
   const auto paleta = PaletaDe(colores);
-  if (veredicto == Veredicto::Cumple) return Qt_(paleta.De(Tinta::Cumple));
-  if (veredicto == Veredicto::NoCumple) return Qt_(paleta.De(Tinta::NoCumple));
+  if (veredicto == Veredicto::Cumple) return DeTinta(paleta.De(Tinta::Cumple));
+  if (veredicto == Veredicto::NoCumple) return DeTinta(paleta.De(Tinta::NoCumple));
   const bool oscuro = colores.color(QPalette::Base).lightnessF() < 0.5;
   return oscuro ? kSinComprobarOscuro : kSinComprobarClaro;
 }
@@ -115,7 +124,8 @@ std::vector<int> TablaCorta::Anchos() const {
 
 void TablaCorta::paintEvent(QPaintEvent*) {
   QPainter p(this);
-  const auto anchos = Anchos();
+  auto anchos = Anchos();
+  Encoge(anchos, width() - 2 * kMargen * static_cast<int>(anchos.size()));
   int y = 0;
   for (std::size_t k = 0; k < filas_.size(); ++k, y += AltoFila()) {
     const auto& f = filas_[k];
@@ -126,7 +136,9 @@ void TablaCorta::paintEvent(QPaintEvent*) {
     int derecha = width() - 2;
     for (std::size_t i = f.celdas.size(); i-- > 0;) {
       const bool primera = i == 0;
-      const int izquierda = primera ? 2 : std::max(2, derecha - anchos[i]);
+      const bool sola = f.celdas.size() == 2;  // beside a name, which takes what is left
+      const int ancho = sola ? p.fontMetrics().horizontalAdvance(f.celdas[i]) + 1 : anchos[i];
+      const int izquierda = primera ? 2 : std::max(2, derecha - ancho);
       const QRect celda(izquierda, y, std::max(0, derecha - izquierda), AltoFila());
       const QString texto = p.fontMetrics().elidedText(f.celdas[i], Qt::ElideRight, celda.width());
       p.drawText(celda, Qt::AlignVCenter | (primera ? Qt::AlignLeft : Qt::AlignRight), texto);
@@ -178,7 +190,7 @@ void Barras::paintEvent(QPaintEvent*) {
                p.fontMetrics().elidedText(b.nombre, Qt::ElideRight, nombre));
     p.drawText(fila, Qt::AlignVCenter | Qt::AlignRight, b.texto);
     const auto tinta = b.pasa ? Tinta::NoCumple : b.destacada ? Tinta::Acento : Tinta::Serie1;
-    QColor color = Qt_(paleta.De(tinta));
+    QColor color = DeTinta(paleta.De(tinta));
     if (!b.destacada && !b.pasa) color.setAlphaF(0.55F);
     p.setPen(Qt::NoPen);
     p.setBrush(color);

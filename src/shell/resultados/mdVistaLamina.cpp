@@ -25,7 +25,8 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kLetraIgual = 3.1;  // of the drawings that is as large as the letter of the window [mm]
+constexpr double kLetraIgual =
+    3.1;  // of the drawings that is as large as the letter of the window [mm]
 constexpr double kOpacidadAtrasada = 0.32;
 constexpr double kMayorAumento = 12.0;
 constexpr double kPasoRueda = 1.2;
