@@ -35,6 +35,7 @@ class PalabrasDibujo {
   PalabrasDibujo(const Catalogo& textos, EstiloNumeros estilo) : textos_(textos), estilo_(estilo) {}
 
   const EstiloNumeros& Estilo() const { return estilo_; }
+  const Catalogo& Textos() const { return textos_; }
   const std::string& T(int n) const { return textos_.Texto(n); }
   std::string Con(int n, const std::vector<std::string>& datos) const {
     return textos_.Compone(n, datos);

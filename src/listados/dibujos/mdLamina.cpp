@@ -50,7 +50,7 @@ bool Toca(const Redondo& c, Xy p, double margen) {
   return c.mancha.fuerza > 0 && d < c.radio && d > c.hueco;
 }
 
-bool Toca(const Rotulo&, Xy, double) {
+bool Toca(const Letrero&, Xy, double) {
   return false;
 }
 
@@ -86,7 +86,7 @@ double AnchoTexto(const std::string& texto, double alto, bool negrita) {
   return ancho * alto * (negrita ? kNegrita : 1.0);
 }
 
-Marco CajaTexto(const Rotulo& r) {
+Marco CajaTexto(const Letrero& r) {
   const double ancho = AnchoTexto(r.texto, r.alto, r.negrita);
   Marco m{r.sitio.x, r.sitio.y, ancho, (kAscenso + kDescenso) * r.alto};
   if (r.anclaX == AnclaX::Centro) m.x -= ancho / 2;

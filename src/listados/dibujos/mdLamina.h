@@ -101,7 +101,7 @@ struct Redondo : Aspecto {
 enum class AnclaX : std::uint8_t { Izquierda, Centro, Derecha };
 enum class AnclaY : std::uint8_t { Base, Medio, Arriba };
 
-struct Rotulo : Aspecto {
+struct Letrero : Aspecto {
   Xy sitio;
   std::string texto;
   double alto = 2.8;  // of the letter, em square [mm]
@@ -112,7 +112,7 @@ struct Rotulo : Aspecto {
   bool halo = false;  // a rim of paper sets it off from what lies under it
 };
 
-using Pieza = std::variant<Forma, Redondo, Rotulo>;
+using Pieza = std::variant<Forma, Redondo, Letrero>;
 
 struct Lamina {
   double ancho = 0, alto = 0;  // [mm]
@@ -129,6 +129,6 @@ int QueHayEn(const Lamina& lamina, Xy sitio, double margen);
 double AnchoTexto(const std::string& texto, double alto, bool negrita = false);
 
 /// Rectangle that a text covers, for one that is not turned [mm].
-Marco CajaTexto(const Rotulo& rotulo);
+Marco CajaTexto(const Letrero& rotulo);
 
 }  // namespace zorbin

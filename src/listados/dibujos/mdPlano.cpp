@@ -188,8 +188,8 @@ void Plano::Rayado(const std::vector<Puntos>& contornos, Trama trama, Tinta tint
   Quebradas(LineasDe(contornos, trama, paso), {tinta, grueso});
 }
 
-Rotulo Plano::RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const {
-  Rotulo r;
+Letrero Plano::RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const {
+  Letrero r;
   static_cast<Aspecto&>(r) = {{tinta, 0.0}, {}, capa_ == Capa::Cotas ? Capa::Cotas : Capa::Textos};
   r.sitio = sitio;
   r.texto = std::move(texto);
@@ -206,20 +206,20 @@ void Plano::Texto(Xy sitio, std::string texto, AnclaX x, AnclaY y, double alto, 
 
 void Plano::Negrita(Xy sitio, std::string texto, AnclaX x, AnclaY y, double alto) {
   Texto(sitio, std::move(texto), x, y, alto);
-  std::get<Rotulo>(lamina_.piezas.back()).negrita = true;
+  std::get<Letrero>(lamina_.piezas.back()).negrita = true;
 }
 
 void Plano::Encima(Xy sitio, std::string texto, AnclaX x, AnclaY y, double alto, Tinta tinta,
                    bool negrita) {
   Texto(sitio, std::move(texto), x, y, alto, tinta);
-  auto& r = std::get<Rotulo>(lamina_.piezas.back());
+  auto& r = std::get<Letrero>(lamina_.piezas.back());
   r.halo = true;
   r.negrita = negrita;
 }
 
 void Plano::TextoVertical(Xy sitio, std::string texto, double alto, Tinta tinta) {
   Texto(sitio, std::move(texto), AnclaX::Centro, AnclaY::Base, alto, tinta);
-  std::get<Rotulo>(lamina_.piezas.back()).giro = 90.0;
+  std::get<Letrero>(lamina_.piezas.back()).giro = 90.0;
 }
 
 void Plano::Tope(Xy p) {

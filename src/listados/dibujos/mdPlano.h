@@ -93,7 +93,7 @@ class Plano {
   int id_ = kSinId;
 
   Aspecto Como(Mancha mancha, Trazo trazo) const { return {trazo, mancha, capa_, id_}; }
-  Rotulo RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const;
+  Letrero RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const;
   void Tope(Xy p);
 };
 

@@ -74,7 +74,7 @@ class Escritor {
             Num(r.radio) + "\"" + Atributos(r) + "/>\n";
   }
 
-  void operator()(const Rotulo& r) {
+  void operator()(const Letrero& r) {
     const double baja = r.anclaY == AnclaY::Base ? 0.0 : r.anclaY == AnclaY::Medio ? 0.36 : 0.72;
     constexpr std::array<const char*, 3> kAnclas{"start", "middle", "end"};
     svg_ += "<text x=\"" + Num(r.sitio.x) + "\" y=\"" + Num(r.sitio.y) + "\" dy=\"" +

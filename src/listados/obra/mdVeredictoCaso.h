@@ -52,6 +52,10 @@ class PalabrasCaso {
   std::string Motivo(const VistaCaso& v) const;
   /// The reason without its figures.
   std::string MotivoCorto(const VistaCaso& v) const;
+  /// A check with its figures and its place.
+  std::string Comprobacion(const ComprobacionCaso& c, bool armado) const;
+  /// What the verdict warns of and the design has not; empty for nothing.
+  std::string Avisos(const VistaCaso& v) const;
   /// Name of the hypothesis that governs a reinforced Caso.
   std::string Rige(const VistaCaso& v) const;
   /// Number, diameter and spacing of bars in short. @param decimales  of the diameter
@@ -65,9 +69,6 @@ class PalabrasCaso {
   NombresHipotesis nombres_;
 
   std::string Hipotesis(int h, bool armado) const;
-  std::string Comprobacion(const ComprobacionCaso& c, bool armado) const;
-  /// What the verdict warns of and the design has not.
-  std::string Avisos(const VistaCaso& v) const;
   void Construye(const VistaCaso& v, std::vector<LineaCaso>& lineas) const;
   void ConstruyeArmado(const VistaCaso& v, std::vector<LineaCaso>& lineas) const;
   std::string Cara(int conBarras, int sinBarras, double n, double diametro, int decimales) const;

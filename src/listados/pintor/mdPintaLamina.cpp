@@ -69,7 +69,7 @@ class PintaPieza {
     pintor_.drawPath(camino);
   }
 
-  void operator()(const Rotulo& r) {
+  void operator()(const Letrero& r) {
     const QFont& letra = r.negrita ? negrita_ : recta_;
     const QString texto = QString::fromStdString(r.texto);
     const double ancho = QFontMetricsF(letra).horizontalAdvance(texto);

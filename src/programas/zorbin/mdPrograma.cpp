@@ -22,12 +22,16 @@
 #include "shell/ayuda/mdMemoria.h"
 #include "shell/calculadoras/CalculoHidraulico.h"
 #include "shell/calculadoras/Protecciones.h"
+#include "shell/captura/mdPanelTramos.h"
 #include "shell/impresion/frImpresoras.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTema.h"
 #include "shell/principal/mdArranque.h"
+#include "shell/resultados/frDiseno.h"
+#include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdCalculos.h"
+#include "shell/resultados/mdMarcoDiseno.h"
 
 namespace zorbin {
 
@@ -41,6 +45,11 @@ template <class Ventana>
 Ventana* EnVentana(Ventana* ventana) {
   ventana->setAttribute(Qt::WA_DeleteOnClose);
   return ventana;
+}
+
+EstadoTramo EstadoDe(Veredicto veredicto) {
+  if (veredicto == Veredicto::Cumple) return EstadoTramo::Cumple;
+  return veredicto == Veredicto::NoCumple ? EstadoTramo::NoCumple : EstadoTramo::Falla;
 }
 
 template <class Ventana>
@@ -73,11 +82,50 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon)
   guarda_ = std::make_unique<GuardaBorradores>(*captura_, std::move(cajon));
   connect(ventana_.get(), &FormaPrincipal::actualizada, guarda_.get(), &GuardaBorradores::Mira);
   connect(guarda_.get(), &GuardaBorradores::falla, ventana_.get(), &FormaPrincipal::Anuncia);
+  CreaDiseno();
   Enlaza();
   RenuevaTextos();
 }
 
 Programa::~Programa() = default;
+
+// Calculated when it opens; while it is open, when it is asked to.
+void Programa::MuestraResultados() {
+  if (!captura_->ObraCargada) return;
+  const bool nueva = resultados_ == nullptr;
+  if (nueva) {
+    resultados_ = EnVentana(new frResultados(
+        *captura_, entorno_, [this] { ventana_->accion(Orden::MnImprimir)->trigger(); },
+        ventana_.get()));
+    connect(ventana_.get(), &FormaPrincipal::actualizada, resultados_.data(), [this] {
+      if (captura_->ObraCargada) {
+        resultados_->Mira();
+      } else {
+        resultados_->close();
+      }
+    });
+    connect(resultados_.data(), &frResultados::verificado, ventana_.get(),
+            [this](int id, Veredicto veredicto) {
+              ventana_->panel().PonEstado(id, EstadoDe(veredicto));
+            });
+  }
+  Delante(*resultados_);
+  if (nueva) resultados_->Calcula();
+}
+
+void Programa::CreaDiseno() {
+  diseno_ = new PanelDiseno(*captura_, entorno_);
+  marcoDiseno_ = new MarcoDiseno(entorno_, *ventana_, diseno_);
+  connect(ventana_.get(), &FormaPrincipal::actualizada, diseno_, [this] {
+    marcoDiseno_->PonHayObra(captura_->ObraCargada);
+    diseno_->Sigue();
+  });
+  connect(diseno_, &PanelDiseno::verificado, ventana_.get(), [this](int id, Veredicto veredicto) {
+    ventana_->panel().PonEstado(id, EstadoDe(veredicto));
+  });
+  connect(diseno_, &PanelDiseno::sinDiseno, ventana_.get(),
+          [this](int id) { ventana_->panel().PonEstado(id, EstadoTramo::SinCalcular); });
+}
 
 void Programa::EligeIdioma() {
   IdiomaAlEmpezar(*preferencias_, textos_, IdiomaDelSistema(),
@@ -119,6 +167,8 @@ void Programa::Enlaza() {
   p.calculaTramo = [this, padre] { CalculaElTramo(*captura_, entorno_, padre); };
   p.imprimeObra = [this, padre] { ImprimeLaObra(*captura_, entorno_, padre); };
   p.ajusta = [this, padre] { AjustaArmaduras(*captura_, entorno_, documentos_, padre); };
+  p.resultados = [this] { MuestraResultados(); };
+  p.diseno = [this] { marcoDiseno_->Alterna(); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };
@@ -170,6 +220,9 @@ void Programa::Memoria() {
 void Programa::RenuevaTextos() {
   TraduceDialogos();
   entorno_.SeparadorDecimal = captura_->SeparadorDecimal;
+  marcoDiseno_->RenuevaTextos();
+  diseno_->RenuevaTextos();
+  if (resultados_ != nullptr) resultados_->RenuevaTextos();
   if (hidraulico_ != nullptr) hidraulico_->RenuevaTextos();
   if (protecciones_ != nullptr) protecciones_->RenuevaTextos();
   if (ayuda_ != nullptr) ayuda_->RenuevaTextos();

@@ -20,7 +20,10 @@ namespace zorbin {
 
 class CalculoHidraulico;
 class Protecciones;
+class MarcoDiseno;
+class PanelDiseno;
 class frAyuda;
+class frResultados;
 
 class Programa : public QObject {
   Q_OBJECT
@@ -57,6 +60,9 @@ class Programa : public QObject {
   QPointer<CalculoHidraulico> hidraulico_;
   QPointer<Protecciones> protecciones_;
   QPointer<frAyuda> ayuda_;
+  QPointer<frResultados> resultados_;
+  PanelDiseno* diseno_ = nullptr;       // of the window
+  MarcoDiseno* marcoDiseno_ = nullptr;  // of the window
   std::unique_ptr<QTranslator> traductor_;
   int idiomaTraducido_ = 0;
 
@@ -64,6 +70,8 @@ class Programa : public QObject {
   void EligeIdioma();
   void LeeLasTablas();
   void Enlaza();
+  void CreaDiseno();
+  void MuestraResultados();
   void RenuevaTextos();
   void TraduceDialogos();
   void MuestraAdvertencia(int modo);

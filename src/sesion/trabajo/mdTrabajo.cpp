@@ -52,6 +52,25 @@ bool TieneFichero(Captura& c) {
   return c.fichero || Graba(c);
 }
 
+// What was checked and complies, and what was not.
+void LlenaEncargo(Encargo& encargo, const Captura& c, const Comprobado& comprobado,
+                  const std::vector<int>& ids) {
+  encargo.sinAjustes = c.sinAjustes;
+  const auto& v = comprobado.version;
+  for (const auto& t : v.tramos) {
+    if (std::ranges::find(ids, t->id) == ids.end()) continue;
+    if (!comprobado.Vale(t->id)) {
+      const auto falta = std::ranges::find_if(
+          comprobado.faltas, [&](const Falta& f) { return f.tramo == 0 || f.tramo == t->id; });
+      encargo.rechazados.push_back(
+          c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
+      continue;
+    }
+    encargo.tramos.push_back(
+        {DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero, t->id});
+  }
+}
+
 // ---------------------------------------------------------------------------------------------
 // Its results
 
@@ -106,18 +125,7 @@ std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
   if (!TieneFichero(c)) return std::nullopt;
   Encargo encargo = EncargoVacio(c);
   encargo.sinAjustes = c.sinAjustes;
-  const auto& v = comprobado.version;
-  for (const auto& t : v.tramos) {
-    if (std::ranges::find(ids, t->id) == ids.end()) continue;
-    if (!comprobado.Vale(t->id)) {
-      const auto falta = std::ranges::find(comprobado.faltas, t->id, &Falta::tramo);
-      encargo.rechazados.push_back(
-          c.textos.Compone(txt::TramoConFaltas, {t->numero, EnUnaLinea(*falta)}));
-      continue;
-    }
-    encargo.tramos.push_back(
-        {DatosDeCalculo(v.obra, t->datos, t->ajustes, !c.sinAjustes.empty()), t->numero});
-  }
+  LlenaEncargo(encargo, c, comprobado, ids);
   return encargo;
 }
 
@@ -134,6 +142,14 @@ std::optional<Encargo> EncargaObra(Captura& c) {
     return std::nullopt;
   }
   return EncargaTramos(c, ids);
+}
+
+Encargo EncargaParaVer(const Captura& c) {
+  Encargo encargo = EncargoVacio(c);
+  encargo.textos = c.textos;
+  const auto ids = IdsDe(c.version);
+  LlenaEncargo(encargo, c, Comprueba(c, ids), ids);
+  return encargo;
 }
 
 bool Calculo::HayPostesado() const {
@@ -166,11 +182,12 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
     avance.casos = a.casos;
     return !sigue || sigue(avance);
   };
-  for (const auto& [datos, numero] : encargo.tramos) {
+  for (const auto& [datos, numero, id] : encargo.tramos) {
     avance.posicion = static_cast<int>(calculo.tramos.size()) + 1;
     avance.tramo = datos.tramo.NumeroTramo;
     calculo.tramos.push_back(CalculaTramo(datos, RangoDe(datos), pregunta, &log.registro()));
     calculo.numeros.push_back(numero);
+    calculo.ids.push_back(id);
     calculo.fallos.push_back(Fallo(calculo.tramos.back(), numero, encargo));
     if (!calculo.tramos.back().cancelado) continue;
     Cancela(calculo, avance);
@@ -204,6 +221,7 @@ std::string Resume(Calculo& calculo, const Sigue& sigue) {
     if (!texto.empty()) pantalla.EscribePantalla(1, "** " + texto + " **", 2);
   };
   nota(calculo.encargo.sinAjustes);
+  for (const auto& rechazado : calculo.encargo.rechazados) nota(rechazado);
   const auto tramos = calculo.tramos.size();
   for (std::size_t i = 0; i < tramos; ++i) {
     const auto& r = calculo.tramos[i];

@@ -21,6 +21,7 @@ namespace zorbin {
 struct TramoEncargado {
   DatosTramo datos;
   std::string numero;  // its text in the list
+  int id = 0;          // of the Tramo in the capture
 };
 
 /// What is to be calculated, and in which words its results are told.
@@ -41,6 +42,10 @@ std::optional<Encargo> EncargaTramo(Captura& c);
 /// MnImprimir: all the Tramos as they are in memory. One with faults is left out and named.
 /// @return nothing where the Obra has faults or no Tramos; why has been shown
 std::optional<Encargo> EncargaObra(Captura& c);
+
+/// The same to look at, in the language of the screens: nothing is asked, saved or led to. Tramos
+/// with faults are left out and named; where the Obra has some, no Tramo is left.
+Encargo EncargaParaVer(const Captura& c);
 
 /// How far a calculation has come. A Caso is about to be calculated, or written.
 struct Avance {
@@ -65,6 +70,7 @@ struct Calculo {
   FinTrabajo fin = FinTrabajo::Completo;
   std::vector<ResultadoTramo> tramos;
   std::vector<std::string> numeros;  // their texts in the list
+  std::vector<int> ids;              // in the capture
   std::vector<std::string> fallos;   // of each; empty without a failure
   Avance cancelado;                  // where it stood when it was given up
   std::string sinRegistro;           // the debug log that could not be written; else empty

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/textos.h"
 #include "shell/piezas/mdQt.h"
@@ -154,7 +155,7 @@ void PanelTramos::PonAcciones(const QList<QAction*>& acciones) {
 }
 
 void PanelTramos::PonEstado(int id, EstadoTramo estado) {
-  estados_[id] = estado;
+  if (std::exchange(estados_[id], estado) == estado) return;
   puestos_.clear();
   Refresca();
 }

@@ -161,6 +161,13 @@ void FormaPrincipal::CreaMenus() {
   salir->setMenuRole(QAction::QuitRole);
   CreaMenuEdicion();
   CreaMenuTramos();
+  auto* resultados = NuevoMenu(txt::MenuResultados);
+  NuevaAccion(*resultados, txt::MenuTablaResultados, Qt::Key_F10, [this] {
+    LanzaPantalla(pantallas_.resultados, false);
+  })->setObjectName(QStringLiteral("mnResultados"));
+  NuevaAccion(*resultados, txt::MenuDiseno, Qt::Key_F8, [this] {
+    pantallas_.diseno();
+  })->setObjectName(QStringLiteral("mnDiseno"));
   ver_ = new MenuVer(*NuevoMenu(txt::MenuVer), c_.textos, entorno_.preferencias);
   connect(ver_, &MenuVer::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   auto* otras = NuevoMenu(txt::MenuOtras);

@@ -36,6 +36,8 @@ struct Pantallas {
   std::function<void()> calculaTramo;
   std::function<void()> imprimeObra;
   std::function<void()> ajusta;
+  std::function<void()> resultados;
+  std::function<void()> diseno;
   std::function<void()> seleccionaImpresora;
   std::function<void()> hidraulico;
   std::function<void()> medidas;
@@ -68,6 +70,7 @@ class FormaPrincipal : public QMainWindow {
   void Anuncia(const QString& texto);
 
   CapturaDatos& captura();
+  PanelTramos& panel() { return *panel_; }
   QAction* accion(Orden orden) const { return acciones_.at(orden); }
 
   /// The page of the start as the settings have it.

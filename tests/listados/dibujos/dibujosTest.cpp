@@ -60,15 +60,15 @@ class Escena {
   ResultadoCaso caso_;
 };
 
-std::vector<Rotulo> Rotulos(const Lamina& l) {
-  std::vector<Rotulo> r;
+std::vector<Letrero> Rotulos(const Lamina& l) {
+  std::vector<Letrero> r;
   for (const auto& p : l.piezas) {
-    if (const auto* x = std::get_if<Rotulo>(&p); x != nullptr && x->giro == 0) r.push_back(*x);
+    if (const auto* x = std::get_if<Letrero>(&p); x != nullptr && x->giro == 0) r.push_back(*x);
   }
   return r;
 }
 
-bool SePisan(const Rotulo& a, const Rotulo& b) {
+bool SePisan(const Letrero& a, const Letrero& b) {
   const auto p = CajaTexto(a), q = CajaTexto(b);
   return p.x < q.Derecha() && q.x < p.Derecha() && p.y < q.Abajo() && q.y < p.Abajo();
 }
