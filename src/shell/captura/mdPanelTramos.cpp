@@ -225,7 +225,8 @@ void PanelTramos::Refresca() {
 void PanelTramos::MarcaEnMano() {
   for (int i = 0; i < lista_->topLevelItemCount(); ++i) {
     auto* fila = lista_->topLevelItem(i);
-    if (fila->data(0, kPapelId).toInt() != c_.enMano || lista_->currentItem() == fila) continue;
+    if (fila->data(0, kPapelId).toInt() != c_.enMano) continue;
+    if (lista_->currentItem() == fila && fila->isSelected()) continue;
     refrescando_ = true;
     const bool varios = lista_->selectedItems().size() > 1;
     lista_->setCurrentItem(fila, 0,
