@@ -183,6 +183,8 @@ frVistaPrevia::frVistaPrevia(const Catalogo& textos, Preferencias& preferencias,
   }
   connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
           [this] { Imprime(); });
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { impresion_.Ayuda(QStringLiteral("imprimir")); });
   if (!preferencias_.RecuperaVentana(kVentana, *this)) resize(900, 780);
   vista_->setFocus();
   Renueva();
