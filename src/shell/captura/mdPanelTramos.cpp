@@ -229,9 +229,9 @@ void PanelTramos::MarcaEnMano() {
     if (lista_->currentItem() == fila && fila->isSelected()) continue;
     refrescando_ = true;
     const bool varios = lista_->selectedItems().size() > 1;
-    lista_->setCurrentItem(fila, 0,
-                           varios ? QItemSelectionModel::Current | QItemSelectionModel::Select
-                                  : QItemSelectionModel::ClearAndSelect);
+    const auto orden = varios ? QItemSelectionModel::Current | QItemSelectionModel::Select
+                              : QItemSelectionModel::ClearAndSelect;
+    lista_->setCurrentItem(fila, kDescripcion, orden | QItemSelectionModel::Rows);
     refrescando_ = false;
   }
 }

@@ -174,6 +174,7 @@ frVistaPrevia::frVistaPrevia(const Catalogo& textos, Preferencias& preferencias,
   setWindowTitle(Rotulo(textos.Texto(txt::VistaPrevia)).remove(QChar(0x2026)) + " - " +
                  EnTitulo(nombre));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
+  vista_->setAccessibleName(nombre);
   CreaBarra();
   connect(vista_, &VistaHojas::cambia, this, [this] { Renueva(); });
   for (const auto& [teclas, veces] :
