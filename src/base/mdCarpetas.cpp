@@ -59,7 +59,8 @@ fs::path RutaDocumento(const std::string& nombre) {
 
 fs::path RutaMuestra(const std::string& nombre) {
   return BuscaFichero(
-      {CarpetaInstalada() / "muestras", fs::path(ZORBIN_RECURSOS) / ".." / "muestras"}, nombre);
+      {CarpetaInstalada() / "muestras", fs::path(ZORBIN_RECURSOS).parent_path() / "muestras"},
+      nombre);
 }
 
 fs::path RutaAyuda(const std::string& nombre) {

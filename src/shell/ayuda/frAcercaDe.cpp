@@ -104,7 +104,9 @@ frAcercaDe::frAcercaDe(const Entorno& entorno, const std::filesystem::path& figu
   fila(txt::FormatoFichero, Texto(FormatoDeFichero()));
   fila(txt::Norma, Texto(rotulo(txt::NormaTexto)));
   fila(txt::Herramientas, Texto(QStringLiteral("Qt %1").arg(QString::fromLatin1(qVersion()))));
-  fila(txt::CarpetaDatos, Ruta(Q(datos.string())));
+  auto* ruta = Ruta(Q(datos.string()));
+  ruta->setAccessibleName(Rotulo(entorno.textos.Texto(txt::CarpetaDatos)));
+  fila(txt::CarpetaDatos, ruta);
   filas->addSpacing(fontMetrics().height() / 2);
   filas->addLayout(datosPrograma);
   filas->addSpacing(fontMetrics().height() / 2);

@@ -71,6 +71,8 @@ CapturaDatos::CapturaDatos(Captura& c, const Entorno& entorno, QWidget* padre)
     rotulados_.push_back(
         {[this, n](const QString& t) { TabPrincipal_->PonTexto(n, t); }, txt::PaginasObra[0] + n});
   }
+  rotulados_.push_back({[this](const QString& t) { TabPrincipal_->barra().setAccessibleName(t); },
+                        txt::CapturaDatos});
   filas->addWidget(TabPrincipal_, 1);
   filas->addWidget(CreaFaltas());
   filas->addWidget(CreaAvisos());

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -144,14 +145,22 @@ void CampoPantalla::CreaLista(QWidget* padre, bool editable) {
   }
 }
 
-// The wheel that scrolls a page never changes a datum under the pointer.
+// The wheel that scrolls a page never changes a datum under the pointer; and a field undoes what is
+// being typed in it, but leaves to the window what was taken.
 bool CampoPantalla::eventFilter(QObject* objeto, QEvent* suceso) {
+  if (suceso->type() == QEvent::ShortcutOverride && !tecleando_) {
+    const auto* tecla = static_cast<QKeyEvent*>(suceso);
+    if (!tecla->matches(QKeySequence::Undo) && !tecla->matches(QKeySequence::Redo)) return false;
+    suceso->ignore();
+    return true;
+  }
   if (suceso->type() != QEvent::Wheel || objeto != lista_ || lista_->hasFocus()) return false;
   suceso->ignore();
   return true;
 }
 
 void CampoPantalla::EnlazaLinea() {
+  linea_->installEventFilter(this);
   connect(linea_, &QLineEdit::textChanged, this, [this](const QString& texto) {
     if (!escribiendo_) emit textoCambiado(texto);
   });
@@ -161,6 +170,7 @@ void CampoPantalla::CreaParrafo(QWidget* padre) {
   parrafo_ = new Parrafo(padre);
   widget_ = parrafo_;
   parrafo_->setTabChangesFocus(true);
+  parrafo_->installEventFilter(this);
   const int linea = parrafo_->fontMetrics().lineSpacing();
   parrafo_->setFixedHeight(linea * kLineasParrafo + linea);
   connect(parrafo_, &QPlainTextEdit::textChanged, this, [this] {
@@ -193,6 +203,7 @@ void CampoPantalla::CreaOpciones(QWidget* padre) {
 
 void CampoPantalla::Refresca(const Control& control, const Aspecto& aspecto) {
   escribiendo_ = true;
+  tecleando_ = control.tocado;
   const QString& rotulo = aspecto.rotulo;
   if (etiqueta_->text() != rotulo) etiqueta_->setText(rotulo);
   etiqueta_->setEnabled(control.etiquetaHabilitada);

@@ -77,6 +77,7 @@ class CampoPantalla : public QObject {
   MarcaCampo marca_ = MarcaCampo::Ninguna;
   bool escribiendo_ = false;
   bool callaUnidad_ = false;
+  bool tecleando_ = false;  // what stands in it is not taken yet
 
   void Crea(QWidget* padre);
   void CreaLinea(QWidget* padre);

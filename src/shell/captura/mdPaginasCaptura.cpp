@@ -24,6 +24,7 @@ constexpr int kColumnasRotulo = 17;
 constexpr int kColumnasNota = 7;
 constexpr int kPartesRotulo = 3;  // of the room left, before the note
 constexpr int kPartesNota = 2;
+constexpr int kFilasDeCampo = 3;  // of the grid, of which a field may use fewer
 
 // A page scrolls where the screen is too small for it.
 QWidget* EnPagina(QWidget* contenido) {
@@ -98,12 +99,18 @@ Tarjeta* PaginasCaptura::CreaTarjeta(int texto) {
   return tarjeta;
 }
 
-// A row, and another one below for the note of what takes the room of its own.
+// The note of what takes the whole width stands below it; so does a text below its label.
 void PaginasCaptura::PonFila(QGridLayout& rejilla, int fila, Ed id) {
   auto& suyo = campo(id);
   if (Fila(id).clase == Clase::Marca || Fila(id).clase == Clase::Opcion) {
     suyo.etiqueta().hide();
     rejilla.addWidget(&Coloca(id), fila, 0, 1, 3);
+    return;
+  }
+  if (Fila(id).clase == Clase::Texto) {
+    rejilla.addWidget(&suyo.etiqueta(), fila, 0, 1, 3);
+    rejilla.addWidget(&Coloca(id), fila + 1, 0, 1, 3);
+    rejilla.addWidget(&suyo.nota(), fila + 2, 0, 1, 3);
     return;
   }
   rejilla.addWidget(&suyo.etiqueta(), fila, 0);
@@ -122,7 +129,7 @@ Tarjeta* PaginasCaptura::CreaFicha(int texto, std::initializer_list<Ed> campos) 
   int fila = 0;
   for (const Ed id : campos) {
     PonFila(*rejilla, fila, id);
-    fila += 2;
+    fila += kFilasDeCampo;
   }
   PonColumnas(*rejilla, *tarjeta);
   tarjeta->cuerpo().addLayout(rejilla);

@@ -229,12 +229,13 @@ void PanelTramos::Pide(const QTreeWidgetItem* fila) {
 void PanelTramos::MarcaEnMano() {
   for (int i = 0; i < lista_->topLevelItemCount(); ++i) {
     auto* fila = lista_->topLevelItem(i);
-    if (fila->data(0, kPapelId).toInt() != c_.enMano || lista_->currentItem() == fila) continue;
+    if (fila->data(0, kPapelId).toInt() != c_.enMano) continue;
+    if (lista_->currentItem() == fila && fila->isSelected()) continue;
     refrescando_ = true;
     const bool varios = lista_->selectedItems().size() > 1;
-    lista_->setCurrentItem(fila, 0,
-                           varios ? QItemSelectionModel::Current | QItemSelectionModel::Select
-                                  : QItemSelectionModel::ClearAndSelect);
+    const auto orden = varios ? QItemSelectionModel::Current | QItemSelectionModel::Select
+                              : QItemSelectionModel::ClearAndSelect;
+    lista_->setCurrentItem(fila, kDescripcion, orden | QItemSelectionModel::Rows);
     refrescando_ = false;
   }
 }

@@ -70,7 +70,7 @@ frImpresoras::frImpresoras(const Catalogo& textos, Preferencias& preferencias,
   connect(lista_, &QListWidget::itemDoubleClicked, this, &frImpresoras::accept);
   auto* ayuda = new QShortcut(QKeySequence::HelpContents, this);
   connect(ayuda, &QShortcut::activated, this,
-          [this] { impresora_.Ayuda(QStringLiteral("salidas")); });
+          [this] { impresora_.Ayuda(QStringLiteral("impresoras")); });
   LlenaLista(impresora_.EnUso());
   resize(420, 300);
 }

@@ -174,6 +174,7 @@ frVistaPrevia::frVistaPrevia(const Catalogo& textos, Preferencias& preferencias,
   setWindowTitle(Rotulo(textos.Texto(txt::VistaPrevia)).remove(QChar(0x2026)) + " - " +
                  EnTitulo(nombre));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
+  vista_->setAccessibleName(nombre);
   CreaBarra();
   connect(vista_, &VistaHojas::cambia, this, [this] { Renueva(); });
   for (const auto& [teclas, veces] :
@@ -183,6 +184,8 @@ frVistaPrevia::frVistaPrevia(const Catalogo& textos, Preferencias& preferencias,
   }
   connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
           [this] { Imprime(); });
+  connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this,
+          [this] { impresion_.Ayuda(QStringLiteral("imprimir")); });
   if (!preferencias_.RecuperaVentana(kVentana, *this)) resize(900, 780);
   vista_->setFocus();
   Renueva();

@@ -43,7 +43,7 @@ class Impresora : public ServicioImpresion {
 
   /// How a screen of printing opens the manual at an anchor.
   void PonAyuda(std::function<void(const QString&)> ayuda) { ayuda_ = std::move(ayuda); }
-  void Ayuda(const QString& ancla) const {
+  void Ayuda(const QString& ancla) const override {
     if (ayuda_) ayuda_(ancla);
   }
 

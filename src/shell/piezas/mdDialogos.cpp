@@ -16,17 +16,22 @@ QString Titulo(const QString& titulo) {
 }
 
 // What a person typed may stand in a message: never taken for rich text.
-void Prepara(QMessageBox& caja, const QString& texto, const QString& titulo) {
+// The subject stands in the body too: a title bar cuts it, and some desktops show none.
+void Prepara(QMessageBox& caja, const Catalogo& textos, const QString& texto,
+             const QString& titulo) {
   caja.setWindowTitle(Titulo(titulo));
   caja.setTextFormat(Qt::PlainText);
   caja.setText(texto.trimmed());
+  const QString asunto = titulo.trimmed();
+  const bool generico = asunto.isEmpty() || asunto == Rotulo(textos.Texto(txt::TituloAviso));
+  if (!generico && !texto.contains(asunto)) caja.setInformativeText(asunto);
 }
 
 }  // namespace
 
 void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto, const QString& titulo) {
   QMessageBox caja(padre);
-  Prepara(caja, texto, titulo);
+  Prepara(caja, textos, texto, titulo);
   caja.setIcon(QMessageBox::Warning);
   caja.addButton(Rotulo(textos.Texto(txt::BotonAceptar)), QMessageBox::AcceptRole);
   caja.exec();
@@ -41,7 +46,7 @@ QString TextoInesperado(const Catalogo& textos, const std::exception* error) {
 
 bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, const QString& titulo) {
   QMessageBox caja(padre);
-  Prepara(caja, texto, titulo);
+  Prepara(caja, textos, texto, titulo);
   caja.setIcon(QMessageBox::Question);
   auto* si = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaSi)), QMessageBox::YesRole);
   auto* no = caja.addButton('&' + Rotulo(textos.Texto(txt::RespuestaNo)), QMessageBox::NoRole);
@@ -53,7 +58,7 @@ bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto, cons
 
 int PreguntaGrabar(QWidget* padre, const Catalogo& textos, const QString& texto) {
   QMessageBox caja(padre);
-  Prepara(caja, texto, {});
+  Prepara(caja, textos, texto, {});
   caja.setIcon(QMessageBox::Warning);
   auto* graba = caja.addButton('&' + Rotulo(textos.Texto(txt::BtGrabar)), QMessageBox::AcceptRole);
   auto* descarta =

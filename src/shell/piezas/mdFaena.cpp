@@ -48,6 +48,7 @@ CajaProgreso::CajaProgreso(const Catalogo& textos, int titulo, MarchaFaena& marc
   setWindowModality(Qt::WindowModal);
   texto_->setTextFormat(Qt::PlainText);
   barra_->setTextVisible(false);
+  barra_->setAccessibleName(windowTitle());
   cancela_->setObjectName(QStringLiteral("btCancelar"));
   cancela_->setAutoDefault(false);
   auto* botones = new QHBoxLayout;

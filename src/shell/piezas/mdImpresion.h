@@ -27,6 +27,9 @@ class ServicioImpresion {
   /// @return whether it was printed; false too when the person gave up
   virtual bool Imprime(QWidget* padre, const QString& nombre, const Documento& documento) = 0;
 
+  /// Opens the manual at an anchor, for the screens of printing.
+  virtual void Ayuda(const QString&) const {}
+
   /// Shows the document before it is printed; from there it may be printed.
   virtual void VistaPrevia(QWidget* padre, const QString& nombre, const Documento& documento) = 0;
 };

@@ -32,9 +32,8 @@ std::string LineaDeTramo(const Catalogo& textos, const Borrador& b) {
   const auto lugar = static_cast<std::size_t>(b.enMano);
   const auto& t = *b.version.tramos[lugar];
   const bool nuevo = b.origenes[lugar].posicion == 0;
-  const std::string linea =
-      textos.Compone(nuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
-                     {t.numero, t.datos.DescriTramo});
+  const std::string linea = textos.Compone(nuevo ? txt::RecuperarTramoNuevo : txt::RecuperarTramo,
+                                           {t.numero, t.datos.DescriTramo});
   return SinDosPuntos(std::string(Recorta(linea)));
 }
 
@@ -114,6 +113,7 @@ QWidget* frRecuperar::CreaVersiones(const Catalogo& textos, const Versiones& v) 
   if (v.renglones.empty()) return Parrafo(textos.Texto(txt::SinDiferencias), this);
   auto* tabla = new QTreeWidget(this);
   tabla->setObjectName(QStringLiteral("versiones"));
+  tabla->setAccessibleName(Q(textos.Texto(txt::ColDato)));
   tabla->setRootIsDecorated(false);
   tabla->setAlternatingRowColors(true);
   tabla->setHeaderLabels({Q(textos.Texto(txt::ColDato)), Q(textos.Texto(txt::ColEnFichero)),
