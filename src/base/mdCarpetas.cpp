@@ -57,6 +57,11 @@ fs::path RutaDocumento(const std::string& nombre) {
                       nombre);
 }
 
+fs::path RutaMuestra(const std::string& nombre) {
+  return BuscaFichero(
+      {CarpetaInstalada() / "muestras", fs::path(ZORBIN_RECURSOS) / ".." / "muestras"}, nombre);
+}
+
 fs::path RutaAyuda(const std::string& nombre) {
   return BuscaFichero({CarpetaInstalada() / "ayuda", fs::path(ZORBIN_RECURSOS) / "ayuda"}, nombre);
 }

@@ -16,6 +16,9 @@ std::filesystem::path RutaFigura(const std::string& nombre);
 /// A document that comes with the program, likewise.
 std::filesystem::path RutaDocumento(const std::string& nombre);
 
+/// A sample Obra that comes with the program, likewise.
+std::filesystem::path RutaMuestra(const std::string& nombre);
+
 /// A page of the manual, likewise.
 std::filesystem::path RutaAyuda(const std::string& nombre);
 

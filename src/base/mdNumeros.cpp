@@ -160,6 +160,11 @@ Tecleado NumeroTecleado(std::string_view texto, char separador) {
   return {std::nullopt, {txt::NoEsValorNumerico, {}}};
 }
 
+char SeparadorDeIdioma(int idioma) {
+  constexpr int kIngles = 2;
+  return idioma == kIngles ? '.' : ',';
+}
+
 char SeparadorDeLaMaquina() {
   const locale_t local = newlocale(LC_NUMERIC_MASK, "", nullptr);
   if (local == nullptr) return '.';

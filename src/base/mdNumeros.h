@@ -40,6 +40,10 @@ struct Tecleado {
 /// @param separador  decimal separator in force
 Tecleado NumeroTecleado(std::string_view texto, char separador);
 
+/// Decimal separator of a language of the catalogue, 1 to 5: English has a point, the others a
+/// comma.
+char SeparadorDeIdioma(int idioma);
+
 /// Decimal separator of the machine's locale, ',' or '.'.
 char SeparadorDeLaMaquina();
 

@@ -67,7 +67,8 @@ class Capturador {
   struct Mudo : Interlocutor {
     void Muestra(const std::string&, const std::string&) override {}
     bool Pregunta(const std::string&, const std::string&) override { return true; }
-    std::optional<std::string> PideFichero(const std::string&) override { return std::nullopt; }
+    Respuesta PreguntaGrabar(const std::string&) override { return Respuesta::Cancelar; }
+    std::optional<std::string> PideFichero(const std::string&, const std::string&) override { return std::nullopt; }
     void VaA(Ed) override {}
   };
   EstadoCalculo e_;

@@ -18,7 +18,7 @@ ProyectoAGrabar DeTodo() {
   static const ProyectoAGrabar muestra = [] {
     auto p = pruebas::EnMemoria(ZORBIN_FUENTES "muestras/acequia.zrb");
     p.tramos.resize(2);
-    p.tramos[1].datos->Envolvente = true;
+    p.tramos[1].datos.Envolvente = true;
     p.ajustes = {{6, 1, 2.5, {20, 3, 18}}};
     return p;
   }();
@@ -28,7 +28,7 @@ ProyectoAGrabar DeTodo() {
 ProyectoAGrabar OtroDeTodo() {
   auto p = DeTodo();
   p.obra.Cliente = "Otro cliente";
-  p.tramos[0].datos->Envolvente = true;
+  p.tramos[0].datos.Envolvente = true;
   p.ajustes.push_back({8, 2, 2, {1, 2, 3}});
   return p;
 }
@@ -49,7 +49,7 @@ ProyectoAGrabar SoloCompaneras() {
 
 ProyectoAGrabar SoloExtras() {
   auto p = SoloCompaneras();
-  p.tramos[1].datos->Envolvente = false;
+  p.tramos[1].datos.Envolvente = false;
   return p;
 }
 

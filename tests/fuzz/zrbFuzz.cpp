@@ -121,9 +121,10 @@ std::string TextoDe(std::string_view registro) {
   return std::string(texto.substr(0, texto.find('\0')));
 }
 
-// The first record that is not the same; empty when all are. Two may differ: the surge, which the
-// format keeps as a word of the language of the Obra and reads in Spanish, and the increment of a
-// Tramo without heights of its own, which follows the Obra's one save later and is of no use.
+// The first record that is not the same; empty when all are. Three may differ: what was typed, the
+// surge, which the format keeps as a word of the language of the Obra and reads in Spanish, and the
+// increment of a Tramo without heights of its own, which follows the Obra's one save later and is
+// of no use.
 std::string Diferencia(const std::string& una, const std::string& otra) {
   constexpr std::size_t kGolpe = 4, kDescripcion = 22, kIncremento = 76, kPaso = 60;
   for (std::size_t n = 1; (n - 1) * kBytesRegistro < std::max(una.size(), otra.size()); ++n) {
@@ -148,6 +149,8 @@ void Graba(const fs::path& ruta, const std::string& numero) {
   } catch (const ErrorFichero& error) {
     Exige(false, "what was saved can be read", Textos().Compone(error.mensaje()));
   }
+  // What the rules complete has the digits of the file from the second save on.
+  static_cast<void>(GrabaTramoDe(ruta, numero, queja));
   const std::string una = Bytes(ruta);
   // Final pressures that follow from MDP may ask for an increment the second time.
   const bool otraVez = GrabaTramoDe(ruta, numero, queja);

@@ -37,9 +37,9 @@ class GrabaTodo : public testing::Test {
     p.tramos.resize(3);
     for (std::size_t i = 0; i < 3; ++i) {
       p.tramos[i].numero = std::to_string(i + 1);
-      p.tramos[i].datos->DescriTramo = "Tramo-" + std::to_string(i + 1);
+      p.tramos[i].datos.DescriTramo = "Tramo-" + std::to_string(i + 1);
     }
-    p.tramos[1].datos->Envolvente = true;
+    p.tramos[1].datos.Envolvente = true;
     p.tramos[1].otras = R"({"color":"rojo"})";
     p.extras.otras = R"({"autor":"yo"})";
     p.ajustes = {{6, 1, 2.5, {11, 3, 18}}, {}, {8, 3, 2, {33, 2, 3}}};
@@ -105,8 +105,8 @@ TEST_F(GrabaTodo, MoverBorrarYRenumerarLlevanTodoConsigo) {
   EXPECT_EQ(LeeAjustes(dpe).size(), 3u);  // places stay
 
   // A block without data stays as the file has it; what says nothing any more goes away.
-  p.tramos[1].datos.reset();
-  p.tramos[0].datos->Envolvente = false;
+  p.tramos[1].intacto = true;
+  p.tramos[0].datos.Envolvente = false;
   p.tramos[0].otras.clear();
   p.extras.otras.clear();
   p.ajustes.clear();
@@ -117,18 +117,18 @@ TEST_F(GrabaTodo, MoverBorrarYRenumerarLlevanTodoConsigo) {
 
 TEST_F(GrabaTodo, LoQueNoEncajaSeConservaYSeDice) {
   auto p = EnMemoria(obra);
-  p.tramos[1].datos->DescriTramo = "Otra";
+  p.tramos[1].datos.DescriTramo = "Otra";
   {
     FicheroRegistros f(obra, kEscribe);  // as a program that knows no extras
-    EstadoCalculo e{p.obra, *p.tramos[1].datos};
+    EstadoCalculo e{p.obra, p.tramos[1].datos};
     EscribeTramo(f, e, {"1", "2", "3"}, 2, ',');
   }
   const auto leido = LeeProyecto(obra);
   ASSERT_EQ(leido.avisos.size(), 1u);
   EXPECT_EQ(leido.avisos[0].datos, (std::vector<std::string>{zrx.string(), "2", "Tramo-2"}));
   auto otra = EnMemoria(obra);
-  EXPECT_FALSE(otra.tramos[1].datos->Envolvente);
-  otra.tramos[0].datos->Envolvente = true;
+  EXPECT_FALSE(otra.tramos[1].datos.Envolvente);
+  otra.tramos[0].datos.Envolvente = true;
   Graba(otra);
   const auto extras = LeeExtras(zrx);
   ASSERT_EQ(extras.tramos.size(), 2u);
@@ -146,10 +146,10 @@ TEST_F(GrabaTodo, LoQueNoSeEntiendeNoSePierde) {
   p.obra.Cliente = "D";
   EXPECT_TRUE(Graba(p).empty());
   EXPECT_EQ(Bytes(zrx) + Bytes(dpe), danado + "nada");
-  p.tramos[0].datos->Envolvente = true;
+  p.tramos[0].datos.Envolvente = true;
   ASSERT_EQ(Graba(p).size(), 1u);
   EXPECT_EQ(Bytes(carpeta / "o.zrx-1"), danado);
-  EXPECT_EQ(EnMemoria(obra).tramos[0].datos->Envolvente, true);
+  EXPECT_EQ(EnMemoria(obra).tramos[0].datos.Envolvente, true);
   p.ajustes = {{6, 1, 2.5, {11, 3, 18}}};
   EXPECT_NE(Rechazo(p), 0);  // the adjustments of a person are not written over
   EXPECT_EQ(Bytes(dpe), "nada");
@@ -165,7 +165,7 @@ TEST_F(GrabaTodo, LoQueNoSeEntiendeNoSePierde) {
 TEST_F(GrabaTodo, LosAjustesAbiertosSeDicenYNadaCambia) {
   auto p = EnMemoria(obra);
   p.obra.Cliente = "D";
-  p.tramos[0].datos->Envolvente = true;
+  p.tramos[0].datos.Envolvente = true;
   p.ajustes[0].areas.Camisa = 12;
   const auto antes = Bytes(obra) + Bytes(zrx);
   {
@@ -240,7 +240,7 @@ TEST_F(GrabaTodo, ComoOtroNombreSinDejarNadaDeLoQueHabia) {
   // Over it, an Obra of one Tramo that can't be read, without anything beside it.
   auto corta = p;
   corta.tramos.resize(1);
-  corta.tramos[0].datos.reset();
+  corta.tramos[0].intacto = true;
   corta.ajustes.clear();
   corta.extras = {};
   pruebas::PonBytes(carpeta / "p.dpe", "damaged");

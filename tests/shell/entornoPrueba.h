@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -102,7 +103,7 @@ inline std::vector<TextoVisto> TextosALaVista(const QWidget& ventana) {
 }
 
 /// Answers the message boxes that an action opens, and keeps what they said. Without an answer left
-/// it presses the default button.
+/// it says Yes.
 class Persona : public QObject {
  public:
   Persona() {
@@ -118,6 +119,7 @@ class Persona : public QObject {
   };
   std::vector<Caja> cajas;
   std::vector<bool> respuestas;  // Yes or No of the questions to come, in order
+  std::vector<int> alCerrar;     // Save 0, Discard 1, Cancel 2; without an answer left, Cancel
   QString fichero;               // chosen in a file dialog; empty: given up
   QStringList ficheros;          // chosen in the next ones, before that
   QStringList propuestos;        // names that the dialogs came with
@@ -157,6 +159,15 @@ class Persona : public QObject {
       for (auto* b : botones) {
         const bool esSi = caja->buttonRole(b) == QMessageBox::YesRole;
         if (esSi == si) elegido = b;
+      }
+    }
+    if (botones.size() == 3) {
+      constexpr std::array kPapeles{QMessageBox::AcceptRole, QMessageBox::DestructiveRole,
+                                    QMessageBox::RejectRole};
+      const int respuesta = alCerrar.empty() ? 2 : alCerrar.front();
+      if (!alCerrar.empty()) alCerrar.erase(alCerrar.begin());
+      for (auto* b : botones) {
+        if (caja->buttonRole(b) == kPapeles[static_cast<std::size_t>(respuesta)]) elegido = b;
       }
     }
     elegido->click();

@@ -96,18 +96,18 @@ TEST(Recuperacion, SeGuardaMientrasHayAlgoQuePerder) {
   Puesto::Espera([&] { return s.Borradores().size() == 1; });
   const auto b = LeeBorrador(pruebas::Bytes(s.Borradores().at(0)));
   ASSERT_TRUE(b.has_value());
-  EXPECT_EQ(b->campos[static_cast<std::size_t>(Ed::edFck)].texto, "41");
+  ASSERT_TRUE(b->ConTramo());
+  ASSERT_TRUE(b->tecleado.has_value());
+  EXPECT_EQ(b->tecleado->texto, "41");
   EXPECT_EQ(b->fichero, S(s.ruta));
 
-  s.persona.respuestas = {true};
-  p->ventana().accion(Orden::mnGrabaTramo)->trigger();
+  p->ventana().accion(Orden::mnGrabaObra)->trigger();
   EXPECT_FALSE(p->captura().EnCambio()) << S(s.persona.Ultima());
   Puesto::Espera([&] { return s.Borradores().empty(); });
 
   // An end with edits that nobody gave up keeps them; a clean one leaves nothing.
   Puesto::Cambia1(*p, "42");
   Puesto::Espera([&] { return s.Borradores().size() == 1; });
-  s.persona.respuestas = {true};
   p->ventana().accion(Orden::mnCancelar)->trigger();
   p->ventana().close();
   p.reset();
@@ -136,13 +136,12 @@ TEST(Recuperacion, SeOfreceConLasDosVersionesYSeRecupera) {
   EXPECT_NE(fichero, "41");
   auto& c = p->captura();
   EXPECT_EQ(c[Ed::edFck].texto, "41");
-  EXPECT_TRUE(c.TramoEditado && c.EnModificaciones());
-  EXPECT_TRUE(p->ventana().accion(Orden::mnGrabaTramo)->isEnabled());
+  EXPECT_TRUE(c.EnCambio() && c.EnModificaciones());
+  EXPECT_TRUE(p->ventana().accion(Orden::mnGrabaObra)->isEnabled());
   EXPECT_EQ(p->ventana().findChild<AvisoEstado*>("avisoEstado")->avisos().size(), 1);
   ASSERT_EQ(s.Borradores().size(), 1U) << "kept until it is saved";
   EXPECT_NE(s.Borradores().at(0).filename(), "borrador-1-1.json");
-  s.persona.respuestas = {true};
-  p->ventana().accion(Orden::mnGrabaTramo)->trigger();
+  p->ventana().accion(Orden::mnGrabaObra)->trigger();
   Puesto::Espera([&] { return s.Borradores().empty(); });
   EXPECT_TRUE(p->ventana().findChild<AvisoEstado*>("avisoEstado")->avisos().isEmpty());
 }
@@ -172,11 +171,10 @@ TEST(Recuperacion, UnaObraQueTieneOtroNoPierdeElBorrador) {
   s.Corta();
   const FicheroRegistros otro(S(s.ruta), FicheroRegistros::Modo::LecturaEscritura);
   auto p = s.Abre();
-  s.persona.respuestas = {true};  // open it for reading
   EnPantalla<frRecuperar> ingeniero(
       [&](frRecuperar& d) { Pulsa(d, txt::BtRecuperar, p->textos()); });
   p->Empieza();
-  Puesto::Espera([&] { return s.persona.cajas.size() == 2 && !p->captura().ObraCargada; });
+  Puesto::Espera([&] { return s.persona.cajas.size() == 1 && !p->captura().ObraCargada; });
   EXPECT_TRUE(s.persona.Ultima().contains(s.ruta)) << S(s.persona.Ultima());
   ASSERT_EQ(s.Borradores().size(), 1U);
   EXPECT_EQ(s.Borradores().at(0).filename(), "borrador-1-1.json");
@@ -198,7 +196,6 @@ TEST(Avisos, LaBarraDeEstadoDiceLoQueSeDeshizoYLoQueSoloSeLee) {
   EXPECT_FALSE(aviso->isVisible());
 
   const FicheroRegistros otro(S(s.ruta), FicheroRegistros::Modo::LecturaEscritura);
-  s.persona.respuestas = {true};
   ASSERT_TRUE(p->ventana().Abre(s.ruta));
   EXPECT_TRUE(aviso->isVisible());
   EXPECT_TRUE(p->ventana().windowTitle().contains(Q(p->textos().Texto(txt::MarcaSoloLectura))))

@@ -86,13 +86,13 @@ inline constexpr int kCamposCaptura = static_cast<int>(Ed::edICar0) + 1;
 
 enum class Clase { Texto, Numero, Lista, Marca, Opcion };
 
-/// A page of the screen: that of TabPrincipal and those of the tabs inside it; -1 where the tab
-/// plays no part.
+/// A page of the screen: that of TabPrincipal, the typology whose data it shows, and the card last
+/// in use among them, all of which are seen; -1 where one plays no part.
 struct Paginas {
-  int TabPrincipal = 0;         // 0 Obra, 1 typology, 2 laying
+  int TabPrincipal = 0;         // 0 Obra, 1 pipe and typology, 2 laying
   int TabTipologia = -1;        // 0 reinforced, 1 post-tensioned
-  int TabPostesados = -1;       // 0 moduli, 1 strengths, 2 stresses, 3 coefficients
-  int TabDatosColocacion = -1;  // 0 pipe, 1 fill, 2 loads
+  int TabPostesados = -1;       // card: 0 moduli, 1 strengths, 2 stresses, 3 coefficients
+  int TabDatosColocacion = -1;  // card: 1 fill, 2 loads
 
   bool operator==(const Paginas&) const = default;
 };

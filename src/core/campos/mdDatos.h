@@ -37,7 +37,6 @@ struct Ficha {
   double minimo = 0;                       // on leaving the field
   std::optional<double> defecto = {};      // under MKS
   std::optional<double> defectoSI = {};    // under SI, where another
-  bool blancoEnMks = false;                // a blank field takes the MKS default under SI too
   bool anulaAjustes = false;               // a change voids the hand adjustments of the Tramo
   Campo campo = {};                        // its field on the screen; without name for none
 

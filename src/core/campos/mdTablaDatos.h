@@ -20,20 +20,20 @@ inline constexpr Paginas kPaginaResistencias{1, 1, 1};
 inline constexpr Paginas kPaginaTensiones{1, 1, 2};
 inline constexpr Paginas kPaginaCoeficientes{1, 1, 3};
 inline constexpr Paginas kPaginaColocacion{2};
-inline constexpr Paginas kPaginaTubo{2, -1, -1, 0};
+inline constexpr Paginas kPaginaTubo{1};
 inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
-// Oddities that are meant: the titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and
-// a blank strength of core, coating or wire takes the default of MKS under SI. The choice of the
-// enveloping design has no record: the file beside the Obra keeps it. Results tell it of the run.
+// The titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and that is meant. The choice
+// of the enveloping design has no record: the file beside the Obra keeps it. Results tell it of the
+// run.
 // clang-format off
 inline constexpr auto kDatosObra = std::to_array<Dato<Obra>>({
     {&Obra::Idioma,
      {.nombre = "Idioma", .magnitud = Magnitud::Codigo,
       .campo = {.id = Ed::edIdioma, .nombre = "edIdioma", .clase = Clase::Lista,
        .etiqueta = txt::RotIdioma, .rotulo = txt::RotIdioma, .consejo = txt::TipIdioma,
-       .entrada = txt::NombresIdioma[0], .entradas = 5, .entradaDefecto = 1}}},
+       .entrada = txt::IdiomasPropios[0], .entradas = 5, .entradaDefecto = 1}}},
     {&Obra::IdiomaOffset,
      {.nombre = "IdiomaOffset", .magnitud = Magnitud::Codigo, .deSesion = true}},
     {&Obra::SisUnid,
@@ -208,27 +208,27 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
     {&Tramo::Fckno,
      {.nombre = "Fckno", .magnitud = Magnitud::Tension, .registro = 28, .mascara = "#####0",
        .mascaraSI = "#####0.0", .mascaraTecleada = "#####0.00", .minimo = 0.001, .defecto = 300.0,
-       .defectoSI = 30.0, .blancoEnMks = true,
+       .defectoSI = 30.0,
       .campo = {.id = Ed::edFckno, .nombre = "edFckno", .pagina = kPaginaResistencias,
        .ceroEnBlanco = true, .etiqueta = txt::EtFckno, .rotulo = txt::RotFcknoMKS,
        .rotuloSI = txt::RotFcknoSI, .consejo = txt::TipFckno}}},
     {&Tramo::Fckn,
      {.nombre = "Fckn", .magnitud = Magnitud::Tension, .registro = 29, .mascara = "#####0",
        .mascaraSI = "#####0.0", .mascaraTecleada = "#####0.00", .minimo = 0.001, .defecto = 400.0,
-       .defectoSI = 40.0, .blancoEnMks = true,
+       .defectoSI = 40.0,
       .campo = {.id = Ed::edFckn, .nombre = "edFckn", .pagina = kPaginaResistencias,
        .ceroEnBlanco = true, .etiqueta = txt::EtFckn, .rotulo = txt::RotFcknMKS,
        .rotuloSI = txt::RotFcknSI, .consejo = txt::TipFckn}}},
     {&Tramo::Fckr,
      {.nombre = "Fckr", .magnitud = Magnitud::Tension, .registro = 30, .mascara = "#####0",
        .mascaraSI = "#####0.0", .mascaraTecleada = "#####0.00", .minimo = 0.001, .defecto = 350.0,
-       .defectoSI = 35.0, .blancoEnMks = true,
+       .defectoSI = 35.0,
       .campo = {.id = Ed::edFckr, .nombre = "edFckr", .pagina = kPaginaResistencias,
        .ceroEnBlanco = true, .etiqueta = txt::EtFckr, .rotulo = txt::RotFckrMKS,
        .rotuloSI = txt::RotFckrSI, .consejo = txt::TipFckr}}},
     {&Tramo::SFck,
      {.nombre = "SFck", .magnitud = Magnitud::Tension, .registro = 31, .mascara = "#####0",
-       .minimo = 0.0, .defecto = 17000.0, .defectoSI = 1700.0, .blancoEnMks = true,
+       .minimo = 0.0, .defecto = 17000.0, .defectoSI = 1700.0,
       .campo = {.id = Ed::edSFck, .nombre = "edSFck", .pagina = kPaginaTensiones,
        .ceroEnBlanco = true, .etiqueta = txt::EtSFck, .rotulo = txt::RotSFckMKS,
        .rotuloSI = txt::RotSFckSI, .consejo = txt::TipSFck}}},

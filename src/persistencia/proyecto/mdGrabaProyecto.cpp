@@ -44,8 +44,7 @@ Extras TodosLosExtras(const ProyectoAGrabar& p) {
   Extras todos = p.extras;
   todos.tramos.clear();
   for (const auto& t : p.tramos) {
-    if (!t.datos) continue;
-    todos.tramos.push_back({t.numero, t.datos->DescriTramo, t.datos->Envolvente, t.otras});
+    todos.tramos.push_back({t.numero, t.datos.DescriTramo, t.datos.Envolvente, t.otras});
   }
   todos.tramos.insert(todos.tramos.end(), p.extras.tramos.begin(), p.extras.tramos.end());
   return todos;
@@ -156,8 +155,8 @@ void EscribeRegistros(FicheroRegistros& f, const ProyectoAGrabar& p, const Catal
   EscribeObra(f, e, lista, textos, separador);
   for (int posicion = 1; posicion <= ahora; ++posicion) {
     const auto& t = p.tramos[static_cast<std::size_t>(posicion - 1)];
-    if (!t.datos) continue;
-    e.tramo = *t.datos;
+    if (t.intacto) continue;
+    e.tramo = t.datos;
     EscribeTramo(f, e, lista, posicion, separador);
   }
   // A Tramo that was deleted is not left for others to find.
@@ -238,7 +237,7 @@ std::vector<Mensaje> GrabaTodo(FicheroRegistros& f, const ProyectoAGrabar& proye
   auto avisos = RecuperaConjunto(f.ruta(), f.Contenido());
   Transaccion registros(f);
   for (std::size_t i = 0; origen && i < proyecto.tramos.size(); ++i) {
-    if (!proyecto.tramos[i].datos) CopiaTramo(f, *origen, static_cast<int>(i) + 1);
+    if (proyecto.tramos[i].intacto) CopiaTramo(f, *origen, static_cast<int>(i) + 1);
   }
   EscribeRegistros(f, proyecto, textos, separador);
   Companeras companeras(f.ruta(), sustituye);

@@ -18,8 +18,9 @@ namespace zorbin {
 /// A Tramo of the Obra, in its place.
 struct TramoAGrabar {
   std::string numero;
-  std::optional<Tramo> datos;  // none: the block at this place stays as the file has it
-  std::string otras;           // unknown keys of its entry, as ExtrasTramo has them
+  Tramo datos;
+  std::string otras;     // unknown keys of its entry, as ExtrasTramo has them
+  bool intacto = false;  // the block at this place stays as the file has it
 };
 
 /// All that an Obra is. Entries of Tramos are made of `tramos`; `extras` brings what was left when
@@ -46,7 +47,7 @@ std::vector<Mensaje> GrabaProyecto(FicheroRegistros& f, const ProyectoAGrabar& p
 
 /// Saves the whole Obra under another name, with the files beside it. What that name has of
 /// another Obra, to which the person has agreed, is replaced: Obra, adjustments and extras.
-/// @param origen  from which blocks without data are copied as they are; none when all have them
+/// @param origen  from which untouched blocks are copied as they are; none where all are written
 /// @return the new file, open for writing and locked; its avisos() tell of its opening
 /// @throws SoloParaLeer where another program has that Obra, or its rights forbid it
 /// @throws ErrorFichero as GrabaProyecto; also for a file that is no Obra, which is not written

@@ -13,6 +13,7 @@
 #include "base/mdCarpetas.h"
 #include "base/mdNumeros.h"
 #include "base/textos.h"
+#include "programas/zorbin/mdSinPantalla.h"
 #include "sesion/captura/mdCiclo.h"
 #include "shell/ajustes/frAjustes.h"
 #include "shell/ayuda/frAcercaDe.h"
@@ -25,6 +26,7 @@
 #include "shell/impresion/frImpresoras.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdTema.h"
 #include "shell/principal/mdArranque.h"
 #include "shell/resultados/frDiseno.h"
 #include "shell/resultados/frResultados.h"
@@ -34,8 +36,6 @@
 namespace zorbin {
 
 namespace {
-
-constexpr int kEsperaAdvertencia = 1000;  // [ms]
 
 // Names of the toolkit's own texts, by language of the catalogue.
 constexpr std::array<const char*, kIdiomas> kIdiomasDialogos{"es", "en", "ca", "pt_BR", "fr"};
@@ -66,14 +66,16 @@ Programa::Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon)
       textos_(Catalogo::Lee(CarpetaRecursos() / "textos")),
       impresora_(textos_, *preferencias_),
       documentos_(DocumentosDelPrograma(textos_, RutaDocumento)),
-      entorno_{textos_, tablas_, *preferencias_, impresora_, SeparadorDeLaMaquina()},
+      entorno_{textos_, tablas_, *preferencias_, impresora_},
       voz_(textos_, *preferencias_) {
+  PonTema(static_cast<Tema>(preferencias_->Tema()));
   EligeIdioma();
   LeeLasTablas();
   estado_.obra.RutaApp = (CarpetaRecursos() / "").string();
   captura_ = std::make_unique<Captura>(estado_, textos_, tablas_, voz_, entorno_.SeparadorDecimal);
   CierraObra(*captura_);
   entorno_.ayuda = [this](const QString& ancla) { Ayuda().Muestra(ancla); };
+  impresora_.PonAyuda(entorno_.ayuda);
   ventana_ = std::make_unique<FormaPrincipal>(*captura_, entorno_);
   voz_.PonPadre(ventana_.get());
   voz_.PonAnuncios([this](const QString& texto) { ventana_->Anuncia(texto); });
@@ -126,9 +128,9 @@ void Programa::CreaDiseno() {
 }
 
 void Programa::EligeIdioma() {
-  IdiomaAlEmpezar(
-      *preferencias_, textos_, [](const std::string& n) { return !RutaAyuda(n + ".html").empty(); },
-      [this](const std::string& texto) { Avisa(nullptr, textos_, Q(texto)); });
+  IdiomaAlEmpezar(*preferencias_, textos_, IdiomaDelSistema(),
+                  [](const std::string& n) { return !RutaAyuda(n + ".html").empty(); });
+  entorno_.SeparadorDecimal = SeparadorDeIdioma(textos_.IdiomaOffset() / kPasoIdioma + 1);
 }
 
 // Without the tables the program does not begin, and says so in the language in force.
@@ -143,12 +145,7 @@ void Programa::LeeLasTablas() {
 
 void Programa::Empieza(const QString& ruta) {
   ventana_->show();
-  QTimer::singleShot(0, this, [this, ruta] {
-    AbreLoPedido(ruta);
-    QTimer::singleShot(kEsperaAdvertencia, this, [this] {
-      if (QuiereAviso(*preferencias_, ModoAviso::DerechoDeUso)) MuestraAdvertencia(1);
-    });
-  });
+  QTimer::singleShot(0, this, [this, ruta] { AbreLoPedido(ruta); });
 }
 
 void Programa::DiFallo(const std::exception* error) {
@@ -206,7 +203,10 @@ frAyuda& Programa::Ayuda() {
 }
 
 void Programa::MuestraAdvertencia(int modo) {
-  frmTip(entorno_, modo, documentos_, ventana_.get()).exec();
+  const int respuesta = frmTip(entorno_, modo, documentos_, ventana_.get()).exec();
+  if (respuesta != QDialog::Accepted) return;
+  preferencias_->AnotaAvisoDeUso();
+  ventana_->RenuevaInicio();
 }
 
 void Programa::Memoria() {
@@ -219,6 +219,7 @@ void Programa::Memoria() {
 
 void Programa::RenuevaTextos() {
   TraduceDialogos();
+  entorno_.SeparadorDecimal = captura_->SeparadorDecimal;
   marcoDiseno_->RenuevaTextos();
   diseno_->RenuevaTextos();
   if (resultados_ != nullptr) resultados_->RenuevaTextos();

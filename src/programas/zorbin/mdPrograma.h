@@ -35,8 +35,7 @@ class Programa : public QObject {
   explicit Programa(std::unique_ptr<Preferencias> preferencias, Cajon cajon = Cajon());
   ~Programa() override;
 
-  /// Shows the window; then offers what a crash left behind, and opens the Obra that was asked for;
-  /// a second later, the warning of the start where the person wants it.
+  /// Shows the window; then offers what a crash left behind, and opens the Obra that was asked for.
   void Empieza(const QString& ruta = {});
 
   /// Tells a failure that nobody foresaw. @param error  null for one without words

@@ -25,14 +25,6 @@ QStringList& Avisos() {
   return avisos;
 }
 
-std::int16_t IdiomaDelSistema() {
-  for (const auto& lengua : QLocale::system().uiLanguages()) {
-    const auto i = std::find(kLenguas.begin(), kLenguas.end(), lengua.left(2));
-    if (i != kLenguas.end()) return static_cast<std::int16_t>(i - kLenguas.begin() + 1);
-  }
-  return 1;
-}
-
 // What the toolkit went by.
 std::string Entorno() {
   for (const char* variable : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "DISPLAY"}) {
@@ -62,6 +54,14 @@ void Oye(QtMsgType tipo, const QMessageLogContext&, const QString& texto) {
 }
 
 }  // namespace
+
+std::int16_t IdiomaDelSistema() {
+  for (const auto& lengua : QLocale::system().uiLanguages()) {
+    const auto i = std::find(kLenguas.begin(), kLenguas.end(), lengua.left(2));
+    if (i != kLenguas.end()) return static_cast<std::int16_t>(i - kLenguas.begin() + 1);
+  }
+  return 1;
+}
 
 EsperaPantalla::EsperaPantalla() : antes_(qInstallMessageHandler(Oye)) {}
 

@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QtGlobal>
+#include <cstdint>
 
 namespace zorbin {
+
+/// Language of the catalogue that the desktop speaks, 1 to 5; Spanish for another one.
+std::int16_t IdiomaDelSistema();
 
 /// While this lives, a failure of the toolkit to begin is told in a sentence on standard error, in
 /// the language of the system, and ends the program with code 1. Its warnings wait until it goes.

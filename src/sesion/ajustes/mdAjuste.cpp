@@ -1,5 +1,6 @@
 #include "sesion/ajustes/mdAjuste.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -25,11 +26,12 @@ constexpr double kEngancheLimite = 0.01;  // a pressure this near to the end of 
 // ---------------------------------------------------------------------------------------------
 // The Tramo
 
-// The Tramo in hand with what the rules complete; it has been saved, so that they refuse nothing.
+// The Tramo in hand with what the rules complete. What they refuse of one that came from its file
+// so, and was saved with nothing to save, is shown.
 std::optional<TramoAjustado> TomaElTramo(Captura& c) {
   auto comprobado = Comprueba(c, {c.enMano});
+  if (MuestraFaltas(c, comprobado.faltas)) return std::nullopt;
   const auto* t = Busca(comprobado.version, c.enMano);
-  if (t == nullptr || !comprobado.Vale(c.enMano)) return std::nullopt;
   auto datos = DatosDeCalculo(comprobado.version.obra, t->datos);
   const Rango rango = RangoDe(datos);
   return TramoAjustado{t->datos, std::move(datos), rango, c.EsComercial};
@@ -180,6 +182,7 @@ std::unique_ptr<Ajustes> AjustaArmaduras(Captura& c, const std::filesystem::path
   try {
     auto a = std::make_unique<Ajustes>(c, std::move(*tramo), registros, pide);
     const auto& r = a->tramo.rango;
+    a->casos = CalculaTramo(a->tramo.datos, r).filas;
     return CalculaunTramoEspecifico(*a, r.Hr0, r.DPIni) ? std::move(a) : nullptr;
   } catch (const ErrorFichero& error) {
     c.voz.Muestra(TextoDeError(c, error), {});
@@ -198,6 +201,30 @@ bool CalculaunTramoEspecifico(Ajustes& a, double HrAjuste, double PrsAjuste) {
   const bool hecho = Rehaz(a, CalculaFilas, [&r](TrabajoAjuste& t) { EmpiezaCaso(t, r); });
   if (hecho) GrabaUnTramoPresion(a);
   return hecho;
+}
+
+std::vector<CasoAjustable> CasosDe(const Ajustes& a) {
+  const double factor = a.c.EsSI() ? kFactorTension : 1.0;
+  std::vector<CasoAjustable> casos;
+  for (const auto& f : a.casos) {
+    const bool ajustado =
+        BuscaCaso(a.dpe->entradas(), f.DP, a.tramo.tramo.NumeroTramo, f.Hr) > 0;
+    casos.push_back({f.Hr, f.DP,
+                     a.c.textos.Compone(a.c.EsSI() ? txt::AjCasoSI : txt::AjCasoMKS,
+                                        {Formato(a, f.Hr, "####0.00"),
+                                         Formato(a, f.DP / factor, "####0.00"),
+                                         Formato(a, f.MDP / factor, "####0.00")}),
+                     ajustado});
+  }
+  return casos;
+}
+
+int CasoEnMano(const Ajustes& a) {
+  const auto f = std::ranges::find_if(a.casos, [&](const FilaCaso& x) {
+    return std::fabs(x.Hr - a.t.fila.Hr) < kToleranciaCaso &&
+           std::fabs(x.DP - a.t.fila.DP) < kToleranciaCaso;
+  });
+  return f == a.casos.end() ? -1 : static_cast<int>(f - a.casos.begin());
 }
 
 void EligeFila(Ajustes& a, int fila) {

@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "calculo/ajustes/mdNecesaria.h"
 #include "core/resultado.h"
@@ -47,6 +49,14 @@ struct TrabajoAjuste {
   ModeloAjustes pantalla;
 };
 
+/// A Caso of the run, as a list offers it.
+struct CasoAjustable {
+  double Hr = 0;          // [m]
+  double DP = 0;          // [at]
+  std::string texto;      // height and pressures, in the units of the Obra
+  bool ajustado = false;  // something is stored for it
+};
+
 struct Ajustes {
   /// @throws ErrorFichero where the file of adjustments cannot be held
   Ajustes(Captura& captura, TramoAjustado tramo, std::filesystem::path carpetaRegistros,
@@ -58,6 +68,7 @@ struct Ajustes {
   const TramoAjustado tramo;
   const std::filesystem::path registros;  // folder of the logs
   std::optional<FicheroDpe> dpe;          // open for the life of the screen
+  std::vector<FilaCaso> casos;            // of the whole run
   TrabajoAjuste t;
 
   bool DpeAbierto() const { return dpe.has_value(); }
@@ -73,6 +84,10 @@ std::unique_ptr<Ajustes> AjustaArmaduras(Captura& c,
 /// Calculates the Caso of a height [m] and a pressure [at] and shows it with what is stored for it.
 /// A Caso that cannot be calculated is told, and the one before stays.
 bool CalculaunTramoEspecifico(Ajustes& a, double HrAjuste, double PrsAjuste);
+
+/// All the Casos of the run, and the place of the one in hand among them.
+std::vector<CasoAjustable> CasosDe(const Ajustes& a);
+int CasoEnMano(const Ajustes& a);
 
 /// A person chose an option, 0 to 8. Nothing happens where it is disabled.
 void EligeFila(Ajustes& a, int fila);

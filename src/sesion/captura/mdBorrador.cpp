@@ -46,6 +46,7 @@ Version SobreElFichero(Captura& c, const Borrador& b) {
     t->id = suyo != nullptr ? suyo->id : ++c.ultimoId;
     if (suyo != nullptr) {
       t->ajustes = suyo->ajustes;
+      t->base = suyo->base;
       t->extras = suyo->extras;
     }
     for (auto& ajuste : t->ajustes) ajuste.Tramo = t->datos.NumeroTramo;
@@ -124,9 +125,9 @@ Borrador TomaBorrador(const Captura& c) {
   b.lista = ListaDe(c.guardada);
   for (const auto& t : b.version.tramos) {
     const auto lugar = LugarDe(c.guardada, t->id);
-    b.origenes.push_back(lugar ? OrigenTramo{static_cast<int>(*lugar) + 1,
-                                             c.guardada.tramos[*lugar]->numero}
-                               : OrigenTramo{});
+    b.origenes.push_back(
+        lugar ? OrigenTramo{static_cast<int>(*lugar) + 1, c.guardada.tramos[*lugar]->numero}
+              : OrigenTramo{});
   }
   const auto enMano = LugarDe(b.version, c.enMano);
   b.enMano = enMano ? static_cast<int>(*enMano) : -1;
@@ -164,6 +165,9 @@ Versiones ComparaVersiones(const Borrador& b, const Catalogo& textos, const Tabl
     if (b.fichero.empty()) continue;
     try {
       AbreParaMirar(*c, b.fichero);
+      if (c->danos.empty()) continue;
+      v.causa = c->danos.front();
+      NuevaObra(*c);
     } catch (const ErrorFichero& error) {
       v.causa = textos.Compone(error.mensaje());
       NuevaObra(*c);

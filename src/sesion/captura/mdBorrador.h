@@ -1,5 +1,5 @@
-// Work that is typed and not yet saved, as it is kept against a crash: the Obra with all its Tramos,
-// with every digit, and the field that is being typed.
+// Work that is typed and not yet saved, as it is kept against a crash: the Obra with all its
+// Tramos, with every digit, and the field that is being typed.
 //
 // A draft put back gives the Obra as it was, but for what its file says meanwhile.
 #pragma once
@@ -52,8 +52,8 @@ bool HayTrabajoSinGuardar(const Captura& c);
 Borrador TomaBorrador(const Captura& c);
 
 /// Puts a draft into a capture that has its Obra open, or a new one. A Tramo that is no longer in
-/// the file becomes a new one; those that came into it meanwhile stay. A number that was taken gives
-/// way.
+/// the file becomes a new one; those that came into it meanwhile stay. A number that was taken
+/// gives way.
 void PonBorrador(Captura& c, const Borrador& b);
 
 // ---- In a file

@@ -215,8 +215,8 @@ Borrador BorradorDe(const Json& j) {
   b.foco = CampoDe(j.at("foco"));
   if (j.contains("tecleado")) {
     const auto& tecleado = j.at("tecleado");
-    b.tecleado = CampoTecleado{CampoDe(tecleado.at("campo")),
-                               tecleado.at("texto").get<std::string>()};
+    b.tecleado =
+        CampoTecleado{CampoDe(tecleado.at("campo")), tecleado.at("texto").get<std::string>()};
   }
   Comprueba(b);
   return b;

@@ -21,9 +21,7 @@ struct FilaCampo : Campo {
   std::int16_t Tramo::*codigo = nullptr;  // variable of a list of the Tramo
 
   /// Value of a blank field.
-  std::optional<double> EnBlanco(bool si) const {
-    return ficha->Defecto(si && !ficha->blancoEnMks);
-  }
+  std::optional<double> EnBlanco(bool si) const { return ficha->Defecto(si); }
 };
 
 /// The whole table, in the order of Ed.

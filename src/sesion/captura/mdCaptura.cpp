@@ -35,7 +35,7 @@ std::vector<TextoPendiente> Pendientes(const Captura& c, bool deObra) {
   for (const auto& fila : TablaCampos()) {
     const auto& control = c[fila.id];
     if (fila.id == Ed::edTramo) continue;  // the choice of a Tramo is no datum
-    if (control.falta.empty() || (fila.pagina.TabPrincipal == 0) != deObra) continue;
+    if (!control.rehusado || (fila.pagina.TabPrincipal == 0) != deObra) continue;
     pendientes.push_back({fila.id, control.texto, control.falta});
   }
   return pendientes;
@@ -131,6 +131,7 @@ void Escribe(Captura& c, Ed campo, std::string texto) {
   auto& control = c[campo];
   control.texto = std::move(texto);
   control.falta.clear();
+  control.rehusado = false;
   control.tocado = false;
   control.seleccionado = false;
 }

@@ -77,14 +77,14 @@ struct Captura {
   std::function<void(Paso)> alDarPaso;  // of whoever undoes
   int pasosAbiertos = 0;                // a step within another is a part of it
   bool ObraCargada = false;
-  bool Danada = false;         // not all of the file could be read: it is never written
-  bool Tecleando = false;      // a field holds what its rule has not seen yet
-  bool LeyendoDatos = false;   // fields are being filled by the program: rules of change are off
-  bool AnchoZanjaAuto = false; // B0 follows De
-  bool SFckEditado = false;    // edSFck changed since it took the focus
-  double FykAnterior = 0;      // value of edFyk on entering it
-  bool EsComercial = false;    // the diameter is in the catalogue
-  double EspRecomMin = 0;      // band of the thickness [cm]; 0 and 0 for none
+  std::vector<std::string> danos;  // what of the file could not be read: it is never written
+  bool Tecleando = false;       // a field holds what its rule has not seen yet
+  bool LeyendoDatos = false;    // fields are being filled by the program: rules of change are off
+  bool AnchoZanjaAuto = false;  // B0 follows De
+  bool SFckEditado = false;     // edSFck changed since it took the focus
+  double FykAnterior = 0;       // value of edFyk on entering it
+  bool EsComercial = false;     // the diameter is in the catalogue
+  double EspRecomMin = 0;       // band of the thickness [cm]; 0 and 0 for none
   double EspRecomMax = 0;
   bool BandaReci = false;  // the label of the cover shows its band
   bool BandaRece = false;
@@ -92,7 +92,7 @@ struct Captura {
 
   /// The Obra is open for reading: another program has it, its rights forbid writing, or it is
   /// damaged.
-  bool SoloLectura() const { return Danada || (fichero && fichero->SoloLectura()); }
+  bool SoloLectura() const { return !danos.empty() || (fichero && fichero->SoloLectura()); }
   /// There is something that the file does not hold.
   bool EnCambio() const;
   bool EsSI() const { return e.obra.EsSI(); }
@@ -192,7 +192,8 @@ void MuestraPagina(Captura& c, const Paginas& pagina);
 /// Why what was typed is no quantity: it is no number, or is beyond kMayorTecleado.
 std::string TextoDeFalta(const Captura& c, const Tecleado& leido);
 
-/// Whether all of them pass. A braced list looks at each, in its order, so that every fault is told.
+/// Whether all of them pass. A braced list looks at each, in its order, so that every fault is
+/// told.
 inline bool Cada(std::initializer_list<bool> pasan) {
   return std::ranges::all_of(pasan, [](bool pasa) { return pasa; });
 }

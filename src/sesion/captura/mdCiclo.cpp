@@ -36,7 +36,8 @@ void Vacia(Captura& c) {
   c.enMano = 0;
   c.faltas.clear();
   c.sinAjustes.clear();
-  c.ObraCargada = c.Danada = c.Tecleando = false;
+  c.danos.clear();
+  c.ObraCargada = c.Tecleando = false;
   c.e.obra = Obra{};
   c.e.tramo = Tramo{};
   c.e.obra.RutaApp = carpeta;
@@ -81,6 +82,18 @@ std::vector<EntradaAjuste> LosDe(const std::vector<EntradaAjuste>& ajustes, int 
   return suyos;
 }
 
+// Those of numbers that no Tramo has. A save keeps them: who knows what they are for.
+std::vector<EntradaAjuste> Sueltos(const std::vector<EntradaAjuste>& ajustes,
+                                   const ListaTramos& lista) {
+  std::vector<EntradaAjuste> sueltos;
+  std::ranges::copy_if(ajustes, std::back_inserter(sueltos), [&](const EntradaAjuste& x) {
+    return !x.Libre() && std::ranges::none_of(lista, [&](const std::string& numero) {
+      return !numero.empty() && NumeroDe(numero) == static_cast<int>(Redondea(x.Tramo));
+    });
+  });
+  return sueltos;
+}
+
 // Whether the file is still the same. What can't be read has the mark of nothing.
 std::uint64_t HuellaDeTodo(const Captura& c) {
   std::uint64_t huella = HuellaDe(*c.fichero, 0);
@@ -108,14 +121,17 @@ std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanante
     if (!t.numero.empty()) {
       CargaTramo(e, *c.fichero, posicion);
       t.datos = e.tramo;
-      t.ajustes = LosDe(suyos.ajustes, numero);
+      PonAjustes(t, e.obra, LosDe(suyos.ajustes, numero));
       if (auto extras = TomaExtras(suyos.extras, t.numero, t.datos.DescriTramo)) {
         t.datos.Envolvente = extras->Envolvente;
         t.extras = std::move(extras->otras);
       }
     }
     const auto dano = std::ranges::find(leida.danos, posicion, &DanoObra::posicion);
-    if (dano != leida.danos.end()) t.dano = c.textos.Compone(dano->causa);
+    if (dano != leida.danos.end()) {
+      t.dano = c.textos.Compone(dano->causa);
+      t.numero = dano->numero;
+    }
     t.datos.NumeroTramo = static_cast<std::int16_t>(numero);
     tramos.push_back(std::make_shared<TramoEnObra>(std::move(t)));
   }
@@ -124,10 +140,12 @@ std::vector<TramoFijo> LeeTramos(Captura& c, const ObraLeida& leida, Acompanante
 
 // What could not be read, told at once.
 void DiDanos(Captura& c, const std::vector<DanoObra>& danos) {
-  c.Danada = !danos.empty();
-  if (!c.Danada) return;
+  if (danos.empty()) return;
   std::string texto = c.textos.Compone(txt::ObraDanada, {c.fichero->Nombre()});
-  for (const auto& dano : danos) texto += "\n" + c.textos.Compone(dano.causa);
+  for (const auto& dano : danos) {
+    c.danos.push_back(c.textos.Compone(dano.causa));
+    texto += "\n" + c.danos.back();
+  }
   c.voz.Muestra(texto, {});
 }
 
@@ -141,6 +159,7 @@ void LeeTodo(Captura& c) {
     c.voz.Anuncia(c.textos.Compone(aviso));
   }
   c.version.extras = std::move(suyos.extras);
+  c.version.ajustesSueltos = Sueltos(suyos.ajustes, leida.lista);
   c.huella = HuellaDeTodo(c);
   c.ObraCargada = true;
   DiDanos(c, leida.danos);
@@ -169,8 +188,7 @@ std::vector<int> Cambiados(const Captura& c, const Version& ahora) {
   std::vector<int> ids;
   for (const auto& t : ahora.tramos) {
     const auto antes = LugarDe(c.guardada, t->id);
-    if (!t->numero.empty() && t->dano.empty() &&
-        (!antes || *c.guardada.tramos[*antes] != *t)) {
+    if (!t->numero.empty() && t->dano.empty() && (!antes || *c.guardada.tramos[*antes] != *t)) {
       ids.push_back(t->id);
     }
   }
@@ -184,9 +202,9 @@ bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
   for (const auto& [tramo, cuantos] : r.anulados) {
     cuales += "\n" + c.textos.Compone(txt::AjustesDelTramo, {tramo, TextoEntero(cuantos)});
   }
-  return c.voz.Pregunta(Texto(c, txt::AjustesQueSeAnulan) + cuales + "\n\n" +
-                            Texto(c, txt::GrabaDeTodosModos),
-                        Texto(c, txt::TituloAviso));
+  return c.voz.Pregunta(
+      Texto(c, txt::AjustesQueSeAnulan) + cuales + "\n\n" + Texto(c, txt::GrabaDeTodosModos),
+      Texto(c, txt::TituloAviso));
 }
 
 // What is to be written: complete and without a fault. Nothing where there are some, which are
@@ -194,33 +212,69 @@ bool AceptaAnular(Captura& c, const AjustesAnulados& r) {
 std::optional<Version> QueGrabar(Captura& c) {
   const Version ahora = VersionActual(c);
   auto comprobado = Comprueba(c, Cambiados(c, ahora));
-  c.faltas = comprobado.faltas;
-  if (!c.faltas.empty()) {
-    LlevaALaFalta(c, Falta(c.faltas.front()));
-    c.faltas = std::move(comprobado.faltas);
-    return std::nullopt;
-  }
-  auto sinVanos = SinAjustesVanos(c.guardada, std::move(comprobado.version));
+  if (MuestraFaltas(c, std::move(comprobado.faltas))) return std::nullopt;
+  auto sinVanos = SinAjustesVanos(std::move(comprobado.version));
   if (!AceptaAnular(c, sinVanos)) return std::nullopt;
   std::erase_if(sinVanos.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
   return std::move(sinVanos.version);
 }
 
-// Blocks that the file has already, at the same place, stay as they are.
+// The block at a place, with what a Tramo has that no block says. @param e  what comes before it
+Tramo Leido(const FicheroRegistros& f, EstadoCalculo& e, std::size_t lugar, const TramoEnObra& t) {
+  CargaTramo(e, f, static_cast<int>(lugar) + 1);
+  e.tramo.NumeroTramo = t.datos.NumeroTramo;
+  e.tramo.Envolvente = t.datos.Envolvente;
+  return e.tramo;
+}
+
+// Whether the file has a Tramo at its place already, whatever comes before it by now: a blank record
+// of a block means the value of the Tramo before.
+bool EstaEnElFichero(const Captura& c, const Version& v, std::size_t lugar) {
+  const auto& t = *v.tramos[lugar];
+  if (lugar >= c.guardada.tramos.size() || *c.guardada.tramos[lugar] != t) return false;
+  if (t.numero.empty()) return true;
+  EstadoCalculo e;
+  e.obra = c.guardada.obra;
+  for (std::size_t i = 0; i < lugar; ++i) {
+    if (!v.tramos[i]->numero.empty()) e.tramo = v.tramos[i]->datos;
+  }
+  return Leido(*c.fichero, e, lugar, t) == t.datos;
+}
+
+// Blocks that the file has already stay as they are.
 ProyectoAGrabar AGrabar(const Captura& c, const Version& v, bool todos) {
   ProyectoAGrabar p{v.obra, {}, {}, v.extras};
   for (std::size_t i = 0; i < v.tramos.size(); ++i) {
     const auto& t = *v.tramos[i];
-    const bool esta = !todos && i < c.guardada.tramos.size() && *c.guardada.tramos[i] == t;
-    p.tramos.push_back({t.numero, esta ? std::nullopt : std::optional(t.datos), t.extras});
+    p.tramos.push_back({t.numero, t.datos, t.extras, !todos && EstaEnElFichero(c, v, i)});
     p.ajustes.insert(p.ajustes.end(), t.ajustes.begin(), t.ajustes.end());
   }
+  // A number that was taken since means another pipe.
+  const auto sueltos = Sueltos(v.ajustesSueltos, ListaDe(v));
+  p.ajustes.insert(p.ajustes.end(), sueltos.begin(), sueltos.end());
   return p;
+}
+
+// A version that was saved, with the digits that the file has of it: today's calculation is that of
+// tomorrow.
+Version ComoEnElFichero(const Captura& c, Version v) {
+  EstadoCalculo e;
+  CargaObra(e, *c.fichero);
+  v.obra = SinSesion(e.obra);
+  for (std::size_t i = 0; i < v.tramos.size(); ++i) {
+    auto leido = std::make_shared<TramoEnObra>(*v.tramos[i]);
+    if (leido->numero.empty()) continue;
+    e.tramo = leido->datos;
+    leido->datos = Leido(*c.fichero, e, i, *leido);
+    if (*leido != *v.tramos[i]) v.tramos[i] = std::move(leido);
+  }
+  return v;
 }
 
 // The file holds a version from now on.
 void QuedaGrabada(Captura& c, Version v) {
   const EnUnPaso paso(c, Texto(c, txt::PasoCompleta));
+  v = ComoEnElFichero(c, std::move(v));
   c.guardada = v;
   const auto& o = c.e.obra;
   v.obra.RutaApp = o.RutaApp;
@@ -239,7 +293,7 @@ bool GrabaEn(Captura& c, const std::string& nombre, Version v) {
   try {
     auto f = GrabaProyectoComo(nombre, AGrabar(c, v, true), nullptr, c.textos, c.SeparadorDecimal);
     c.fichero.reset();
-    c.Danada = false;
+    c.danos.clear();
     TomaFichero(c, std::move(f));
   } catch (const ErrorFichero& error) {
     MuestraError(c, error);
@@ -383,7 +437,7 @@ void RecogeAjustes(Captura& c) {
   for (auto* v : {&c.version, &c.guardada}) {
     for (auto& t : v->tramos) {
       auto otro = std::make_shared<TramoEnObra>(*t);
-      otro->ajustes = LosDe(ajustes, NumeroDe(t->numero));
+      PonAjustes(*otro, v->obra, LosDe(ajustes, NumeroDe(t->numero)));
       if (otro->ajustes != t->ajustes) t = std::move(otro);
     }
   }

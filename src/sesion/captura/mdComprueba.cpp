@@ -1,7 +1,6 @@
 #include "sesion/captura/mdComprueba.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
@@ -25,6 +24,18 @@ class Nadie : public Interlocutor {
   void VaA(Ed) override {}
 };
 
+// What is refused is not the datum: the rules look at that.
+void MuestraSoloDatos(Captura& c) {
+  Version v = VersionActual(c);
+  v.pendientes.clear();
+  if (const auto lugar = LugarDe(v, c.enMano)) {
+    auto t = std::make_shared<TramoEnObra>(*v.tramos[*lugar]);
+    t->pendientes.clear();
+    v.tramos[*lugar] = std::move(t);
+  }
+  VuelveA(c, v, c.enMano);
+}
+
 // Texts that were refused are tried again, since what kept them out may be right by now. @return
 // the faults of those that still are not taken
 std::vector<Falta> Reintenta(Captura& c, const std::vector<TextoPendiente>& pendientes) {
@@ -38,18 +49,20 @@ std::vector<Falta> Reintenta(Captura& c, const std::vector<TextoPendiente>& pend
     if (control.falta.empty()) continue;
     faltas.push_back(c.faltas.empty() ? Falta{p.campo, p.texto, {}, p.mensaje} : c.faltas.front());
   }
+  if (!pendientes.empty()) MuestraSoloDatos(c);
   return faltas;
 }
 
-// The faults of a validation and those of refused texts, with what they are of.
+// The faults of refused texts, then those of a validation, with what they are of.
 void Recoge(std::vector<Falta>& todas, Captura& c, int tramo, std::vector<Falta> rechazadas) {
-  std::erase_if(rechazadas, [&](const Falta& r) {
-    return std::ranges::any_of(c.faltas, [&](const Falta& f) { return f.campo == r.campo; });
+  std::erase_if(c.faltas, [&](const Falta& f) {
+    return std::ranges::find(rechazadas, f.campo, &Falta::campo) != rechazadas.end();
   });
-  std::ranges::move(rechazadas, std::back_inserter(c.faltas));
-  for (auto& falta : c.faltas) {
-    falta.tramo = tramo;
-    todas.push_back(std::move(falta));
+  for (auto* faltas : {&rechazadas, &c.faltas}) {
+    for (auto& falta : *faltas) {
+      falta.tramo = tramo;
+      todas.push_back(std::move(falta));
+    }
   }
   c.faltas.clear();
 }
@@ -83,8 +96,8 @@ Sombra::Sombra(const Catalogo& catalogo, const TablasCatalogo& tablas, char sepa
 Sombra::~Sombra() = default;
 
 bool Comprobado::Vale(int id) const {
-  return std::ranges::none_of(
-      faltas, [id](const Falta& f) { return f.tramo == 0 || f.tramo == id; });
+  return std::ranges::none_of(faltas,
+                              [id](const Falta& f) { return f.tramo == 0 || f.tramo == id; });
 }
 
 Comprobado Comprueba(const Version& version, const std::vector<int>& ids, const Catalogo& textos,
@@ -114,9 +127,15 @@ Comprobado Comprueba(const Captura& c, const std::vector<int>& ids) {
 std::vector<int> IdsDe(const Version& version) {
   std::vector<int> ids;
   for (const auto& t : version.tramos) {
-    if (!t->numero.empty()) ids.push_back(t->id);
+    if (!t->numero.empty() || !t->dano.empty()) ids.push_back(t->id);
   }
   return ids;
+}
+
+bool MuestraFaltas(Captura& c, std::vector<Falta> faltas) {
+  if (!faltas.empty()) LlevaALaFalta(c, faltas.front());
+  c.faltas = std::move(faltas);
+  return !c.faltas.empty();
 }
 
 void LlevaALaFalta(Captura& c, const Falta& falta) {

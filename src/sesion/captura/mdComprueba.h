@@ -46,7 +46,11 @@ Comprobado Comprueba(const Captura& c, const std::vector<int>& ids);
 /// The ids of all Tramos that have a number and can be read.
 std::vector<int> IdsDe(const Version& version);
 
-/// Shows the first of the faults: its Tramo in hand, its page, its field, and what was said there.
+/// The faults are those of the capture, and the first one leads to its field. @return whether there
+/// are any
+bool MuestraFaltas(Captura& c, std::vector<Falta> faltas);
+
+/// Shows one of the faults: its Tramo in hand, its page, its field, and what was said there.
 void LlevaALaFalta(Captura& c, const Falta& falta);
 
 }  // namespace zorbin

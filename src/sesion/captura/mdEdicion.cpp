@@ -22,6 +22,7 @@ SalidaCampo Rehusa(Captura& c, Ed campo, std::string tecleado, EstadoCalculo ant
   const std::string falta = control.falta;
   Escribe(c, campo, std::move(tecleado));
   control.falta = falta;
+  control.rehusado = true;
   if (control.falta.empty() && !c.faltas.empty()) control.falta = c.faltas.back().mensaje;
   return SalidaCampo::Queda;
 }
@@ -50,6 +51,7 @@ void Cambia(Captura& c, Ed campo, std::string texto) {
   control.texto = std::move(texto);
   control.tocado = true;
   control.falta.clear();
+  control.rehusado = false;
   // The choice of a Tramo is no datum.
   if (campo == Ed::edTramo) return;
   c.Tecleando = true;
@@ -63,7 +65,8 @@ SalidaCampo Sale(Captura& c, Ed campo) {
   control.seleccionado = false;
   if (control.bloqueado || !control.habilitado) return SalidaCampo::Pasa;
   // A refusal that was left stands until the text is another.
-  if (!control.falta.empty() && !control.tocado) return SalidaCampo::Queda;
+  if (control.rehusado && !control.tocado) return SalidaCampo::Queda;
+  control.falta.clear();
   std::erase_if(c.faltas, [&](const Falta& f) {
     return f.campo == campo && (f.tramo == 0 || f.tramo == c.enMano);
   });

@@ -1,9 +1,12 @@
 #include "sesion/captura/mdEtiquetas.h"
 
+#include <array>
+#include <optional>
 #include <vector>
 
 #include "base/aritmetica.h"
 #include "base/textos.h"
+#include "core/mdUnidades.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdPlausibilidad.h"
 #include "sesion/captura/mdTipologias.h"
@@ -75,13 +78,115 @@ void RenuevaLista(Captura& c, const FilaCampo& fila) {
 void RenuevaOpciones(Captura& c) {
   c[Ed::rdSistemaUnidades].entradas = Entradas(c, {txt::RotSI, txt::RotMKS});
   c[Ed::rdGolpeAriete].entradas = Entradas(c, {txt::Si, txt::No});
-  c[Ed::rdTipologia].entradas = {SinMarcas(Texto(c, txt::PagArmado)), SinMarcas(Texto(c, txt::PagPostesado))};
+  c[Ed::rdTipologia].entradas = {SinMarcas(Texto(c, txt::PagArmado)),
+                                 SinMarcas(Texto(c, txt::PagPostesado))};
   c[Ed::rdTipoCamisa].entradas = Entradas(c, {txt::OpcionEmbebida, txt::OpcionRevestida});
   c[Ed::rdTipoColocacion].entradas =
       Entradas(c, {txt::OpcionZanja, txt::OpcionZanjaTerraplenada, txt::OpcionTerraplen});
 }
 
+// As the captions of the catalogue write them.
+constexpr auto kUnidadesEnRotulos = std::to_array<std::string_view>(
+    {"(mts.)", "(mts)", "(m)", "(cm.)", "(cm)", "(mm.)", "(mm)", "(cm2/m)", "(Kp/cm2)", "(MPa)",
+     "(at)", "(T/m2)", "(T/m3)", "(%)", "(º)", "(°)"});
+
+// The field of the Obra that one of the Tramo takes its value from; itself where there is none.
+Ed DeLaObra(Ed campo) {
+  switch (campo) {
+    case Ed::edPrsM1Tram:
+      return Ed::edPrsM1;
+    case Ed::edPrsM2Tram:
+      return Ed::edPrsM2;
+    case Ed::edPrs1Tram:
+      return Ed::edPrs1;
+    case Ed::edPrs2Tram:
+      return Ed::edPrs2;
+    case Ed::edPrs3Tram:
+      return Ed::edPrs3;
+    case Ed::edHr0:
+      return Ed::edAlt1;
+    case Ed::edHr0Final:
+      return Ed::edAlt2;
+    case Ed::edHr0Delta:
+      return Ed::edAlt3;
+    default:
+      return campo;
+  }
+}
+
+double ValorDe(const Captura& c, Ed campo) {
+  const auto& fila = Fila(campo);
+  if (fila.obra != nullptr) return c.e.obra.*fila.obra;
+  return fila.tramo != nullptr ? c.e.tramo.*fila.tramo : 0.0;
+}
+
+// The maximum that a design pressure follows from.
+std::optional<Ed> MaximaDe(Ed campo) {
+  switch (campo) {
+    case Ed::edPrs1:
+      return Ed::edPrsM1;
+    case Ed::edPrs2:
+      return Ed::edPrsM2;
+    case Ed::edPrs1Tram:
+      return Ed::edPrsM1Tram;
+    case Ed::edPrs2Tram:
+      return Ed::edPrsM2Tram;
+    default:
+      return std::nullopt;
+  }
+}
+
+// All pressures of a Tramo are its own as soon as one is, and so are its heights.
+bool TieneSuyas(const Captura& c, Ed campo) {
+  const auto& t = c.e.tramo;
+  const auto de = DeLaObra(campo);
+  if (de == campo) return true;
+  if (de == Ed::edAlt1 || de == Ed::edAlt2 || de == Ed::edAlt3) {
+    return AlturasDe(c.e.obra, t).AlturasPropias;
+  }
+  return t.TieneDPPropia() || t.PrsM1Tram > 0 || t.PrsM2Tram > 0;
+}
+
 }  // namespace
+
+std::string UnidadEscrita(Ed campo, bool si) {
+  const auto& unidades = UnidadesDe(Fila(campo).ficha->magnitud);
+  std::string texto;
+  for (const char letra : si ? unidades.si : unidades.mks) {
+    if (letra == '2') {
+      texto += "²";
+    } else if (letra == '3') {
+      texto += "³";
+    } else {
+      texto += letra;
+    }
+  }
+  return texto == "º" ? "°" : texto;
+}
+
+std::string SinUnidad(std::string rotulo) {
+  for (const auto unidad : kUnidadesEnRotulos) {
+    const auto donde = rotulo.find(unidad);
+    if (donde == std::string::npos) continue;
+    rotulo.erase(donde, unidad.size());
+    auto antes = donde;
+    while (antes > 0 && rotulo[antes - 1] == ' ') rotulo.erase(--antes, 1);
+    break;
+  }
+  while (!rotulo.empty() && (rotulo.back() == ' ' || rotulo.back() == ':')) rotulo.pop_back();
+  return rotulo;
+}
+
+std::string ValorEnBlanco(const Captura& c, Ed campo) {
+  const bool suyas = TieneSuyas(c, campo);
+  const Ed donde = suyas ? campo : DeLaObra(campo);
+  double valor = ValorDe(c, donde);
+  if (const auto maxima = MaximaDe(donde); maxima && valor == 0) {
+    valor = ValorDe(c, *maxima) / kRelacionMDPDP;
+  }
+  if (valor == 0 || !Fila(campo).ficha || (donde == campo && !MaximaDe(campo))) return {};
+  return Formato(c, valor, Fila(campo).ficha->Mascara(c.EsSI()));
+}
 
 std::string TextoUnidades(const Captura& c) {
   return Texto(c, c.EsSI() ? txt::SistemaSI : txt::SistemaMKS) + ". ";

@@ -9,6 +9,15 @@ namespace zorbin {
 /// The system in force, as the window title begins.
 std::string TextoUnidades(const Captura& c);
 
+/// Unit of a field as it is written, with its powers raised; empty for none.
+std::string UnidadEscrita(Ed campo, bool si);
+/// A label without the unit that it carries in parentheses, and without the colon at its end.
+std::string SinUnidad(std::string rotulo);
+
+/// What stands for a number that is left blank: of a Tramo, that of the Obra; of a design pressure,
+/// the one that follows from its maximum. Empty where nothing does.
+std::string ValorEnBlanco(const Captura& c, Ed campo);
+
 /// Labels, captions and notices in the language and units in force, those with values in them
 /// included.
 void RenuevaEtiquetas(Captura& c);

@@ -29,10 +29,10 @@ struct AvisoDeObra {
 };
 
 struct ListaFaltas {
-  std::vector<FaltaDeObra> faltas;        // of the Obra first, then of the Tramos in their order
-  std::vector<AvisoDeObra> avisos;        // of the Obra first, then of the Tramos without a fault
-  Obra obra;                              // completed, in the units of its system
-  std::map<int, Tramo> tramos;            // those without a fault, completed, by position
+  std::vector<FaltaDeObra> faltas;  // of the Obra first, then of the Tramos in their order
+  std::vector<AvisoDeObra> avisos;  // of the Obra first, then of the Tramos without a fault
+  Obra obra;                        // completed, in the units of its system
+  std::map<int, Tramo> tramos;      // those without a fault, completed, by position
 
   bool Vale() const { return faltas.empty(); }
   /// Whether the Tramo at a position, from 1, has no fault; a fault of the Obra is a fault of all.
@@ -48,7 +48,7 @@ struct PeticionValida {
 void PonComprobada(Obra& obra, const Obra& comprobada);
 
 /// Validates Obra and Tramos of a project, in the language of the catalogue.
-ListaFaltas ValidaProyecto(const Proyecto& proyecto, const Catalogo& textos, const TablasCatalogo& tablas,
-                           const PeticionValida& peticion);
+ListaFaltas ValidaProyecto(const Proyecto& proyecto, const Catalogo& textos,
+                           const TablasCatalogo& tablas, const PeticionValida& peticion);
 
 }  // namespace zorbin

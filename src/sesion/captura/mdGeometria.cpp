@@ -54,8 +54,8 @@ int GrupoDeTipologia(int tipologia) {
   return 0;
 }
 
-int RecomendadosGeom(const Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
-                     ModoGeom modo) {
+int RecomendadosGeom(const Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia,
+                     double Di, ModoGeom modo) {
   const int grupo = GrupoDeTipologia(Tipologia);
   if (grupo == 0) return kGeomNoListado;
   const auto* t = Busca(c.tablas, Di, grupo);
@@ -99,6 +99,17 @@ std::optional<double> DiametroCercano(const Captura& c) {
   }
   if (!cercano) return std::nullopt;
   return *cercano / 1000.0;
+}
+
+void PonBandas(Captura& c) {
+  const auto& t = c.e.tramo;
+  Recomendadas r;
+  RecomendadosGeom(c, r.Esp, r.Reci, r.Rece, t.Tipologia, t.Di, ModoGeom::Todo);
+  const double margen = t.Di * kToleranciaEspesor * 100.0;
+  c.EspRecomMin = c.EsComercial ? Redondea(r.Esp - margen) : 0;
+  c.EspRecomMax = c.EsComercial ? Redondea(margen + r.Esp) : 0;
+  c.BandaReci = c.EsComercial && t.Tipologia != kRevestida;
+  c.BandaRece = c.EsComercial;
 }
 
 void CargaListasGeom(Captura& c, int grupo) {

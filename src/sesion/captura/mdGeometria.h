@@ -23,8 +23,8 @@ int GrupoDeTipologia(int tipologia);
 /// Looks a diameter [m] up and writes what the mode asks for, or compares. Thickness and
 /// covers in cm. A diameter is compared in whole mm, rounded half to even.
 /// @return one of the codes above
-int RecomendadosGeom(const Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia, double Di,
-                     ModoGeom modo);
+int RecomendadosGeom(const Captura& c, double& Esp, double& Reci, double& Rece, int Tipologia,
+                     double Di, ModoGeom modo);
 
 /// As RecomendadosGeom for the Tramo in hand.
 int BuscaEnTramo(Captura& c, ModoGeom modo);
@@ -37,6 +37,9 @@ struct Recomendadas {
 std::optional<Recomendadas> RecomendadasDistintas(const Captura& c);
 /// The diameter made in its typology that lies nearest to that of the Tramo in hand [m].
 std::optional<double> DiametroCercano(const Captura& c);
+
+/// The bands of the labels: those of a diameter of the table, else none.
+void PonBandas(Captura& c);
 
 /// Values offered by edEsp0, edReci0 and edRece0 for a group.
 void CargaListasGeom(Captura& c, int grupo);

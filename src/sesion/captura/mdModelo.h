@@ -16,7 +16,8 @@ struct Control {
   std::string etiqueta;               // label, in the language and units in force
   std::string grupo;                  // caption of the frame around it, if any
   std::string consejo;                // tip
-  std::string falta;                  // why its rule refuses what stands in it; else empty
+  std::string falta;                  // what is wrong with what stands in it; else empty
+  bool rehusado = false;              // what stands in it is not the datum: its rule refuses it
   std::vector<std::string> entradas;  // of a list, and values offered by the dimensions
   int opcion = -1;                    // chosen option from 0, -1 none; of a tick box 0 or 1
   bool habilitado = true;

@@ -228,18 +228,19 @@ void AvisosDeTabla(const Captura& c, std::vector<AvisoDeCampo>& avisos) {
   constexpr std::string_view kMetros = "#####0.000";
   constexpr std::string_view kCm = "#####0.0";
   if (const auto cercano = DiametroCercano(c); cercano && t.Di > 0 && !c.EsComercial) {
-    avisos.push_back({Ed::edDi0, c.textos.Compone(txt::DiametroNoComercial, {numero(t.Di, kMetros)}),
+    avisos.push_back({Ed::edDi0,
+                      c.textos.Compone(txt::DiametroNoComercial, {numero(t.Di, kMetros)}),
                       {{Ed::edDi0, *cercano}},
                       c.textos.Compone(txt::TomarDiametro, {numero(*cercano, kMetros)})});
   }
   if (const auto r = RecomendadasDistintas(c)) {
-    AvisoDeCampo aviso{Ed::edEsp0,
-                       c.textos.Compone(txt::FueraDeRecomendadas,
-                                        {numero(t.Esp, kCm), numero(t.Reci, kCm),
-                                         numero(t.Rece, kCm), numero(r->Esp, kCm),
-                                         numero(r->Reci, kCm), numero(r->Rece, kCm)}),
-                       {{Ed::edEsp0, r->Esp}},
-                       Texto(c, txt::TomarRecomendadas)};
+    AvisoDeCampo aviso{
+        Ed::edEsp0,
+        c.textos.Compone(txt::FueraDeRecomendadas,
+                         {numero(t.Esp, kCm), numero(t.Reci, kCm), numero(t.Rece, kCm),
+                          numero(r->Esp, kCm), numero(r->Reci, kCm), numero(r->Rece, kCm)}),
+        {{Ed::edEsp0, r->Esp}},
+        Texto(c, txt::TomarRecomendadas)};
     if (t.Tipologia != kRevestida) aviso.remedio.emplace_back(Ed::edReci0, r->Reci);
     aviso.remedio.emplace_back(Ed::edRece0, r->Rece);
     avisos.push_back(std::move(aviso));
@@ -247,17 +248,14 @@ void AvisosDeTabla(const Captura& c, std::vector<AvisoDeCampo>& avisos) {
   const int veces = c.tablas.MaxAnchoZanja;
   if (veces > 0 && t.TipoColocacion == 1 && t.Di > 0 && t.B0 > veces * t.Di) {
     avisos.push_back({Ed::edB0, c.textos.Compone(txt::ZanjaMuyAncha, {numero(t.B0, kMascaraAltura),
-                                                                     std::to_string(veces)})});
+                                                                      std::to_string(veces)})});
   }
 }
 
-// Whether all the tabs that a field stands on show it.
+// Whether the page in front shows a field.
 bool Delante(const Paginas& delante, const Paginas& pagina) {
-  const auto cabe = [](int pedida, int puesta) { return pedida < 0 || pedida == puesta; };
   return pagina.TabPrincipal == delante.TabPrincipal &&
-         cabe(pagina.TabTipologia, delante.TabTipologia) &&
-         cabe(pagina.TabPostesados, delante.TabPostesados) &&
-         cabe(pagina.TabDatosColocacion, delante.TabDatosColocacion);
+         (pagina.TabTipologia < 0 || pagina.TabTipologia == delante.TabTipologia);
 }
 
 }  // namespace

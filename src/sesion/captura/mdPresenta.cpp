@@ -94,14 +94,13 @@ void MuestraTramo(Captura& c) {
   MuestraOpciones(c);
   CargaListasGeom(c, GrupoDeTipologia(t.Tipologia));
   c.AnchoZanjaAuto = false;
-  c.EspRecomMin = c.EspRecomMax = 0;
-  c.BandaReci = c.BandaRece = false;
+  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
+  PonBandas(c);
   AplicaTipologia(c);
   AplicaColocacion(c);
   BloqueosTramo(c);
   RenuevaFiguras(c);
   RenuevaEtiquetas(c);
-  c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
   c.LeyendoDatos = false;
 }
 

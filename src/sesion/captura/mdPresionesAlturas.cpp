@@ -29,23 +29,25 @@ SalidaCampo Queda(Captura& c, Ed campo, int texto) {
   return SalidaCampo::Queda;
 }
 
-// A DP that follows from its MDP, where there is one.
-void SigueAMDP(Captura& c, const Presiones& p, Ed dp, Ed mdp) {
-  if (Variable(c, dp) == 0.0) return;
+// A DP that follows from its MDP, where there is one and the MDP is another by now.
+void SigueAMDP(Captura& c, const Presiones& p, Ed dp, Ed mdp, double anterior) {
+  if (Variable(c, dp) == 0.0 || Variable(c, mdp) == anterior) return;
   Variable(c, dp) = Variable(c, mdp) / kRelacionMDPDP;
   Muestra(c, p, dp);
 }
 
 SalidaCampo SalePrsM1(Captura& c, const Presiones& p) {
+  const double anterior = Variable(c, p.prsM1);
   if (!Lee(c, p.prsM1, kNadaBajoCero)) return SalidaCampo::Queda;
   if (!p.deTramo && Variable(c, p.prsM1) < 0) return Queda(c, p.prsM1, txt::SinMDPInicial);
   Muestra(c, p, p.prsM1);
-  SigueAMDP(c, p, p.prs1, p.prsM1);
+  SigueAMDP(c, p, p.prs1, p.prsM1, anterior);
   if (p.deTramo && Variable(c, p.prsM1) < Variable(c, p.prsM2)) c[p.prsM2].tabulador = true;
   return SalidaCampo::Pasa;
 }
 
 SalidaCampo SalePrsM2(Captura& c, const Presiones& p) {
+  const double anterior = Variable(c, p.prsM2);
   if (!Lee(c, p.prsM2, kNadaBajoCero)) return SalidaCampo::Queda;
   const double inicial = Variable(c, p.prsM1);
   double& final = Variable(c, p.prsM2);
@@ -57,7 +59,7 @@ SalidaCampo SalePrsM2(Captura& c, const Presiones& p) {
     p.deTramo ? Escribe(c, p.prs3, "") : Escribe(c, p.prs3, 0.0, "#####0");
   }
   Muestra(c, p, p.prsM2);
-  SigueAMDP(c, p, p.prs2, p.prsM2);
+  SigueAMDP(c, p, p.prs2, p.prsM2, anterior);
   const bool rango = final > 0 && final > inicial;
   Libera(c, p.prs2, rango);
   Libera(c, p.prs3, rango);

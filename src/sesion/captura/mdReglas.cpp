@@ -18,7 +18,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kFckMinimo = 275.0;            // [kp/cm2]
+constexpr double kFckMinimo = 275.0;  // [kp/cm2]
 
 bool LeeFila(Captura& c, Ed campo) {
   const auto& fila = Fila(campo);
@@ -78,8 +78,8 @@ SalidaCampo SaleFck(Captura& c, Ed campo) {
   if (c.e.tramo.Fck < minimo) {
     const std::string tecleado = c[campo].texto;
     PonDefecto(c, campo, minimo);
-    c.voz.Anuncia(c.textos.Compone(
-        txt::PuestoElMinimo, {NombreDeCampo(c, campo), tecleado, c[campo].texto}));
+    c.voz.Anuncia(
+        c.textos.Compone(txt::PuestoElMinimo, {NombreDeCampo(c, campo), tecleado, c[campo].texto}));
   }
   CalculaFct(c);
   return SalidaCampo::Pasa;
@@ -134,7 +134,10 @@ SalidaCampo SaleQDato(Captura& c, Ed campo) {
   if (!leido) c.e.tramo.QDato = 0.0;
   MuestraVariable(c, campo);
   if (!leido) return SalidaCampo::Queda;
+  // The choice of a traffic load stays for as long as another one may be cleared again.
+  const auto elegida = c.e.tramo.ICar;
   EligeCarga(c.e.tramo);
+  c.e.tramo.ICar = elegida;
   c.e.tramo.IndCar == 1 ? Enciende(c, Ed::edICar0) : Apaga(c, Ed::edICar0);
   return SalidaCampo::Pasa;
 }
@@ -178,6 +181,7 @@ SalidaCampo SaleDescripcion(Captura& c, Ed campo) {
 }
 
 SalidaCampo SaleObra(Captura& c, Ed campo) {
+  if (campo == Ed::edObra) Escribe(c, Ed::edObra2, c[campo].texto);
   (campo == Ed::edObra ? c.e.obra.NombreObra : c.e.obra.Cliente) = c[campo].texto;
   return SalidaCampo::Pasa;
 }

@@ -1,6 +1,7 @@
 #include "sesion/captura/mdReglasDimensiones.h"
 
 #include <array>
+#include <cmath>
 
 #include "base/textos.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -12,9 +13,12 @@ namespace {
 
 constexpr double kMinimo = 0.001;  // below it a dimension is not given
 
-// A dimension takes the place of the text when the diameter is another or the field is blank.
-void Reemplaza(Captura& c, Ed campo, bool otroDi) {
-  if (otroDi || EnBlanco(c, campo)) MuestraVariable(c, campo);
+// A dimension of the table takes the place of another when the diameter is another or the field is
+// blank.
+void Propone(Captura& c, Ed campo, ModoGeom modo, bool otroDi) {
+  if (!otroDi && !EnBlanco(c, campo)) return;
+  BuscaEnTramo(c, modo);
+  MuestraVariable(c, campo);
 }
 
 // The inner cover of a lined cylinder is what the coating leaves.
@@ -24,21 +28,29 @@ void RecubrimientoRevestida(Captura& c) {
   MuestraVariable(c, Ed::edReci0);
 }
 
-// What a diameter brought with it, so that nothing typed goes in silence.
+// What a dimension brings with it, so that nothing typed goes in silence.
 class LoQueTrae {
  public:
-  explicit LoQueTrae(Captura& c) : c_(c) {
-    for (std::size_t i = 0; i < kSiguen.size(); ++i) antes_[i] = c[kSiguen[i]].texto;
+  LoQueTrae(Captura& c, Ed campo) : c_(c), campo_(campo) {
+    for (std::size_t i = 0; i < kSiguen.size(); ++i) {
+      if (!EnBlanco(c, kSiguen[i])) antes_[i] = Variable(c, kSiguen[i]);
+    }
+    // A width that follows the pipe was typed by nobody.
+    constexpr double kCifra = 0.005;  // [m]
+    if (std::fabs(c.e.tramo.B0 - AnchoAutomatico(c)) < kCifra) antes_.back().reset();
   }
 
   void Di() const {
     std::string cambios;
     for (std::size_t i = 0; i < kSiguen.size(); ++i) {
-      const std::string& ahora = c_[kSiguen[i]].texto;
-      if (ahora == antes_[i] || antes_[i].empty()) continue;
+      const double ahora = Variable(c_, kSiguen[i]);
+      if (kSiguen[i] == campo_ || !antes_[i] || *antes_[i] == ahora) continue;
+      const auto texto = [&](double valor) {
+        return Formato(c_, valor, Fila(kSiguen[i]).ficha->MascaraTecleada(c_.EsSI()));
+      };
       if (!cambios.empty()) cambios += "; ";
-      cambios += c_.textos.Compone(txt::CambioDe,
-                                   {NombreDeCampo(c_, kSiguen[i]), antes_[i], ahora});
+      cambios += c_.textos.Compone(
+          txt::CambioDe, {NombreDeCampo(c_, kSiguen[i]), texto(*antes_[i]), texto(ahora)});
     }
     if (!cambios.empty()) c_.voz.Anuncia(c_.textos.Compone(txt::DiametroTrae, {cambios}));
   }
@@ -46,28 +58,17 @@ class LoQueTrae {
  private:
   static constexpr std::array kSiguen{Ed::edEsp0, Ed::edReci0, Ed::edRece0, Ed::edB0};
   Captura& c_;
-  std::array<std::string, kSiguen.size()> antes_;
+  Ed campo_;
+  std::array<std::optional<double>, kSiguen.size()> antes_;
 };
 
 // A diameter of the table brings its dimensions; any other has none, and no band.
 void TomaDimensiones(Captura& c, bool otroDi) {
-  const auto& t = c.e.tramo;
-  c.EspRecomMin = c.EspRecomMax = 0;
-  c.BandaReci = c.BandaRece = false;
+  PonBandas(c);
   if (!c.EsComercial) return;
-  BuscaEnTramo(c, ModoGeom::Espesor);
-  const double margen = t.Di * kToleranciaEspesor * 100.0;
-  c.EspRecomMin = Redondea(t.Esp - margen);
-  c.EspRecomMax = Redondea(margen + t.Esp);
-  Reemplaza(c, Ed::edEsp0, otroDi);
-  if (t.Tipologia != kRevestida) {
-    BuscaEnTramo(c, ModoGeom::Interior);
-    Reemplaza(c, Ed::edReci0, otroDi);
-    c.BandaReci = true;
-  }
-  BuscaEnTramo(c, ModoGeom::Exterior);
-  Reemplaza(c, Ed::edRece0, otroDi);
-  c.BandaRece = true;
+  Propone(c, Ed::edEsp0, ModoGeom::Espesor, otroDi);
+  if (c.e.tramo.Tipologia != kRevestida) Propone(c, Ed::edReci0, ModoGeom::Interior, otroDi);
+  Propone(c, Ed::edRece0, ModoGeom::Exterior, otroDi);
 }
 
 // One that is not given takes that of the table. @return whether there is one
@@ -95,11 +96,11 @@ void SigueADimension(Captura& c, Ed campo) {
 SalidaCampo SaleDi(Captura& c, Ed campo) {
   auto& t = c.e.tramo;
   const double anterior = t.Di;
+  const LoQueTrae trae(c, campo);
   c.AnchoZanjaAuto = false;
   if (!LeeAlSalir(c, campo, kMinimo, t.Di, Fila(campo).etiqueta)) return SalidaCampo::Queda;
   c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
   const bool otro = t.Di != anterior;
-  const LoQueTrae trae(c);
   TomaDimensiones(c, otro);
   RenuevaEtiquetas(c);
   CalculaDe(c);
@@ -116,6 +117,7 @@ SalidaCampo SaleDimension(Captura& c, Ed campo) {
   if (campo == Ed::edReci0 && c.e.tramo.Tipologia == kRevestida) return SalidaCampo::Pasa;
   double& valor = Variable(c, campo);
   const double anterior = valor;
+  const LoQueTrae trae(c, campo);
   const int etiqueta = Fila(campo).etiqueta;
   if (!c.EsComercial && !LeeAlSalir(c, campo, kMinimo, valor, etiqueta)) return SalidaCampo::Queda;
   if (!LeeAlSalir(c, campo, 0.0, valor, etiqueta) || !TieneDimension(c, campo)) {
@@ -125,7 +127,6 @@ SalidaCampo SaleDimension(Captura& c, Ed campo) {
   MuestraVariable(c, campo);
   // A new thickness overwrites a width typed by hand.
   if (valor != anterior && campo == Ed::edEsp0) {
-    const LoQueTrae trae(c);
     RecalculaB0(c);
     trae.Di();
   }

@@ -7,6 +7,7 @@
 #include "sesion/captura/mdEtiquetas.h"
 #include "sesion/captura/mdGeometria.h"
 #include "sesion/captura/mdOrdenes.h"
+#include "sesion/captura/mdValidaTramo.h"
 
 namespace zorbin {
 
@@ -92,7 +93,7 @@ void LimpiaSeccion(Captura& c) {
   t.TipoCuna = 1;
   t.TipoApoyo = 12;
   t.TipoRelleno = 21;
-  t.ICar = 1;  // and 2 once the validation reads the field
+  t.ICar = 2;
   t.IAs = 0;
   c.AnchoZanjaAuto = false;
   c.EsComercial = false;
@@ -128,6 +129,20 @@ void PasaAPostesado(Captura& c, std::int16_t candidata) {
 // A field that only some layings ask for.
 void Pide(Captura& c, Ed campo, bool pedido) {
   pedido ? Enciende(c, campo) : Apaga(c, campo);
+}
+
+// Some typologies have no picture of their own, and none of another.
+std::string FiguraDeTubo(const Captura& c) {
+  switch (c.e.tramo.Tipologia) {
+    case kArmada:
+      return Texto(c, txt::FiguraTubo2110);
+    case kEmbebida:
+      return Texto(c, txt::FiguraTubo2211);
+    case kRevestida:
+      return Texto(c, txt::FiguraTubo2221);
+    default:
+      return {};
+  }
 }
 
 void RellenaB0(Captura& c) {
@@ -239,6 +254,7 @@ void EligeColocacion(Captura& c, int opcion) {
     EligeEntrada(c, Ed::edTipoApoyo0, 0);
   } else {
     if (EnBlanco(c, Ed::edTipoApoyo0)) EligeEntrada(c, Ed::edTipoApoyo0, 2);
+    t.TipoApoyo = ValorDeLista(c, Ed::edTipoApoyo0, PosicionEnLista(c, Ed::edTipoApoyo0));
     RellenaB0(c);
   }
   AplicaColocacion(c);
@@ -264,10 +280,7 @@ void RenuevaFiguras(Captura& c) {
   const int primera =
       t.TipoCuna == 2 ? txt::FigurasColocacionHormigon[0] : txt::FigurasColocacionGranular[0];
   c.pantalla.figuraColocacion = Texto(c, primera + t.TipoColocacion);
-  const int opcion = c[Ed::rdTipoCamisa].opcion;
-  c.pantalla.figuraTubo = Texto(c, opcion == 0   ? txt::FiguraTubo2211
-                                   : opcion == 1 ? txt::FiguraTubo2221
-                                                 : txt::FiguraTubo2110);
+  c.pantalla.figuraTubo = FiguraDeTubo(c);
 }
 
 void BloqueosObra(Captura& c) {

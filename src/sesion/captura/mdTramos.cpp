@@ -53,13 +53,13 @@ TramoFijo ConNumero(TramoEnObra t, int numero) {
   return std::make_shared<TramoEnObra>(std::move(t));
 }
 
-// The screen of a Tramo that nobody has.
-void SinTramo(Captura& c) {
-  c.enMano = 0;
-  c.e.tramo = Tramo{};
-  LimpiaCaptura(c, 0);
-  RenuevaTitulo(c);
-  ActualizaMenus(c);
+void MuestraPendientes(Captura& c, const std::vector<TextoPendiente>& pendientes) {
+  for (const auto& p : pendientes) {
+    auto& control = c[p.campo];
+    control.texto = p.texto;
+    control.falta = p.mensaje;
+    control.rehusado = true;
+  }
 }
 
 // A change of the list itself: what is in hand goes into its version first, and is shown anew.
@@ -81,9 +81,10 @@ std::string NombreDeIds(const Captura& c, int texto, const std::vector<int>& ids
 
 void PonEnMano(Captura& c, int id) {
   const auto* t = Busca(c.version, id);
-  if (t == nullptr || !t->dano.empty()) return SinTramo(c);
-  c.enMano = id;
-  c.e.tramo = t->datos;
+  const bool hay = t != nullptr && t->dano.empty();
+  c.enMano = hay ? id : 0;
+  c.e.tramo = hay ? t->datos : Tramo{};
+  if (!hay) LimpiaCaptura(c, 0);
   MuestraTodo(c);
 }
 
@@ -94,15 +95,9 @@ void MuestraTodo(Captura& c) {
     Escribe(c, Ed::edTramo, t->numero);
     Escribe(c, Ed::edTramo2, t->numero);
     MuestraTramo(c);
-    for (const auto& p : t->pendientes) {
-      c[p.campo].texto = p.texto;
-      c[p.campo].falta = p.mensaje;
-    }
+    MuestraPendientes(c, t->pendientes);
   }
-  for (const auto& p : c.version.pendientes) {
-    c[p.campo].texto = p.texto;
-    c[p.campo].falta = p.mensaje;
-  }
+  MuestraPendientes(c, c.version.pendientes);
   RenuevaTitulo(c);
   ActualizaMenus(c);
 }

@@ -53,8 +53,8 @@ struct RenglonTramo {
   std::string numero;
   std::string descripcion;
   std::string tipologia;
-  std::string Di;          // [m]
-  std::string Esp;         // [cm]
+  std::string Di;   // [m]
+  std::string Esp;  // [cm]
   std::string colocacion;
   bool sinGrabar = false;
   bool conFaltas = false;  // a field of it is refused, or its block cannot be read

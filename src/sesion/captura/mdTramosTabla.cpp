@@ -22,9 +22,8 @@ using DatoTramo = Dato<Tramo>;
 
 // What follows from other data has no column: the capture finds it again.
 bool TieneColumna(const Ficha& ficha) {
-  constexpr std::array<std::string_view, 8> kDeducidos{"NumeroTramo", "EsArmado", "PostFlag",
-                                                       "SubTipo",     "GamaY",    "GamaF",
-                                                       "Fct",         "De"};
+  constexpr std::array<std::string_view, 8> kDeducidos{
+      "NumeroTramo", "EsArmado", "PostFlag", "SubTipo", "GamaY", "GamaF", "Fct", "De"};
   return !ficha.deSesion && std::ranges::find(kDeducidos, ficha.nombre) == kDeducidos.end();
 }
 
@@ -66,7 +65,7 @@ struct EnTexto {
 
 std::vector<std::string> Trozos(std::string_view texto, char corte) {
   std::vector<std::string> trozos;
-  for (std::size_t desde = 0;; ) {
+  for (std::size_t desde = 0;;) {
     const auto hasta = texto.find(corte, desde);
     std::string trozo(texto.substr(desde, hasta - desde));
     if (!trozo.empty() && trozo.back() == '\r') trozo.pop_back();
@@ -203,9 +202,8 @@ class LectorTabla {
 
   void Falta(Pegado& pegado, std::size_t fila, std::size_t columna,
              const std::string& texto) const {
-    pegado.faltas.push_back(
-        c_.textos.Compone(txt::FaltaEnTabla, {std::to_string(fila), std::to_string(columna + 1),
-                                              texto}));
+    pegado.faltas.push_back(c_.textos.Compone(
+        txt::FaltaEnTabla, {std::to_string(fila), std::to_string(columna + 1), texto}));
   }
 
   Captura& c_;
@@ -244,8 +242,7 @@ Pegado PegaTramos(Captura& c, std::string_view tabla) {
     return pegado;
   }
   pegado.tramos = static_cast<int>(tramos.size());
-  AnadeTramos(c, std::move(tramos),
-              c.textos.Compone(txt::PasoPega, {TextoEntero(pegado.tramos)}));
+  AnadeTramos(c, std::move(tramos), c.textos.Compone(txt::PasoPega, {TextoEntero(pegado.tramos)}));
   return pegado;
 }
 

@@ -130,13 +130,14 @@ class Validacion {
     auto& t = c_.e.tramo;
     t.SubTipo = 3;
     t.GamaY = t.GamaF = 1.0;
-    const bool vale = Cada(
-        {Marcado(Ed::edIcontes0, Ed::edAdato, t.Icontes0, txt::EtAdato),
-         EnLista(Ed::edTipoControl, Texto(c_, txt::SinTipoControl), Texto(c_, txt::ValorIncorrecto),
-                 Texto(c_, txt::EtTipoControl)),
-         EnLista(Ed::edTipoCamisa, txt::SinTipoCamisa, txt::TipoCamisaIncorrecto),
-         Numero(Ed::edCamMax, 0.0, txt::EtCamMax), Hormigon(), Numero(Ed::edFyk, kMinimo, txt::EtFyk),
-         Numero(Ed::edFyd, kMinimo, txt::EtFyd), Numero(Ed::edGamaB, kMinimo, txt::EtGamaB)});
+    const bool vale =
+        Cada({Marcado(Ed::edIcontes0, Ed::edAdato, t.Icontes0, txt::EtAdato),
+              EnLista(Ed::edTipoControl, Texto(c_, txt::SinTipoControl),
+                      Texto(c_, txt::ValorIncorrecto), Texto(c_, txt::EtTipoControl)),
+              EnLista(Ed::edTipoCamisa, txt::SinTipoCamisa, txt::TipoCamisaIncorrecto),
+              Numero(Ed::edCamMax, 0.0, txt::EtCamMax), Hormigon(),
+              Numero(Ed::edFyk, kMinimo, txt::EtFyk), Numero(Ed::edFyd, kMinimo, txt::EtFyd),
+              Numero(Ed::edGamaB, kMinimo, txt::EtGamaB)});
     if (vale) OlvidaPostesado(t);
     return vale;
   }

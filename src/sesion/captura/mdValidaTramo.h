@@ -7,10 +7,10 @@
 
 namespace zorbin {
 
-/// Brings the fields into the state and checks them all in a fixed order; what passed stays written.
-/// It also computes what nobody types: Fct, De, B0 when automatic, Sf when blank, Reci of a lined
-/// cylinder, pressures that follow from MDP, the codes of laying and fill, and the load fields. The
-/// refusals are kept in `faltas`.
+/// Brings the fields into the state and checks them all in a fixed order; what passed stays
+/// written. It also computes what nobody types: Fct, De, B0 when automatic, Sf when blank, Reci of
+/// a lined cylinder, pressures that follow from MDP, the codes of laying and fill, and the load
+/// fields. The refusals are kept in `faltas`.
 bool ValidaTramo(Captura& c);
 
 /// Whether the load is calculated, which it is where none is given; a given one has no load by its

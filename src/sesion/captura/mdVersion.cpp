@@ -20,6 +20,7 @@ bool Igual(const TramoFijo& a, const TramoFijo& b) {
 DatosTramo DatosDeUnCaso(const Obra& obra, Tramo tramo) {
   tramo.NumeroTramo = 0;
   tramo.DescriTramo.clear();
+  tramo.GamaY = tramo.GamaF = 0;  // nobody's: the rules set them
   DatosTramo datos;
   datos.obra = ObraEnCalculo(obra);
   datos.tramo = TramoEnCalculo(tramo, obra.EsSI());
@@ -57,6 +58,7 @@ void Convierte(Bloque& b, bool aSI) {
 
 bool Version::operator==(const Version& otra) const {
   return obra == otra.obra && pendientes == otra.pendientes && extras == otra.extras &&
+         ajustesSueltos == otra.ajustesSueltos &&
          std::ranges::equal(tramos, otra.tramos, Igual);
 }
 
@@ -120,8 +122,7 @@ Obra SinSesion(Obra obra) {
 bool CalculaDistinto(const Obra& obraA, const Tramo& a, const Obra& obraB, const Tramo& b) {
   auto x = DatosDeUnCaso(obraA, a);
   auto y = DatosDeUnCaso(obraB, b);
-  if (x.obra.GolpeCalculado != y.obra.GolpeCalculado ||
-      !MismasPresiones(RangoDe(x), RangoDe(y))) {
+  if (x.obra.GolpeCalculado != y.obra.GolpeCalculado || !MismasPresiones(RangoDe(x), RangoDe(y))) {
     return true;
   }
   for (auto* t : {&x.tramo, &y.tramo}) {
@@ -132,17 +133,24 @@ bool CalculaDistinto(const Obra& obraA, const Tramo& a, const Obra& obraB, const
   return x.tramo != y.tramo;
 }
 
-AjustesAnulados SinAjustesVanos(const Version& guardada, Version nueva) {
+void PonAjustes(TramoEnObra& t, const Obra& obra, std::vector<EntradaAjuste> ajustes) {
+  t.ajustes = std::move(ajustes);
+  t.base.datos.reset();
+  if (!t.ajustes.empty()) {
+    t.base.datos = std::make_shared<const EstadoCalculo>(EstadoCalculo{SinSesion(obra), t.datos});
+  }
+}
+
+AjustesAnulados SinAjustesVanos(Version nueva) {
   AjustesAnulados r;
   for (auto& t : nueva.tramos) {
-    const auto* antes = Busca(guardada, t->id);
-    if (t->ajustes.empty() || antes == nullptr ||
-        !CalculaDistinto(guardada.obra, antes->datos, nueva.obra, t->datos)) {
+    const auto& de = t->base.datos;
+    if (t->ajustes.empty() || !de || !CalculaDistinto(de->obra, de->tramo, nueva.obra, t->datos)) {
       continue;
     }
     r.anulados.emplace_back(t->numero, static_cast<int>(t->ajustes.size()));
     auto sinEllos = std::make_shared<TramoEnObra>(*t);
-    sinEllos->ajustes.clear();
+    PonAjustes(*sinEllos, nueva.obra, {});
     t = std::move(sinEllos);
   }
   r.version = std::move(nueva);

@@ -28,12 +28,20 @@ struct TextoPendiente {
   bool operator==(const TextoPendiente&) const = default;
 };
 
+/// The data that hand adjustments were chosen for. It goes with them, and makes no difference.
+struct BaseDeAjustes {
+  std::shared_ptr<const EstadoCalculo> datos;
+
+  bool operator==(const BaseDeAjustes&) const { return true; }
+};
+
 struct TramoEnObra {
   int id = 0;          // the same through all its changes; a copy has another one
   std::string numero;  // its text in the list; empty keeps the place of a block without number
   Tramo datos;         // in the units of the Obra's system
   std::vector<EntradaAjuste> ajustes;  // its Casos adjusted by hand
-  std::string extras;                  // what else its entry beside the file says, JSON
+  BaseDeAjustes base;
+  std::string extras;  // what else its entry beside the file says, JSON
   std::vector<TextoPendiente> pendientes;
   std::string dano;  // why its block cannot be read; it is then not written either
 
@@ -45,7 +53,8 @@ struct Version {
   Obra obra;  // without what belongs to the session: file and folder
   std::vector<TramoFijo> tramos;
   std::vector<TextoPendiente> pendientes;  // of the fields of the Obra
-  Extras extras;  // beside the file, and of no Tramo
+  Extras extras;                           // beside the file, and of no Tramo
+  std::vector<EntradaAjuste> ajustesSueltos;  // of numbers that no Tramo has
 
   bool operator==(const Version& otra) const;
 };
@@ -76,13 +85,16 @@ Obra SinSesion(Obra obra);
 /// the calculation differs. The heights only say which Casos there are.
 bool CalculaDistinto(const Obra& obraA, const Tramo& a, const Obra& obraB, const Tramo& b);
 
-/// How many hand adjustments a save of `nueva` over `guardada` makes void, by the text of their
-/// Tramo; `nueva` without them.
+/// The hand adjustments of a Tramo, chosen for the data that it has.
+void PonAjustes(TramoEnObra& t, const Obra& obra, std::vector<EntradaAjuste> ajustes);
+
+/// How many hand adjustments no longer stand for the data of their Tramo, by its text; the version
+/// without them.
 struct AjustesAnulados {
   Version version;
   std::vector<std::pair<std::string, int>> anulados;
 };
-AjustesAnulados SinAjustesVanos(const Version& guardada, Version nueva);
+AjustesAnulados SinAjustesVanos(Version nueva);
 
 /// All data with units in another system.
 void CambiaUnidades(Version& v, bool aSI);

@@ -116,16 +116,15 @@ std::string NotaFinal(const Calculo& calculo) {
 
 std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
   auto comprobado = Comprueba(c, ids);
-  c.faltas = comprobado.faltas;
-  const auto primera = std::ranges::find_if(c.faltas, [&](const Falta& f) { return f.tramo == 0; });
-  if (primera != c.faltas.end() || (ids.size() == 1 && !c.faltas.empty())) {
-    auto faltas = c.faltas;
-    LlevaALaFalta(c, faltas.front());
-    c.faltas = std::move(faltas);
-    return std::nullopt;
+  const bool deLaObra = std::ranges::any_of(comprobado.faltas,
+                                            [](const Falta& f) { return f.tramo == 0; });
+  if (deLaObra || ids.size() == 1) {
+    if (MuestraFaltas(c, comprobado.faltas)) return std::nullopt;
   }
+  c.faltas = comprobado.faltas;
   if (!TieneFichero(c)) return std::nullopt;
   Encargo encargo = EncargoVacio(c);
+  encargo.sinAjustes = c.sinAjustes;
   LlenaEncargo(encargo, c, comprobado, ids);
   return encargo;
 }
@@ -222,6 +221,7 @@ std::string Resume(Calculo& calculo, const Sigue& sigue) {
     if (!texto.empty()) pantalla.EscribePantalla(1, "** " + texto + " **", 2);
   };
   nota(calculo.encargo.sinAjustes);
+  for (const auto& rechazado : calculo.encargo.rechazados) nota(rechazado);
   const auto tramos = calculo.tramos.size();
   for (std::size_t i = 0; i < tramos; ++i) {
     const auto& r = calculo.tramos[i];

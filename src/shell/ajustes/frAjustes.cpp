@@ -20,6 +20,7 @@
 #include "sesion/ajustes/mdPared.h"
 #include "sesion/ajustes/mdPresentaAjustes.h"
 #include "shell/ajustes/mdDibujoAjustes.h"
+#include "shell/ajustes/mdListaCasos.h"
 #include "shell/ajustes/mdPiezasAjustes.h"
 #include "shell/ajustes/mdTablaFilas.h"
 #include "shell/piezas/mdDialogos.h"
@@ -144,6 +145,9 @@ QWidget* frAjustes::ColumnaDelCaso() {
     pasos->addWidget(CreaBoton(anterior, "btAnterior" + nombre), fila, 2);
     pasos->addWidget(CreaBoton(siguiente, "btSiguiente" + nombre), fila, 3);
   };
+  cbCasos_ = new ListaCasos(Rotulo(T(txt::AjCasos)), this);
+  connect(cbCasos_, &QComboBox::activated, this, &frAjustes::VaAlCaso);
+  filas->addWidget(cbCasos_);
   paso("Altura", btAnteriorAltura, btSiguienteAltura, lbAltura_, txAltura_);
   paso("Presion", btAnteriorPresion, btSiguientePresion, lbPresion_, txPresion_);
   filas->addLayout(pasos);
@@ -354,6 +358,7 @@ void frAjustes::Muestra() {
   const VigilanteFoco::Pausa pausa(vigilante_);
   const auto& p = a_.t.pantalla;
   MuestraCaso();
+  cbCasos_->Muestra(a_);
   std::array<QString, kFilasAjuste> nombres;
   for (std::size_t i = 0; i < nombres.size(); ++i) {
     nombres[i] = Q(entorno_.textos.Compone(txt::AjFilaTanteo, {std::to_string(i)}));
@@ -486,6 +491,16 @@ void frAjustes::MuestraPared() {
 int frAjustes::IndiceDe(const QWidget* campo) const {
   const auto lugar = std::find(campos_.begin(), campos_.end(), campo);
   return lugar == campos_.end() ? -1 : static_cast<int>(lugar - campos_.begin());
+}
+
+void frAjustes::VaAlCaso(int lugar) {
+  const auto casos = CasosDe(a_);
+  const bool pierde = HaySinGuardar(a_) && lugar != CasoEnMano(a_);
+  if (!pierde || a_.c.voz.Pregunta(T(txt::AjSePerdera), T(txt::TituloAviso))) {
+    const auto& caso = casos.at(static_cast<std::size_t>(lugar));
+    CalculaunTramoEspecifico(a_, caso.Hr, caso.DP);
+  }
+  Muestra();
 }
 
 void frAjustes::Elige(int fila) {

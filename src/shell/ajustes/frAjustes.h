@@ -26,6 +26,7 @@ namespace zorbin {
 class BarraArmadura;
 class DibujoPared;
 class MarcaAlerta;
+class ListaCasos;
 class TablaFilas;
 
 /// HTML of the document that a catalogue entry names; empty when there is none.
@@ -67,6 +68,7 @@ class frAjustes : public QDialog {
   VigilanteFoco vigilante_;
   std::array<QPushButton*, kBotonesAjuste> botones_{};
   std::array<CasillaNumero*, kCamposAjuste> campos_{};
+  ListaCasos* cbCasos_ = nullptr;
   QLineEdit* txAltura_ = nullptr;
   QLineEdit* txPresion_ = nullptr;
   QLabel* lbAltura_ = nullptr;
@@ -113,6 +115,7 @@ class frAjustes : public QDialog {
 
   void Actua(BotonAjuste boton);
   void Elige(int fila);
+  void VaAlCaso(int lugar);
   bool Pierde(BotonAjuste boton) const;
   /// The focus follows the state: to the field that opens, back to what is chosen.
   void LlevaElFoco(EstadoAjuste antes);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -96,6 +97,9 @@ frmTip::frmTip(const Entorno& entorno, ModoAviso modo, const DocumentoHtml& docu
   auto* filas = new QVBoxLayout(this);
   filas->addWidget(texto, 1);
   filas->addLayout(fila);
+  auto* ayuda = new QShortcut(QKeySequence::HelpContents, this);
+  connect(ayuda, &QShortcut::activated, this,
+          [&entorno] { entorno.ayuda(QStringLiteral("advertencia")); });
   acepta->setFocus();
   const int lado = fontMetrics().height();
   resize(lado * 46, lado * 34);

@@ -232,8 +232,7 @@ void CalculoHidraulico::RenuevaOpciones() {
 
 void CalculoHidraulico::RenuevaTabla() {
   if (!e_.resultado) return;
-  MuestraResultado(
-      TextoHidraulico(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}));
+  MuestraResultado(TextoHidraulico(*e_.resultado, entorno_.textos, {true, e_.SeparadorDecimal}));
 }
 
 void CalculoHidraulico::Muestra() {
@@ -273,7 +272,7 @@ void CalculoHidraulico::Calcular() {
 void CalculoHidraulico::Imprimir() {
   if (!e_.imprimible) return;
   const auto escribe = [this](Papel& papel) {
-    PapelHidraulico(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}, papel);
+    PapelHidraulico(*e_.resultado, entorno_.textos, {true, e_.SeparadorDecimal}, papel);
   };
   ImprimeHojas(windowTitle(), escribe);
 }

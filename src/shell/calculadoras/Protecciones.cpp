@@ -204,7 +204,7 @@ void Protecciones::RenuevaCampo(Medio medio) {
   std::string pista;
   if (medio == kPH) {
     pista = entorno_.textos.Compone(txt::PistaPH,
-                                    {TextoDecimal(datos.defecto, 2, entorno_.SeparadorDecimal)});
+                                    {TextoDecimal(datos.defecto, 2, e_.SeparadorDecimal)});
   } else {
     const bool medido = medio == kResistividad || medio == kCorriente;
     pista = entorno_.textos.Compone(medido ? txt::PistaTerreno : txt::PistaContenido, {S(unidad)});
@@ -235,7 +235,7 @@ void Protecciones::RenuevaEjemplo() {
 
 void Protecciones::RenuevaAnalisis() {
   if (!e_.resultado) return;
-  MuestraResultado(TextoMedios(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}));
+  MuestraResultado(TextoMedios(*e_.resultado, entorno_.textos, {true, e_.SeparadorDecimal}));
 }
 
 bool Protecciones::Visualizar() {
@@ -256,7 +256,7 @@ bool Protecciones::Visualizar() {
 void Protecciones::Imprimir() {
   if (!Visualizar()) return;
   const auto escribe = [this](Papel& papel) {
-    PapelMedios(*e_.resultado, entorno_.textos, {true, entorno_.SeparadorDecimal}, papel);
+    PapelMedios(*e_.resultado, entorno_.textos, {true, e_.SeparadorDecimal}, papel);
   };
   ImprimeHojas(Rotulo(T(txt::AnalisisDeMedios)), escribe);
 }

@@ -29,6 +29,11 @@ PantallaCalculadora::PantallaCalculadora(Entorno& entorno, const QString& nombre
       vigilante_(*this, {[this](QWidget* casilla) { return AlEntrar(casilla); },
                          [this](QWidget* casilla) { return AlSalir(casilla); }}) {
   setObjectName(nombre);
+  vigilante_.PonAceptar([this] {
+    for (auto* boton : findChildren<QPushButton*>()) {
+      if (boton->isDefault()) boton->click();
+    }
+  });
   auto* ayuda = new QShortcut(Qt::Key_F1, this);
   connect(ayuda, &QShortcut::activated, this, [this, ancla] { entorno_.ayuda(ancla); });
 }

@@ -12,8 +12,9 @@
 
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
-#include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdComprueba.h"
+#include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdEtiquetas.h"
 #include "shell/captura/mdAvisosPagina.h"
 #include "shell/captura/mdFaltasPagina.h"
 #include "shell/captura/mdPestanas.h"
@@ -219,8 +220,6 @@ void CapturaDatos::EnlazaPestanas() {
                        : pagina == 1 ? Ed::edDescriTramo
                                      : Ed::rdTipoColocacion;
   });
-  pide(paginas_->TabPostesados(), [this](int pagina) { CambiaPaginaPostesados(c_, pagina); });
-  pide(paginas_->TabDatosColocacion(), [this](int pagina) { CambiaPaginaColocacion(c_, pagina); });
 }
 
 void CapturaDatos::OrdenaTabulador() {
@@ -328,13 +327,23 @@ QString CapturaDatos::PorqueDe(MarcaCampo marca, Ed campo) const {
   return {};
 }
 
+Aspecto CapturaDatos::AspectoDe(Ed campo) const {
+  Aspecto aspecto;
+  aspecto.marca = MarcaDe(campo);
+  aspecto.porque = PorqueDe(aspecto.marca, campo);
+  const auto& control = c_[campo];
+  aspecto.unidad = Q(UnidadEscrita(campo, c_.EsSI()));
+  aspecto.rotulo = Q(SinUnidad(control.etiqueta));
+  if (control.texto.empty()) aspecto.enBlanco = Q(ValorEnBlanco(c_, campo));
+  return aspecto;
+}
+
 void CapturaDatos::Refresca() {
   if (refrescando_) return;
   refrescando_ = true;
   const auto& p = c_.pantalla;
   for (auto* campo : campos_) {
-    const auto marca = MarcaDe(campo->id());
-    campo->Refresca(c_[campo->id()], marca, PorqueDe(marca, campo->id()));
+    campo->Refresca(c_[campo->id()], AspectoDe(campo->id()));
   }
   paginas_->Refresca(c_);
   for (const auto& boton : botones_) {

@@ -100,6 +100,7 @@ class CapturaDatos : public QWidget {
   QWidget* Destino(Ed campo) const;
   void TrasAccion();
   MarcaCampo MarcaDe(Ed campo) const;
+  Aspecto AspectoDe(Ed campo) const;
   QString PorqueDe(MarcaCampo marca, Ed campo) const;
 };
 

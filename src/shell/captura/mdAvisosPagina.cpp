@@ -13,8 +13,8 @@ constexpr int kMargen = 6;  // [px]
 QString Renglon(const AvisoDeCampo& aviso, std::size_t lugar) {
   const QString texto = QStringLiteral("⚠ ") + Q(aviso.texto).toHtmlEscaped();
   if (aviso.remedio.empty()) return texto;
-  return texto + QStringLiteral(" <a href=\"%1\">%2</a>").arg(lugar).arg(
-                     Q(aviso.boton).toHtmlEscaped());
+  return texto +
+         QStringLiteral(" <a href=\"%1\">%2</a>").arg(lugar).arg(Q(aviso.boton).toHtmlEscaped());
 }
 
 }  // namespace
@@ -24,7 +24,7 @@ AvisosPagina::AvisosPagina(QWidget* padre) : QLabel(padre) {
   setTextFormat(Qt::RichText);
   setWordWrap(true);
   setMargin(kMargen);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
   setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   connect(this, &QLabel::linkActivated, this, [this](const QString& enlace) {
     const auto lugar = enlace.toULongLong();

@@ -9,8 +9,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -18,6 +20,7 @@
 #include "shell/piezas/mdCasillaNumero.h"
 #include "shell/piezas/mdIconos.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdTema.h"
 
 namespace zorbin {
 
@@ -27,6 +30,21 @@ constexpr int kMaxTexto = 126;  // bytes of a record, and characters of its code
 constexpr int kColumnasNumero = 10;
 constexpr int kColumnasTexto = 24;
 constexpr int kLineasParrafo = 3;
+constexpr int kColumnasLista = 8;
+
+// What is pasted from a clipboard that holds no text, or nothing at all, is nothing.
+class Parrafo : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  bool canInsertFromMimeData(const QMimeData* datos) const override {
+    return datos != nullptr && datos->hasText();
+  }
+  void insertFromMimeData(const QMimeData* datos) override {
+    if (canInsertFromMimeData(datos)) insertPlainText(datos->text());
+  }
+};
 
 // Numbers with a list of commercial values beside them.
 bool OfreceValores(Ed id) {
@@ -55,6 +73,13 @@ CampoPantalla::CampoPantalla(Ed id, const Catalogo& textos, QWidget* padre)
   etiqueta_->setObjectName(QStringLiteral("lb") + Q(fila.nombre.substr(2)));
   etiqueta_->setTextFormat(Qt::PlainText);
   etiqueta_->setBuddy(widget_);
+  etiqueta_->setWordWrap(true);
+  nota_ = new QLabel(padre);
+  nota_->setObjectName(QStringLiteral("nt") + Q(fila.nombre.substr(2)));
+  nota_->setTextFormat(Qt::PlainText);
+  nota_->setWordWrap(true);
+  nota_->setForegroundRole(QPalette::WindowText);
+  nota_->hide();
 }
 
 void CampoPantalla::Crea(QWidget* padre) {
@@ -84,7 +109,7 @@ void CampoPantalla::CreaLinea(QWidget* padre) {
   } else {
     linea_ = new QLineEdit(padre);
     linea_->setMaxLength(kMaxTexto);
-    linea_->setMinimumWidth(AnchoDe(*linea_, kColumnasTexto));
+    linea_->setMinimumWidth(AnchoDe(*linea_, kColumnasTexto / 2));
   }
   widget_ = linea_;
   EnlazaLinea();
@@ -93,7 +118,8 @@ void CampoPantalla::CreaLinea(QWidget* padre) {
 void CampoPantalla::CreaLista(QWidget* padre, bool editable) {
   lista_ = new QComboBox(padre);
   widget_ = lista_;
-  lista_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  lista_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  lista_->setMinimumContentsLength(kColumnasLista);
   lista_->setFocusPolicy(Qt::StrongFocus);
   lista_->installEventFilter(this);
   if (!editable) {
@@ -132,7 +158,7 @@ void CampoPantalla::EnlazaLinea() {
 }
 
 void CampoPantalla::CreaParrafo(QWidget* padre) {
-  parrafo_ = new QPlainTextEdit(padre);
+  parrafo_ = new Parrafo(padre);
   widget_ = parrafo_;
   parrafo_->setTabChangesFocus(true);
   const int linea = parrafo_->fontMetrics().lineSpacing();
@@ -156,22 +182,25 @@ void CampoPantalla::CreaMarca(QWidget* padre) {
 
 void CampoPantalla::CreaOpciones(QWidget* padre) {
   auto* marco = new QGroupBox(padre);
+  marco->setFlat(true);
   widget_ = marco;
   botones_ = new QButtonGroup(this);
-  marco->setLayout(id_ == Ed::rdTipoColocacion || id_ == Ed::rdTipoCamisa || id_ == Ed::rdTipologia
-                       ? static_cast<QLayout*>(new QHBoxLayout)
-                       : static_cast<QLayout*>(new QVBoxLayout));
+  const bool enFila = id_ == Ed::rdTipoCamisa || id_ == Ed::rdTipologia;
+  auto* fila = new QBoxLayout(enFila ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, marco);
+  fila->setContentsMargins(0, 2, 0, 2);
   connect(botones_, &QButtonGroup::idClicked, this, &CampoPantalla::opcionElegida);
 }
 
-void CampoPantalla::Refresca(const Control& control, MarcaCampo marca, const QString& porque) {
+void CampoPantalla::Refresca(const Control& control, const Aspecto& aspecto) {
   escribiendo_ = true;
-  const QString rotulo = Q(control.etiqueta);
+  const QString& rotulo = aspecto.rotulo;
   if (etiqueta_->text() != rotulo) etiqueta_->setText(rotulo);
   etiqueta_->setEnabled(control.etiquetaHabilitada);
   const QString nombre =
       control.grupo.empty() ? rotulo : Q(control.grupo) + QStringLiteral(", ") + rotulo;
-  if (!nombre.isEmpty()) widget_->setAccessibleName(nombre);
+  const QString unidad =
+      aspecto.unidad.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(aspecto.unidad);
+  if (!nombre.isEmpty()) widget_->setAccessibleName(nombre + unidad);
   if (widget_->toolTip() != Q(control.consejo)) {
     widget_->setToolTip(Q(control.consejo));
     widget_->setAccessibleDescription(Q(control.consejo));
@@ -185,7 +214,11 @@ void CampoPantalla::Refresca(const Control& control, MarcaCampo marca, const QSt
     widget_->setEnabled(control.habilitado);
   }
   PonColores(control);
-  PonMarca(marca, porque);
+  PonMarca(aspecto.marca, aspecto.porque);
+  PonNota(aspecto);
+  if (linea_ != nullptr && linea_->placeholderText() != aspecto.enBlanco) {
+    linea_->setPlaceholderText(aspecto.enBlanco);
+  }
   escribiendo_ = false;
 }
 
@@ -217,6 +250,10 @@ void CampoPantalla::PonOpciones(const Control& control) {
     const QString texto = linea_ != nullptr ? linea_->text() : QString();
     lista_->clear();
     for (const auto& entrada : control.entradas) lista_->addItem(Q(entrada));
+    // Open, the list shows its entries whole, however narrow the field is.
+    auto* vista = lista_->view();
+    vista->setMinimumWidth(vista->sizeHintForColumn(0) +
+                           vista->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 8);
     if (linea_ != nullptr) linea_->setText(texto);
     return;
   }
@@ -272,6 +309,21 @@ void CampoPantalla::PonMarca(MarcaCampo marca, const QString& porque) {
                                                       : Icono::Rechazado;
   senal_ = linea_->addAction(DibujaIcono(icono, linea_->palette()), QLineEdit::LeadingPosition);
   senal_->setToolTip(Consejo(porque));
+}
+
+void CampoPantalla::PonNota(const Aspecto& aspecto) {
+  const bool falta = aspecto.marca == MarcaCampo::Rechazado;
+  if (widget_->property(kPropiedadFalta).toBool() != falta) {
+    widget_->setProperty(kPropiedadFalta, falta);
+    widget_->update();
+  }
+  const QString texto = falta ? aspecto.porque : callaUnidad_ ? QString() : aspecto.unidad;
+  if (nota_->text() != texto) nota_->setText(texto);
+  nota_->setVisible(!texto.isEmpty());
+  QPalette colores;
+  colores.setColor(QPalette::WindowText,
+                   falta ? ColorFalta(colores) : colores.color(QPalette::PlaceholderText));
+  if (nota_->palette() != colores) nota_->setPalette(colores);
 }
 
 void CampoPantalla::RenuevaTema() {

@@ -21,6 +21,15 @@ namespace zorbin {
 /// Which mark a field bears.
 enum class MarcaCampo { Ninguna, Requerido, Bloqueado, Rechazado };
 
+/// What is shown of a field beside what its control says.
+struct Aspecto {
+  MarcaCampo marca = MarcaCampo::Ninguna;
+  QString porque;    // of the mark
+  QString rotulo;    // without its unit
+  QString unidad;    // stands after the field
+  QString enBlanco;  // what stands for a blank one, in grey
+};
+
 class CampoPantalla : public QObject {
   Q_OBJECT
 
@@ -31,10 +40,14 @@ class CampoPantalla : public QObject {
   Ed id() const { return id_; }
   QWidget& widget() const { return *widget_; }
   QLabel& etiqueta() const { return *etiqueta_; }
+  /// After the field: its unit, or why what stands in it is refused.
+  QLabel& nota() const { return *nota_; }
+  /// The unit is told elsewhere, as in a table.
+  void CallaUnidad() { callaUnidad_ = true; }
 
   /// Brings the widget to what the model says. Nothing is written that stands already, so the
   /// cursor stays where it is.
-  void Refresca(const Control& control, MarcaCampo marca, const QString& porque);
+  void Refresca(const Control& control, const Aspecto& aspecto);
   /// The icons follow the colours of the theme.
   void RenuevaTema();
 
@@ -55,6 +68,7 @@ class CampoPantalla : public QObject {
   const Catalogo& textos_;
   QWidget* widget_ = nullptr;
   QLabel* etiqueta_ = nullptr;
+  QLabel* nota_ = nullptr;
   QLineEdit* linea_ = nullptr;  // of a text, a number or an editable list
   QComboBox* lista_ = nullptr;  //
   QPlainTextEdit* parrafo_ = nullptr;
@@ -62,6 +76,7 @@ class CampoPantalla : public QObject {
   QAction* senal_ = nullptr;         // the mark inside the line
   MarcaCampo marca_ = MarcaCampo::Ninguna;
   bool escribiendo_ = false;
+  bool callaUnidad_ = false;
 
   void Crea(QWidget* padre);
   void CreaLinea(QWidget* padre);
@@ -73,6 +88,7 @@ class CampoPantalla : public QObject {
   void PonTexto(const Control& control);
   void PonOpciones(const Control& control);
   void PonColores(const Control& control);
+  void PonNota(const Aspecto& aspecto);
   void PonMarca(MarcaCampo marca, const QString& porque);
 };
 

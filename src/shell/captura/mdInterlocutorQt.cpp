@@ -55,7 +55,11 @@ std::optional<std::string> InterlocutorQt::PideFichero(const std::string& titulo
                       FiltrosObra(textos_));
   dialogo.setAcceptMode(QFileDialog::AcceptSave);
   dialogo.setDefaultSuffix(QStringLiteral("zrb"));
-  if (!actual.empty()) dialogo.selectFile(QFile::decodeName(actual.c_str()));
+  if (!actual.empty()) {
+    const QFileInfo fichero(QFile::decodeName(actual.c_str()));
+    const bool seEscribe = QFileInfo(fichero.absolutePath()).isWritable();
+    dialogo.selectFile(seEscribe ? fichero.filePath() : fichero.fileName());
+  }
   if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
   const QString ruta = dialogo.selectedFiles().constFirst();
   preferencias_.PonUltimaCarpeta(QFileInfo(ruta).absolutePath());

@@ -1,26 +1,29 @@
 #include "shell/captura/mdPaginasCaptura.h"
 
-#include <QCheckBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
+#include "sesion/captura/mdEtiquetas.h"
 #include "shell/captura/frFiguras.h"
-#include "shell/captura/mdPestanas.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/piezas/mdTarjetas.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr int kFiguraGrande = 380;  // [px]
-constexpr int kFiguraMedia = 300;   // [px]
+constexpr int kAltoFigura = 230;  // [px]
+
+// Of the columns of a form, in digits.
+constexpr int kColumnasRotulo = 17;
+constexpr int kColumnasNota = 7;
+constexpr int kPartesRotulo = 3;  // of the room left, before the note
+constexpr int kPartesNota = 2;
 
 // A page scrolls where the screen is too small for it.
 QWidget* EnPagina(QWidget* contenido) {
@@ -34,6 +37,20 @@ QWidget* EnPagina(QWidget* contenido) {
 
 void RefrescaFigura(Figura& figura, const std::string& nombre) {
   figura.Pon(nombre.empty() ? QString() : Q(RutaFigura(nombre).string()));
+}
+
+void PonColumnas(QGridLayout& rejilla, const QWidget& dueno) {
+  const int digito = dueno.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+  rejilla.setColumnMinimumWidth(0, kColumnasRotulo * digito);
+  rejilla.setColumnStretch(0, kPartesRotulo);
+  rejilla.setColumnMinimumWidth(2, kColumnasNota * digito);
+  rejilla.setColumnStretch(2, kPartesNota);
+  rejilla.setVerticalSpacing(8);
+}
+
+// A number has its unit at its side; what else there is takes the room of both.
+bool EsEstrecho(Ed id) {
+  return Fila(id).clase == Clase::Numero;
 }
 
 }  // namespace
@@ -51,13 +68,15 @@ void PaginasCaptura::RenuevaTextos(const Captura& c) {
 
 void PaginasCaptura::Refresca(const Captura& c) {
   const auto& p = c.pantalla;
-  for (const auto& cabecera : cabeceras_) cabecera.rotulo->setText(Q(c[cabecera.campo].grupo));
-  alturas_->setTitle(Q(c[Ed::edAlt1].grupo));
-  TabTipologia_->Pon(p.pagina.TabTipologia);
-  TabPostesados_->Pon(p.pagina.TabPostesados);
-  TabDatosColocacion_->Pon(p.pagina.TabDatosColocacion);
+  for (const auto& cabecera : cabeceras_) {
+    cabecera.rotulo->setText(Q(SinUnidad(c[cabecera.campo].grupo)));
+  }
+  alturas_->PonTitulo(Q(SinUnidad(c[Ed::edAlt1].grupo)));
+  const bool postesado = p.pagina.TabTipologia == 1;
+  for (auto* tarjeta : armado_) tarjeta->setVisible(!postesado);
+  for (auto* tarjeta : postesado_) tarjeta->setVisible(postesado);
   RefrescaFigura(*ptPostesado_, p.figuraTubo);
-  RefrescaFigura(*ptPostesado2_, p.figuraTubo);
+  ptPostesado_->parentWidget()->setVisible(!p.figuraTubo.empty());
   RefrescaFigura(*ptColocacion_, p.figuraColocacion);
 }
 
@@ -67,79 +86,96 @@ QWidget& PaginasCaptura::Coloca(Ed id) {
   return campo(id).widget();
 }
 
-QGroupBox* PaginasCaptura::CreaGrupo(int texto) {
-  auto* grupo = new QGroupBox;
+Tarjeta* PaginasCaptura::CreaTarjeta(int texto) {
+  auto* tarjeta = new Tarjeta;
   if (texto != 0) {
-    rotulados_.push_back({[grupo](const QString& t) {
-                            grupo->setTitle(QString(t).remove(QLatin1Char(':')).trimmed());
+    rotulados_.push_back({[tarjeta](const QString& t) {
+                            const QString corto = Q(SinUnidad(S(t)));
+                            tarjeta->PonTitulo(QString(corto).remove(QLatin1Char('&')));
                           },
                           texto});
   }
-  return grupo;
+  return tarjeta;
 }
 
+// A row, and another one below for the note of what takes the room of its own.
 void PaginasCaptura::PonFila(QGridLayout& rejilla, int fila, Ed id) {
+  auto& suyo = campo(id);
   if (Fila(id).clase == Clase::Marca || Fila(id).clase == Clase::Opcion) {
-    campo(id).etiqueta().hide();
-    rejilla.addWidget(&Coloca(id), fila, 0, 1, 2);
+    suyo.etiqueta().hide();
+    rejilla.addWidget(&Coloca(id), fila, 0, 1, 3);
     return;
   }
-  rejilla.addWidget(&campo(id).etiqueta(), fila, 0);
-  const bool ancho = Fila(id).clase == Clase::Texto && id != Ed::edTramo && id != Ed::edTramo2;
-  rejilla.addWidget(&Coloca(id), fila, 1, ancho ? Qt::Alignment() : Qt::AlignLeft);
+  rejilla.addWidget(&suyo.etiqueta(), fila, 0);
+  if (EsEstrecho(id)) {
+    rejilla.addWidget(&Coloca(id), fila, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    rejilla.addWidget(&suyo.nota(), fila, 2);
+    return;
+  }
+  rejilla.addWidget(&Coloca(id), fila, 1, 1, 2);
+  rejilla.addWidget(&suyo.nota(), fila + 1, 1, 1, 2);
 }
 
-void PaginasCaptura::PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos) {
+Tarjeta* PaginasCaptura::CreaFicha(int texto, std::initializer_list<Ed> campos) {
+  auto* tarjeta = CreaTarjeta(texto);
+  auto* rejilla = new QGridLayout;
   int fila = 0;
-  for (const Ed id : campos) PonFila(rejilla, fila++, id);
-  rejilla.setColumnStretch(1, 1);
+  for (const Ed id : campos) {
+    PonFila(*rejilla, fila, id);
+    fila += 2;
+  }
+  PonColumnas(*rejilla, *tarjeta);
+  tarjeta->cuerpo().addLayout(rejilla);
+  return tarjeta;
 }
 
-QWidget* PaginasCaptura::CreaFormulario(std::initializer_list<Ed> campos) {
-  auto* formulario = new QWidget;
-  auto* rejilla = new QGridLayout(formulario);
-  PonFilas(*rejilla, campos);
-  rejilla->setRowStretch(static_cast<int>(campos.size()), 1);
-  return formulario;
+void PaginasCaptura::PonCabecera(QGridLayout& rejilla, int columna, Ed campo) {
+  auto* rotulo = new QLabel;
+  rotulo->setWordWrap(true);
+  rotulo->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+  rejilla.addWidget(rotulo, 0, columna);
+  cabeceras_.push_back({rotulo, campo});
 }
 
 // Pressures as a table: MDP first, since the design pressures follow from them.
-QWidget* PaginasCaptura::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento) {
-  auto* grupo = CreaGrupo(txt::GrPresion);
-  auto* rejilla = new QGridLayout(grupo);
-  const auto cabecera = [&](Ed campo, int columna) {
-    auto* rotulo = new QLabel;
-    rotulo->setWordWrap(true);
-    rotulo->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    rejilla->addWidget(rotulo, 0, columna);
-    cabeceras_.push_back({rotulo, campo});
-  };
-  cabecera(mdp1, 1);
-  cabecera(dp1, 2);
+Tarjeta* PaginasCaptura::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento) {
+  auto* tarjeta = CreaTarjeta(txt::GrPresion);
+  auto* rejilla = new QGridLayout;
+  PonCabecera(*rejilla, 1, mdp1);
+  PonCabecera(*rejilla, 2, dp1);
   const auto fila = [&](int n, Ed izquierda, Ed derecha) {
+    auto* notas = new QVBoxLayout;
+    rejilla->addLayout(notas, n, 3);
     rejilla->addWidget(&campo(izquierda).etiqueta(), n, 0);
     rejilla->addWidget(&Coloca(izquierda), n, 1, Qt::AlignHCenter);
+    notas->addWidget(&campo(izquierda).nota());
     if (derecha == izquierda) return;
     campo(derecha).etiqueta().hide();
+    campo(derecha).CallaUnidad();
     rejilla->addWidget(&Coloca(derecha), n, 2, Qt::AlignHCenter);
+    notas->addWidget(&campo(derecha).nota());
   };
   fila(1, mdp1, dp1);
   fila(2, mdp2, dp2);
   fila(3, incremento, incremento);
-  rejilla->setColumnStretch(1, 1);
-  rejilla->setColumnStretch(2, 1);
-  return grupo;
+  rejilla->setColumnStretch(0, 2);
+  rejilla->setColumnStretch(3, 3);
+  tarjeta->cuerpo().addLayout(rejilla);
+  return tarjeta;
 }
 
-Figura* PaginasCaptura::CreaFigura(int minimo) {
-  auto* figura = new Figura;
-  figura->setMinimumWidth(minimo);
-  rotulados_.push_back(
-      {[figura](const QString& t) { figura->setAccessibleName(t); }, txt::GrFigura});
-  rotulados_.push_back({[figura](const QString& t) { figura->setToolTip(t); }, txt::VerEnGrande});
-  connect(figura, &Figura::dobleClic, this,
-          [this, figura] { emit figuraPedida(figura->ruta(), figura->accessibleName()); });
-  return figura;
+Tarjeta* PaginasCaptura::CreaFigura(Figura*& figura, const char* nombre) {
+  auto* tarjeta = CreaTarjeta(txt::GrFigura);
+  figura = new Figura;
+  figura->setObjectName(QLatin1String(nombre));
+  figura->setFixedHeight(kAltoFigura);
+  auto* suya = figura;
+  rotulados_.push_back({[suya](const QString& t) { suya->setAccessibleName(t); }, txt::GrFigura});
+  rotulados_.push_back({[suya](const QString& t) { suya->setToolTip(t); }, txt::VerEnGrande});
+  connect(suya, &Figura::dobleClic, this,
+          [this, suya] { emit figuraPedida(suya->ruta(), suya->accessibleName()); });
+  tarjeta->cuerpo().addWidget(suya);
+  return tarjeta;
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -147,165 +183,87 @@ Figura* PaginasCaptura::CreaFigura(int minimo) {
 
 QWidget* PaginasCaptura::CreaPaginaObra() {
   auto* pagina = new QWidget;
-  auto* todo = new QVBoxLayout(pagina);
-  auto* columnas = new QHBoxLayout;
-  todo->addLayout(columnas);
-  todo->addStretch(1);
-  auto* izquierda = new QVBoxLayout;
-  auto* datos = CreaGrupo(0);
-  auto* rejilla = new QGridLayout(datos);
-  PonFilas(*rejilla, {Ed::edObra, Ed::edCliente, Ed::edIdioma});
-  izquierda->addWidget(datos);
-  auto* opciones = new QHBoxLayout;
-  for (const Ed id : {Ed::rdSistemaUnidades, Ed::rdGolpeAriete}) {
-    campo(id).etiqueta().hide();
-    opciones->addWidget(&Coloca(id));
-  }
-  izquierda->addLayout(opciones);
-  izquierda->addStretch(1);
-  auto* derecha = new QVBoxLayout;
-  derecha->addWidget(CreaPresiones(Ed::edPrsM1, Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3));
-  auto* alturas = new QGroupBox;
-  auto* filas = new QGridLayout(alturas);
-  PonFilas(*filas, {Ed::edAlt1, Ed::edAlt2, Ed::edAlt3});
-  alturas_ = alturas;
-  derecha->addWidget(alturas);
-  derecha->addStretch(1);
-  columnas->addLayout(izquierda, 3);
-  columnas->addLayout(derecha, 2);
+  auto* tarjetas = new LayoutTarjetas(pagina);
+  tarjetas->addWidget(CreaFicha(txt::TarjetaObra, {Ed::edObra, Ed::edCliente, Ed::edIdioma}));
+  tarjetas->addWidget(CreaPresiones(Ed::edPrsM1, Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3));
+  tarjetas->addWidget(CreaFicha(0, {Ed::rdSistemaUnidades, Ed::rdGolpeAriete}));
+  alturas_ = CreaFicha(0, {Ed::edAlt1, Ed::edAlt2, Ed::edAlt3});
+  tarjetas->addWidget(alturas_);
   return EnPagina(pagina);
 }
 
 // ---------------------------------------------------------------------------------------------
-// Page of the typology
+// Page of the Tramo: its pipe
 
-QWidget* PaginasCaptura::CreaPaginaArmado() {
-  auto* pagina = new QWidget;
-  auto* filas = new QVBoxLayout(pagina);
-  auto* limite = CreaGrupo(txt::RotIcontes0);
-  auto* rejilla = new QGridLayout(limite);
-  PonFilas(*rejilla, {Ed::edIcontes0, Ed::edAdato, Ed::edEnvolvente});
-  filas->addWidget(limite);
-  filas->addWidget(CreaFormulario({Ed::edTipoControl, Ed::edTipoCamisa, Ed::edCamMax, Ed::edFck,
-                                   Ed::edFct, Ed::edFyk, Ed::edFyd, Ed::edGamaB}));
-  filas->addStretch(1);
-  return EnPagina(pagina);
+Tarjeta* PaginasCaptura::CreaCabezaTramo() {
+  auto* tarjeta = CreaTarjeta(0);
+  tarjeta->PonAncha();
+  auto* fila = new QHBoxLayout;
+  fila->addWidget(&campo(Ed::edTramo).etiqueta());
+  fila->addWidget(&Coloca(Ed::edTramo));
+  fila->addWidget(&campo(Ed::edTramo).nota());
+  fila->addSpacing(12);
+  fila->addWidget(&campo(Ed::edDescriTramo).etiqueta());
+  fila->addWidget(&Coloca(Ed::edDescriTramo), 1);
+  tarjeta->cuerpo().addLayout(fila);
+  campo(Ed::rdTipologia).etiqueta().hide();
+  tarjeta->cuerpo().addWidget(&Coloca(Ed::rdTipologia), 0, Qt::AlignLeft);
+  return tarjeta;
 }
 
-QWidget* PaginasCaptura::CreaPaginaPostesado() {
-  auto* pagina = new QWidget;
-  auto* filas = new QVBoxLayout(pagina);
-  campo(Ed::rdTipoCamisa).etiqueta().hide();
-  filas->addWidget(&Coloca(Ed::rdTipoCamisa));
-  auto* prueba = CreaGrupo(txt::RotIcontes1);
-  auto* rejilla = new QGridLayout(prueba);
-  PonFilas(*rejilla, {Ed::edIcontes1, Ed::edCoepre1});
-  filas->addWidget(prueba);
-  filas->addWidget(CreaFormulario({Ed::edDelca}));
-  TabPostesados_ = new Pestanas;
-  TabPostesados_->setObjectName(QStringLiteral("TabPostesados"));
-  TabPostesados_->Anade(CreaFormulario({Ed::edEs, Ed::edEp}));
-  TabPostesados_->Anade(CreaFormulario({Ed::edFYKPost, Ed::edFckno, Ed::edFckn, Ed::edFckr}));
-  TabPostesados_->Anade(CreaFormulario({Ed::edSFck, Ed::edSf, Ed::edRel}));
-  TabPostesados_->Anade(CreaFormulario({Ed::edFic, Ed::edFir, Ed::edEpsc, Ed::edEpsr}));
-  int n = 0;
-  for (const int texto :
-       {txt::PagModulos, txt::PagResistencias, txt::PagTensiones, txt::PagCoeficientes}) {
-    rotulados_.push_back({[this, n](const QString& t) { TabPostesados_->PonTexto(n, t); }, texto});
-    ++n;
-  }
-  filas->addWidget(TabPostesados_, 1);
-  return EnPagina(pagina);
+void PaginasCaptura::CreaTarjetasArmado(LayoutTarjetas& tarjetas) {
+  armado_ = {
+      CreaFicha(txt::TarjetaMateriales, {Ed::edFck, Ed::edFct, Ed::edFyk, Ed::edFyd, Ed::edGamaB}),
+      CreaFicha(txt::TarjetaArmadura, {Ed::edTipoControl, Ed::edTipoCamisa, Ed::edCamMax,
+                                       Ed::edEnvolvente, Ed::edIcontes0, Ed::edAdato})};
+  for (auto* tarjeta : armado_) tarjetas.addWidget(tarjeta);
+}
+
+void PaginasCaptura::CreaTarjetasPostesado(LayoutTarjetas& tarjetas) {
+  postesado_ = {
+      CreaFicha(txt::TarjetaCamisa, {Ed::rdTipoCamisa, Ed::edDelca, Ed::edIcontes1, Ed::edCoepre1}),
+      CreaFicha(txt::PagResistencias, {Ed::edFYKPost, Ed::edFckno, Ed::edFckn, Ed::edFckr}),
+      CreaFicha(txt::PagTensiones, {Ed::edSFck, Ed::edSf, Ed::edRel}),
+      CreaFicha(txt::PagModulos, {Ed::edEs, Ed::edEp}),
+      CreaFicha(txt::PagCoeficientes, {Ed::edFic, Ed::edFir, Ed::edEpsc, Ed::edEpsr})};
+  for (auto* tarjeta : postesado_) tarjetas.addWidget(tarjeta);
 }
 
 QWidget* PaginasCaptura::CreaPaginaTramo() {
   auto* pagina = new QWidget;
-  auto* columnas = new QHBoxLayout(pagina);
-  auto* izquierda = new QVBoxLayout;
-  auto* cabeza = new QGridLayout;
-  PonFilas(*cabeza, {Ed::edTramo, Ed::edDescriTramo});
-  izquierda->addLayout(cabeza);
-  campo(Ed::rdTipologia).etiqueta().hide();
-  izquierda->addWidget(&Coloca(Ed::rdTipologia));
-  izquierda->addWidget(CreaPresiones(Ed::edPrsM1Tram, Ed::edPrs1Tram, Ed::edPrsM2Tram,
-                                     Ed::edPrs2Tram, Ed::edPrs3Tram));
-  ptPostesado_ = CreaFigura(kFiguraMedia);
-  ptPostesado_->setObjectName(QStringLiteral("ptPostesado"));
-  izquierda->addWidget(ptPostesado_, 1);
-  TabTipologia_ = new Pestanas;
-  TabTipologia_->setObjectName(QStringLiteral("TabTipologia"));
-  TabTipologia_->Anade(CreaPaginaArmado());
-  TabTipologia_->Anade(CreaPaginaPostesado());
-  TabTipologia_->barra().hide();  // the typology is chosen, and its data follow
-  columnas->addLayout(izquierda, 2);
-  columnas->addWidget(TabTipologia_, 3);
+  auto* tarjetas = new LayoutTarjetas(pagina);
+  tarjetas->addWidget(CreaCabezaTramo());
+  tarjetas->addWidget(CreaFicha(txt::PagDimensiones, {Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0,
+                                                      Ed::edRece0, Ed::edGc0, Ed::edTipoCuna0}));
+  tarjetas->addWidget(CreaPresiones(Ed::edPrsM1Tram, Ed::edPrs1Tram, Ed::edPrsM2Tram,
+                                    Ed::edPrs2Tram, Ed::edPrs3Tram));
+  CreaTarjetasArmado(*tarjetas);
+  CreaTarjetasPostesado(*tarjetas);
+  tarjetas->addWidget(CreaFigura(ptPostesado_, "ptPostesado"));
   return EnPagina(pagina);
 }
 
 // ---------------------------------------------------------------------------------------------
 // Page of the laying
 
-QWidget* PaginasCaptura::CreaPaginaTubo() {
-  auto* pagina = new QWidget;
-  auto* columnas = new QHBoxLayout(pagina);
-  columnas->addWidget(CreaFormulario({Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0, Ed::edRece0,
-                                      Ed::edGc0, Ed::edTipoCuna0}),
-                      1);
-  ptPostesado2_ = CreaFigura(kFiguraMedia / 2);
-  columnas->addWidget(ptPostesado2_, 1);
-  return EnPagina(pagina);
-}
-
-QWidget* PaginasCaptura::CreaPaginaRelleno() {
-  auto* pagina = new QWidget;
-  auto* filas = new QVBoxLayout(pagina);
-  auto* alturas = CreaGrupo(txt::EtAlturas);
-  auto* fila = new QHBoxLayout(alturas);
-  for (const Ed id : {Ed::edHr0, Ed::edHr0Final, Ed::edHr0Delta}) {
-    fila->addWidget(&campo(id).etiqueta());
-    fila->addWidget(&Coloca(id));
-  }
-  fila->addStretch(1);
-  filas->addWidget(alturas);
-  filas->addWidget(CreaFormulario({Ed::edTipoApoyo0, Ed::edB0, Ed::edGr0, Ed::edFi0,
-                                   Ed::edTipoRelleno0, Ed::edHr1, Ed::edIAs}));
-  filas->addStretch(1);
-  return EnPagina(pagina);
-}
-
-QWidget* PaginasCaptura::CreaPaginaCargas() {
-  auto* pagina = new QWidget;
-  auto* filas = new QVBoxLayout(pagina);
-  filas->addWidget(CreaFormulario({Ed::edQDato0, Ed::edICar0}));
-  filas->addStretch(1);
-  return EnPagina(pagina);
-}
-
 QWidget* PaginasCaptura::CreaPaginaColocacion() {
   auto* pagina = new QWidget;
-  auto* columnas = new QHBoxLayout(pagina);
-  auto* izquierda = new QVBoxLayout;
-  auto* cabeza = new QGridLayout;
-  PonFilas(*cabeza, {Ed::edObra2, Ed::edTramo2, Ed::edDescriTramo2});
-  izquierda->addLayout(cabeza);
-  campo(Ed::rdTipoColocacion).etiqueta().hide();
-  izquierda->addWidget(&Coloca(Ed::rdTipoColocacion));
-  TabDatosColocacion_ = new Pestanas;
-  TabDatosColocacion_->setObjectName(QStringLiteral("TabDatosColocacion"));
-  TabDatosColocacion_->Anade(CreaPaginaTubo());
-  TabDatosColocacion_->Anade(CreaPaginaRelleno());
-  TabDatosColocacion_->Anade(CreaPaginaCargas());
-  int n = 0;
-  for (const int texto : {txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
-    rotulados_.push_back(
-        {[this, n](const QString& t) { TabDatosColocacion_->PonTexto(n, t); }, texto});
-    ++n;
+  auto* tarjetas = new LayoutTarjetas(pagina);
+  auto* cabeza = CreaTarjeta(0);
+  cabeza->PonAncha();
+  auto* fila = new QHBoxLayout;
+  for (const Ed id : {Ed::edTramo2, Ed::edDescriTramo2, Ed::edObra2}) {
+    fila->addWidget(&campo(id).etiqueta());
+    fila->addWidget(&Coloca(id), id == Ed::edTramo2 ? 1 : 4);
   }
-  izquierda->addWidget(TabDatosColocacion_, 1);
-  ptColocacion_ = CreaFigura(kFiguraGrande);
-  ptColocacion_->setObjectName(QStringLiteral("ptColocacion"));
-  columnas->addLayout(izquierda, 3);
-  columnas->addWidget(ptColocacion_, 2);
+  cabeza->cuerpo().addLayout(fila);
+  tarjetas->addWidget(cabeza);
+  tarjetas->addWidget(CreaFicha(txt::TarjetaColocacion, {Ed::rdTipoColocacion}));
+  tarjetas->addWidget(CreaFigura(ptColocacion_, "ptColocacion"));
+  tarjetas->addWidget(CreaFicha(txt::EtAlturas, {Ed::edHr0, Ed::edHr0Final, Ed::edHr0Delta}));
+  tarjetas->addWidget(CreaFicha(txt::PagRelleno, {Ed::edTipoApoyo0, Ed::edB0, Ed::edGr0, Ed::edFi0,
+                                                  Ed::edTipoRelleno0, Ed::edHr1, Ed::edIAs}));
+  tarjetas->addWidget(CreaFicha(txt::PagCargas, {Ed::edQDato0, Ed::edICar0}));
   return EnPagina(pagina);
 }
 

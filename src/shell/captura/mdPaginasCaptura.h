@@ -10,13 +10,13 @@
 #include "shell/captura/mdCampoPantalla.h"
 
 class QGridLayout;
-class QGroupBox;
 class QLabel;
 
 namespace zorbin {
 
 class Figura;
-class Pestanas;
+class LayoutTarjetas;
+class Tarjeta;
 
 /// A text of the catalogue that the model does not hold.
 struct Rotulado {
@@ -35,10 +35,6 @@ class PaginasCaptura : public QObject {
   QWidget* obra() const { return obra_; }
   QWidget* tramo() const { return tramo_; }
   QWidget* colocacion() const { return colocacion_; }
-  Pestanas& TabTipologia() const { return *TabTipologia_; }
-  Pestanas& TabPostesados() const { return *TabPostesados_; }
-  Pestanas& TabDatosColocacion() const { return *TabDatosColocacion_; }
-
   /// The fields in the order of the work: MDP before DP, and the rows of a table one by one.
   const std::vector<Ed>& orden() const { return orden_; }
 
@@ -65,30 +61,26 @@ class PaginasCaptura : public QObject {
   QWidget* obra_ = nullptr;
   QWidget* tramo_ = nullptr;
   QWidget* colocacion_ = nullptr;
-  Pestanas* TabTipologia_ = nullptr;
-  Pestanas* TabPostesados_ = nullptr;
-  Pestanas* TabDatosColocacion_ = nullptr;
+  std::vector<Tarjeta*> armado_;     // seen for a reinforced pipe
+  std::vector<Tarjeta*> postesado_;  // for a post-tensioned one
   Figura* ptPostesado_ = nullptr;
-  Figura* ptPostesado2_ = nullptr;
   Figura* ptColocacion_ = nullptr;
-  QGroupBox* alturas_ = nullptr;
+  Tarjeta* alturas_ = nullptr;
 
   CampoPantalla& campo(Ed id) const { return *campos_[static_cast<std::size_t>(id)]; }
   QWidget& Coloca(Ed id);
   QWidget* CreaPaginaObra();
   QWidget* CreaPaginaTramo();
   QWidget* CreaPaginaColocacion();
-  QWidget* CreaPaginaArmado();
-  QWidget* CreaPaginaPostesado();
-  QWidget* CreaPaginaTubo();
-  QWidget* CreaPaginaRelleno();
-  QWidget* CreaPaginaCargas();
-  QGroupBox* CreaGrupo(int texto);
-  QWidget* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
-  QWidget* CreaFormulario(std::initializer_list<Ed> campos);
+  Tarjeta* CreaCabezaTramo();
+  void CreaTarjetasArmado(LayoutTarjetas& tarjetas);
+  void CreaTarjetasPostesado(LayoutTarjetas& tarjetas);
+  Tarjeta* CreaTarjeta(int texto);
+  Tarjeta* CreaFicha(int texto, std::initializer_list<Ed> campos);
+  Tarjeta* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
+  Tarjeta* CreaFigura(Figura*& figura, const char* nombre);
   void PonFila(QGridLayout& rejilla, int fila, Ed id);
-  void PonFilas(QGridLayout& rejilla, std::initializer_list<Ed> campos);
-  Figura* CreaFigura(int minimo);
+  void PonCabecera(QGridLayout& rejilla, int columna, Ed campo);
 };
 
 }  // namespace zorbin

@@ -7,15 +7,14 @@
 #include <vector>
 
 #include "sesion/captura/mdTramos.h"
+#include "shell/captura/mdPintorTramo.h"
 
 class QLineEdit;
+class QToolButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace zorbin {
-
-/// What a calculation said last of a Tramo.
-enum class EstadoTramo { SinCalcular, Cumple, NoCumple, Falla };
 
 class PanelTramos : public QWidget {
   Q_OBJECT
@@ -31,23 +30,34 @@ class PanelTramos : public QWidget {
   void PonEstado(int id, EstadoTramo estado);
   void OlvidaEstados();
 
+  void DaFoco();
+
   /// The Tramos chosen, in their order; the one in hand where none is.
   std::vector<int> Elegidos() const;
 
  signals:
   void tramoPedido(int id);
+  /// Keys pressed in the list.
+  void borradoPedido();
+  void numeroPedido();
 
  private:
   const Captura& c_;
   QLineEdit* busca_;
+  QToolButton* ordena_;
   QTreeWidget* lista_;
   std::map<int, EstadoTramo> estados_;
   std::vector<RenglonTramo> puestos_;
+  int orden_ = -1;  // column; -1 for the order of the Obra
   bool refrescando_ = false;
 
+  void CreaLista();
+  void CreaOrden();
+  void OrdenaPor(int columna);
   void Filtra();
   void Pon(QTreeWidgetItem& fila, const RenglonTramo& r);
   void MarcaEnMano();
+  void Pide(const QTreeWidgetItem* fila);
 };
 
 }  // namespace zorbin

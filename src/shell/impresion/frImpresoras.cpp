@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <cmath>
 
@@ -67,6 +68,9 @@ frImpresoras::frImpresoras(const Catalogo& textos, Preferencias& preferencias,
   connect(cancela, &QPushButton::clicked, this, &QDialog::reject);
   connect(lista_, &QListWidget::currentRowChanged, this, [this] { CambiaEleccion(); });
   connect(lista_, &QListWidget::itemDoubleClicked, this, &frImpresoras::accept);
+  auto* ayuda = new QShortcut(QKeySequence::HelpContents, this);
+  connect(ayuda, &QShortcut::activated, this,
+          [this] { impresora_.Ayuda(QStringLiteral("salidas")); });
   LlenaLista(impresora_.EnUso());
   resize(420, 300);
 }

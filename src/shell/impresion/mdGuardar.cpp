@@ -4,6 +4,10 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QUrl>
 
 #include "base/textos.h"
 #include "listados/pintor/mdPintor.h"
@@ -15,6 +19,8 @@
 namespace zorbin {
 
 namespace {
+
+const QString kRotuloGuardado = QStringLiteral("lbGuardado");
 
 constexpr int kMaxNombre = 200;  // bytes of a name that is proposed; the extension comes after it
 const QString kCarpeta = QStringLiteral("Listado/Carpeta");
@@ -66,6 +72,29 @@ class HojasContadas : public DestinoHojas {
 
 QString Frase(const Catalogo& textos, int n, const QString& a, const QString& b = {}) {
   return Q(textos.Compone(n, {S(a), S(b)}));
+}
+
+// The status bar of the window says where the file is; its name opens it.
+void DiGuardado(QWidget* padre, const Catalogo& textos, const QString& ruta) {
+  QMainWindow* ventana = nullptr;
+  for (auto* w = padre; w != nullptr && ventana == nullptr; w = w->parentWidget()) {
+    ventana = qobject_cast<QMainWindow*>(w);
+  }
+  if (ventana == nullptr) return;
+  auto* barra = ventana->statusBar();
+  auto* rotulo = barra->findChild<QLabel*>(kRotuloGuardado);
+  if (rotulo == nullptr) {
+    rotulo = new QLabel(barra);
+    rotulo->setObjectName(kRotuloGuardado);
+    rotulo->setOpenExternalLinks(true);
+    rotulo->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    barra->insertPermanentWidget(0, rotulo);
+  }
+  const QString enlace = QStringLiteral("<a href=\"%1\">%2</a>")
+                             .arg(QUrl::fromLocalFile(ruta).toString(QUrl::FullyEncoded),
+                                  QFileInfo(ruta).fileName().toHtmlEscaped());
+  rotulo->setText(Q(textos.Texto(txt::PdfGuardado)).replace(QStringLiteral("{1}"), enlace));
+  rotulo->setToolTip(Consejo(QDir::toNativeSeparators(ruta)));
 }
 
 }  // namespace
@@ -142,6 +171,7 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
     if (lleno) hojas.Cierra();
   });
   if (hecho && !lleno) AvisaVacio(padre, textos);
+  if (hecho && lleno) DiGuardado(padre, textos, ruta);
   return hecho && lleno;
 }
 

@@ -41,10 +41,17 @@ class Impresora : public ServicioImpresion {
   /// that was chosen and is gone is still named.
   QString EnUso() const;
 
+  /// How a screen of printing opens the manual at an anchor.
+  void PonAyuda(std::function<void(const QString&)> ayuda) { ayuda_ = std::move(ayuda); }
+  void Ayuda(const QString& ancla) const {
+    if (ayuda_) ayuda_(ancla);
+  }
+
  private:
   const Catalogo& textos_;
   Preferencias& preferencias_;
   Impresoras impresoras_;
+  std::function<void(const QString&)> ayuda_;
 
   bool ImprimeEn(QWidget* padre, const QString& impresora, const QString& nombre,
                  const Documento& documento);

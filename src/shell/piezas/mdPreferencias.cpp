@@ -1,5 +1,6 @@
 #include "shell/piezas/mdPreferencias.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -13,6 +14,7 @@ namespace {
 constexpr int kRecientes = 9;
 const QString kSeccionAvisos = QStringLiteral("Opciones Rev 2002");
 const QString kIdioma = QStringLiteral("Idioma");
+const QString kAvisoLeido = QStringLiteral("Aviso/Version");
 const QString kRecientesClave = QStringLiteral("Obras/Recientes");
 
 int IdiomaDe(const QVariant& escrito) {
@@ -136,6 +138,24 @@ int Preferencias::Copias() const {
 
 void Preferencias::PonCopias(int copias) {
   usuario_.Pon(QStringLiteral("Impresora/Copias"), copias);
+  Guarda();
+}
+
+bool Preferencias::AvisoDeUsoPendiente() const {
+  return usuario_.Valor(kAvisoLeido).toString() != QCoreApplication::applicationVersion();
+}
+
+void Preferencias::AnotaAvisoDeUso() {
+  usuario_.Pon(kAvisoLeido, QCoreApplication::applicationVersion());
+  Guarda();
+}
+
+int Preferencias::Tema() const {
+  return std::clamp(usuario_.Valor(QStringLiteral("Ver/Tema"), 0).toInt(), 0, 2);
+}
+
+void Preferencias::PonTema(int tema) {
+  usuario_.Pon(QStringLiteral("Ver/Tema"), tema);
   Guarda();
 }
 

@@ -55,6 +55,14 @@ class Preferencias {
   int Copias() const;
   void PonCopias(int copias);
 
+  /// Whether the warning of use is still to be read in this version of the program.
+  bool AvisoDeUsoPendiente() const;
+  void AnotaAvisoDeUso();
+
+  /// Colours: 0 as the system, 1 light, 2 dark.
+  int Tema() const;
+  void PonTema(int tema);
+
   /// Units of a new Obra.
   bool NuevaEnSI() const;
   void PonNuevaEnSI(bool si);

@@ -58,6 +58,10 @@ bool VigilanteFoco::eventFilter(QObject* objeto, QEvent* suceso) {
   if (ListaDesplegada(campo)) return false;
   if (adelante && qobject_cast<QPlainTextEdit*>(campo) != nullptr) return false;
   if (!adelante && tecla != Qt::Key_Tab && tecla != Qt::Key_Backtab) return false;
+  if (adelante && acepta_) {
+    acepta_();
+    return true;
+  }
   // The rule runs before the focus moves: a field that it opens is the next one then.
   if (campo == enMano_ && !DejaCampo()) return true;
   if (!adelante) return false;

@@ -45,6 +45,9 @@ class VigilanteFoco : public QObject {
   /// Going to this widget never leaves the field in hand.
   void Exime(QWidget& widget);
 
+  /// Enter does this, instead of going on to the next field.
+  void PonAceptar(std::function<void()> acepta) { acepta_ = std::move(acepta); }
+
   QWidget* EnMano() const { return enMano_; }
 
   /// Leaves the field in hand, as a button does before it acts. @return whether it may act
@@ -60,6 +63,7 @@ class VigilanteFoco : public QObject {
  private:
   QWidget& pantalla_;
   Reglas reglas_;
+  std::function<void()> acepta_;
   QSet<QWidget*> campos_;
   QSet<QWidget*> exentos_;
   QPointer<QWidget> enMano_;

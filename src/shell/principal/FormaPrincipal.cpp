@@ -19,6 +19,8 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include "base/mdCarpetas.h"
+#include "base/mdNumeros.h"
 #include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEtiquetas.h"
@@ -33,6 +35,7 @@
 #include "shell/piezas/mdRotuloCorto.h"
 #include "shell/principal/mdAvisoEstado.h"
 #include "shell/principal/mdHistoria.h"
+#include "shell/principal/mdMenuVer.h"
 #include "shell/principal/mdPaginaInicio.h"
 
 namespace zorbin {
@@ -41,6 +44,7 @@ namespace {
 
 const QString kNombreVentana = QStringLiteral("FormaPrincipal");
 constexpr int kSinRuta = 0;
+constexpr char kMuestra[] = "acequia.zrb";
 
 // Letters that the tabs of the capture answer to, in capitals: the menus take others.
 QString LetrasDePestanas(const Catalogo& textos) {
@@ -74,6 +78,11 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
   connect(inicio_, &PaginaInicio::nuevaPedida, this, &FormaPrincipal::Nueva);
   connect(inicio_, &PaginaInicio::abrirPedido, this, &FormaPrincipal::AbreConDialogo);
   connect(inicio_, &PaginaInicio::obraPedida, this, &FormaPrincipal::Abre);
+  connect(inicio_, &PaginaInicio::muestraPedida, this,
+          [this] { Protege([this] { AbreMuestra(); }); });
+  connect(inicio_, &PaginaInicio::advertenciaPedida, this,
+          [this] { Protege([this] { pantallas_.advertencia(); }); });
+  connect(inicio_, &PaginaInicio::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   historia_ = new Historia(c_, [this](const std::function<void()>& hace) {
     captura().Hace(hace);
     Actualiza();
@@ -159,6 +168,8 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*resultados, txt::MenuDiseno, Qt::Key_F8, [this] {
     pantallas_.diseno();
   })->setObjectName(QStringLiteral("mnDiseno"));
+  ver_ = new MenuVer(*NuevoMenu(txt::MenuVer), c_.textos, entorno_.preferencias);
+  connect(ver_, &MenuVer::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   auto* otras = NuevoMenu(txt::MenuOtras);
   NuevaAccion(*otras, txt::MenuHidraulico, {}, [this] {
     pantallas_.hidraulico();
@@ -203,8 +214,7 @@ void FormaPrincipal::CreaMenuTramos() {
   NuevaAccion(*tramos, Orden::mnBajaTramos, txt::MenuBajar, Qt::CTRL | Qt::Key_Down);
   NuevaAccion(*tramos, Orden::mnCopiaTramos, txt::MenuCopiarTramos,
               Qt::CTRL | Qt::SHIFT | Qt::Key_C);
-  NuevaAccion(*tramos, Orden::mnPegaTramos, txt::MenuPegarTramos,
-              Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  NuevaAccion(*tramos, Orden::mnPegaTramos, txt::MenuPegarTramos, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
   tramos->addSeparator();
   NuevaAccion(*tramos, Orden::mnCancelar, txt::BotonReleer, {});
   NuevaAccion(*tramos, Orden::mnCalculaTramo, txt::MenuCalcula, Qt::Key_F9);
@@ -226,11 +236,17 @@ void FormaPrincipal::CreaPanelTramos() {
   marcoTramos_->setWidget(panel_);
   addDockWidget(Qt::LeftDockWidgetArea, marcoTramos_);
   marcoTramos_->hide();
+  connect(panel_, &PanelTramos::borradoPedido, this, [this] { Ejecuta(Orden::mnBorraTramos); });
+  connect(panel_, &PanelTramos::numeroPedido, this, [this] { Ejecuta(Orden::mnRenumeraTramo); });
   connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
+    // Whoever goes down the list by its keys stays in it.
+    const bool enLaLista = panel_->isAncestorOf(QApplication::focusWidget());
     captura().Hace([this, id] {
-      PonEnMano(c_, id);
+      if (id != c_.enMano) PonEnMano(c_, id);
       if (c_.pantalla.pagina.TabPrincipal == 0) CambiaPagina(c_, 1);
+      if (c_.pantalla.pagina.TabPrincipal == 1) c_.pantalla.foco = Ed::edDescriTramo;
     });
+    if (enLaLista) panel_->DaFoco();
   });
 }
 
@@ -336,10 +352,24 @@ void FormaPrincipal::AplicaIdioma() {
   }
   barra_->setWindowTitle(Q(c_.textos.Texto(txt::BarraHerramientas)));
   inicio_->Renueva();
+  ver_->Renueva();
   marcoTramos_->setWindowTitle(Rotulo(c_.textos.Texto(txt::MenuTramos)));
   panel_->RenuevaTextos();
   if (pantallas_.renuevaTextos) pantallas_.renuevaTextos();
   Actualiza();
+}
+
+// The screen speaks it at once; the paper goes on in the language of the Obra.
+void FormaPrincipal::PonIdioma(int idioma) {
+  Protege([this, idioma] {
+    const auto cambia = [this, idioma] {
+      CambiaIdioma(c_, static_cast<std::int16_t>(idioma));
+      c_.SeparadorDecimal = SeparadorDeIdioma(idioma);
+      if (c_.ObraCargada) MuestraTodo(c_);
+    };
+    captura_ != nullptr ? static_cast<void>(captura_->Hace(cambia)) : cambia();
+    entorno_.preferencias.GrabaIdioma(idioma);
+  });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -382,7 +412,7 @@ void FormaPrincipal::ActualizaHistoria() {
 }
 
 QString FormaPrincipal::NombreDeIdioma() const {
-  return Q(c_.textos.Texto(txt::NombresIdioma[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
+  return Q(c_.textos.Texto(txt::IdiomasPropios[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
 }
 
 QString FormaPrincipal::NombreDeObra() const {
@@ -576,8 +606,8 @@ void FormaPrincipal::Pega() {
     texto += "\n" + pegado.faltas[i];
   }
   if (pegado.faltas.size() > kDichas) {
-    texto += "\n" + c_.textos.Compone(txt::FallosDeMas,
-                                      {std::to_string(pegado.faltas.size() - kDichas)});
+    texto += "\n" +
+             c_.textos.Compone(txt::FallosDeMas, {std::to_string(pegado.faltas.size() - kDichas)});
   }
   Avisa(this, c_.textos, Q(texto));
 }
@@ -625,11 +655,28 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   } else {
     entorno_.preferencias.OlvidaObra(ruta);
   }
+  if (abierta && !c_.version.tramos.empty()) {
+    captura().Hace([this] { PonEnMano(c_, c_.version.tramos.front()->id); }, true);
+  }
   historia_->Olvida();
   panel_->OlvidaEstados();
   ActualizaRecientes();
   Actualiza();
   return abierta;
+}
+
+// It stays as it is: what is made of it is saved under another name.
+void FormaPrincipal::AbreMuestra() {
+  if (!DejaLaObra()) return;
+  aviso_->Vacia();
+  captura().Hace([this] { AbreParaMirar(c_, RutaMuestra(kMuestra)); }, true);
+  historia_->Olvida();
+  panel_->OlvidaEstados();
+  if (!c_.version.tramos.empty()) PonEnMano(c_, c_.version.tramos.front()->id);
+}
+
+void FormaPrincipal::RenuevaInicio() {
+  inicio_->Renueva();
 }
 
 bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {

@@ -27,6 +27,7 @@ class AvisoEstado;
 class Historia;
 class PanelTramos;
 class CapturaDatos;
+class MenuVer;
 class PaginaInicio;
 
 /// Screens that the window opens and does not make. Each runs to its end, or shows a window of its
@@ -72,6 +73,9 @@ class FormaPrincipal : public QMainWindow {
   PanelTramos& panel() { return *panel_; }
   QAction* accion(Orden orden) const { return acciones_.at(orden); }
 
+  /// The page of the start as the settings have it.
+  void RenuevaInicio();
+
   /// All texts in the language in force.
   void AplicaIdioma();
 
@@ -112,6 +116,7 @@ class FormaPrincipal : public QMainWindow {
   std::vector<Menu> menus_;
   std::vector<Entrada> entradas_;
   std::map<Orden, QAction*> acciones_;
+  MenuVer* ver_ = nullptr;
   AvisoEstado* aviso_ = nullptr;
   Historia* historia_ = nullptr;
   PanelTramos* panel_ = nullptr;
@@ -129,6 +134,7 @@ class FormaPrincipal : public QMainWindow {
   void CreaMenus();
   void CreaMenuEdicion();
   void CreaMenuTramos();
+  void PonIdioma(int idioma);
   void CreaPanelTramos();
   void CreaBarra();
   void CreaEstado();
@@ -148,6 +154,7 @@ class FormaPrincipal : public QMainWindow {
   void Pega();
   void ActualizaHistoria();
   bool AbreFichero(const QString& ruta);
+  void AbreMuestra();
   void Actualiza();
   void ActualizaEstado();
   QString NombreDeObra() const;

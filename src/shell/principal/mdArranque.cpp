@@ -23,16 +23,11 @@ bool IdiomaPropio(Preferencias& preferencias, std::string_view accion, int valor
   return false;
 }
 
-int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos,
-                    const std::function<bool(const std::string&)>& hayManual,
-                    const std::function<void(const std::string&)>& avisa) {
+int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos, int delEscritorio,
+                    const std::function<bool(const std::string&)>& hayManual) {
   int idioma = kSinIdioma;
   IdiomaPropio(preferencias, "LEELO", 0, idioma);
-  if (idioma == kSinIdioma) {
-    avisa(textos.LoadRes(txt::IdiomaSinElegir));
-    idioma = kEspanol;
-    IdiomaPropio(preferencias, "GRABALO", idioma, idioma);
-  }
+  if (idioma == kSinIdioma) idioma = delEscritorio;
   // A language beyond the catalogue has no manual either.
   if (!hayManual(textos.LoadRes(txt::NombreManual + (idioma - 1) * kPasoIdioma))) idioma = kEspanol;
   return textos.PonIdioma(static_cast<std::int16_t>(idioma));

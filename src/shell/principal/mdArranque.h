@@ -13,13 +13,12 @@ namespace zorbin {
 /// "GRABALO" writes `valor`. @return false for any other action
 bool IdiomaPropio(Preferencias& preferencias, std::string_view accion, int valor, int& resultado);
 
-/// Language of the program at its start: the machine's; Spanish where none was chosen, which is
-/// told and written, and where the manual of that language is missing.
-/// @param hayManual  whether the manual of a base name is installed
-/// @param avisa      shows a message
+/// Language of the program at its start: the one chosen; that of the desktop where none was, until
+/// one is; Spanish where the manual of that language is missing.
+/// @param delEscritorio  1 to 5
+/// @param hayManual      whether the manual of a base name is installed
 /// @return the language in force, 1 to 5
-int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos,
-                    const std::function<bool(const std::string& nombre)>& hayManual,
-                    const std::function<void(const std::string&)>& avisa);
+int IdiomaAlEmpezar(Preferencias& preferencias, Catalogo& textos, int delEscritorio,
+                    const std::function<bool(const std::string& nombre)>& hayManual);
 
 }  // namespace zorbin

@@ -41,8 +41,13 @@ std::string Retrato(const Captura& c) {
   texto << TextoDeBorrador(b) << c.pantalla.titulo << c.pantalla.textoCancelar
         << c.pantalla.figuraColocacion << c.pantalla.figuraTubo << c.textos.IdiomaOffset();
   for (const bool orden : c.pantalla.habilitadas) texto << orden;
-  for (const auto& control : c.pantalla.controles) {
-    texto << '\n' << control.texto << '|' << control.falta << '|' << control.etiqueta << '|' << control.grupo << '|';
+  for (const auto& fila : TablaCampos()) {
+    const auto& control = c[fila.id];
+    const int tipologia = fila.pagina.TabTipologia;
+    if (tipologia >= 0 && tipologia != c.pantalla.pagina.TabTipologia) continue;
+    texto << '\n'
+          << control.texto << '|' << control.falta << '|' << control.etiqueta << '|'
+          << control.grupo << '|';
     for (const auto& entrada : control.entradas) texto << entrada << ',';
   }
   return texto.str();

@@ -73,7 +73,7 @@ TEST(Defectos, ConLosQueEmpiezanObraYTramo) {
     EXPECT_EQ(t.Tipologia, kArmada);
     EXPECT_EQ(std::vector<int>({t.TipoControl, t.TipoCamisa, t.TipoColocacion, t.TipoCuna,
                                 t.TipoApoyo, t.TipoRelleno, t.ICar}),
-              (std::vector<int>{1, 2, 0, 1, 12, 21, 1}));
+              (std::vector<int>{1, 2, 0, 1, 12, 21, 2}));
     EXPECT_EQ(b.c[edICar0].texto, "Eje de 13 Toneladas");
     Mira(b.c, kArmado);
     MiraEnBlanco(b.c, kArmado);

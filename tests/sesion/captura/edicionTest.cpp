@@ -119,7 +119,7 @@ TEST(Campos, LaZanjaAnchaSoloSeAvisaEnLaTerraplenada) {
   EXPECT_TRUE(b.voz.mensajes.empty());
   EXPECT_FALSE(b.c.AnchoZanjaAuto);
   b.Teclea({{edEsp0, "14", {}, {{edB0, "2,752"}}}});  // overwrites the width typed by hand
-  ASSERT_FALSE(b.voz.anuncios.empty());                // and says so
+  ASSERT_FALSE(b.voz.anuncios.empty());               // and says so
   EXPECT_NE(b.voz.anuncios.back().find("2,752"), std::string::npos) << b.voz.anuncios.back();
   b.Teclea({{edB0, "0", {}, {{edB0, "2,752"}}}});
 }
@@ -176,7 +176,7 @@ TEST(Presiones, ElIncrementoDelTramoQuedaDetrasDelCampo) {
   b.Teclea({{edPrsM1Tram, "1"},
             {edPrsM2Tram, "2"},
             {edPrs3Tram, "0,5"},
-            {edPrsM2Tram, "1", {}, {{edPrs3Tram, "0"}}}});
+            {edPrsM2Tram, "1", {}, {{edPrs3Tram, ""}}}});
   EXPECT_EQ(b.e.tramo.Prs3Tram, 0.5);
   EXPECT_TRUE(b.c[edPrs3Tram].bloqueado);
 }
@@ -245,7 +245,7 @@ TEST(Tipologias, ElCambioTraeLoSuyoYSeDeshaceDeUnaVez) {
   EXPECT_TRUE(b.voz.preguntas.empty());
   EXPECT_EQ(b.e.tramo.Tipologia, 2211);
   EXPECT_EQ(b.c[edFck].texto, "");
-  EXPECT_EQ(b.c[edFyk].texto, "210,0");           // on the other page
+  EXPECT_EQ(b.c[edFyk].texto, "210,0");  // on the other page
   EXPECT_EQ(b.c[edFYKPost].texto, "210,0");
   EXPECT_FALSE(b.c[edReci0].etiquetaHabilitada);  // the reverse of the option
   EXPECT_EQ(b.c.pantalla.figuraTubo, "Tub2211.bmp");
@@ -272,7 +272,7 @@ TEST(Tipologias, LaLimpiezaDejaElTextoDelRevestimiento) {
   EXPECT_EQ(b.e.tramo.Fckr, 0.0);
   EXPECT_EQ(b.c[edFckn].texto, "");
   EXPECT_EQ(b.e.tramo.Tipologia, 1210);
-  EXPECT_EQ(b.e.tramo.ICar, 1);  // 2 once the field is read
+  EXPECT_EQ(b.e.tramo.ICar, 2);
   EXPECT_EQ(b.c[edICar0].texto, "Eje de 13 Toneladas");
   DefectosArmado(b.c);
   EXPECT_NEAR(b.e.tramo.Fct, 2.2349, 1e-4);  // as every recalculation

@@ -112,7 +112,7 @@ TEST(Sesion, LaObraGuardadaSeValidaSinVentana) {
   ASSERT_EQ(lista.faltas.size(), 1U);
   EXPECT_EQ(lista.faltas[0].posicion, 2);
   EXPECT_EQ(lista.faltas[0].campo, "edGr0");
-  EXPECT_EQ(lista.faltas[0].mensaje, "Valor incorrecto");
+  EXPECT_EQ(lista.faltas[0].mensaje, "Debe ser 0,001 t/m3 o más");
   EXPECT_EQ(lista.faltas[0].titulo, "Densidad del Terreno");
   EXPECT_TRUE(lista.Vale(1));
   EXPECT_FALSE(lista.Vale(2));
@@ -171,8 +171,13 @@ TEST(Sesion, LosNumerosDeLosTramos) {
   Banco b;
   NuevoTramo(b.c);
   NuevoTramo(b.c);
-  for (const auto& [texto, vale] : {std::pair{"2", false}, {"0", false}, {"x", false},
-                                   {"1,5", false}, {"32768", false}, {"-1", false}, {"5", true}}) {
+  for (const auto& [texto, vale] : {std::pair{"2", false},
+                                    {"0", false},
+                                    {"x", false},
+                                    {"1,5", false},
+                                    {"32768", false},
+                                    {"-1", false},
+                                    {"5", true}}) {
     EXPECT_EQ(RenumeraTramo(b.c, b.Id(1), texto).empty(), vale) << texto;
   }
   NuevoTramo(b.c);
@@ -289,8 +294,8 @@ TEST(Sesion, LosTramosSinTocarQuedanComoEstabanEnElFichero) {
   constexpr std::size_t kPrimero = 20 * kBytesRegistro;
   ConMuestra b;
   // Texts that this program would write otherwise: they are another's, and mean the same.
-  b.c.fichero->EscribeRegistro(20 + 16, "1200. // 1200.");
-  b.c.fichero->EscribeRegistro(20 + 120 + 50, " 30.0 ");
+  b.c.fichero->EscribeRegistro(30, "350.000 // 35.0000");
+  b.c.fichero->EscribeRegistro(63 + 120, "30.0");
   b.c.fichero->Vacia();
   b.Abre();
   const std::string antes = pruebas::Bytes(b.ruta);
@@ -302,9 +307,31 @@ TEST(Sesion, LosTramosSinTocarQuedanComoEstabanEnElFichero) {
   ASSERT_EQ(ahora.size(), antes.size());
   EXPECT_TRUE(ahora.substr(0, kPrimero) == antes.substr(0, kPrimero));
   for (std::size_t i = 0; i < 7; ++i) {
-    const auto bloque = [&](const std::string& s) { return s.substr(kPrimero + i * kBloque, kBloque); };
+    const auto bloque = [&](const std::string& s) {
+      return s.substr(kPrimero + i * kBloque, kBloque);
+    };
     EXPECT_EQ(bloque(ahora) == bloque(antes), i != 1) << i + 1;
   }
+}
+
+// What the file says of a Tramo beside its block, or leaves blank in it, stays too.
+TEST(Sesion, LoQueDependeDeOtroTramoNoCambiaConEl) {
+  ConMuestra b;
+  b.c.fichero->EscribeRegistro(61 + 60, "");  // a width as that of the Tramo before
+  b.c.fichero->Vacia();
+  b.Abre();
+  b.Toma(3);
+  CambiaMarca(b.c, edEnvolvente, true);
+  ASSERT_TRUE(Graba(b.c)) << b.Porque();
+  const double ancho = b.c.version.tramos[1]->datos.B0;
+  EXPECT_EQ(ancho, b.c.version.tramos[0]->datos.B0);
+  b.Toma(1);
+  b.Teclea(edB0, "3,3");
+  ASSERT_TRUE(Graba(b.c)) << b.Porque();
+  b.Abre();
+  EXPECT_EQ(b.c.version.tramos[0]->datos.B0, 3.3);
+  EXPECT_EQ(b.c.version.tramos[1]->datos.B0, ancho);
+  EXPECT_TRUE(b.c.version.tramos[2]->datos.Envolvente);
 }
 
 // ---- Hand adjustments
@@ -325,8 +352,11 @@ TEST(Ajustes, SoloLosAnulaGrabarUnDatoDelCalculo) {
       {"heights, which choose Casos", [](Banco& b) { b.Teclea(edHr0, "2"); }, false, false},
       {"a description", [](Banco& b) { b.Teclea(edDescriTramo, "otra"); }, false, false},
       {"units", [](Banco& b) { EligeOpcion(b.c, rdSistemaUnidades, 1); }, false, false},
-      {"there and back", [](Banco& b) { b.Teclea({{edGr0, "1,9"}, {edGr0, "1,8"}}); }, false,
-       false},
+      {"there and back",
+       [](Banco& b) {
+         b.Teclea({{edGr0, "1,9"}, {edGr0, "1,8"}});
+       },
+       false, false},
   };
   for (const auto& f : filas) {
     SCOPED_TRACE(f.nombre);
@@ -405,7 +435,8 @@ TEST(Sesion, LoQueNoSePuedeEscribirSeGrabaConOtroNombre) {
   const Fila filas[] = {
       {"read-only",
        [](const auto& ruta, auto&) {
-         std::filesystem::permissions(ruta, std::filesystem::perms::owner_read);
+         using enum std::filesystem::perms;
+         std::filesystem::permissions(ruta, owner_read | group_read | others_read);
        },
        7},
       {"another program has it",
@@ -413,11 +444,12 @@ TEST(Sesion, LoQueNoSePuedeEscribirSeGrabaConOtroNombre) {
       {"damaged",
        [](const auto& ruta, auto&) {
          FicheroRegistros f(ruta, FicheroRegistros::Modo::LecturaEscritura);
-         f.EscribeRegistro(20 + 60 + 16, "doce");
+         f.EscribeRegistro(30 + 60, "doce");
          f.Vacia();
        },
        6},
-      {"cut", [](const auto& ruta, auto&) {
+      {"cut",
+       [](const auto& ruta, auto&) {
          std::filesystem::resize_file(ruta, (20 + 6 * 60 + 5) * kBytesRegistro);
        },
        6},
@@ -430,9 +462,11 @@ TEST(Sesion, LoQueNoSePuedeEscribirSeGrabaConOtroNombre) {
     std::optional<Banco> otro;
     f.estropea(ruta, otro);
     const std::string antes = pruebas::Bytes(ruta);
-    const pruebas::SinDerechos sinDerechos;
     Banco b;
-    ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
+    {
+      const pruebas::SinDerechos sinDerechos;
+      ASSERT_TRUE(AbreObra(b.c, ruta)) << b.voz.Ultimo();
+    }
     EXPECT_TRUE(b.c.SoloLectura());
     EXPECT_TRUE(b.voz.preguntas.empty());
     // What cannot be had is told once, by its place; the rest is whole.
@@ -475,7 +509,8 @@ TEST(Sesion, LaObraDeOtroProgramaDiceDeQuienEs) {
 
 TEST(Sesion, LoQueNoEsUnaObraSeDiceYNoDejaNinguna) {
   const Carpeta carpeta;
-  for (const std::string& contenido : {std::string{}, std::string("%PDF-1.4 x"), std::string(9000, 'x')}) {
+  for (const std::string& contenido :
+       {std::string{}, std::string("%PDF-1.4 x"), std::string(9000, 'x')}) {
     ConTramo b;
     pruebas::PonBytes(carpeta / "x.zrb", contenido);
     EXPECT_FALSE(AbreObra(b.c, carpeta / "x.zrb"));

@@ -326,7 +326,7 @@ TEST(Trabajo, UnTramoConFaltasSeDiceYLosDemasSeCalculan) {
   const auto r = o.LaObra();
   EXPECT_EQ(r->fin, FinTrabajo::Completo);
   ASSERT_EQ(r->encargo.rechazados.size(), 1u);
-  EXPECT_NE(r->encargo.rechazados[0].find("Resist. del hormigón a compresión: Valor incorrecto"),
+  EXPECT_NE(r->encargo.rechazados[0].find("Resist. del hormigón a compresión: Debe ser"),
             std::string::npos);
   EXPECT_EQ(r->tramos.size(), 6u);
   EXPECT_EQ(o.b.c[Ed::edTramo].texto, "3");
@@ -336,6 +336,8 @@ TEST(Trabajo, UnTramoConFaltasSeDiceYLosDemasSeCalculan) {
   o.Elige(2);
   EXPECT_FALSE(EncargaTramo(o.b.c));
   EXPECT_EQ(o.b.voz.foco, Ed::edFck);
+  EXPECT_NE(o.b.c[Ed::edFck].falta, "");
+  EXPECT_FALSE(o.b.c.EnCambio());  // what is shown of the file is no change of it
   o.Elige(1);
   EXPECT_TRUE(EncargaTramo(o.b.c));
   o.b.Teclea(Ed::edAlt1, "0,5");
