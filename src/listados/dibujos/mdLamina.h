@@ -78,7 +78,7 @@ struct Mancha {
 /// Nothing to point at.
 inline constexpr int kSinId = -1;
 
-struct Aspecto {
+struct AspectoPieza {
   Trazo trazo;
   Mancha mancha;
   Capa capa = Capa::Datos;
@@ -86,13 +86,13 @@ struct Aspecto {
 };
 
 /// Lines through points; closed ones are filled by the even-odd rule.
-struct Forma : Aspecto {
+struct Forma : AspectoPieza {
   std::vector<std::vector<Xy>> contornos;
   bool cerrada = false;
 };
 
 /// Circle, or the ring between two of them.
-struct Redondo : Aspecto {
+struct Redondo : AspectoPieza {
   Xy centro;
   double radio = 0;
   double hueco = 0;  // radius of the hole, 0 for none
@@ -101,7 +101,7 @@ struct Redondo : Aspecto {
 enum class AnclaX : std::uint8_t { Izquierda, Centro, Derecha };
 enum class AnclaY : std::uint8_t { Base, Medio, Arriba };
 
-struct Letrero : Aspecto {
+struct Letrero : AspectoPieza {
   Xy sitio;
   std::string texto;
   double alto = 2.8;  // of the letter, em square [mm]

@@ -92,7 +92,7 @@ class Plano {
   Capa capa_ = Capa::Datos;
   int id_ = kSinId;
 
-  Aspecto Como(Mancha mancha, Trazo trazo) const { return {trazo, mancha, capa_, id_}; }
+  AspectoPieza Como(Mancha mancha, Trazo trazo) const { return {trazo, mancha, capa_, id_}; }
   Letrero RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const;
   void Tope(Xy p);
 };

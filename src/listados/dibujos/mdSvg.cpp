@@ -103,17 +103,17 @@ class Escritor {
            Num(c.x - r) + ' ' + Num(c.y) + 'Z';
   }
 
-  void Camino(const std::string& camino, const Aspecto& a) {
+  void Camino(const std::string& camino, const AspectoPieza& a) {
     svg_ += "<path d=\"" + camino + "\"" + Atributos(a) + "/>\n";
   }
 
-  static std::string Clase(const Aspecto& a) {
+  static std::string Clase(const AspectoPieza& a) {
     std::string texto = std::string(" class=\"") + NombreCapa(a.capa) + "\"";
     if (a.id != kSinId) texto += " data-id=\"" + std::to_string(a.id) + "\"";
     return texto;
   }
 
-  std::string Atributos(const Aspecto& a) const {
+  std::string Atributos(const AspectoPieza& a) const {
     std::string texto = " fill=\"none\"";
     if (a.mancha.fuerza > 0) texto = " fill=\"" + Hex(paleta_.De(a.mancha)) + "\"";
     if (a.trazo.grueso > 0) {

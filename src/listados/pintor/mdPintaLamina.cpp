@@ -106,7 +106,7 @@ class PintaPieza {
     return q;
   }
 
-  void Prepara(const Aspecto& a) {
+  void Prepara(const AspectoPieza& a) {
     pintor_.setBrush(a.mancha.fuerza > 0 ? QBrush(DeColor(paleta_.De(a.mancha))) : QBrush());
     if (a.trazo.grueso <= 0) {
       pintor_.setPen(Qt::NoPen);

@@ -36,21 +36,34 @@ PanelDetalle::PanelDetalle(const Entorno& entorno, QWidget* padre)
     : QTabWidget(padre), entorno_(entorno) {
   setObjectName(QStringLiteral("panelDetalle"));
   setDocumentMode(true);
-  seccion_ = new VistaLamina(entorno, kMenorDibujo, this);
   zanja_ = new VistaLamina(entorno, kMenorDibujo, this);
   todo_ = new QTreeWidget(this);
   todo_->setColumnCount(2);
   todo_->setHeaderHidden(true);
   todo_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  auto* seccion = CreaSeccion();
   auto* grafico = CreaGrafico();
   auto* esfuerzos = CreaEsfuerzos();
   auto* comprobaciones = CreaComprobaciones();
-  for (QWidget* w : {grafico, static_cast<QWidget*>(seccion_), static_cast<QWidget*>(zanja_),
-                     esfuerzos, comprobaciones, static_cast<QWidget*>(todo_)}) {
+  for (QWidget* w : {grafico, seccion, static_cast<QWidget*>(zanja_), esfuerzos, comprobaciones,
+                     static_cast<QWidget*>(todo_)}) {
     addTab(w, QString{});
   }
   setUsesScrollButtons(true);
   RenuevaTextos();
+}
+
+// Along the wall each bar is seen; across, where they stand.
+QWidget* PanelDetalle::CreaSeccion() {
+  auto* pagina = new QWidget(this);
+  seccion_ = new VistaLamina(entorno_, kMenorDibujo, pagina);
+  pared_ = new VistaLamina(entorno_, kMenorDibujo, pagina);
+  auto* filas = new QVBoxLayout(pagina);
+  filas->setContentsMargins(0, 0, 0, 0);
+  filas->setSpacing(0);
+  filas->addWidget(seccion_, 3);
+  filas->addWidget(pared_, 2);
+  return pagina;
 }
 
 QWidget* PanelDetalle::CreaGrafico() {
@@ -151,7 +164,7 @@ void PanelDetalle::Pon(std::shared_ptr<const CasoConTramo> caso, EstiloNumeros e
 void PanelDetalle::Muestra() {
   setEnabled(caso_ != nullptr);
   if (caso_ == nullptr) {
-    for (auto* v : {grafico_, seccion_, zanja_, anillo_, tensiones_}) v->Pon({});
+    for (auto* v : {grafico_, seccion_, pared_, zanja_, anillo_, tensiones_}) v->Pon({});
     todo_->clear();
     matriz_->setRowCount(0);
     comprobaciones_->clear();
@@ -159,7 +172,10 @@ void PanelDetalle::Muestra() {
   }
   const auto w = Palabras();
   seccion_->Pon([caso = caso_, w](const HojaDibujo& hoja) {
-    return LaminaConEjes{DibujaSeccion(caso->Dibujado(), w, hoja), {}};
+    return LaminaConEjes{DibujaTransversal(caso->Dibujado(), w, hoja), {}};
+  });
+  pared_->Pon([caso = caso_, w](const HojaDibujo& hoja) {
+    return LaminaConEjes{DibujaPared(caso->Dibujado(), w, hoja), {}};
   });
   zanja_->Pon([caso = caso_, w](const HojaDibujo& hoja) {
     return LaminaConEjes{DibujaZanja(caso->Dibujado(), w, hoja), {}};

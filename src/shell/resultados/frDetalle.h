@@ -44,6 +44,7 @@ class PanelDetalle : public QTabWidget {
   VistaLamina* grafico_;
   QLabel* valores_;
   VistaLamina* seccion_;
+  VistaLamina* pared_;
   VistaLamina* zanja_;
   QComboBox* hipotesis_;
   VistaLamina* anillo_;
@@ -55,6 +56,7 @@ class PanelDetalle : public QTabWidget {
   UltimaFaena faena_;
 
   PalabrasDibujo Palabras() const { return {entorno_.textos, estilo_}; }
+  QWidget* CreaSeccion();
   QWidget* CreaGrafico();
   QWidget* CreaEsfuerzos();
   QWidget* CreaComprobaciones();
