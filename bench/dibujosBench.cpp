@@ -25,7 +25,7 @@ const Catalogo& Textos() {
 
 void Pinta(const Lamina& l, QImage& imagen) {
   QPainter pintor(&imagen);
-  PintaLamina(pintor, l, Paleta(Tema::Claro), kPorMm);
+  PintaLamina(pintor, l, Paleta(TemaDibujo::Claro), kPorMm);
 }
 
 QImage Pantalla(const HojaDibujo& hoja) {

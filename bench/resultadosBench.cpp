@@ -72,7 +72,7 @@ void PanelDesdeElDato(benchmark::State& state) {
   const PalabrasDibujo w(Textos(), {});
   const auto pinta = [&](const Lamina& l) {
     QPainter pintor(&imagen);
-    PintaLamina(pintor, l, Paleta(Tema::Claro), kPorMm);
+    PintaLamina(pintor, l, Paleta(TemaDibujo::Claro), kPorMm);
   };
   for (auto _ : state) {
     const auto d = CalculaDiseno(pedido).value();

@@ -35,11 +35,11 @@ Color DeRgb(std::uint32_t rgb) {
 
 }  // namespace
 
-Paleta::Paleta(Tema tema) {
+Paleta::Paleta(TemaDibujo tema) {
   for (const auto& fila : kColores) {
-    Pon(fila.tinta, DeRgb(tema == Tema::Oscuro ? fila.oscuro : fila.papel));
+    Pon(fila.tinta, DeRgb(tema == TemaDibujo::Oscuro ? fila.oscuro : fila.papel));
   }
-  if (tema == Tema::Claro) Pon(Tinta::Papel, DeRgb(kPapelClaro));
+  if (tema == TemaDibujo::Claro) Pon(Tinta::Papel, DeRgb(kPapelClaro));
 }
 
 Color Paleta::De(const Mancha& mancha) const {

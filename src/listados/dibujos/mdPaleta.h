@@ -14,11 +14,11 @@ struct Color {
   bool operator==(const Color&) const = default;
 };
 
-enum class Tema : std::uint8_t { Papel, Claro, Oscuro };
+enum class TemaDibujo : std::uint8_t { Papel, Claro, Oscuro };
 
 class Paleta {
  public:
-  explicit Paleta(Tema tema);
+  explicit Paleta(TemaDibujo tema);
 
   /// A window gives its own colours to what it knows better.
   void Pon(Tinta tinta, Color color) { colores_[Lugar(tinta)] = color; }

@@ -39,9 +39,9 @@ QueGrafico GraficoDe(const std::string& palabra) {
   return i == kGraficos.end() ? QueGrafico::Acero : static_cast<QueGrafico>(i - kGraficos.begin());
 }
 
-Tema TemaDe(const std::string& palabra) {
-  if (palabra == "oscuro") return Tema::Oscuro;
-  return palabra == "claro" ? Tema::Claro : Tema::Papel;
+TemaDibujo TemaDe(const std::string& palabra) {
+  if (palabra == "oscuro") return TemaDibujo::Oscuro;
+  return palabra == "claro" ? TemaDibujo::Claro : TemaDibujo::Papel;
 }
 
 // A number typed on the line; none that is not above 0.

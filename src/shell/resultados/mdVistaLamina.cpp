@@ -42,7 +42,7 @@ Color ColorDe(const QColor& c) {
 
 Paleta PaletaDe(const QPalette& colores) {
   const QColor papel = colores.color(QPalette::Base);
-  Paleta paleta(papel.lightnessF() < 0.5 ? Tema::Oscuro : Tema::Claro);
+  Paleta paleta(papel.lightnessF() < 0.5 ? TemaDibujo::Oscuro : TemaDibujo::Claro);
   paleta.Pon(Tinta::Papel, ColorDe(papel));
   paleta.Pon(Tinta::Tinta, ColorDe(colores.color(QPalette::Text)));
   return paleta;
@@ -200,7 +200,7 @@ void VistaLamina::Guarda(const QString& extension) {
   DiFallos(this, textos, ruta, [&] {
     const std::filesystem::path fichero(QFile::encodeName(ruta).toStdString());
     const auto& lamina = Ahora().lamina;
-    const Paleta papel(Tema::Papel);
+    const Paleta papel(TemaDibujo::Papel);
     if (extension == QStringLiteral("pdf")) {
       return EscribeLaminaPdf(fichero, lamina, papel, S(nombre_));
     }

@@ -201,7 +201,7 @@ TEST(Dibujos, SeSenalaLoQueHayBajoElPuntero) {
 
 TEST(Dibujos, DoradosEnSvg) {
   const Escena armado(1), postesado(6, 5);
-  const Paleta papel(Tema::Papel), oscuro(Tema::Oscuro);
+  const Paleta papel(TemaDibujo::Papel), oscuro(TemaDibujo::Oscuro);
   const auto w = armado.Palabras(), fr = postesado.Palabras();
   const auto compara = [](const char* nombre, const Lamina& l, const Paleta& paleta) {
     EXPECT_EQ(pruebas::Compara(std::string("dibujos/") + nombre, SvgDe(l, paleta, nombre)), "");
