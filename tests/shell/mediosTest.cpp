@@ -40,7 +40,7 @@ TEST(PantallaMedios, DeLosCamposAlTexto) {
   QTest::keyClicks(Foco(p.pantalla), "5.5");
   QStringList camino;
   for (int i = 0; i < 10; ++i) {
-    QTest::keyClick(Foco(p.pantalla), Qt::Key_Return);
+    QTest::keyClick(Foco(p.pantalla), Qt::Key_Tab);
     camino << EnFoco(p.pantalla);
     if (EnFoco(p.pantalla) == "txpH5") QTest::keyClicks(Foco(p.pantalla), "13000");
     if (EnFoco(p.pantalla) == "Check1") QTest::keyClick(Foco(p.pantalla), Qt::Key_Space);
