@@ -68,7 +68,9 @@ class Capturador {
     void Muestra(const std::string&, const std::string&) override {}
     bool Pregunta(const std::string&, const std::string&) override { return true; }
     Respuesta PreguntaGrabar(const std::string&) override { return Respuesta::Cancelar; }
-    std::optional<std::string> PideFichero(const std::string&, const std::string&) override { return std::nullopt; }
+    std::optional<std::string> PideFichero(const std::string&, const std::string&) override {
+      return std::nullopt;
+    }
     void VaA(Ed) override {}
   };
   EstadoCalculo e_;

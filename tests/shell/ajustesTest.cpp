@@ -1,8 +1,8 @@
 // The screen of adjustments as a person uses it, from the capture to the summary that shows them.
 #include "shell/ajustes/frAjustes.h"
 
-#include <QComboBox>
 #include <QAction>
+#include <QComboBox>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>

@@ -174,7 +174,8 @@ TEST(Ventana, MenusDeCadaEstado) {
   }
 }
 
-// Closing, ending and opening another ask what to do with what is unsaved, and Cancel loses nothing.
+// Closing, ending and opening another ask what to do with what is unsaved, and Cancel loses
+// nothing.
 TEST(Ventana, LoQueEstaSinGrabarSePregunta) {
   ConMuestra p;
   const auto cambia = [&p](const char* texto) {
@@ -302,9 +303,8 @@ TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
 TEST(Captura, ElTabuladorSigueElTrabajo) {
   ConMuestra p;
   p.Pincha(Ed::edPrsM1);
-  for (const Ed siguiente :
-       {Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3, Ed::rdSistemaUnidades,
-        Ed::rdGolpeAriete, Ed::edAlt1, Ed::edAlt2, Ed::edAlt3}) {
+  for (const Ed siguiente : {Ed::edPrs1, Ed::edPrsM2, Ed::edPrs2, Ed::edPrs3, Ed::rdSistemaUnidades,
+                             Ed::rdGolpeAriete, Ed::edAlt1, Ed::edAlt2, Ed::edAlt3}) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(p.TieneFoco(siguiente)) << Fila(siguiente).nombre;
   }

@@ -33,7 +33,7 @@ TEST(PantallaHidraulica, DelDatoALaTablaSinRaton) {
   QTest::keyClick(Foco(p.pantalla), Qt::Key_Tab);
   EXPECT_EQ(p.Campo("txDatoOrigen"), "0,003");  // the mask; the number keeps its decimals
   EXPECT_EQ(EnFoco(p.pantalla), "txRugosidad");
-  QTest::keyClicks(Foco(p.pantalla), "0,1");  // the content was selected
+  QTest::keyClicks(Foco(p.pantalla), "0,1");         // the content was selected
   QTest::keyClick(Foco(p.pantalla), Qt::Key_Enter);  // the default button
   EXPECT_EQ(Texto(p.pantalla, "edPantallaCh"), p.Tabla(DarcyWeiss_Pendiente(0.0025, 0.1)));
   EXPECT_TRUE(p.persona.cajas.empty());

@@ -24,9 +24,9 @@ inline constexpr Paginas kPaginaTubo{1};
 inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
-// The titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and that is meant. The choice
-// of the enveloping design has no record: the file beside the Obra keeps it. Results tell it of the
-// run.
+// The titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and that is meant. The
+// choice of the enveloping design has no record: the file beside the Obra keeps it. Results tell it
+// of the run.
 // clang-format off
 inline constexpr auto kDatosObra = std::to_array<Dato<Obra>>({
     {&Obra::Idioma,

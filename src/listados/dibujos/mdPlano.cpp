@@ -190,7 +190,8 @@ void Plano::Rayado(const std::vector<Puntos>& contornos, Trama trama, Tinta tint
 
 Letrero Plano::RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const {
   Letrero r;
-  static_cast<AspectoPieza&>(r) = {{tinta, 0.0}, {}, capa_ == Capa::Cotas ? Capa::Cotas : Capa::Textos};
+  static_cast<AspectoPieza&>(r) = {
+      {tinta, 0.0}, {}, capa_ == Capa::Cotas ? Capa::Cotas : Capa::Textos};
   r.sitio = sitio;
   r.texto = std::move(texto);
   r.alto = alto;

@@ -207,14 +207,13 @@ std::vector<CasoAjustable> CasosDe(const Ajustes& a) {
   const double factor = a.c.EsSI() ? kFactorTension : 1.0;
   std::vector<CasoAjustable> casos;
   for (const auto& f : a.casos) {
-    const bool ajustado =
-        BuscaCaso(a.dpe->entradas(), f.DP, a.tramo.tramo.NumeroTramo, f.Hr) > 0;
-    casos.push_back({f.Hr, f.DP,
-                     a.c.textos.Compone(a.c.EsSI() ? txt::AjCasoSI : txt::AjCasoMKS,
-                                        {Formato(a, f.Hr, "####0.00"),
-                                         Formato(a, f.DP / factor, "####0.00"),
-                                         Formato(a, f.MDP / factor, "####0.00")}),
-                     ajustado});
+    const bool ajustado = BuscaCaso(a.dpe->entradas(), f.DP, a.tramo.tramo.NumeroTramo, f.Hr) > 0;
+    casos.push_back(
+        {f.Hr, f.DP,
+         a.c.textos.Compone(a.c.EsSI() ? txt::AjCasoSI : txt::AjCasoMKS,
+                            {Formato(a, f.Hr, "####0.00"), Formato(a, f.DP / factor, "####0.00"),
+                             Formato(a, f.MDP / factor, "####0.00")}),
+         ajustado});
   }
   return casos;
 }

@@ -78,7 +78,7 @@ struct Captura {
   int pasosAbiertos = 0;                // a step within another is a part of it
   bool ObraCargada = false;
   std::vector<std::string> danos;  // what of the file could not be read: it is never written
-  bool Tecleando = false;       // a field holds what its rule has not seen yet
+  bool Tecleando = false;          // a field holds what its rule has not seen yet
   bool LeyendoDatos = false;    // fields are being filled by the program: rules of change are off
   bool AnchoZanjaAuto = false;  // B0 follows De
   bool SFckEditado = false;     // edSFck changed since it took the focus

@@ -227,8 +227,8 @@ Tramo Leido(const FicheroRegistros& f, EstadoCalculo& e, std::size_t lugar, cons
   return e.tramo;
 }
 
-// Whether the file has a Tramo at its place already, whatever comes before it by now: a blank record
-// of a block means the value of the Tramo before.
+// Whether the file has a Tramo at its place already, whatever comes before it by now: a blank
+// record of a block means the value of the Tramo before.
 bool EstaEnElFichero(const Captura& c, const Version& v, std::size_t lugar) {
   const auto& t = *v.tramos[lugar];
   if (lugar >= c.guardada.tramos.size() || *c.guardada.tramos[lugar] != t) return false;

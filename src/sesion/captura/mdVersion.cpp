@@ -58,8 +58,7 @@ void Convierte(Bloque& b, bool aSI) {
 
 bool Version::operator==(const Version& otra) const {
   return obra == otra.obra && pendientes == otra.pendientes && extras == otra.extras &&
-         ajustesSueltos == otra.ajustesSueltos &&
-         std::ranges::equal(tramos, otra.tramos, Igual);
+         ajustesSueltos == otra.ajustesSueltos && std::ranges::equal(tramos, otra.tramos, Igual);
 }
 
 std::optional<std::size_t> LugarDe(const Version& v, int id) {

@@ -52,8 +52,8 @@ using TramoFijo = std::shared_ptr<const TramoEnObra>;
 struct Version {
   Obra obra;  // without what belongs to the session: file and folder
   std::vector<TramoFijo> tramos;
-  std::vector<TextoPendiente> pendientes;  // of the fields of the Obra
-  Extras extras;                           // beside the file, and of no Tramo
+  std::vector<TextoPendiente> pendientes;     // of the fields of the Obra
+  Extras extras;                              // beside the file, and of no Tramo
   std::vector<EntradaAjuste> ajustesSueltos;  // of numbers that no Tramo has
 
   bool operator==(const Version& otra) const;

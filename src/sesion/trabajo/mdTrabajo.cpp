@@ -116,8 +116,8 @@ std::string NotaFinal(const Calculo& calculo) {
 
 std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
   auto comprobado = Comprueba(c, ids);
-  const bool deLaObra = std::ranges::any_of(comprobado.faltas,
-                                            [](const Falta& f) { return f.tramo == 0; });
+  const bool deLaObra =
+      std::ranges::any_of(comprobado.faltas, [](const Falta& f) { return f.tramo == 0; });
   if (deLaObra || ids.size() == 1) {
     if (MuestraFaltas(c, comprobado.faltas)) return std::nullopt;
   }

@@ -10,8 +10,8 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kMargen = 6;       // [px]
-constexpr int kRenglones = 5;    // seen at once
+constexpr int kMargen = 6;         // [px]
+constexpr int kRenglones = 5;      // seen at once
 constexpr std::size_t kMas = 200;  // beyond them only how many
 
 QString Renglon(const Captura& c, const Falta& falta, std::size_t lugar) {

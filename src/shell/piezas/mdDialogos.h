@@ -17,7 +17,8 @@ inline constexpr char kTituloAplicacion[] = "ZORBIN";
 void Avisa(QWidget* padre, const Catalogo& textos, const QString& texto,
            const QString& titulo = {});
 
-/// A question with Yes and No; Escape answers No, and so does Enter. @return whether the answer was Yes
+/// A question with Yes and No; Escape answers No, and so does Enter. @return whether the answer was
+/// Yes
 bool Pregunta(QWidget* padre, const Catalogo& textos, const QString& texto,
               const QString& titulo = {});
 

@@ -11,7 +11,7 @@ using enum Ed;
 
 struct Defecto {
   Ed campo;
-  double si, mks;         // in the unit of the field
+  double si, mks;  // in the unit of the field
 };
 
 // Characteristic strengths in kp/cm2 and MPa, partial factors, sheet, wire, creep and shrinkage,
@@ -20,21 +20,12 @@ const std::vector<Defecto> kArmado{
     {edCamMax, 6.0, 6.0},   {edGamaB, 1.5, 1.5},    {edFck, 35.0, 350.0}, {edFct, 2.2349, 22.349},
     {edFyk, 210.0, 2100.0}, {edFyd, 140.0, 1400.0}, {edGc0, 2.5, 2.5},    {edGr0, 1.8, 1.8},
     {edFi0, 30.0, 30.0},    {edQDato0, 0.0, 0.0}};
-const std::vector<Defecto> kPostesado{{edDelca, 1.5, 1.5},
-                                      {edRel, 2.0, 2.0},
-                                      {edFic, 1.5, 1.5},
-                                      {edFir, 0.75, 0.75},
-                                      {edEpsc, 0.0002, 0.0002},
-                                      {edEpsr, 0.0003, 0.0003},
-                                      {edFyk, 210.0, 2100.0},
-                                      {edEs, 210000.0, 2100000.0},
-                                      {edEp, 200000.0, 2000000.0},
-                                      {edFYKPost, 210.0, 2100.0},
-                                      {edFckno, 30.0, 300.0},
-                                      {edFckn, 40.0, 400.0},
-                                      {edFckr, 35.0, 350.0},
-                                      {edSFck, 1700.0, 17000.0},
-                                      {edSf, 1275.0, 12750.0}};
+const std::vector<Defecto> kPostesado{
+    {edDelca, 1.5, 1.5},        {edRel, 2.0, 2.0},           {edFic, 1.5, 1.5},
+    {edFir, 0.75, 0.75},        {edEpsc, 0.0002, 0.0002},    {edEpsr, 0.0003, 0.0003},
+    {edFyk, 210.0, 2100.0},     {edEs, 210000.0, 2100000.0}, {edEp, 200000.0, 2000000.0},
+    {edFYKPost, 210.0, 2100.0}, {edFckno, 30.0, 300.0},      {edFckn, 40.0, 400.0},
+    {edFckr, 35.0, 350.0},      {edSFck, 1700.0, 17000.0},   {edSf, 1275.0, 12750.0}};
 
 void Mira(Captura& c, const std::vector<Defecto>& defectos) {
   for (const auto& d : defectos) {

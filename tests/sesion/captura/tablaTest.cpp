@@ -28,7 +28,8 @@ TEST(Tabla, DeUnaObraAOtraEnCualquierSistemaDeUnidades) {
       otra.OlvidaPasos();
       // A spreadsheet ends its lines in its own way.
       std::string suya;
-      for (const char letra : tabla) suya += letra == '\n' ? std::string("\r\n") : std::string(1, letra);
+      for (const char letra : tabla)
+        suya += letra == '\n' ? std::string("\r\n") : std::string(1, letra);
       const auto pegado = PegaTramos(otra.c, de == a ? tabla : suya + "\r\n");
       ASSERT_TRUE(pegado.faltas.empty()) << pegado.faltas[0];
       EXPECT_EQ(pegado.tramos, 7);
@@ -97,7 +98,8 @@ TEST(Tabla, LoQueNoCabeSeDicePorFilaYColumna) {
 // A few columns are enough; what is missing is asked for by the save.
 TEST(Tabla, UnasColumnasBastan) {
   ConMuestra b;
-  const auto pegado = PegaTramos(b.c, "Esp (cm)\tDi (m)\tFck (kp/cm2)\n13,5\t1,2\t350\n\n\t1.4\t\n");
+  const auto pegado =
+      PegaTramos(b.c, "Esp (cm)\tDi (m)\tFck (kp/cm2)\n13,5\t1,2\t350\n\n\t1.4\t\n");
   ASSERT_TRUE(pegado.faltas.empty()) << pegado.faltas[0];
   EXPECT_EQ(ListaDe(b.c.version).back(), "9");
   const auto& t = b.c.version.tramos[7]->datos;
