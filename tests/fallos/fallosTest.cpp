@@ -159,7 +159,8 @@ class Fallos : public testing::TestWithParam<std::size_t> {
     const Ficheros ficheros = AbreYCierra(escena, carpeta);
     const int indice = Indice(estados, ficheros);
     rotos += indice < 0;
-    EXPECT_GE(indice, parte->grabados) << donde << ": a save that was done is lost";
+    EXPECT_GE(indice, parte->grabados)
+        << donde << ": a save that was done is lost" << Nombres(carpeta);
     EXPECT_LE(indice, parte->grabados + 1) << donde;
     EXPECT_TRUE(parte->dicho) << donde << ": refused without a word";
     EXPECT_TRUE(parte->enteroAlNegar) << donde << ": not undone at once";

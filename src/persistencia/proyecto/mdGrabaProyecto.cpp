@@ -81,11 +81,7 @@ class Companeras {
     }
     if (!sustituye_ && EstaDicho(ruta, extras, nuevo)) return;
     if (Falta(ruta)) return Cambia(kExtensionZrx, {}, despues);  // set aside
-    std::string bytes;
-    if (const int causa = LeeContenido(ruta, kMaxContenido, bytes)) {
-      throw ErrorFichero({txt::NoSeAbre, {ruta.string(), TextoDeCausa(causa)}});
-    }
-    Cambia(kExtensionZrx, std::move(bytes), despues);
+    Cambia(kExtensionZrx, BytesDe(ruta), despues);
   }
 
   const std::vector<Cambio>& cambios() const { return cambios_; }
@@ -99,20 +95,31 @@ class Companeras {
         {{std::string(extension), std::move(antes)}, {std::string(extension), std::move(despues)}});
   }
 
+  // A file that the disk does not give is no file that is not understood: the save is refused.
   static bool SonLosDelDisco(const fs::path& ruta, const std::vector<EntradaAjuste>& nuevos,
                              bool alguno) {
+    const FicheroRegistros hay(ruta, FicheroRegistros::Modo::Lectura);
     try {
-      return LeeAjustes(ruta) == nuevos;
+      return LeeAjustes(hay) == nuevos;
     } catch (const ErrorFichero&) {
       if (alguno) throw;
       return true;  // what can't be read is not thrown away for nothing
     }
   }
 
+  static std::string BytesDe(const fs::path& ruta) {
+    std::string bytes;
+    if (const int causa = LeeContenido(ruta, kMaxContenido, bytes)) {
+      throw ErrorFichero({txt::NoSeAbre, {ruta.string(), TextoDeCausa(causa)}});
+    }
+    return bytes;
+  }
+
   // What a file that is not understood says may be mended by hand: it is not written over.
   bool EstaDicho(const fs::path& ruta, const Extras& extras, const std::string& nuevo) {
+    const std::string bytes = BytesDe(ruta);
     try {
-      const Extras hay = LeeExtras(ruta);
+      const Extras hay = ExtrasDeTexto(bytes, ruta);
       if (TextoDeExtras(hay) == nuevo) return true;
       if (hay.ajeno.empty()) return false;
       throw ErrorFichero({txt::ZrxMasNuevo, {ruta.string()}});

@@ -52,7 +52,7 @@ TEST(Campos, UnBlancoTomaSuDefectoAlEntrar) {
   entran({{edFYKPost, "210,0"}});
   EXPECT_EQ(b.c.pantalla.pagina.TabPostesados, 1);
   EXPECT_TRUE(b.c[edFYKPost].seleccionado);
-  entran({{edFckn, "40,0"}, {edSFck, "1700,0"}, {edEs, "210000"}, {edSf, "1275,0"}});
+  entran({{edFckn, "40,00"}, {edSFck, "1700"}, {edEs, "210000"}, {edSf, "1275"}});
   EligeOpcion(b.c, rdTipologia, 0);
   entran({{edFck, "35,0"}, {edTipoControl, "Intenso"}, {edB0, ""}});  // there is no diameter yet
   EXPECT_EQ(b.c[edFct].texto, "2,2");
