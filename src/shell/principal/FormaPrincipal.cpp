@@ -1,15 +1,12 @@
 #include "shell/principal/FormaPrincipal.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -32,9 +29,12 @@
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
 #include "shell/piezas/mdQt.h"
-#include "shell/piezas/mdRotuloCorto.h"
 #include "shell/principal/mdAvisoEstado.h"
+#include "shell/principal/mdBarraEstado.h"
 #include "shell/principal/mdHistoria.h"
+#include "shell/principal/mdLetrasMenu.h"
+#include "shell/principal/mdMandosTramos.h"
+#include "shell/principal/mdMenuRecientes.h"
 #include "shell/principal/mdMenuVer.h"
 #include "shell/principal/mdPaginaInicio.h"
 
@@ -43,22 +43,7 @@ namespace zorbin {
 namespace {
 
 const QString kNombreVentana = QStringLiteral("FormaPrincipal");
-constexpr int kSinRuta = 0;
 constexpr char kMuestra[] = "acequia.zrb";
-
-// Letters that the tabs of the capture answer to, in capitals: the menus take others.
-QString LetrasDePestanas(const Catalogo& textos) {
-  QString letras;
-  for (const int entrada :
-       {txt::PaginasObra[0], txt::PaginasObra[1], txt::PaginasObra[2], txt::PagArmado,
-        txt::PagPostesado, txt::PagModulos, txt::PagResistencias, txt::PagTensiones,
-        txt::PagCoeficientes, txt::PagDimensiones, txt::PagRelleno, txt::PagCargas}) {
-    const QString texto = Q(textos.Texto(entrada));
-    const auto marca = texto.indexOf(QLatin1Char('&'));
-    if (marca >= 0 && marca + 1 < texto.size()) letras += texto[marca + 1].toUpper();
-  }
-  return letras;
-}
 
 bool EsDeObra(const QString& ruta) {
   return ruta.endsWith(QStringLiteral(".zrb"), Qt::CaseInsensitive);
@@ -90,7 +75,9 @@ FormaPrincipal::FormaPrincipal(Captura& c, const Entorno& entorno, QWidget* padr
   CreaPanelTramos();
   CreaMenus();
   CreaBarra();
-  CreaEstado();
+  aviso_ = new AvisoEstado(c_.textos, this);
+  statusBar()->addPermanentWidget(aviso_);
+  estado_ = new BarraEstado(*statusBar());
   connect(
       qApp, &QGuiApplication::commitDataRequest, this,
       [this](QSessionManager& sesion) { GuardaSesion(sesion); }, Qt::DirectConnection);
@@ -153,7 +140,10 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*obras, Orden::mnGrabarComo, txt::MenuGrabarComo, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
   NuevaAccion(*obras, Orden::mnCerrarObra, txt::MenuCerrar, Qt::CTRL | Qt::Key_W);
   obras->addSeparator();
-  recientes_ = obras->addMenu(QString());
+  recientes_ = new MenuRecientes(entorno_.preferencias, this);
+  obras->addMenu(recientes_);
+  connect(recientes_, &MenuRecientes::obraPedida, this,
+          [this](const QString& ruta) { Protege([&] { Abre(ruta); }); });
   menus_.back().acciones.push_back(recientes_->menuAction());
   entradas_.push_back({recientes_->menuAction(), txt::MenuRecientes});
   obras->addSeparator();
@@ -291,42 +281,8 @@ void FormaPrincipal::DibujaIconos() {
   pon(findChild<QAction*>(QStringLiteral("mnMedidas")), Icono::Medios);
 }
 
-void FormaPrincipal::CreaEstado() {
-  aviso_ = new AvisoEstado(c_.textos, this);
-  statusBar()->addPermanentWidget(aviso_);
-  estadoObra_ = new RotuloCorto(this);
-  estadoObra_->setObjectName(QStringLiteral("estadoObra"));
-  for (auto** rotulo : {&estadoCaptura_, &estadoUnidades_, &estadoIdioma_}) {
-    *rotulo = new QLabel(this);
-    (*rotulo)->setTextFormat(Qt::PlainText);
-  }
-  for (auto* rotulo : {estadoObra_, estadoCaptura_, estadoUnidades_, estadoIdioma_}) {
-    rotulo->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addPermanentWidget(rotulo, rotulo == estadoObra_ ? 1 : 0);
-  }
-}
-
 // A letter of each entry answers to the keyboard; where the text marks one, it is that.
 void FormaPrincipal::PonMnemonicos() {
-  const auto reparte = [](const std::vector<std::pair<QAction*, QString>>& entradas,
-                          QString usadas = {}) {
-    for (const auto& [accion, texto] : entradas) {
-      const auto marca = texto.indexOf(QLatin1Char('&'));
-      if (marca >= 0 && marca + 1 < texto.size()) usadas += texto[marca + 1].toUpper();
-    }
-    for (const auto& [accion, texto] : entradas) {
-      QString con = texto;
-      if (!texto.contains(QLatin1Char('&'))) {
-        for (qsizetype i = 0; i < texto.size(); ++i) {
-          if (!texto[i].isLetter() || usadas.contains(texto[i].toUpper())) continue;
-          usadas += texto[i].toUpper();
-          con.insert(i, QLatin1Char('&'));
-          break;
-        }
-      }
-      accion->setText(con);
-    }
-  };
   std::vector<std::pair<QAction*, QString>> principales;
   for (const auto& menu : menus_) {
     principales.emplace_back(menu.menu->menuAction(), Q(c_.textos.Texto(menu.texto)));
@@ -336,9 +292,9 @@ void FormaPrincipal::PonMnemonicos() {
                                   [&](const Entrada& x) { return x.accion == accion; });
       entradas.emplace_back(accion, Q(c_.textos.Texto(e->texto)));
     }
-    reparte(entradas);
+    ReparteLetras(entradas);
   }
-  reparte(principales, LetrasDePestanas(c_.textos));
+  ReparteLetras(principales, LetrasDePestanas(c_.textos));
 }
 
 void FormaPrincipal::AplicaIdioma() {
@@ -383,43 +339,17 @@ void FormaPrincipal::Actualiza() {
   for (const auto& [orden, accion] : acciones_) {
     accion->setEnabled(c_.pantalla.Habilitada(orden));
   }
-  ActualizaHistoria();
+  historia_->Refresca(*deshacer_, *rehacer_);
   panel_->Refresca();
   marcoTramos_->setVisible(c_.ObraCargada);
   QWidget* delante = c_.ObraCargada ? static_cast<QWidget*>(&captura()) : inicio_;
   if (centro_->currentWidget() != delante) {
     centro_->setCurrentWidget(delante);
     if (delante == inicio_) inicio_->Renueva();
-    ActualizaRecientes();
+    recientes_->Renueva();
   }
   ActualizaEstado();
   emit actualizada();
-}
-
-void FormaPrincipal::ActualizaHistoria() {
-  const auto pon = [this](QAction& accion, int texto, const std::optional<std::string>& nombre) {
-    accion.setEnabled(c_.ObraCargada && nombre.has_value());
-    const QString verbo = Q(c_.textos.Texto(texto));
-    accion.setText(nombre ? verbo + QStringLiteral(": ") +
-                                Q(*nombre).replace(QLatin1Char('&'), QStringLiteral("&&"))
-                          : verbo);
-    accion.setIconText(verbo);
-    accion.setToolTip(Consejo(accion.text()) + QStringLiteral(" (") +
-                      accion.shortcut().toString(QKeySequence::NativeText) + ')');
-  };
-  pon(*deshacer_, txt::MenuDeshacer, historia_->PorDeshacer());
-  pon(*rehacer_, txt::MenuRehacer, historia_->PorRehacer());
-}
-
-QString FormaPrincipal::NombreDeIdioma() const {
-  return Q(c_.textos.Texto(txt::IdiomasPropios[0] + c_.textos.IdiomaOffset() / kPasoIdioma));
-}
-
-QString FormaPrincipal::NombreDeObra() const {
-  if (!c_.e.obra.ObraAbierta) return Q(c_.textos.Texto(txt::ObraSinFichero));
-  const QString nombre = QFileInfo(Q(c_.e.obra.NombreFichero)).fileName();
-  if (!c_.SoloLectura()) return nombre;
-  return nombre + QStringLiteral(" (") + Q(c_.textos.Texto(txt::MarcaSoloLectura)) + ')';
 }
 
 void FormaPrincipal::Anuncia(const QString& texto) {
@@ -427,42 +357,12 @@ void FormaPrincipal::Anuncia(const QString& texto) {
 }
 
 void FormaPrincipal::ActualizaEstado() {
-  const auto texto = [this](int n) { return Q(c_.textos.Texto(n)); };
-  estadoIdioma_->setText(NombreDeIdioma());
   setWindowModified(c_.EnCambio());
   if (!c_.EnCambio()) aviso_->Quita(std::exchange(recuperado_, {}));
-  if (!c_.ObraCargada) {
-    setWindowTitle(QString::fromLatin1(kTituloAplicacion));
-    estadoObra_->setText(texto(txt::SinObra));
-    estadoCaptura_->clear();
-    estadoUnidades_->clear();
-    return;
-  }
-  const QString ruta =
-      c_.e.obra.ObraAbierta ? Q(c_.e.obra.NombreFichero) : texto(txt::ObraSinFichero);
-  setWindowTitle(EnTitulo(NombreDeObra()) + QStringLiteral("[*] - ") +
-                 QString::fromLatin1(kTituloAplicacion));
-  estadoObra_->setText(c_.EnCambio() ? ruta + "  -  " + texto(txt::SinGuardar) : ruta);
-  estadoObra_->setToolTip(Consejo(ruta));
-  estadoUnidades_->setText(texto(c_.EsSI() ? txt::SistemaSI : txt::SistemaMKS));
-  const QString tramo = texto(txt::RotTramo) + ' ' + Q(c_[Ed::edTramo].texto);
-  estadoCaptura_->setText(c_.EnAltas()            ? tramo + ' ' + texto(txt::AltaDeTramo)
-                          : c_.EnModificaciones() ? tramo + ' ' + texto(txt::ModificacionDeTramo)
-                                                  : texto(txt::SinTramo));
-}
-
-void FormaPrincipal::ActualizaRecientes() {
-  recientes_->clear();
-  const auto rutas = entorno_.preferencias.ObrasRecientes();
-  int n = kSinRuta;
-  for (const auto& ruta : rutas) {
-    QString texto = QFileInfo(ruta).fileName() + " - " + QFileInfo(ruta).absolutePath();
-    texto.replace(QLatin1Char('&'), QStringLiteral("&&"));
-    texto.replace(QLatin1Char('\t'), QLatin1Char(' '));  // what follows one is taken for a key
-    auto* accion = recientes_->addAction(QStringLiteral("&%1 ").arg(++n) + texto);
-    connect(accion, &QAction::triggered, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
-  }
-  recientes_->setEnabled(!rutas.isEmpty());
+  estado_->Refresca(c_);
+  setWindowTitle(c_.ObraCargada ? EnTitulo(NombreDeObra(c_)) + QStringLiteral("[*] - ") +
+                                      QString::fromLatin1(kTituloAplicacion)
+                                : QString::fromLatin1(kTituloAplicacion));
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -534,89 +434,17 @@ void FormaPrincipal::EjecutaDeVerdad(Orden orden) {
     case Orden::mnAjustarArmaduras:
     case Orden::btAjustar:
       return LanzaPantalla(pantallas_.ajusta, true);
-    case Orden::mnDuplicaTramos:
-    case Orden::mnBorraTramos:
-    case Orden::mnSubeTramos:
-    case Orden::mnBajaTramos:
-    case Orden::mnRenumeraTramo:
-    case Orden::mnRenumeraTodos:
-    case Orden::mnCopiaTramos:
-    case Orden::mnPegaTramos:
-      captura().Hace([this, orden] { HaceConTramos(orden); });
-      return;
-    case Orden::mnTramos:
-      return;
-  }
-}
-
-void FormaPrincipal::HaceConTramos(Orden orden) {
-  const auto ids = panel_->Elegidos();
-  switch (orden) {
-    case Orden::mnDuplicaTramos:
-      DuplicaTramos(c_, ids);
-      break;
-    case Orden::mnBorraTramos:
-      BorraTramos(c_, ids);
-      break;
-    case Orden::mnSubeTramos:
-      MueveTramos(c_, ids, -1);
-      break;
-    case Orden::mnBajaTramos:
-      MueveTramos(c_, ids, 1);
-      break;
-    case Orden::mnRenumeraTramo:
-      Renumera();
-      break;
-    case Orden::mnRenumeraTodos:
-      RenumeraTodos(c_);
-      break;
-    case Orden::mnCopiaTramos:
-      QApplication::clipboard()->setText(Q(CopiaTramos(c_, ids)));
-      break;
-    case Orden::mnPegaTramos:
-      Pega();
-      break;
     default:
-      break;
+      captura().Hace([this, orden] { HazConTramos(c_, orden, panel_->Elegidos(), this); });
+      return;
   }
-}
-
-// A number that may not be had is asked for again, with why.
-void FormaPrincipal::Renumera() {
-  const auto* t = Busca(c_.version, c_.enMano);
-  if (t == nullptr) return;
-  QString pregunta = Q(c_.textos.Compone(txt::PideNumero, {t->numero}));
-  QString numero = Q(t->numero);
-  for (bool sigue = true; sigue;) {
-    numero = QInputDialog::getText(this, QString::fromLatin1(kTituloAplicacion), pregunta,
-                                   QLineEdit::Normal, numero, &sigue);
-    if (!sigue) return;
-    const std::string porque = RenumeraTramo(c_, c_.enMano, S(numero.trimmed()));
-    if (porque.empty()) return;
-    pregunta = Q(porque);
-  }
-}
-
-void FormaPrincipal::Pega() {
-  constexpr std::size_t kDichas = 12;
-  const auto pegado = PegaTramos(c_, S(QApplication::clipboard()->text()));
-  if (pegado.faltas.empty()) return;
-  std::string texto = c_.textos.Texto(txt::NadaSePega);
-  for (std::size_t i = 0; i < pegado.faltas.size() && i < kDichas; ++i) {
-    texto += "\n" + pegado.faltas[i];
-  }
-  if (pegado.faltas.size() > kDichas) {
-    texto += "\n" +
-             c_.textos.Compone(txt::FallosDeMas, {std::to_string(pegado.faltas.size() - kDichas)});
-  }
-  Avisa(this, c_.textos, Q(texto));
 }
 
 void FormaPrincipal::GrabaCon(bool (*graba)(Captura&)) {
   captura().Hace([this, graba] {
     if (graba(c_)) entorno_.preferencias.AnotaObra(Q(c_.e.obra.NombreFichero));
   });
-  ActualizaRecientes();
+  recientes_->Renueva();
 }
 
 void FormaPrincipal::AbreConDialogo() {
@@ -660,7 +488,7 @@ bool FormaPrincipal::AbreFichero(const QString& ruta) {
   }
   historia_->Olvida();
   panel_->OlvidaEstados();
-  ActualizaRecientes();
+  recientes_->Renueva();
   Actualiza();
   return abierta;
 }

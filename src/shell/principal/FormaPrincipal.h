@@ -15,7 +15,6 @@
 #include "shell/piezas/mdEntorno.h"
 
 class QDockWidget;
-class QLabel;
 class QMenu;
 class QSessionManager;
 class QStackedWidget;
@@ -24,7 +23,9 @@ class QToolBar;
 namespace zorbin {
 
 class AvisoEstado;
+class BarraEstado;
 class Historia;
+class MenuRecientes;
 class PanelTramos;
 class CapturaDatos;
 class MenuVer;
@@ -112,7 +113,7 @@ class FormaPrincipal : public QMainWindow {
   PaginaInicio* inicio_ = nullptr;
   QStackedWidget* centro_ = nullptr;
   QToolBar* barra_ = nullptr;
-  QMenu* recientes_ = nullptr;
+  MenuRecientes* recientes_ = nullptr;
   std::vector<Menu> menus_;
   std::vector<Entrada> entradas_;
   std::map<Orden, QAction*> acciones_;
@@ -123,10 +124,7 @@ class FormaPrincipal : public QMainWindow {
   QDockWidget* marcoTramos_ = nullptr;
   QAction* deshacer_ = nullptr;
   QAction* rehacer_ = nullptr;
-  QLabel* estadoUnidades_ = nullptr;
-  QLabel* estadoIdioma_ = nullptr;
-  QLabel* estadoObra_ = nullptr;
-  QLabel* estadoCaptura_ = nullptr;
+  BarraEstado* estado_ = nullptr;
   QString recuperado_;  // announcement of recovered work that is not yet saved
   int idiomaPuesto_ = 0;
   bool ocupada_ = false;  // an action is running: none other begins
@@ -137,7 +135,6 @@ class FormaPrincipal : public QMainWindow {
   void PonIdioma(int idioma);
   void CreaPanelTramos();
   void CreaBarra();
-  void CreaEstado();
   QMenu* NuevoMenu(int texto);
   QAction* NuevaAccion(QMenu& menu, int texto, const QKeySequence& tecla,
                        const std::function<void()>& hace);
@@ -149,19 +146,12 @@ class FormaPrincipal : public QMainWindow {
   void LanzaPantalla(const std::function<void()>& pantalla, bool dejaCampo);
   void GrabaCon(bool (*graba)(Captura&));
   bool DejaLaObra();
-  void HaceConTramos(Orden orden);
-  void Renumera();
-  void Pega();
-  void ActualizaHistoria();
   bool AbreFichero(const QString& ruta);
   void AbreMuestra();
   void Actualiza();
   void ActualizaEstado();
-  QString NombreDeObra() const;
-  void ActualizaRecientes();
   void DibujaIconos();
   void GuardaSesion(QSessionManager& sesion);
-  QString NombreDeIdioma() const;
 };
 
 }  // namespace zorbin

@@ -1,7 +1,10 @@
 #include "shell/principal/mdHistoria.h"
 
+#include <QAction>
+#include <QKeySequence>
 #include <QUndoCommand>
 
+#include "base/textos.h"
 #include "sesion/captura/mdCiclo.h"
 #include "shell/piezas/mdQt.h"
 
@@ -63,6 +66,21 @@ std::optional<std::string> Historia::PorDeshacer() const {
 
 std::optional<std::string> Historia::PorRehacer() const {
   return Nombre(pila_.canRedo(), pila_.redoText());
+}
+
+void Historia::Refresca(QAction& deshacer, QAction& rehacer) const {
+  const auto pon = [this](QAction& accion, int texto, const std::optional<std::string>& nombre) {
+    accion.setEnabled(c_.ObraCargada && nombre.has_value());
+    const QString verbo = Q(c_.textos.Texto(texto));
+    accion.setText(nombre ? verbo + QStringLiteral(": ") +
+                                Q(*nombre).replace(QLatin1Char('&'), QStringLiteral("&&"))
+                          : verbo);
+    accion.setIconText(verbo);
+    accion.setToolTip(Consejo(accion.text()) + QStringLiteral(" (") +
+                      accion.shortcut().toString(QKeySequence::NativeText) + ')');
+  };
+  pon(deshacer, txt::MenuDeshacer, PorDeshacer());
+  pon(rehacer, txt::MenuRehacer, PorRehacer());
 }
 
 }  // namespace zorbin

@@ -9,6 +9,8 @@
 
 #include "sesion/captura/mdCaptura.h"
 
+class QAction;
+
 namespace zorbin {
 
 class Historia : public QObject {
@@ -23,6 +25,9 @@ class Historia : public QObject {
   void Rehace();
   /// Another Obra: nothing of before can be undone.
   void Olvida();
+
+  /// The entries of the menu, with what they would undo or do again.
+  void Refresca(QAction& deshacer, QAction& rehacer) const;
 
   /// What would be undone or done again; none for nothing.
   std::optional<std::string> PorDeshacer() const;

@@ -334,8 +334,6 @@ TEST(Sesion, LoQueDependeDeOtroTramoNoCambiaConEl) {
   EXPECT_TRUE(b.c.version.tramos[2]->datos.Envolvente);
 }
 
-// ---- Hand adjustments
-
 // What a Caso is calculated from makes them void, with the save and after a question.
 TEST(Ajustes, SoloLosAnulaGrabarUnDatoDelCalculo) {
   struct Fila {
@@ -422,8 +420,6 @@ TEST(Ajustes, ConSuFicheroEnOtrasManosNadaSeGraba) {
   EXPECT_TRUE(Graba(b.c)) << b.Porque();
   EXPECT_EQ(b.Ajustados(1), 0);
 }
-
-// ---- Files that are not ours to write
 
 // Whatever keeps the file from being written, what was done goes on in another one.
 TEST(Sesion, LoQueNoSePuedeEscribirSeGrabaConOtroNombre) {
