@@ -13,8 +13,8 @@
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdEtiquetas.h"
-#include "sesion/captura/mdListaTramos.h"
-#include "sesion/captura/mdTipologias.h"
+#include "sesion/captura/mdPaginas.h"
+#include "sesion/captura/mdTramos.h"
 #include "shell/ajustes/frAjustes.h"
 #include "shell/calculadoras/CalculoHidraulico.h"
 #include "shell/calculadoras/Protecciones.h"
@@ -68,7 +68,6 @@ void Captura_(Fotografo& foto, Captura& c, FormaPrincipal& ventana, int idioma) 
   const auto tramo = [&](const char* numero) {
     pantalla.Hace([&] {
       CambiaPagina(c, 1);
-      CancelaCaptura(c);
       Entra(c, Ed::edTramo);
       Cambia(c, Ed::edTramo, numero);
       Sale(c, Ed::edTramo);
@@ -76,22 +75,13 @@ void Captura_(Fotografo& foto, Captura& c, FormaPrincipal& ventana, int idioma) 
   };
   tramo("1");
   foto.Saca(ventana, "armado");
-  for (int pagina = 0; pagina < 3; ++pagina) {
-    pantalla.Hace([&] {
-      CambiaPagina(c, 2);
-      CambiaPaginaColocacion(c, pagina);
-    });
-    foto.Saca(ventana, QString("colocacion%1").arg(pagina));
-  }
+  pantalla.Hace([&] { CambiaPagina(c, 2); });
+  foto.Saca(ventana, "colocacion");
   tramo("6");
-  for (int pagina = 0; pagina < 4; ++pagina) {
-    pantalla.Hace([&] { CambiaPaginaPostesados(c, pagina); });
-    foto.Saca(ventana, QString("postesado%1").arg(pagina));
-  }
+  foto.Saca(ventana, "postesado");
   pantalla.Hace([&] {
     NuevoTramo(c);
-    c.pantalla.pagina.TabPrincipal = 2;
-    c.pantalla.pagina.TabDatosColocacion = 0;
+    CambiaPagina(c, 2);
   });
   foto.Saca(ventana, "nuevo");
 }
@@ -136,7 +126,7 @@ struct FotoAjustes {
   FotoAjustes(prueba::Mesa& mesa, int idioma, const std::string& tramo)
       : banco(tramo), entorno{banco.textos, banco.tablas, mesa.preferencias, mesa.papel} {
     CambiaIdioma(banco.c, static_cast<std::int16_t>(idioma));
-    AccionGrabaTramo(banco.c);
+    Graba(banco.c);
     banco.Abre();
     pantalla = std::make_unique<frAjustes>(*banco.a, entorno, [this](int entrada) {
       return Q(HtmlDeRtf(LeeRtf(RutaDocumento(banco.textos.Texto(entrada)))));
@@ -181,12 +171,10 @@ void Recupera_(Fotografo& foto, Captura& c, const Entorno& entorno) {
     QTest::qWait(50);
     foto.Saca(dialogo, nombre);
   };
-  CancelaCaptura(c);
-  TomaTramo(c, "1");
+  PonEnMano(c, c.version.tramos.front()->id);
   Cambia(c, Ed::edFck, "42");
   EligeOpcion(c, Ed::rdTipoColocacion, 2);
   toma("recupera");
-  CancelaCaptura(c);
   NuevoTramo(c);
   toma("recupera-nuevo");
 }
