@@ -1,4 +1,5 @@
 // The screen of adjustments as a person uses it, from the capture to the summary that shows them.
+#include "comun/textoEntero.h"
 #include "shell/ajustes/frAjustes.h"
 
 #include <QAction>

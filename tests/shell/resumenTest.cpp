@@ -5,17 +5,16 @@
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QWheelEvent>
 #include <atomic>
 #include <sstream>
 #include <thread>
 
 #include "comun/comparaFichero.h"
+#include "comun/textoEntero.h"
 #include "listados/papel/mdHojasTexto.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdEdicion.h"
@@ -25,6 +24,7 @@
 #include "shell/piezas/mdFaena.h"
 #include "shell/resultados/frEscribePantalla.h"
 #include "shell/resultados/mdCalculos.h"
+#include "shell/resultados/mdVisorTexto.h"
 
 namespace zorbin::prueba {
 namespace {
@@ -33,9 +33,13 @@ struct Sala {
   Mesa mesa;
   std::vector<TipoListado> pedidos;
 
-  std::unique_ptr<frEscribePantalla> Abre(std::string texto, bool conLame = false,
+  std::unique_ptr<frEscribePantalla> Abre(const std::string& texto, bool conLame = false,
                                           bool conPapel = true) {
-    Resumido resumido{std::move(texto), conLame, "acequia - Tramo 1"};
+    return Abre(std::make_unique<TextoTroceado>(texto), conLame, conPapel);
+  }
+  std::unique_ptr<frEscribePantalla> Abre(std::unique_ptr<FuenteTexto> fuente, bool conLame = false,
+                                          bool conPapel = true) {
+    Resumido resumido{std::move(fuente), conLame, "acequia - Tramo 1"};
     resumido.conPapel = conPapel;
     resumido.lista = [this](TipoListado tipo, DestinoHojas& hojas) {
       pedidos.push_back(tipo);
@@ -48,8 +52,17 @@ struct Sala {
   }
 };
 
-QPlainTextEdit& Texto(const QDialog& pantalla) {
-  return *pantalla.findChild<QPlainTextEdit*>("edPantalla");
+VisorTexto& Texto(const QDialog& pantalla) {
+  return *pantalla.findChild<VisorTexto*>("edPantalla");
+}
+
+// What the screen has, read to its end.
+std::string TextoEntero(const QDialog& pantalla) {
+  auto& texto = Texto(pantalla).Texto();
+  EXPECT_TRUE(texto.EsperaTodo([] { return true; }));
+  std::string entero;
+  for (int n = 0; n < texto.LaCuenta().lineas; ++n) entero += (n > 0 ? "\n" : "") + texto.Linea(n);
+  return entero;
 }
 
 void Pulsa(const QDialog& pantalla, const char* boton) {
@@ -104,7 +117,7 @@ TEST(PantallaResumen, GuardaElTextoYElPdf) {
   const QString pdf = r.mesa.carpeta.filePath("r.pdf");
   Persona persona;
   persona.ficheros = QStringList{nombre, pdf, r.mesa.carpeta.filePath("no/r.txt")};
-  EXPECT_FALSE(pantalla->findChild<QPlainTextEdit*>("edPantalla")->textCursor().hasSelection());
+  EXPECT_FALSE(Texto(*pantalla).HayEleccion());
   Pulsa(*pantalla, "btTexto");
   QFile f(nombre);
   ASSERT_TRUE(f.open(QIODevice::ReadOnly));
@@ -131,45 +144,111 @@ TEST(PantallaResumen, BuscaDaLaVueltaYDiceLoQueNoEsta) {
   ASSERT_TRUE(que->isVisible());
   EXPECT_TRUE(que->hasFocus());
   QTest::keyClicks(que, "caso");
-  EXPECT_EQ(texto.textCursor().selectionStart(), 0);
-  EXPECT_EQ(texto.extraSelections().size(), 2);
+  EXPECT_EQ(texto.Desde(), Lugar{});
+  EXPECT_EQ(texto.Marcas(), 2);
   QTest::keyClick(que, Qt::Key_Return);
-  EXPECT_EQ(texto.textCursor().selectedText(), "Caso");
+  EXPECT_EQ(texto.Elegido(), "Caso");
   EXPECT_EQ(dice->text(), "");
   QTest::keyClick(pantalla.get(), Qt::Key_F3);
-  EXPECT_EQ(texto.textCursor().selectionStart(), 0);
+  EXPECT_EQ(texto.Desde(), Lugar{});
   EXPECT_EQ(dice->text(), r.mesa.Tx(1269));
   QTest::keyClick(pantalla.get(), Qt::Key_F3, Qt::ShiftModifier);
-  EXPECT_EQ(texto.textCursor().selectedText(), "Caso");
+  EXPECT_EQ(texto.Elegido(), "Caso");
   EXPECT_EQ(dice->text(), r.mesa.Tx(1270));
   que->setText("tres");
   EXPECT_EQ(dice->text(), "No se encuentra «tres»");
-  EXPECT_TRUE(texto.extraSelections().isEmpty());
+  EXPECT_EQ(texto.Marcas(), 0);
   QTest::keyClick(que, Qt::Key_Escape);
   EXPECT_FALSE(que->isVisible());
   EXPECT_TRUE(pantalla->isVisible());
 }
 
-TEST(PantallaResumen, UnTextoLargoEntraPorTrozosSinMoverLaVista) {
+// A text whose blocks behind the first wait for leave.
+struct TextoLento : TextoTroceado {
+  TextoLento(const std::string& texto, std::shared_ptr<std::atomic<bool>> va)
+      : TextoTroceado(texto, 10), va_(std::move(va)) {}
+  std::string Bloque(std::size_t i) override {
+    while (i > 0 && !*va_) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    return TextoTroceado::Bloque(i);
+  }
+  std::shared_ptr<std::atomic<bool>> va_;
+};
+
+TEST(PantallaResumen, UnTextoLargoSeLeeMientrasSeCuenta) {
   Sala r;
-  std::string texto;
-  while (texto.size() < 3'000'000) texto += "  CALCULANDO EL CASO : 1/   1  RIÑONES Y CLAVE\n\n";
+  std::string texto = "principio\n";
+  while (texto.size() < 300'000) texto += "  CALCULANDO EL CASO : 1/   1  RIÑONES Y CLAVE\n\n";
   texto += "el final\n";
+  const auto va = std::make_shared<std::atomic<bool>>(false);
+  auto pantalla = r.Abre(std::make_unique<TextoLento>(texto, va));
+  auto& ed = Texto(*pantalla);
+  EXPECT_EQ(ed.Lineas(), 10);
+  // What is not there yet is looked for all the same, until the person gives up; nor is there paper
+  // of it.
+  {
+    EnPantalla<CajaProgreso> persona([](CajaProgreso& caja) { Pulsa(caja, "btCancelar"); });
+    QTest::keyClick(pantalla.get(), Qt::Key_F, Qt::ControlModifier);
+    pantalla->findChild<QLineEdit*>("edBuscar")->setText("el final");
+    EXPECT_EQ(persona.veces, 1);
+    EXPECT_FALSE(ed.HayEleccion());
+    Pulsa(*pantalla, "btImprimeTramo");
+    EXPECT_EQ(persona.veces, 2);
+    EXPECT_TRUE(r.pedidos.empty());
+  }
+  *va = true;
+  QTest::keyClick(pantalla.get(), Qt::Key_F3);
+  EXPECT_EQ(ed.Elegido(), "el final");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return ed.Texto().LaCuenta().lineas == ed.Lineas(); }));
+  EXPECT_EQ(ed.Lineas() - 2, ed.Desde().linea);
+  EXPECT_GT(ed.verticalScrollBar()->value(), 10'000);
+  // Not EXPECT_EQ, which would look for the differences of so many characters.
+  EXPECT_TRUE(TextoEntero(*pantalla) == texto);
+  QTest::keyClick(&ed, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&ed, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QApplication::clipboard()->text().toStdString() == texto);
+}
+
+TEST(PantallaResumen, SeEligeConTeclasYConElRaton) {
+  Sala r;
+  std::string texto = "uno\nRIÑONES y clave\n\n";
+  for (int i = 0; i < 500; ++i) texto += std::to_string(i) + "\n";
   auto pantalla = r.Abre(texto);
   auto& ed = Texto(*pantalla);
-  EXPECT_FALSE(ed.isUndoRedoEnabled());
-  const auto largo = QString::fromStdString(texto).size();
-  const auto entero = [&] { return ed.document()->characterCount() > largo; };
-  ASSERT_TRUE(QTest::qWaitFor(entero, 30'000));
-  // Not EXPECT_EQ, which would look for the differences of millions of characters.
-  EXPECT_TRUE(ed.toPlainText().toStdString() == texto);
+  ASSERT_TRUE(ed.hasFocus());
+  const auto teclas = [&](std::initializer_list<std::pair<Qt::Key, Qt::KeyboardModifiers>> cuales) {
+    for (const auto& [tecla, con] : cuales) QTest::keyClick(&ed, tecla, con);
+  };
+  const auto copiado = [&] {
+    QTest::keyClick(&ed, Qt::Key_C, Qt::ControlModifier);
+    return QApplication::clipboard()->text();
+  };
+  const auto kSola = Qt::NoModifier;
+  const auto kMayus = Qt::ShiftModifier;
+  teclas({{Qt::Key_Down, kSola}, {Qt::Key_Right, kSola}, {Qt::Key_End, kMayus}});
+  EXPECT_EQ(copiado(), "IÑONES y clave");
+  teclas({{Qt::Key_Home, kSola}, {Qt::Key_Left, kMayus}, {Qt::Key_Left, kMayus}});
+  EXPECT_EQ(copiado(), "o\n");
+  teclas({{Qt::Key_End, Qt::ControlModifier}, {Qt::Key_Up, kMayus}, {Qt::Key_Up, kMayus}});
+  EXPECT_EQ(copiado(), "498\n499\n");
+  EXPECT_EQ(ed.verticalScrollBar()->value(), ed.verticalScrollBar()->maximum());
+  teclas({{Qt::Key_PageUp, kSola}});
+  EXPECT_LT(ed.verticalScrollBar()->value(), ed.verticalScrollBar()->maximum());
+  teclas({{Qt::Key_Home, Qt::ControlModifier}});
   EXPECT_EQ(ed.verticalScrollBar()->value(), 0);
-  EXPECT_EQ(ed.textCursor().position(), 0);
-  // What is not there yet is looked for all the same.
-  auto otra = r.Abre(texto);
-  QTest::keyClick(otra.get(), Qt::Key_F, Qt::ControlModifier);
-  otra->findChild<QLineEdit*>("edBuscar")->setText("el final");
-  EXPECT_EQ(Texto(*otra).textCursor().selectedText(), "el final");
+
+  const QFontMetricsF letra(ed.font());
+  const auto en = [&](int linea, int columna) {
+    return QPoint(4 + static_cast<int>(columna * letra.horizontalAdvance('0')),
+                  4 + linea * ed.fontMetrics().lineSpacing() + 3);
+  };
+  QTest::mousePress(ed.viewport(), Qt::LeftButton, {}, en(0, 1));
+  QMouseEvent lleva(QEvent::MouseMove, en(1, 3), ed.viewport()->mapToGlobal(en(1, 3)), Qt::NoButton,
+                    Qt::LeftButton, {});
+  QApplication::sendEvent(ed.viewport(), &lleva);
+  QTest::mouseRelease(ed.viewport(), Qt::LeftButton, {}, en(1, 3));
+  EXPECT_EQ(copiado(), "no\nRIÑ");
+  QTest::mouseDClick(ed.viewport(), Qt::LeftButton, {}, en(1, 4));
+  EXPECT_EQ(copiado(), "RIÑONES");
 }
 
 TEST(PantallaResumen, LaLetraSeAgrandaYSeConserva) {
@@ -317,7 +396,7 @@ TEST(Calculos, DelTramoAlResumenYAlPapel) {
   d.b.Teclea(Ed::edTramo, "7");
   QString texto;
   EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
-    texto = Texto(pantalla).toPlainText();
+    texto = Q(TextoEntero(pantalla));
     Opcion(pantalla, 3).click();
     Pulsa(pantalla, "btImprimeTramo");
   });
@@ -341,7 +420,7 @@ TEST(Calculos, LaObraEnteraConUnFalloSeDiceYSeMuestra) {
   QString texto;
   bool lame = false;
   EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
-    texto = Texto(pantalla).toPlainText();
+    texto = Q(TextoEntero(pantalla));
     lame = Opcion(pantalla, 3).isEnabled();
     Pulsa(pantalla, "btSalir");
   });

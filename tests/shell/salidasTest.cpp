@@ -8,6 +8,7 @@
 
 #include "comun/carpeta.h"
 #include "comun/discoLleno.h"
+#include "persistencia/disco/mdFicheroSalida.h"
 #include "programas/zorbin/mdAplicacion.h"
 #include "programas/zorbin/mdPrograma.h"
 #include "sesion/ajustes/mdHoja.h"
@@ -45,7 +46,9 @@ std::vector<Clase> Clases() {
   return {
       {"pdf", [](Mesa& m) { return GuardaPdf(nullptr, m.textos, m.preferencias, "x", Listado()); }},
       {"txt", [](Mesa& m) {
-         return GuardaTexto(nullptr, m.textos, m.preferencias, "x", std::string(99'999, 'x'));
+         return GuardaTexto(
+             nullptr, m.textos, m.preferencias, "x",
+             [](MarchaFaena&, FicheroSalida& f) { f.Escribe(std::string(99'999, 'x')); });
        }}};
 }
 

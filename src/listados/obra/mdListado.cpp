@@ -11,14 +11,19 @@ bool CierraAltura(const ResultadoTramo& r, std::size_t i) {
 
 }  // namespace
 
+void LeeCaso(const ResultadoTramo& resultado, std::size_t i,
+             const std::function<void(const VistaCaso&)>& lee) {
+  const FilaCaso& fila = resultado.filas[i];
+  const ResultadoCaso caso = CasoEntero(resultado, fila);
+  lee({resultado, fila, resultado.Altura(fila), caso, i == 0, fila.NumCaso == 1,
+       CierraAltura(resultado, i)});
+}
+
 bool RecorreCasos(const ResultadoTramo& resultado, const SigueListado& sigue,
                   const std::function<void(const VistaCaso&)>& lee) {
   for (std::size_t i = 0; i < resultado.filas.size(); ++i) {
     if (sigue && !sigue()) return false;
-    const FilaCaso& fila = resultado.filas[i];
-    const ResultadoCaso caso = CasoEntero(resultado, fila);
-    lee({resultado, fila, resultado.Altura(fila), caso, i == 0, fila.NumCaso == 1,
-         CierraAltura(resultado, i)});
+    LeeCaso(resultado, i, lee);
   }
   return true;
 }

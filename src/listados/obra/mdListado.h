@@ -35,6 +35,10 @@ class Listado {
                      const SigueListado& sigue) = 0;
 };
 
+/// Shows a Caso of a result, calculated again whole. @param i  its row, from 0
+void LeeCaso(const ResultadoTramo& resultado, std::size_t i,
+             const std::function<void(const VistaCaso&)>& lee);
+
 /// Shows the Casos of a result one after another, each calculated again whole, and asks before each
 /// whether to go on. @return false where whoever was asked said no
 bool RecorreCasos(const ResultadoTramo& resultado, const SigueListado& sigue,

@@ -47,15 +47,27 @@ void Resumen::Veredicto(const ResultadoTramo& r, const std::string& numero) {
 
 bool Resumen::Tramo(const ResultadoTramo& resultado, int /*posicion*/,
                     const std::string& /*numero*/, const SigueListado& sigue) {
+  Cabeza(resultado);
+  if (!RecorreCasos(resultado, sigue, [this](const VistaCaso& v) { Caso(v); })) return false;
+  Cola(resultado);
+  return true;
+}
+
+void Resumen::Cabeza(const ResultadoTramo& resultado) {
   const auto& datos = resultado.datos;
-  const auto* roto = CasoRoto(resultado);
-  const bool hayCasos = roto != nullptr || !resultado.filas.empty();
+  const bool hayCasos = CasoRoto(resultado) != nullptr || !resultado.filas.empty();
   if (hayCasos && datos.SinAjustes && datos.tramo.EsArmado) {
     pantalla_.EscribePantalla(0, "** " + textos_.Texto(txt::AjustesSinLeer) + " **", 2);
   }
-  if (!RecorreCasos(resultado, sigue, [this](const VistaCaso& v) { Caso(v); })) return false;
-  if (roto != nullptr) Progreso(datos.tramo, roto->numCaso, roto->DP, roto->MDP);
-  return true;
+}
+
+void Resumen::UnCaso(const ResultadoTramo& resultado, std::size_t fila) {
+  LeeCaso(resultado, fila, [this](const VistaCaso& v) { Caso(v); });
+}
+
+void Resumen::Cola(const ResultadoTramo& resultado) {
+  const auto* roto = CasoRoto(resultado);
+  if (roto != nullptr) Progreso(resultado.datos.tramo, roto->numCaso, roto->DP, roto->MDP);
 }
 
 void Resumen::Progreso(const zorbin::Tramo& t, int NumCaso, double DP, double MDP) {

@@ -25,6 +25,13 @@ class Resumen : public Listado {
   bool Tramo(const ResultadoTramo& resultado, int posicion, const std::string& numero,
              const SigueListado& sigue) override;
 
+  // ---- The same in parts, for whoever does not want it all: what comes before the Casos, one of
+  // them, and what comes after them.
+
+  void Cabeza(const ResultadoTramo& resultado);
+  void UnCaso(const ResultadoTramo& resultado, std::size_t fila);
+  void Cola(const ResultadoTramo& resultado);
+
  private:
   Pantalla& pantalla_;
   const Catalogo& textos_;

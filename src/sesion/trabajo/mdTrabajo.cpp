@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <sstream>
 
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
@@ -10,7 +9,6 @@
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdDocumento.h"
-#include "listados/obra/mdResumen.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdComprueba.h"
 
@@ -87,31 +85,6 @@ void Cancela(Calculo& calculo, const Avance& en) {
   calculo.cancelado = en;
 }
 
-// A Caso that cannot be written, since a number of it is none, ends its Tramo as one that cannot be
-// calculated does. @param caso  of the Tramo, from 1
-void Rompe(Calculo& calculo, std::size_t i, int caso, const ErrorEjecucion& error) {
-  auto& r = calculo.tramos[i];
-  const auto bien = static_cast<std::size_t>(std::max(0, caso - 1));
-  if (bien >= r.filas.size()) throw error;
-  const FilaCaso f = r.filas[bien];
-  r.filas.resize(bien);
-  r.fallo = FalloCorrida{error, f.NumCaso, f.Hr, f.DP, f.MDP, true};
-  calculo.fallos[i] = Fallo(r, calculo.numeros[i], calculo.encargo);
-}
-
-// The end of the summary, where not everything was done.
-std::string NotaFinal(const Calculo& calculo) {
-  const auto& textos = calculo.encargo.textos;
-  switch (calculo.fin) {
-    case FinTrabajo::Completo:
-      break;
-    case FinTrabajo::Cancelado:
-      return textos.Compone(txt::TrabajoCancelado, {TextoEntero(calculo.cancelado.tramo),
-                                                    TextoEntero(calculo.cancelado.caso)});
-  }
-  return {};
-}
-
 }  // namespace
 
 std::optional<Encargo> EncargaTramos(Captura& c, const std::vector<int>& ids) {
@@ -171,6 +144,15 @@ std::string Calculo::Aviso() const {
   return aviso + encargo.textos.Compone(txt::SinRegistro, {sinRegistro});
 }
 
+void Calculo::Rompe(std::size_t i, std::size_t fila, const ErrorEjecucion& error) {
+  auto& r = tramos[i];
+  if (fila >= r.filas.size()) throw error;
+  const FilaCaso f = r.filas[fila];
+  r.filas.resize(fila);
+  r.fallo = FalloCorrida{error, f.NumCaso, f.Hr, f.DP, f.MDP, true};
+  fallos[i] = Fallo(r, numeros[i], encargo);
+}
+
 Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
                        const std::filesystem::path& registros) {
   Calculo calculo;
@@ -198,51 +180,6 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
   encargo.tramos.clear();
   calculo.encargo = std::move(encargo);
   return calculo;
-}
-
-namespace {
-
-// The first block of the summary; it is written last, for a Caso that cannot be written changes it.
-std::string PrimerBloque(const Calculo& calculo) {
-  std::ostringstream flujo;
-  Pantalla pantalla(flujo);
-  Resumen(pantalla, calculo.encargo.textos, calculo.encargo.estilo)
-      .Veredictos(calculo.tramos, calculo.numeros);
-  return std::move(flujo).str();
-}
-
-}  // namespace
-
-std::string Resume(Calculo& calculo, const Sigue& sigue) {
-  std::ostringstream flujo;
-  Pantalla pantalla(flujo);
-  Resumen resumen(pantalla, calculo.encargo.textos, calculo.encargo.estilo);
-  const auto nota = [&pantalla](const std::string& texto) {
-    if (!texto.empty()) pantalla.EscribePantalla(1, "** " + texto + " **", 2);
-  };
-  nota(calculo.encargo.sinAjustes);
-  for (const auto& rechazado : calculo.encargo.rechazados) nota(rechazado);
-  const auto tramos = calculo.tramos.size();
-  for (std::size_t i = 0; i < tramos; ++i) {
-    const auto& r = calculo.tramos[i];
-    Avance avance{r.datos.tramo.NumeroTramo, 0, static_cast<int>(r.filas.size()),
-                  static_cast<int>(i) + 1, static_cast<int>(tramos)};
-    const auto pregunta = [&] {
-      ++avance.caso;
-      return !sigue || sigue(avance);
-    };
-    try {
-      if (!resumen.Tramo(r, avance.posicion, calculo.numeros[i], pregunta)) {
-        Cancela(calculo, avance);
-        break;
-      }
-    } catch (const ErrorEjecucion& error) {
-      Rompe(calculo, i, avance.caso, error);
-    }
-    nota(calculo.fallos[i]);
-  }
-  nota(NotaFinal(calculo));
-  return PrimerBloque(calculo) + std::move(flujo).str();
 }
 
 void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,

@@ -1,6 +1,6 @@
 // The work behind "Calcular el Tramo" and "Imprimir Obra", in three steps. What is to be calculated
 // is taken from the capture, with every fault that it has; it is calculated; and from the
-// results come the text of the summary and the sheets of a listing. Only the first step knows the
+// results come the sheets of a listing, and the summary. Only the first step knows the
 // capture: the others have values of their own, and may go on another thread.
 #pragma once
 
@@ -80,15 +80,14 @@ struct Calculo {
   std::vector<std::string> Fallos() const;
   /// Debug log not written, adjustments not read; empty for neither.
   std::string Aviso() const;
+  /// A Caso that cannot be written, since a number of it is none, ends its Tramo as one that
+  /// cannot be calculated does. @param fila  of the Tramo `i`, both from 0
+  void Rompe(std::size_t i, std::size_t fila, const ErrorEjecucion& error);
 };
 
 /// Calculates what was asked for. @param registros  folder of the debug log
 Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue = {},
                        const std::filesystem::path& registros = CarpetaPropia());
-
-/// The text of the summary. Where whoever is asked says no it ends there, and the calculation
-/// counts as given up.
-std::string Resume(Calculo& calculo, const Sigue& sigue = {});
 
 /// The sheets of a listing. @param fecha  of the page heads
 void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,

@@ -176,14 +176,14 @@ bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencia
 }
 
 bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
-                 const QString& nombre, const std::string& texto) {
+                 const QString& nombre, const EscribeTexto& escribe) {
   const QString ruta =
       PideNombreFichero(padre, textos, preferencias,
                         {txt::GuardarTexto, txt::FiltroTexto, QStringLiteral("txt")}, nombre);
   if (ruta.isEmpty()) return false;
-  return HazDocumento(padre, textos, ruta, [&](MarchaFaena&) {
+  return HazDocumento(padre, textos, ruta, [&](MarchaFaena& marcha) {
     FicheroSalida fichero(QFile::encodeName(ruta).toStdString());
-    fichero.Escribe(texto);
+    escribe(marcha, fichero);
     fichero.Termina();
   });
 }

@@ -13,6 +13,8 @@
 
 namespace zorbin {
 
+class FicheroSalida;
+
 /// A kind of file, for the dialog that asks its name.
 struct ClaseFichero {
   int titulo = 0;  // entries of the catalogue
@@ -29,9 +31,12 @@ QString PideNombreFichero(QWidget* padre, const Catalogo& textos, Preferencias& 
 bool GuardaPdf(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
                const QString& nombre, const Documento& documento);
 
+/// Writes a text piece by piece, on the thread of the work.
+using EscribeTexto = std::function<void(MarchaFaena&, FicheroSalida&)>;
+
 /// Asks for a name and writes the text, in UTF-8. @return whether it was written
 bool GuardaTexto(QWidget* padre, const Catalogo& textos, Preferencias& preferencias,
-                 const QString& nombre, const std::string& texto);
+                 const QString& nombre, const EscribeTexto& escribe);
 
 /// Does something and shows what goes wrong. `donde` names the file or the printer in a refusal.
 /// @return whether it went well; false too when the person gave up

@@ -8,28 +8,32 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 #include "base/textos.h"
+#include "persistencia/disco/mdFicheroSalida.h"
 #include "shell/impresion/mdGuardar.h"
 #include "shell/piezas/mdDialogos.h"
+#include "shell/piezas/mdFaena.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdBuscador.h"
+#include "shell/resultados/mdVisorTexto.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr std::size_t kTrozo = 32 * 1024;  // of the text, shown without the screen standing still
-constexpr int kMenorCuerpo = 6;            // [pt]
+constexpr std::chrono::milliseconds kCortesia{200};  // for a short text to be there from the start
+constexpr std::size_t kMayorCopia = 32U << 20U;      // bytes; other programs stand still with more
+constexpr int kMenorCuerpo = 6;                      // [pt]
 constexpr int kMayorCuerpo = 40;
 constexpr int kColumnas = 86;  // that the screen opens with
 constexpr int kFilas = 40;
@@ -56,24 +60,28 @@ frEscribePantalla::frEscribePantalla(const Entorno& entorno, Resumido resumido, 
     : QDialog(padre),
       entorno_(entorno),
       resumido_(std::move(resumido)),
-      edPantalla_(new QPlainTextEdit(this)),
+      texto_(std::move(resumido_.fuente)),
+      edPantalla_((texto_.Espera(kCortesia), new VisorTexto(texto_, this))),
       buscador_(new Buscador(entorno.textos, *edPantalla_, this)),
-      rdTipoListado_(new QButtonGroup(this)) {
+      rdTipoListado_(new QButtonGroup(this)),
+      aviso_(new QLabel(this)) {
   setObjectName(kVentana);
   setWindowTitle(QString(9, ' ') + Tx(txt::ResumenDeCalculo));
   setWindowFlag(Qt::WindowMaximizeButtonHint);
   edPantalla_->setObjectName(QStringLiteral("edPantalla"));
   edPantalla_->setAccessibleName(Tx(txt::ResumenDeCalculo));
-  edPantalla_->setUndoRedoEnabled(false);
-  edPantalla_->setReadOnly(true);
-  edPantalla_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  edPantalla_->setLineWrapMode(QPlainTextEdit::NoWrap);
   edPantalla_->viewport()->installEventFilter(this);
   edPantalla_->setFont(FuenteFija());
   PonCuerpo(entorno_.preferencias.Valor(kCuerpo, CuerpoNormal()).toInt());
   Distribuye();
   CreaTeclas();
-  connect(buscador_, &Buscador::busca, this, &frEscribePantalla::MuestraTodo);
+  connect(edPantalla_, &VisorTexto::copia, this, &frEscribePantalla::Copia);
+  connect(edPantalla_, &VisorTexto::menu, this, &frEscribePantalla::Menu);
+  const auto alFinal = [this] {
+    if (resumido_.avisoFinal) PonAviso(resumido_.avisoFinal());
+  };
+  connect(edPantalla_, &VisorTexto::entero, this, alFinal);
+  if (texto_.LaCuenta().entera) alFinal();
   if (!entorno_.preferencias.RecuperaVentana(kVentana, *this)) {
     const QFontMetrics letra(edPantalla_->font());
     edPantalla_->setMinimumSize(letra.averageCharWidth() * kColumnas, letra.height() * kFilas);
@@ -81,9 +89,6 @@ frEscribePantalla::frEscribePantalla(const Entorno& entorno, Resumido resumido, 
     edPantalla_->setMinimumSize(0, 0);
   }
   edPantalla_->setFocus();
-  MuestraTrozo();
-  // The first text pushed the cursor along; the rest comes after it.
-  edPantalla_->moveCursor(QTextCursor::Start);
 }
 
 frEscribePantalla::~frEscribePantalla() {
@@ -99,13 +104,11 @@ void frEscribePantalla::Distribuye() {
   auto* izquierda = new QVBoxLayout;
   izquierda->addWidget(edPantalla_, 1);
   izquierda->addWidget(buscador_);
-  if (!resumido_.aviso.empty()) {
-    auto* aviso = new QLabel(Q(resumido_.aviso), this);
-    aviso->setObjectName(QStringLiteral("lbAviso"));
-    aviso->setTextFormat(Qt::PlainText);
-    aviso->setWordWrap(true);
-    izquierda->addWidget(aviso);
-  }
+  aviso_->setObjectName(QStringLiteral("lbAviso"));
+  aviso_->setTextFormat(Qt::PlainText);
+  aviso_->setWordWrap(true);
+  izquierda->addWidget(aviso_);
+  PonAviso(resumido_.aviso);
   auto* derecha = new QVBoxLayout;
   CreaOpciones(*derecha);
   CreaBotones(*derecha);
@@ -146,21 +149,11 @@ void frEscribePantalla::CreaBotones(QVBoxLayout& columna) {
   const auto dePapel = [&](const char* nombre, int texto, auto accion) {
     boton(nombre, texto, accion)->setEnabled(resumido_.conPapel);
   };
-  auto& textos = entorno_.textos;
-  auto& preferencias = entorno_.preferencias;
   dePapel("btImprimeTramo", txt::BotonImprimir, [this] { Imprime(); });
-  dePapel("btVistaPrevia", txt::VistaPrevia, [this] {
-    AvisaReparo();
-    entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento());
-  });
-  dePapel("btPdf", txt::ResumenPdf, [this, &textos, &preferencias] {
-    AvisaReparo();
-    GuardaPdf(this, textos, preferencias, NombreDocumento(), ElDocumento());
-  });
+  dePapel("btVistaPrevia", txt::VistaPrevia, [this] { VistaPrevia(); });
+  dePapel("btPdf", txt::ResumenPdf, [this] { Pdf(); });
   columna.addSpacing(12);
-  boton("btTexto", txt::ResumenTexto, [this, &textos, &preferencias] {
-    GuardaTexto(this, textos, preferencias, resumido_.nombre, resumido_.texto);
-  });
+  boton("btTexto", txt::ResumenTexto, [this] { Guarda(); });
   boton("btCopiar", txt::ResumenCopiar, [this] { Copia(); });
   boton("btBuscar", txt::ResumenBuscar, [this] { buscador_->Abre(); });
   columna.addStretch();
@@ -185,24 +178,23 @@ void frEscribePantalla::CreaTeclas() {
 // ---------------------------------------------------------------------------------------------
 // The text
 
-// A long text comes in pieces, so that it can be read and left at once.
-void frEscribePantalla::MuestraTrozo() {
-  const std::string& texto = resumido_.texto;
-  std::size_t fin = std::min(texto.size(), mostrado_ + kTrozo);
-  if (fin < texto.size()) fin = texto.find('\n', fin);
-  fin = fin == std::string::npos ? texto.size() : std::min(fin + 1, texto.size());
-  QTextCursor final(edPantalla_->document());
-  final.movePosition(QTextCursor::End);
-  final.insertText(Q(std::string_view(texto).substr(mostrado_, fin - mostrado_)));
-  mostrado_ = fin;
-  if (mostrado_ < texto.size()) QTimer::singleShot(0, this, &frEscribePantalla::MuestraTrozo);
+void frEscribePantalla::PonAviso(const std::string& aviso) {
+  aviso_->setText(Q(aviso));
+  aviso_->setVisible(!aviso.empty());
 }
 
-void frEscribePantalla::MuestraTodo() {
-  if (mostrado_ == resumido_.texto.size()) return;
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-  while (mostrado_ < resumido_.texto.size()) MuestraTrozo();
-  QApplication::restoreOverrideCursor();
+// What leaves the screen does so whole.
+bool frEscribePantalla::EsperaTodo() {
+  if (texto_.LaCuenta().entera) return true;
+  const std::string rotulo(entorno_.textos.Texto(txt::PreparandoElResumen));
+  bool entera = false;
+  HazFaena(this, entorno_.textos, txt::ResumenDeCalculo, [&](MarchaFaena& marcha) {
+    entera = texto_.EsperaTodo([&] {
+      if (marcha.Espera()) marcha.Di({rotulo, texto_.LaCuenta().hecho});
+      return marcha.Sigue();
+    });
+  });
+  return entera;
 }
 
 void frEscribePantalla::PonCuerpo(int cuerpo) {
@@ -221,10 +213,61 @@ bool frEscribePantalla::eventFilter(QObject* objeto, QEvent* suceso) {
   return true;
 }
 
+// The selection, or everything.
 void frEscribePantalla::Copia() {
-  QString texto = edPantalla_->textCursor().selectedText();
-  texto.replace(QChar::ParagraphSeparator, '\n');
-  QApplication::clipboard()->setText(texto.isEmpty() ? Q(resumido_.texto) : texto);
+  const bool todo = !edPantalla_->HayEleccion();
+  if (todo && !EsperaTodo()) return;
+  const Lugar desde = todo ? Lugar{} : edPantalla_->Desde();
+  const Lugar hasta = todo ? Lugar{texto_.LaCuenta().lineas - 1, 0} : edPantalla_->Hasta();
+  std::string texto;
+  bool cabe = true;
+  bool sigue = true;
+  HazFaena(this, entorno_.textos, txt::ResumenDeCalculo, [&](MarchaFaena& marcha) {
+    texto_.Recorre(desde.linea, hasta.linea, [&](std::string_view linea) {
+      texto.append(linea).push_back('\n');
+      cabe = texto.size() <= kMayorCopia;
+      sigue = marcha.Sigue();
+      return cabe && sigue;
+    });
+  });
+  if (!sigue) return;
+  if (!cabe) {
+    const auto& textos = entorno_.textos;
+    return Avisa(this, textos,
+                 Q(textos.Compone(txt::ResumenDemasiadoLargo, {S(Tx(txt::ResumenTexto))})));
+  }
+  QString copia = Q(texto);
+  copia.chop(1);  // the end of the last line
+  if (!todo) {
+    const auto ultima = copia.lastIndexOf('\n') + 1;
+    copia.truncate(ultima + hasta.columna);
+    copia.remove(0, desde.columna);
+  }
+  QApplication::clipboard()->setText(copia);
+}
+
+void frEscribePantalla::Guarda() {
+  if (!EsperaTodo()) return;
+  GuardaTexto(this, entorno_.textos, entorno_.preferencias, resumido_.nombre,
+              [this](MarchaFaena& marcha, FicheroSalida& fichero) {
+                const auto bloques = texto_.Bloques();
+                for (std::size_t i = 0; i < bloques; ++i) {
+                  marcha.Exige();
+                  if (marcha.Espera()) {
+                    marcha.Di({entorno_.textos.Texto(txt::PreparandoElResumen),
+                               static_cast<double>(i) / static_cast<double>(bloques)});
+                  }
+                  fichero.Escribe(texto_.Bloque(i));
+                }
+              });
+}
+
+void frEscribePantalla::Menu(QPoint donde) {
+  QMenu menu(this);
+  menu.addAction(Tx(txt::ResumenCopiar), QKeySequence::Copy, this, &frEscribePantalla::Copia)
+      ->setEnabled(edPantalla_->HayEleccion());
+  menu.addAction(Tx(txt::ElegirTodo), QKeySequence::SelectAll, edPantalla_, &VisorTexto::EligeTodo);
+  menu.exec(donde);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -246,10 +289,25 @@ void frEscribePantalla::AvisaReparo() {
   if (!resumido_.reparo.empty()) Avisa(this, entorno_.textos, Q(resumido_.reparo));
 }
 
-void frEscribePantalla::Imprime() {
-  if (!resumido_.conPapel) return;  // a key asks for it too
+// A key asks for paper too. The listing reads what the summary may still have to change.
+bool frEscribePantalla::ListoParaPapel() {
+  if (!resumido_.conPapel || !EsperaTodo()) return false;
   AvisaReparo();
+  return true;
+}
+
+void frEscribePantalla::Imprime() {
+  if (!ListoParaPapel()) return;
   if (entorno_.impresion.Imprime(this, NombreDocumento(), ElDocumento())) accept();
+}
+
+void frEscribePantalla::VistaPrevia() {
+  if (ListoParaPapel()) entorno_.impresion.VistaPrevia(this, NombreDocumento(), ElDocumento());
+}
+
+void frEscribePantalla::Pdf() {
+  if (!ListoParaPapel()) return;
+  GuardaPdf(this, entorno_.textos, entorno_.preferencias, NombreDocumento(), ElDocumento());
 }
 
 }  // namespace zorbin

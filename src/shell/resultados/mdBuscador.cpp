@@ -4,28 +4,96 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QTextBlock>
 #include <QToolButton>
+#include <functional>
+#include <limits>
+#include <optional>
 
 #include "base/textos.h"
+#include "shell/piezas/mdFaena.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr int kTransparencia = 90;  // of the mark of a match, of 255
-constexpr int kMasMarcas = 500;     // in view
+// Looks through a text block by block. No match goes over a line end, which cannot be typed.
+class Busqueda {
+ public:
+  /// @param sigue  asked before each block, with the part of the text that has been seen
+  Busqueda(const TextoLargo& texto, QString que, std::function<bool(double)> sigue)
+      : texto_(texto), que_(std::move(que)), sigue_(std::move(sigue)) {}
+
+  /// The first match from a place on.
+  std::optional<Lugar> Adelante(Lugar desde) {
+    const auto primero = texto_.BloqueDe(desde.linea);
+    for (auto b = primero; b < texto_.Bloques() && Espera(b); ++b) {
+      const QString bloque = Q(texto_.Bloque(b));
+      const auto sitio = b == primero ? Sitio(bloque, b, desde) : 0;
+      const auto hallado = bloque.indexOf(que_, sitio, Qt::CaseInsensitive);
+      if (hallado >= 0) return En(bloque, b, hallado);
+    }
+    return {};
+  }
+
+  /// The last match that begins before a place.
+  std::optional<Lugar> Atras(Lugar antes) {
+    const auto primero = texto_.BloqueDe(antes.linea);
+    for (auto b = primero + 1; b-- > 0 && Espera(b);) {
+      const QString bloque = Q(texto_.Bloque(b));
+      const auto sitio = b == primero ? Sitio(bloque, b, antes) : bloque.size();
+      if (sitio == 0) continue;
+      const auto hallado = bloque.lastIndexOf(que_, sitio - 1, Qt::CaseInsensitive);
+      if (hallado >= 0) return En(bloque, b, hallado);
+    }
+    return {};
+  }
+
+  /// The same from the end of the text.
+  std::optional<Lugar> AtrasDesdeElFinal() {
+    if (texto_.Bloques() == 0 || !Espera(texto_.Bloques() - 1)) return {};
+    return Atras({std::numeric_limits<int>::max(), 0});
+  }
+
+ private:
+  const TextoLargo& texto_;
+  const QString que_;
+  std::function<bool(double)> sigue_;
+  std::size_t vistos_ = 0;
+
+  bool Espera(std::size_t b) {
+    const auto todos = static_cast<double>(2 * texto_.Bloques());  // it may go round
+    const double hecho = static_cast<double>(vistos_++) / todos;
+    if (!sigue_(hecho)) return false;
+    return texto_.EsperaBloque(b, [&] { return sigue_(hecho); });
+  }
+
+  // A place as letters from the beginning of its block.
+  qsizetype Sitio(const QString& bloque, std::size_t b, Lugar lugar) const {
+    qsizetype sitio = 0;
+    for (int n = texto_.PrimeraLinea(b); n < lugar.linea; ++n) {
+      const auto fin = bloque.indexOf('\n', sitio);
+      if (fin < 0) return bloque.size();
+      sitio = fin + 1;
+    }
+    return std::min(sitio + lugar.columna, bloque.size());
+  }
+
+  Lugar En(const QString& bloque, std::size_t b, qsizetype sitio) const {
+    const auto antes = QStringView(bloque).first(sitio);
+    const auto columna = sitio - (antes.lastIndexOf('\n') + 1);
+    return {texto_.PrimeraLinea(b) + static_cast<int>(antes.count('\n')),
+            static_cast<int>(columna)};
+  }
+};
 
 }  // namespace
 
-Buscador::Buscador(const Catalogo& textos, QPlainTextEdit& texto, QWidget* padre)
+Buscador::Buscador(const Catalogo& textos, VisorTexto& visor, QWidget* padre)
     : QWidget(padre),
       textos_(textos),
-      texto_(texto),
+      visor_(visor),
       que_(new QLineEdit(this)),
       dice_(new QLabel(this)) {
   que_->setObjectName(QStringLiteral("edBuscar"));
@@ -53,11 +121,10 @@ Buscador::Buscador(const Catalogo& textos, QPlainTextEdit& texto, QWidget* padre
   fila->addWidget(dice_, 1);
   fila->addWidget(cierra);
 
-  connect(que_, &QLineEdit::textChanged, this, [this] { Busca({}, true); });
+  connect(que_, &QLineEdit::textChanged, this, [this] { Busca(false, visor_.Desde()); });
   connect(anterior, &QPushButton::clicked, this, &Buscador::Anterior);
   connect(siguiente, &QPushButton::clicked, this, &Buscador::Siguiente);
   connect(cierra, &QToolButton::clicked, this, &Buscador::Cierra);
-  connect(texto_.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { Marca(); });
   hide();
 }
 
@@ -66,10 +133,9 @@ QString Buscador::Tx(int n) const {
 }
 
 void Buscador::Abre() {
-  const QString elegido = texto_.textCursor().selectedText();
-  const bool unaLinea = !elegido.isEmpty() && !elegido.contains(QChar::ParagraphSeparator);
+  const QString elegido = visor_.Elegido();
   show();
-  if (unaLinea) que_->setText(elegido);
+  if (!elegido.isEmpty()) que_->setText(elegido);
   que_->setFocus();
   que_->selectAll();
   Marca();
@@ -78,66 +144,51 @@ void Buscador::Abre() {
 void Buscador::Cierra() {
   hide();
   dice_->clear();
-  texto_.setExtraSelections({});
-  texto_.setFocus();
+  Marca();
+  visor_.setFocus();
 }
 
 void Buscador::Siguiente() {
   if (que_->text().isEmpty()) return Abre();
-  Busca({}, false);
+  Busca(false, visor_.Hasta());
 }
 
 void Buscador::Anterior() {
   if (que_->text().isEmpty()) return Abre();
-  Busca(QTextDocument::FindBackward, false);
+  Busca(true, visor_.Desde());
 }
 
-void Buscador::Busca(QTextDocument::FindFlags sentido, bool desdeLaSeleccion) {
+void Buscador::Busca(bool atras, Lugar desde) {
   dice_->clear();
   const QString que = que_->text();
   if (que.isEmpty()) return Marca();
   show();
-  emit busca();
-  const bool atras = (sentido & QTextDocument::FindBackward) != 0;
-  QTextCursor desde = texto_.textCursor();
-  if (desdeLaSeleccion) desde.setPosition(desde.selectionStart());
-  QTextCursor hallado = texto_.document()->find(que, desde, sentido);
-  if (hallado.isNull()) {
-    QTextCursor otro(texto_.document());
-    if (atras) otro.movePosition(QTextCursor::End);
-    hallado = texto_.document()->find(que, otro, sentido);
-    if (!hallado.isNull()) {
-      dice_->setText(Tx(atras ? txt::SigueDesdeElFinal : txt::SigueDesdeElPrincipio));
-    }
-  }
-  if (hallado.isNull()) {
+  const std::string rotulo = textos_.Compone(txt::BuscandoEnElResumen, {S(que)});
+  std::optional<Lugar> hallado;
+  bool daLaVuelta = false;
+  bool cancelada = false;
+  HazFaena(this, textos_, txt::ResumenDeCalculo, [&](MarchaFaena& marcha) {
+    Busqueda busqueda(visor_.Texto(), que, [&](double hecho) {
+      if (marcha.Espera()) marcha.Di({rotulo, hecho});
+      return marcha.Sigue();
+    });
+    hallado = atras ? busqueda.Atras(desde) : busqueda.Adelante(desde);
+    daLaVuelta = !hallado;
+    if (daLaVuelta) hallado = atras ? busqueda.AtrasDesdeElFinal() : busqueda.Adelante({});
+    cancelada = !marcha.Sigue();
+  });
+  if (cancelada) return Marca();
+  if (!hallado) {
     dice_->setText(Q(textos_.Compone(txt::NoSeEncuentra, {S(que)})));
   } else {
-    texto_.setTextCursor(hallado);
-    texto_.ensureCursorVisible();
+    if (daLaVuelta) dice_->setText(Tx(atras ? txt::SigueDesdeElFinal : txt::SigueDesdeElPrincipio));
+    visor_.Elige(*hallado, {hallado->linea, hallado->columna + static_cast<int>(que.size())});
   }
   Marca();
 }
 
 void Buscador::Marca() {
-  QList<QTextEdit::ExtraSelection> marcas;
-  const QString que = que_->text();
-  if (isVisible() && !que.isEmpty()) {
-    const auto hasta = texto_.cursorForPosition(texto_.viewport()->rect().bottomRight()).block();
-    QTextCursor desde(texto_.cursorForPosition(QPoint(0, 0)).block());
-    QColor fondo = texto_.palette().color(QPalette::Highlight);
-    fondo.setAlpha(kTransparencia);
-    const int fin = hasta.position() + hasta.length();
-    for (auto c = texto_.document()->find(que, desde);
-         !c.isNull() && c.selectionEnd() <= fin && marcas.size() < kMasMarcas;
-         c = texto_.document()->find(que, c)) {
-      QTextEdit::ExtraSelection marca;
-      marca.cursor = c;
-      marca.format.setBackground(fondo);
-      marcas.push_back(marca);
-    }
-  }
-  texto_.setExtraSelections(marcas);
+  visor_.Marca(isVisible() ? que_->text() : QString());
 }
 
 void Buscador::keyPressEvent(QKeyEvent* suceso) {

@@ -1,24 +1,23 @@
-// A search bar for a text that is only read.
+// A search bar for a long text that is only read.
 #pragma once
 
-#include <QTextDocument>
 #include <QWidget>
 
 #include "base/mdCatalogo.h"
+#include "shell/resultados/mdVisorTexto.h"
 
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace zorbin {
 
 /// Hidden until it is asked for. Finds without regard to case, goes round at the ends, and marks
-/// every match in view.
+/// every match in view. What takes long is looked for with a box that can be told to give up.
 class Buscador : public QWidget {
   Q_OBJECT
 
  public:
-  Buscador(const Catalogo& textos, QPlainTextEdit& texto, QWidget* padre);
+  Buscador(const Catalogo& textos, VisorTexto& visor, QWidget* padre);
 
   /// Shows the bar, with the text selected as what to look for.
   void Abre();
@@ -27,21 +26,17 @@ class Buscador : public QWidget {
   void Siguiente();
   void Anterior();
 
- signals:
-  /// The whole text is about to be searched.
-  void busca();
-
  protected:
   void keyPressEvent(QKeyEvent* suceso) override;
 
  private:
   const Catalogo& textos_;
-  QPlainTextEdit& texto_;
+  VisorTexto& visor_;
   QLineEdit* que_;
   QLabel* dice_;
 
   QString Tx(int n) const;
-  void Busca(QTextDocument::FindFlags sentido, bool desdeLaSeleccion);
+  void Busca(bool atras, Lugar desde);
   void Marca();
 };
 

@@ -1,9 +1,11 @@
 #include "shell/resultados/mdCalculos.h"
 
 #include <filesystem>
+#include <memory>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "sesion/trabajo/mdResumenPorBloques.h"
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdFaena.h"
@@ -15,7 +17,6 @@ namespace zorbin {
 namespace {
 
 constexpr std::size_t kFallosDichos = 10;  // in a box; the summary has them all
-constexpr double kParteCalculo = 0.3;      // of the time; the rest writes the summary
 
 double Hecho(const Avance& a) {
   return (a.posicion - 1 + (a.caso - 1.0) / a.casos) / a.posiciones;
@@ -26,14 +27,9 @@ std::vector<std::string> Datos(const Avance& a) {
           std::to_string(a.posicion), std::to_string(a.posiciones)};
 }
 
-// Each of the two takes its share of the bar.
-MarchaFaena::Dicho DiceCalculo(const Avance& a, const Catalogo& textos) {
+MarchaFaena::Dicho Dice(const Avance& a, const Catalogo& textos) {
   const int texto = a.posiciones > 1 ? txt::AvanceDeLaObra : txt::AvanceDelTramo;
-  return {textos.Compone(texto, Datos(a)), Hecho(a) * kParteCalculo};
-}
-MarchaFaena::Dicho DiceResumen(const Avance& a, const Catalogo& textos) {
-  return {textos.Compone(txt::AvanceDelResumen, Datos(a)),
-          kParteCalculo + Hecho(a) * (1.0 - kParteCalculo)};
+  return {textos.Compone(texto, Datos(a)), Hecho(a)};
 }
 
 void MuestraFallos(const Entorno& entorno, QWidget* padre, const Calculo& calculo) {
@@ -48,6 +44,15 @@ void MuestraFallos(const Entorno& entorno, QWidget* padre, const Calculo& calcul
   Avisa(padre, entorno.textos, Q(texto), Rotulo(entorno.textos.Texto(txt::ErrorEnEjecucion)));
 }
 
+// The notice under the summary, with a failure that was met while it was written.
+std::string AvisoFinal(const Calculo& calculo, std::size_t dichos) {
+  std::string aviso = calculo.Aviso();
+  const auto fallos = calculo.Fallos();
+  if (fallos.size() == dichos) return aviso;
+  for (const auto& fallo : fallos) aviso += (aviso.empty() ? "" : "\n") + fallo;
+  return aviso;
+}
+
 // What the summary says that a listing of it will not have.
 std::string Reparo(const Calculo& calculo) {
   const auto& rechazados = calculo.encargo.rechazados;
@@ -59,26 +64,24 @@ std::string Reparo(const Calculo& calculo) {
 void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
                      const QString& nombre) {
   Calculo calculo;
-  std::string resumen;
   HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](MarchaFaena& marcha) {
-    const auto sigue = [&](MarchaFaena::Dicho (*dice)(const Avance&, const Catalogo&)) {
-      return [&marcha, &textos = entorno.textos, dice](const Avance& avance) {
-        if (marcha.Espera()) marcha.Di(dice(avance, textos));
-        return marcha.Sigue();
-      };
-    };
-    calculo = CalculaEncargo(std::move(encargo), sigue(DiceCalculo));
-    resumen = Resume(calculo, sigue(DiceResumen));
+    calculo = CalculaEncargo(std::move(encargo), [&](const Avance& avance) {
+      if (marcha.Espera()) marcha.Di(Dice(avance, entorno.textos));
+      return marcha.Sigue();
+    });
   });
   MuestraFallos(entorno, padre, calculo);
   const auto lista = [&calculo](TipoListado tipo, DestinoHojas& hojas) {
     EscribeListado(calculo, tipo, hojas, Ahora());
   };
-  frEscribePantalla(entorno,
-                    {std::move(resumen), calculo.HayPostesado(), nombre, calculo.Aviso(),
-                     calculo.fin != FinTrabajo::Cancelado, Reparo(calculo), lista},
-                    padre)
-      .exec();
+  const auto dichos = calculo.Fallos().size();
+  Resumido resumido{std::make_unique<ResumenPorBloques>(calculo), calculo.HayPostesado(), nombre,
+                    calculo.Aviso()};
+  resumido.conPapel = calculo.fin != FinTrabajo::Cancelado;
+  resumido.reparo = Reparo(calculo);
+  resumido.avisoFinal = [&calculo, dichos] { return AvisoFinal(calculo, dichos); };
+  resumido.lista = lista;
+  frEscribePantalla(entorno, std::move(resumido), padre).exec();
 }
 
 std::string NombreObra(const Captura& c) {
