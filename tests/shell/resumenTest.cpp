@@ -191,8 +191,11 @@ TEST(PantallaResumen, UnTextoLargoSeLeeMientrasSeCuenta) {
     pantalla->findChild<QLineEdit*>("edBuscar")->setText("el final");
     EXPECT_EQ(persona.veces, 1);
     EXPECT_FALSE(ed.HayEleccion());
+  }
+  {
+    EnPantalla<CajaProgreso> persona([](CajaProgreso& caja) { Pulsa(caja, "btCancelar"); });
     Pulsa(*pantalla, "btImprimeTramo");
-    EXPECT_EQ(persona.veces, 2);
+    EXPECT_EQ(persona.veces, 1);
     EXPECT_TRUE(r.pedidos.empty());
   }
   *va = true;
