@@ -21,7 +21,7 @@
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdMarcoDiseno.h"
 #include "shell/resultados/mdModeloCasos.h"
-#include "shell/resultados/mdVistaLamina.h"
+#include "shell/dibujos/mdVistaLamina.h"
 
 namespace zorbin::prueba {
 namespace {

@@ -18,7 +18,7 @@
 #include "listados/dibujos/mdGraficosTramo.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
-#include "shell/resultados/mdVistaLamina.h"
+#include "shell/dibujos/mdVistaLamina.h"
 
 namespace zorbin {
 

@@ -19,7 +19,7 @@
 #include "listados/obra/mdRotulos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
-#include "shell/resultados/mdVistaLamina.h"
+#include "shell/dibujos/mdVistaLamina.h"
 
 namespace zorbin {
 
