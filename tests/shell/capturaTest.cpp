@@ -329,9 +329,11 @@ TEST(Captura, LosDibujosSiguenALosDatos) {
   EXPECT_TRUE(dice(vista, "Di 13000"));
   EXPECT_TRUE(dice(*zanja, "De = 13,24 m"));
   p.Pincha(Ed::edDi0);
-  p.Teclea("0");
-  EXPECT_TRUE(dice(*tubo, p.mesa.textos.Texto(txt::DibFaltanDatos).c_str()));
-  EXPECT_TRUE(dice(*zanja, p.mesa.textos.Texto(txt::DibFaltanDatos).c_str()));
+  p.Linea(Ed::edDi0)->clear();
+  p.Teclea("");
+  const std::string nada = p.mesa.textos.Texto(txt::DibFaltanDatos);
+  EXPECT_TRUE(dice(*tubo, nada.c_str()) && dice(vista, nada.c_str()));
+  EXPECT_TRUE(dice(*zanja, nada.c_str()));
   grande->close();
 }
 

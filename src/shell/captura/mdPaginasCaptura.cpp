@@ -87,6 +87,10 @@ void PaginasCaptura::Refresca(const Captura& c) {
 // From the data as they are, with nothing calculated: at once, and even where no run is possible.
 void PaginasCaptura::Dibuja(const Captura& c) {
   auto datos = DatosDeCalculo(c.e.obra, c.e.tramo, {}, true);
+  // What stands in a refused field makes no pipe, though the value before it is still kept.
+  const auto rechazado = [&c](Ed campo) { return !c[campo].falta.empty(); };
+  if (rechazado(Ed::edDi0) || rechazado(Ed::edEsp0)) datos.tramo.Di = 0;
+  if (rechazado(Ed::edB0)) datos.tramo.B0 = 0;
   Dibujado nuevo{std::move(datos.tramo), MayorAltura(c.e.obra, c.e.tramo), c.EsSI(),
                  c.SeparadorDecimal, c.textos.IdiomaOffset()};
   if (dibujado_ == nuevo) return;
@@ -263,11 +267,11 @@ QWidget* PaginasCaptura::CreaPaginaTramo() {
   tarjetas->addWidget(CreaCabezaTramo());
   tarjetas->addWidget(CreaFicha(txt::PagDimensiones, {Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0,
                                                       Ed::edRece0, Ed::edGc0, Ed::edTipoCuna0}));
+  tarjetas->addWidget(CreaDibujo(ptPostesado_, "ptPostesado", txt::DibTituloSeccion));
   tarjetas->addWidget(CreaPresiones(Ed::edPrsM1Tram, Ed::edPrs1Tram, Ed::edPrsM2Tram,
                                     Ed::edPrs2Tram, Ed::edPrs3Tram));
   CreaTarjetasArmado(*tarjetas);
   CreaTarjetasPostesado(*tarjetas);
-  tarjetas->addWidget(CreaDibujo(ptPostesado_, "ptPostesado", txt::DibTituloSeccion));
   return EnPagina(pagina);
 }
 
