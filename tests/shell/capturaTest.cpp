@@ -17,13 +17,17 @@
 #include <QTabBar>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <algorithm>
 #include <set>
 
+#include "base/textos.h"
 #include "persistencia/zrb/mdZrb.h"
 #include "sesion/captura/mdCiclo.h"
 #include "sesion/captura/mdEdicion.h"
 #include "sesion/captura/mdEtiquetas.h"
+#include "sesion/captura/mdPaginas.h"
 #include "shell/captura/CapturaDatos.h"
+#include "shell/captura/mdDibujoDatos.h"
 #include "shell/entornoPrueba.h"
 #include "shell/principal/FormaPrincipal.h"
 #include "shell/principal/mdArranque.h"
@@ -298,6 +302,39 @@ TEST(Captura, LoPegadoSeEntiendeOSeRechaza) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   EXPECT_EQ(p.Linea(Ed::edAlt2)->text(), "1.234,5");
   EXPECT_NE(p.c[Ed::edAlt2].falta.find("1.234,5"), std::string::npos);
+}
+
+// Beside the fields the data are seen as they are, at once; large, they go on following.
+TEST(Captura, LosDibujosSiguenALosDatos) {
+  ConMuestra p;
+  p.ElijeTramo(0);
+  auto* tubo = p.ventana->findChild<DibujoDatos*>("ptPostesado");
+  auto* zanja = p.ventana->findChild<DibujoDatos*>("ptColocacion");
+  const auto dice = [](VistaLamina& vista, const char* texto) {
+    return std::ranges::any_of(vista.lamina().lamina.piezas, [texto](const Pieza& pieza) {
+      const auto* r = std::get_if<Letrero>(&pieza);
+      return r != nullptr && r->texto == texto;
+    });
+  };
+  CambiaPagina(p.c, 1);
+  p.ventana->captura().Refresca();
+  EXPECT_TRUE(dice(*tubo, "Di 1200"));
+  QTest::mouseDClick(tubo, Qt::LeftButton);
+  auto* grande = p.ventana->findChild<frDibujo*>();
+  ASSERT_NE(grande, nullptr);
+  auto& vista = *grande->findChild<VistaLamina*>();
+  p.Pincha(Ed::edDi0);
+  p.Teclea("13");
+  EXPECT_TRUE(dice(*tubo, "Di 13000"));
+  EXPECT_TRUE(dice(vista, "Di 13000"));
+  EXPECT_TRUE(dice(*zanja, "De = 13,24 m"));
+  p.Pincha(Ed::edDi0);
+  p.Linea(Ed::edDi0)->clear();
+  p.Teclea("");
+  const std::string nada = p.mesa.textos.Texto(txt::DibFaltanDatos);
+  EXPECT_TRUE(dice(*tubo, nada.c_str()) && dice(vista, nada.c_str()));
+  EXPECT_TRUE(dice(*zanja, nada.c_str()));
+  grande->close();
 }
 
 TEST(Captura, ElTabuladorSigueElTrabajo) {

@@ -16,12 +16,12 @@
 #include "sesion/captura/mdTramos.h"
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/mdPanelTramos.h"
+#include "shell/dibujos/mdVistaLamina.h"
 #include "shell/entornoPrueba.h"
 #include "shell/resultados/frDiseno.h"
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdMarcoDiseno.h"
 #include "shell/resultados/mdModeloCasos.h"
-#include "shell/resultados/mdVistaLamina.h"
 
 namespace zorbin::prueba {
 namespace {

@@ -403,8 +403,12 @@ TEST(Calculos, DelTramoAlResumenYAlPapel) {
     Opcion(pantalla, 3).click();
     Pulsa(pantalla, "btImprimeTramo");
   });
-  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr);
+  std::vector<int> dichos;
+  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr, [&](int id, Veredicto v) {
+    dichos.insert(dichos.end(), {id, static_cast<int>(v)});
+  });
   EXPECT_EQ(lector.veces, 1);
+  EXPECT_EQ(dichos, (std::vector{d.b.c.enMano, static_cast<int>(Veredicto::Cumple)}));
   auto calculo = CalculaEncargo(EncargaTramo(d.b.c).value());
   EXPECT_EQ(S(texto), Resume(calculo));
   std::ostringstream impreso, esperado;
@@ -453,7 +457,8 @@ TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
     texto = QApplication::clipboard()->text();
     Pulsa(pantalla, "btSalir");
   });
-  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr);
+  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr,
+                 [](int, Veredicto) { ADD_FAILURE() << "half a Tramo has no verdict"; });
   EXPECT_EQ(persona.veces, 1);
   EXPECT_EQ(lector.veces, 1);
   EXPECT_TRUE(texto.contains("** Cálculo cancelado"));

@@ -41,12 +41,8 @@ ParedDibujada ParedArmada(const CasoDibujado& c) {
 }
 
 ParedDibujada ParedPostesada(const CasoDibujado& c) {
-  const auto& t = c.Datos();
   const auto& r = c.caso.Postesado();
-  ParedDibujada p{t.Esp * kMm, 0.0, t.Reci * kMm, t.Rece * kMm, {}};
-  const auto desde = [&](double radio) { return (radio - r.radios.RadioInt) * 10.0; };
-  p.nucleo = desde(r.radios.RadioNuc);
-  if (t.Delca > 0) p.acero.push_back({desde(r.radios.RadioCam), t.Delca * 10.0, 0.0, Tinta::Chapa});
+  auto p = ParedSinDisenar(c.Datos());
   if (r.FIPRDEFI > 0) {
     const double fi = r.FIPRDEFI * 10.0;
     p.acero.push_back({p.nucleo + fi / 2.0, fi, r.NESPDEFI, Tinta::Alambre});
@@ -123,9 +119,14 @@ class Corte {
     const double izquierda = vista_.origen.x, derecha = vista_.P(largo_, 0).x;
     plano_.CotaVertical(Y(pared_.espesor), Y(0.0), izquierda, -5.0,
                         "e " + w.Corto(pared_.espesor, 1));
-    plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, "ri " + w.Corto(pared_.Reci, 1));
-    plano_.CotaVertical(Y(pared_.espesor), Y(pared_.espesor - pared_.Rece), derecha, 4.0,
-                        "re " + w.Corto(pared_.Rece, 1));
+    // Covers beyond the wall would leave the sheet.
+    if (pared_.Reci < pared_.espesor) {
+      plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, "ri " + w.Corto(pared_.Reci, 1));
+    }
+    if (pared_.Rece < pared_.espesor) {
+      plano_.CotaVertical(Y(pared_.espesor), Y(pared_.espesor - pared_.Rece), derecha, 4.0,
+                          "re " + w.Corto(pared_.Rece, 1));
+    }
   }
 };
 
@@ -186,17 +187,20 @@ void PintaLeyenda(Plano& plano, Xy sitio, const std::vector<LineaLeyenda>& linea
   }
 }
 
+std::string CasoConTramoEnLetra(const CasoDibujado& caso, const PalabrasDibujo& w) {
+  return w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila);
+}
+
 Marco Cabeza(Plano& plano, const CasoDibujado& caso, const PalabrasDibujo& w,
              const HojaDibujo& hoja) {
-  return PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion),
-                     w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
+  return PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion), CasoConTramoEnLetra(caso, w));
 }
 
 // The whole section with its diameters.
 class Transversal {
  public:
-  Transversal(Plano& plano, const CasoDibujado& c, const ParedDibujada& pared)
-      : plano_(plano), t_(c.Datos()), pared_(pared) {}
+  Transversal(Plano& plano, const Tramo& t, const ParedDibujada& pared)
+      : plano_(plano), t_(t), pared_(pared) {}
 
   double Ancho() const { return 2.0 * SemiCuna(t_.De * kMm); }
   double Alto() const { return t_.De * kMm + Lecho(t_.De * kMm); }
@@ -241,7 +245,64 @@ class Transversal {
   const ParedDibujada& pared_;
 };
 
+// Section of the pipe and of its wall; below this, what it is made of.
+Lamina LaminaSeccion(const Tramo& t, const ParedDibujada& pared,
+                     const std::vector<LineaLeyenda>& leyenda, const std::string& subtitulo,
+                     const PalabrasDibujo& w, HojaDibujo hoja) {
+  constexpr double kPie = 12.0;      // paper for the caption of the cut [mm]
+  constexpr double kLeyenda = 28.0;  // and for the steel
+  constexpr double kAnchoDosVistas = 150.0;
+  constexpr double kParteTubo = 0.64;  // of the height of a narrow sheet
+  Lamina lamina;
+  Plano plano(lamina);
+  Transversal transversal(plano, t, pared);
+  if (hoja.escala > 0) {
+    hoja.ancho = std::max(hoja.ancho, 2 * transversal.AnchoEnPapel(hoja.escala) + kMargenes);
+    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
+  }
+  lamina = LaminaVacia(hoja);
+  const Marco m = PonCabecera(plano, hoja, w.T(txt::DibTituloSeccion), subtitulo);
+  // Side by side, or one below the other on a narrow sheet.
+  const double pies = kPie + (leyenda.empty() ? 0.0 : kLeyenda);
+  const bool apiladas = leyenda.empty() && m.ancho < kAnchoDosVistas;
+  const Marco deTubo{m.x, m.y, apiladas ? m.ancho : m.ancho / 2,
+                     apiladas ? kParteTubo * m.alto : m.alto};
+  const Marco resto = apiladas ? Marco{m.x, deTubo.Abajo(), m.ancho, m.Abajo() - deTubo.Abajo()}
+                               : Marco{deTubo.Derecha(), m.y, m.ancho / 2, m.alto};
+  const double escala = hoja.escala > 0 ? hoja.escala : transversal.Cabe(deTubo.ancho, deTubo.alto);
+  transversal.Pinta(deTubo, escala, w);
+  PonEscala(plano, hoja, w, escala);
+  const double alto = std::min(resto.alto - pies, m.ancho / 3);
+  const double arriba = resto.y + (resto.alto - pies - alto) / 2;
+  Corte corte(plano, pared, {resto.x, arriba, resto.ancho, alto});
+  corte.Pinta(w);
+  plano.En(Capa::Textos);
+  const auto pie =
+      w.Con(txt::DibPared, {w.Metros(corte.Largo() / kMm), w.Corto(corte.Escala(), 2)});
+  plano.Texto({corte.CentroX(), corte.Abajo() + 7.0}, Recortado(pie, resto.ancho, kLetra),
+              AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
+  PintaLeyenda(plano, {resto.x + 8.0, corte.Abajo() + 17.0}, leyenda);
+  return lamina;
+}
+
 }  // namespace
+
+bool HayTubo(const Tramo& t) {
+  const auto medida = [](double m) { return std::isfinite(m) && m >= 0; };
+  return t.Di > 0 && t.Esp > 0 && t.De > t.Di && medida(t.De) && medida(t.Esp) && medida(t.Reci) &&
+         medida(t.Rece);
+}
+
+ParedDibujada ParedSinDisenar(const Tramo& t) {
+  ParedDibujada p{t.Esp * kMm, 0.0, t.Reci * kMm, t.Rece * kMm, {}};
+  if (t.EsArmado) return p;
+  p.nucleo = std::max(0.0, p.espesor - p.Rece);
+  const double chapa = t.Delca * 10.0;
+  if (chapa > 0 && chapa < p.espesor && p.Reci < p.espesor) {
+    p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa});
+  }
+  return p;
+}
 
 ParedDibujada ParedDe(const CasoDibujado& caso) {
   return caso.caso.EsArmado() ? ParedArmada(caso) : ParedPostesada(caso);
@@ -301,7 +362,7 @@ Lamina DibujaTransversal(const CasoDibujado& caso, const PalabrasDibujo& w,
   HojaDibujo hoja = pedida;
   Lamina lamina;
   Plano plano(lamina);
-  Transversal transversal(plano, caso, pared);
+  Transversal transversal(plano, caso.Datos(), pared);
   if (hoja.escala > 0) {
     hoja.ancho = std::max(hoja.ancho, transversal.AnchoEnPapel(hoja.escala) + kMargenes);
     hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
@@ -325,35 +386,15 @@ Lamina DibujaPared(const CasoDibujado& caso, const PalabrasDibujo& w, const Hoja
   return lamina;
 }
 
-Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& pedida) {
-  constexpr double kLeyenda = 40.0;  // paper for the caption of the cut and the steel [mm]
-  const auto pared = ParedDe(caso);
-  HojaDibujo hoja = pedida;
-  Lamina lamina;
-  Plano plano(lamina);
-  Transversal transversal(plano, caso, pared);
-  if (hoja.escala > 0) {
-    hoja.ancho = std::max(hoja.ancho, 2 * transversal.AnchoEnPapel(hoja.escala) + kMargenes);
-    hoja.alto = std::max(hoja.alto, transversal.AltoEnPapel(hoja.escala) + kCabecera);
-  }
-  lamina = LaminaVacia(hoja);
-  const Marco m = Cabeza(plano, caso, w, hoja);
-  const Marco izquierda{m.x, m.y, m.ancho / 2, m.alto};
-  const double escala =
-      hoja.escala > 0 ? hoja.escala : transversal.Cabe(izquierda.ancho, izquierda.alto);
-  transversal.Pinta(izquierda, escala, w);
-  PonEscala(plano, hoja, w, escala);
-  const double alto = std::min(m.alto - kLeyenda, m.ancho / 3);
-  const double arriba = m.y + (m.alto - kLeyenda - alto) / 2;
-  Corte corte(plano, pared, {izquierda.Derecha(), arriba, m.ancho / 2, alto});
-  corte.Pinta(w);
-  plano.En(Capa::Textos);
-  plano.Texto({corte.CentroX(), corte.Abajo() + 7.0},
-              w.Con(txt::DibPared, {w.Metros(corte.Largo() / kMm), w.Corto(corte.Escala(), 2)}),
-              AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
-  PintaLeyenda(plano, {izquierda.Derecha() + 8.0, corte.Abajo() + 17.0},
-               caso.caso.EsArmado() ? LeyendaArmada(caso, w) : LeyendaPostesada(caso, w));
-  return lamina;
+Lamina DibujaSeccion(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& hoja) {
+  return LaminaSeccion(caso.Datos(), ParedDe(caso),
+                       caso.caso.EsArmado() ? LeyendaArmada(caso, w) : LeyendaPostesada(caso, w),
+                       CasoConTramoEnLetra(caso, w), w, hoja);
+}
+
+Lamina DibujaTubo(const Tramo& t, const PalabrasDibujo& w, const HojaDibujo& hoja) {
+  if (!HayTubo(t)) return LaminaSinDatos(w, hoja);
+  return LaminaSeccion(t, ParedSinDisenar(t), {}, w.TramoEnLetra(t), w, hoja);
 }
 
 }  // namespace zorbin

@@ -16,6 +16,14 @@ Lamina DibujaTransversal(const CasoDibujado& caso, const PalabrasDibujo& palabra
 Lamina DibujaPared(const CasoDibujado& caso, const PalabrasDibujo& palabras,
                    const HojaDibujo& hoja = {});
 
+/// Section of the pipe and of its wall from its data alone, without the steel that a run finds.
+/// Data that make no pipe leave an empty frame.
+/// @param t  in calculation units
+Lamina DibujaTubo(const Tramo& t, const PalabrasDibujo& palabras, const HojaDibujo& hoja = {});
+
+/// Whether its diameters, thickness and covers can be drawn.
+bool HayTubo(const Tramo& t);
+
 /// Steel of a wall, as it is drawn [mm], measured from the inner face.
 struct CapaAcero {
   double distancia = 0;  // of its axis
@@ -33,6 +41,8 @@ struct ParedDibujada {
 };
 
 ParedDibujada ParedDe(const CasoDibujado& caso);
+/// What the data fix of it: the layers of concrete and the sheet of a post-tensioned pipe.
+ParedDibujada ParedSinDisenar(const Tramo& t);
 
 /// Half of the angle of the bed [rad], and whether it is of concrete.
 struct CunaDibujada {

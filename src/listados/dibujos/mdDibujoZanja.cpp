@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/textos.h"
 #include "listados/dibujos/mdDibujoTubo.h"
@@ -66,8 +67,11 @@ Corte CorteDe(const Tramo& t, double Hr) {
 
 class DibujoColocacion {
  public:
-  DibujoColocacion(Plano& plano, const CasoDibujado& caso, const PalabrasDibujo& w)
-      : plano_(plano), t_(caso.Datos()), caso_(caso), w_(w), c_(CorteDe(t_, caso.fila.Hr)) {}
+  DibujoColocacion(Plano& plano, const Tramo& t, double Hr, ParedDibujada pared,
+                   const PalabrasDibujo& w)
+      : plano_(plano), t_(t), Hr_(Hr), pared_(std::move(pared)), w_(w), c_(CorteDe(t, Hr)) {
+    pared_.acero.clear();  // at this scale it would be a smear
+  }
 
   double Ancho() const { return 2 * c_.semi; }
   double Alto() const { return Abajo() - Arriba(); }
@@ -84,9 +88,7 @@ class DibujoColocacion {
     Relleno();
     Perfil();
     PintaCuna(plano_, v_, t_, std::max(c_.semiZanja, c_.R * 1.02));
-    auto pared = ParedDe(caso_);
-    pared.acero.clear();  // at this scale it would be a smear
-    PintaTubo(plano_, v_, t_, pared);
+    PintaTubo(plano_, v_, t_, pared_);
     Carga();
     Cotas();
     Nombres();
@@ -97,7 +99,8 @@ class DibujoColocacion {
 
   Plano& plano_;
   const Tramo& t_;
-  const CasoDibujado& caso_;
+  double Hr_;
+  ParedDibujada pared_;
   const PalabrasDibujo& w_;
   Corte c_;
   Vista v_;
@@ -180,7 +183,7 @@ class DibujoColocacion {
     if (c_.SobreTerreno()) {
       plano_.Linea(v_.P(c_.coronacion, c_.superficie), {x + 1.0, v_.P(0, c_.superficie).y}, guia);
     }
-    plano_.CotaVertical(v_.P(0, c_.superficie).y, clave, x, 5.0, rotulo("Hr", caso_.fila.Hr));
+    plano_.CotaVertical(v_.P(0, c_.superficie).y, clave, x, 5.0, rotulo("Hr", Hr_));
     if (c_.clase != Colocacion::Zanja && t_.Hr1 > 0) {
       plano_.CotaVertical(v_.P(0, c_.natural).y, clave, x, c_.SobreTerreno() ? 20.0 : 5.0,
                           rotulo("Hr1", t_.Hr1));
@@ -213,27 +216,45 @@ class DibujoColocacion {
   }
 };
 
-}  // namespace
-
-Lamina DibujaZanja(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& pedida) {
-  HojaDibujo hoja = pedida;
+Lamina LaminaColocacion(const Tramo& t, double Hr, ParedDibujada pared,
+                        const std::string& subtitulo, const PalabrasDibujo& w, HojaDibujo hoja) {
   Lamina lamina;
   Plano plano(lamina);
-  DibujoColocacion dibujo(plano, caso, w);
+  DibujoColocacion dibujo(plano, t, Hr, std::move(pared), w);
   const double lados = DibujoColocacion::LadosEnPapel(), alto = DibujoColocacion::AltoEnPapel();
   if (hoja.escala > 0) {
     hoja.ancho = std::max(hoja.ancho, dibujo.Ancho() / hoja.escala + lados + 8);
     hoja.alto = std::max(hoja.alto, dibujo.Alto() / hoja.escala + alto + 24);
   }
   lamina = LaminaVacia(hoja);
-  const Marco m = PonCabecera(plano, hoja, w.T(txt::DibTituloZanja),
-                              w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila));
+  const Marco m = PonCabecera(plano, hoja, w.T(txt::DibTituloZanja), subtitulo);
   const double escala = hoja.escala > 0 ? hoja.escala
                                         : EscalaRedonda(std::max(dibujo.Ancho() / (m.ancho - lados),
                                                                  dibujo.Alto() / (m.alto - alto)));
   dibujo.Pinta(m, escala);
   PonEscala(plano, hoja, w, escala);
   return lamina;
+}
+
+// A width and levels that can be drawn.
+bool HayColocacion(const Tramo& t, double Hr) {
+  const auto clase = ColocacionDe(t);
+  const bool zanja = clase == Colocacion::Terraplen || (std::isfinite(t.B0) && t.B0 > 0);
+  const bool terreno = clase == Colocacion::Zanja || (std::isfinite(t.Hr1) && t.Hr1 >= 0);
+  return HayTubo(t) && zanja && terreno && std::isfinite(Hr) && Hr >= 0;
+}
+
+}  // namespace
+
+Lamina DibujaZanja(const CasoDibujado& caso, const PalabrasDibujo& w, const HojaDibujo& hoja) {
+  return LaminaColocacion(caso.Datos(), caso.fila.Hr, ParedDe(caso),
+                          w.TramoEnLetra(caso.Datos()) + " · " + w.CasoEnLetra(caso.fila), w, hoja);
+}
+
+Lamina DibujaColocacion(const Tramo& t, double Hr, const PalabrasDibujo& w,
+                        const HojaDibujo& hoja) {
+  if (!HayColocacion(t, Hr)) return LaminaSinDatos(w, hoja);
+  return LaminaColocacion(t, Hr, ParedSinDisenar(t), w.TramoEnLetra(t), w, hoja);
 }
 
 }  // namespace zorbin

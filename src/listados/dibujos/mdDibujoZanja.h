@@ -9,4 +9,10 @@ namespace zorbin {
 Lamina DibujaZanja(const CasoDibujado& caso, const PalabrasDibujo& palabras,
                    const HojaDibujo& hoja = {});
 
+/// The same from the data alone. Data that cannot be drawn leave an empty frame.
+/// @param t   in calculation units
+/// @param Hr  fill height [m]
+Lamina DibujaColocacion(const Tramo& t, double Hr, const PalabrasDibujo& palabras,
+                        const HojaDibujo& hoja = {});
+
 }  // namespace zorbin

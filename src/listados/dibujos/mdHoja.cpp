@@ -97,6 +97,18 @@ Lamina LaminaVacia(const HojaDibujo& hoja) {
   return lamina;
 }
 
+Lamina LaminaSinDatos(const PalabrasDibujo& palabras, const HojaDibujo& hoja) {
+  Lamina lamina = LaminaVacia(hoja);
+  Plano plano(lamina);
+  constexpr double kMargen = 2.0;
+  const Marco m{kMargen, kMargen, hoja.ancho - 2 * kMargen, hoja.alto - 2 * kMargen};
+  plano.Area(Rectangulo(m), {}, {Tinta::Rejilla, kMedio, Patron::Discontinuo});
+  plano.En(Capa::Textos);
+  plano.Texto(m.Centro(), Recortado(palabras.T(txt::DibFaltanDatos), m.ancho, kLetra),
+              AnclaX::Centro, AnclaY::Medio, kLetra, Tinta::Tenue);
+  return lamina;
+}
+
 Marco PonCabecera(Plano& plano, const HojaDibujo& hoja, const std::string& titulo,
                   const std::string& subtitulo) {
   const double margen = hoja.cabecera ? 4.0 : 1.5;

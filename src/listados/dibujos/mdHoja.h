@@ -78,5 +78,7 @@ void PonEscala(Plano& plano, const HojaDibujo& hoja, const PalabrasDibujo& palab
 
 /// The empty sheet.
 Lamina LaminaVacia(const HojaDibujo& hoja);
+/// A quiet frame, for data that cannot be drawn.
+Lamina LaminaSinDatos(const PalabrasDibujo& palabras, const HojaDibujo& hoja);
 
 }  // namespace zorbin

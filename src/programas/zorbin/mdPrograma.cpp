@@ -105,9 +105,7 @@ void Programa::MuestraResultados() {
       }
     });
     connect(resultados_.data(), &frResultados::verificado, ventana_.get(),
-            [this](int id, Veredicto veredicto) {
-              ventana_->panel().PonEstado(id, EstadoDe(veredicto));
-            });
+            [this](int id, Veredicto veredicto) { PonVeredicto(id, veredicto); });
   }
   Delante(*resultados_);
   if (nueva) resultados_->Calcula();
@@ -120,11 +118,14 @@ void Programa::CreaDiseno() {
     marcoDiseno_->PonHayObra(captura_->ObraCargada);
     diseno_->Sigue();
   });
-  connect(diseno_, &PanelDiseno::verificado, ventana_.get(), [this](int id, Veredicto veredicto) {
-    ventana_->panel().PonEstado(id, EstadoDe(veredicto));
-  });
+  connect(diseno_, &PanelDiseno::verificado, ventana_.get(),
+          [this](int id, Veredicto veredicto) { PonVeredicto(id, veredicto); });
   connect(diseno_, &PanelDiseno::sinDiseno, ventana_.get(),
           [this](int id) { ventana_->panel().PonEstado(id, EstadoTramo::SinCalcular); });
+}
+
+void Programa::PonVeredicto(int id, Veredicto veredicto) {
+  ventana_->panel().PonEstado(id, EstadoDe(veredicto));
 }
 
 void Programa::EligeIdioma() {
@@ -164,8 +165,13 @@ void Programa::AbreLoPedido(const QString& ruta) {
 void Programa::Enlaza() {
   Pantallas p;
   auto* padre = ventana_.get();
-  p.calculaTramo = [this, padre] { CalculaElTramo(*captura_, entorno_, padre); };
-  p.imprimeObra = [this, padre] { ImprimeLaObra(*captura_, entorno_, padre); };
+  const AlVerificar enLaLista = [this](int id, Veredicto v) { PonVeredicto(id, v); };
+  p.calculaTramo = [this, padre, enLaLista] {
+    CalculaElTramo(*captura_, entorno_, padre, enLaLista);
+  };
+  p.imprimeObra = [this, padre, enLaLista] {
+    ImprimeLaObra(*captura_, entorno_, padre, enLaLista);
+  };
   p.ajusta = [this, padre] { AjustaArmaduras(*captura_, entorno_, documentos_, padre); };
   p.resultados = [this] { MuestraResultados(); };
   p.diseno = [this] { marcoDiseno_->Alterna(); };

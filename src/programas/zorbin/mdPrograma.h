@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "core/verificacion.h"
 #include "sesion/captura/mdCaptura.h"
 #include "shell/ayuda/mdDocumento.h"
 #include "shell/captura/mdInterlocutorQt.h"
@@ -71,6 +72,7 @@ class Programa : public QObject {
   void LeeLasTablas();
   void Enlaza();
   void CreaDiseno();
+  void PonVeredicto(int id, Veredicto veredicto);
   void MuestraResultados();
   void RenuevaTextos();
   void TraduceDialogos();

@@ -97,8 +97,7 @@ void CapturaDatos::CreaCampos() {
 }
 
 void CapturaDatos::CreaPaginas() {
-  paginas_ = new PaginasCaptura(campos_, this);
-  connect(paginas_, &PaginasCaptura::figuraPedida, this, &CapturaDatos::figuraPedida);
+  paginas_ = new PaginasCaptura(campos_, entorno_, this);
 }
 
 QWidget* CapturaDatos::CreaCabecera() {

@@ -5,11 +5,14 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
 
-#include "base/mdCarpetas.h"
 #include "base/textos.h"
+#include "calculo/corrida/mdCalculaTramo.h"
+#include "listados/dibujos/mdDibujoTubo.h"
+#include "listados/dibujos/mdDibujoZanja.h"
 #include "sesion/captura/mdEtiquetas.h"
-#include "shell/captura/frFiguras.h"
+#include "shell/captura/mdDibujoDatos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTarjetas.h"
 
@@ -17,7 +20,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kAltoFigura = 230;  // [px]
+constexpr int kAltoDibujo = 360;  // [px]
 
 // Of the columns of a form, in digits.
 constexpr int kColumnasRotulo = 17;
@@ -36,8 +39,10 @@ QWidget* EnPagina(QWidget* contenido) {
   return pagina;
 }
 
-void RefrescaFigura(Figura& figura, const std::string& nombre) {
-  figura.Pon(nombre.empty() ? QString() : Q(RutaFigura(nombre).string()));
+// The greatest of the fills: what has room for it has room for the others.
+double MayorAltura(const Obra& obra, const Tramo& tramo) {
+  const auto alturas = AlturasDe(obra, tramo);
+  return std::max(alturas.Hr0, alturas.Hr0Final);
 }
 
 void PonColumnas(QGridLayout& rejilla, const QWidget& dueno) {
@@ -56,8 +61,8 @@ bool EsEstrecho(Ed id) {
 
 }  // namespace
 
-PaginasCaptura::PaginasCaptura(const Campos& campos, QObject* padre)
-    : QObject(padre), campos_(campos) {
+PaginasCaptura::PaginasCaptura(const Campos& campos, const Entorno& entorno, QObject* padre)
+    : QObject(padre), campos_(campos), entorno_(entorno) {
   obra_ = CreaPaginaObra();
   tramo_ = CreaPaginaTramo();
   colocacion_ = CreaPaginaColocacion();
@@ -76,9 +81,27 @@ void PaginasCaptura::Refresca(const Captura& c) {
   const bool postesado = p.pagina.TabTipologia == 1;
   for (auto* tarjeta : armado_) tarjeta->setVisible(!postesado);
   for (auto* tarjeta : postesado_) tarjeta->setVisible(postesado);
-  RefrescaFigura(*ptPostesado_, p.figuraTubo);
-  ptPostesado_->parentWidget()->setVisible(!p.figuraTubo.empty());
-  RefrescaFigura(*ptColocacion_, p.figuraColocacion);
+  Dibuja(c);
+}
+
+// From the data as they are, with nothing calculated: at once, and even where no run is possible.
+void PaginasCaptura::Dibuja(const Captura& c) {
+  auto datos = DatosDeCalculo(c.e.obra, c.e.tramo, {}, true);
+  // What stands in a refused field makes no pipe, though the value before it is still kept.
+  const auto rechazado = [&c](Ed campo) { return !c[campo].falta.empty(); };
+  if (rechazado(Ed::edDi0) || rechazado(Ed::edEsp0)) datos.tramo.Di = 0;
+  if (rechazado(Ed::edB0)) datos.tramo.B0 = 0;
+  Dibujado nuevo{std::move(datos.tramo), MayorAltura(c.e.obra, c.e.tramo), c.EsSI(),
+                 c.SeparadorDecimal, c.textos.IdiomaOffset()};
+  if (dibujado_ == nuevo) return;
+  const PalabrasDibujo w(c.textos, {nuevo.si, nuevo.separador});
+  ptPostesado_->PonDibujo([t = nuevo.tramo, w](const HojaDibujo& hoja) {
+    return LaminaConEjes{DibujaTubo(t, w, hoja), {}};
+  });
+  ptColocacion_->PonDibujo([t = nuevo.tramo, Hr = nuevo.Hr, w](const HojaDibujo& hoja) {
+    return LaminaConEjes{DibujaColocacion(t, Hr, w, hoja), {}};
+  });
+  dibujado_ = std::move(nuevo);
 }
 
 // The keyboard goes as the fields are placed.
@@ -171,17 +194,19 @@ Tarjeta* PaginasCaptura::CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incr
   return tarjeta;
 }
 
-Tarjeta* PaginasCaptura::CreaFigura(Figura*& figura, const char* nombre) {
-  auto* tarjeta = CreaTarjeta(txt::GrFigura);
-  figura = new Figura;
-  figura->setObjectName(QLatin1String(nombre));
-  figura->setFixedHeight(kAltoFigura);
-  auto* suya = figura;
-  rotulados_.push_back({[suya](const QString& t) { suya->setAccessibleName(t); }, txt::GrFigura});
-  rotulados_.push_back({[suya](const QString& t) { suya->setToolTip(t); }, txt::VerEnGrande});
-  connect(suya, &Figura::dobleClic, this,
-          [this, suya] { emit figuraPedida(suya->ruta(), suya->accessibleName()); });
-  tarjeta->cuerpo().addWidget(suya);
+Tarjeta* PaginasCaptura::CreaDibujo(DibujoDatos*& dibujo, const char* nombre, int titulo) {
+  auto* tarjeta = CreaTarjeta(titulo);
+  dibujo = new DibujoDatos(entorno_);
+  dibujo->setObjectName(QLatin1String(nombre));
+  dibujo->setFixedHeight(kAltoDibujo);
+  auto* suyo = dibujo;
+  suyo->PonCuenta(
+      [this](const LaminaConEjes&, Xy) { return Q(entorno_.textos.Texto(txt::VerEnGrande)); });
+  rotulados_.push_back({[suyo](const QString& t) { suyo->setAccessibleName(t); }, titulo});
+  connect(suyo, &DibujoDatos::dobleClic, this, [this, suyo] {
+    (new frDibujo(entorno_, *suyo, suyo->accessibleName(), suyo->window()))->show();
+  });
+  tarjeta->cuerpo().addWidget(suyo);
   return tarjeta;
 }
 
@@ -242,11 +267,11 @@ QWidget* PaginasCaptura::CreaPaginaTramo() {
   tarjetas->addWidget(CreaCabezaTramo());
   tarjetas->addWidget(CreaFicha(txt::PagDimensiones, {Ed::edDi0, Ed::edEsp0, Ed::edDe0, Ed::edReci0,
                                                       Ed::edRece0, Ed::edGc0, Ed::edTipoCuna0}));
+  tarjetas->addWidget(CreaDibujo(ptPostesado_, "ptPostesado", txt::DibTituloSeccion));
   tarjetas->addWidget(CreaPresiones(Ed::edPrsM1Tram, Ed::edPrs1Tram, Ed::edPrsM2Tram,
                                     Ed::edPrs2Tram, Ed::edPrs3Tram));
   CreaTarjetasArmado(*tarjetas);
   CreaTarjetasPostesado(*tarjetas);
-  tarjetas->addWidget(CreaFigura(ptPostesado_, "ptPostesado"));
   return EnPagina(pagina);
 }
 
@@ -266,7 +291,7 @@ QWidget* PaginasCaptura::CreaPaginaColocacion() {
   cabeza->cuerpo().addLayout(fila);
   tarjetas->addWidget(cabeza);
   tarjetas->addWidget(CreaFicha(txt::TarjetaColocacion, {Ed::rdTipoColocacion}));
-  tarjetas->addWidget(CreaFigura(ptColocacion_, "ptColocacion"));
+  tarjetas->addWidget(CreaDibujo(ptColocacion_, "ptColocacion", txt::DibTituloZanja));
   tarjetas->addWidget(CreaFicha(txt::EtAlturas, {Ed::edHr0, Ed::edHr0Final, Ed::edHr0Delta}));
   tarjetas->addWidget(CreaFicha(txt::PagRelleno, {Ed::edTipoApoyo0, Ed::edB0, Ed::edGr0, Ed::edFi0,
                                                   Ed::edTipoRelleno0, Ed::edHr1, Ed::edIAs}));

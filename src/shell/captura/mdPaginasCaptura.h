@@ -4,17 +4,19 @@
 #include <QObject>
 #include <array>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "sesion/captura/mdCaptura.h"
 #include "shell/captura/mdCampoPantalla.h"
+#include "shell/piezas/mdEntorno.h"
 
 class QGridLayout;
 class QLabel;
 
 namespace zorbin {
 
-class Figura;
+class DibujoDatos;
 class LayoutTarjetas;
 class Tarjeta;
 
@@ -30,7 +32,7 @@ class PaginasCaptura : public QObject {
  public:
   using Campos = std::array<CampoPantalla*, kCamposCaptura>;
 
-  explicit PaginasCaptura(const Campos& campos, QObject* padre = nullptr);
+  PaginasCaptura(const Campos& campos, const Entorno& entorno, QObject* padre = nullptr);
 
   QWidget* obra() const { return obra_; }
   QWidget* tramo() const { return tramo_; }
@@ -43,10 +45,6 @@ class PaginasCaptura : public QObject {
   /// Whatever of the pages is no field, as the model says.
   void Refresca(const Captura& c);
 
- signals:
-  /// A picture is to be seen large.
-  void figuraPedida(const QString& fichero, const QString& titulo);
-
  private:
   // Captions over columns of fields come from the fields.
   struct Cabecera {
@@ -54,7 +52,19 @@ class PaginasCaptura : public QObject {
     Ed campo;
   };
 
+  // What the drawings show.
+  struct Dibujado {
+    Tramo tramo;    // in calculation units
+    double Hr = 0;  // [m]
+    bool si = true;
+    char separador = ',';
+    int idioma = 0;
+
+    bool operator==(const Dibujado&) const = default;
+  };
+
   const Campos& campos_;
+  const Entorno& entorno_;
   std::vector<Rotulado> rotulados_;
   std::vector<Cabecera> cabeceras_;
   std::vector<Ed> orden_;
@@ -63,8 +73,9 @@ class PaginasCaptura : public QObject {
   QWidget* colocacion_ = nullptr;
   std::vector<Tarjeta*> armado_;     // seen for a reinforced pipe
   std::vector<Tarjeta*> postesado_;  // for a post-tensioned one
-  Figura* ptPostesado_ = nullptr;
-  Figura* ptColocacion_ = nullptr;
+  DibujoDatos* ptPostesado_ = nullptr;
+  DibujoDatos* ptColocacion_ = nullptr;
+  std::optional<Dibujado> dibujado_;
   Tarjeta* alturas_ = nullptr;
 
   CampoPantalla& campo(Ed id) const { return *campos_[static_cast<std::size_t>(id)]; }
@@ -78,7 +89,8 @@ class PaginasCaptura : public QObject {
   Tarjeta* CreaTarjeta(int texto);
   Tarjeta* CreaFicha(int texto, std::initializer_list<Ed> campos);
   Tarjeta* CreaPresiones(Ed mdp1, Ed dp1, Ed mdp2, Ed dp2, Ed incremento);
-  Tarjeta* CreaFigura(Figura*& figura, const char* nombre);
+  Tarjeta* CreaDibujo(DibujoDatos*& dibujo, const char* nombre, int titulo);
+  void Dibuja(const Captura& c);
   void PonFila(QGridLayout& rejilla, int fila, Ed id);
   void PonCabecera(QGridLayout& rejilla, int columna, Ed campo);
 };

@@ -16,9 +16,9 @@
 #include "listados/dibujos/mdDibujoTubo.h"
 #include "listados/dibujos/mdDibujoZanja.h"
 #include "listados/dibujos/mdGraficosTramo.h"
+#include "shell/dibujos/mdVistaLamina.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
-#include "shell/resultados/mdVistaLamina.h"
 
 namespace zorbin {
 

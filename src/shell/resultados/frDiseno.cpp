@@ -17,9 +17,9 @@
 #include "listados/dibujos/mdDibujoTubo.h"
 #include "listados/dibujos/mdGraficosTramo.h"
 #include "listados/obra/mdRotulos.h"
+#include "shell/dibujos/mdVistaLamina.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
-#include "shell/resultados/mdVistaLamina.h"
 
 namespace zorbin {
 

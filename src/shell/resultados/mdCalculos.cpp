@@ -5,6 +5,7 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "listados/obra/mdVeredictoCaso.h"
 #include "sesion/trabajo/mdResumenPorBloques.h"
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/piezas/mdDialogos.h"
@@ -61,8 +62,16 @@ std::string Reparo(const Calculo& calculo) {
   return reparo;
 }
 
-void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
-                     const QString& nombre) {
+// Of a run that was given up, the Tramos have no verdict.
+void DiVeredictos(const Calculo& calculo, const AlVerificar& alVerificar) {
+  if (!alVerificar || calculo.fin == FinTrabajo::Cancelado) return;
+  for (std::size_t i = 0; i < calculo.tramos.size(); ++i) {
+    alVerificar(calculo.ids[i], CuentaDeVeredictos(calculo.tramos[i]).veredicto);
+  }
+}
+
+void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo, const QString& nombre,
+                     const AlVerificar& alVerificar) {
   Calculo calculo;
   HazFaena(padre, entorno.textos, txt::CalculoEnCurso, [&](MarchaFaena& marcha) {
     calculo = CalculaEncargo(std::move(encargo), [&](const Avance& avance) {
@@ -70,6 +79,7 @@ void CalculaYMuestra(const Entorno& entorno, QWidget* padre, Encargo encargo,
       return marcha.Sigue();
     });
   });
+  DiVeredictos(calculo, alVerificar);
   MuestraFallos(entorno, padre, calculo);
   const auto lista = [&calculo](TipoListado tipo, DestinoHojas& hojas) {
     EscribeListado(calculo, tipo, hojas, Ahora());
@@ -90,18 +100,20 @@ std::string NombreObra(const Captura& c) {
 
 }  // namespace
 
-void CalculaElTramo(Captura& c, const Entorno& entorno, QWidget* padre) {
+void CalculaElTramo(Captura& c, const Entorno& entorno, QWidget* padre,
+                    const AlVerificar& alVerificar) {
   auto encargo = EncargaTramo(c);
   if (!encargo) return;
   const auto nombre = entorno.textos.Compone(txt::NombreDelTramo,
                                              {NombreObra(c), TextoEntero(c.e.tramo.NumeroTramo)});
-  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(nombre));
+  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(nombre), alVerificar);
 }
 
-void ImprimeLaObra(Captura& c, const Entorno& entorno, QWidget* padre) {
+void ImprimeLaObra(Captura& c, const Entorno& entorno, QWidget* padre,
+                   const AlVerificar& alVerificar) {
   auto encargo = EncargaObra(c);
   if (!encargo) return;
-  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(NombreObra(c)));
+  CalculaYMuestra(entorno, padre, std::move(*encargo), Q(NombreObra(c)), alVerificar);
 }
 
 }  // namespace zorbin

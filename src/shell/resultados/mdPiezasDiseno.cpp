@@ -6,7 +6,7 @@
 #include <numeric>
 #include <utility>
 
-#include "shell/resultados/mdVistaLamina.h"
+#include "shell/dibujos/mdVistaLamina.h"
 
 namespace zorbin {
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/mdCarpetas.h"
+#include "base/mdTextos.h"
 #include "comun/comparaFichero.h"
 #include "comun/estadoDeJson.h"
 #include "comun/listado.h"
@@ -38,7 +39,10 @@ class Escena {
     const auto w = Palabras();
     std::vector<Lamina> x{
         hoja.cabecera ? DibujaSeccion(Caso(), w, hoja) : DibujaTransversal(Caso(), w, hoja),
-        DibujaPared(Caso(), w, hoja), DibujaZanja(Caso(), w, hoja),
+        DibujaPared(Caso(), w, hoja),
+        DibujaZanja(Caso(), w, hoja),
+        DibujaTubo(Datos().tramo, w, hoja),
+        DibujaColocacion(Datos().tramo, Fila().Hr, w, hoja),
         DibujaMapa(CalculaMapa(Datos()), Datos(), &Fila(), w, hoja).lamina};
     for (int h = 1; h <= CuentaHipotesis(Datos()); ++h) {
       x.push_back(DibujaAnillo(Caso(), h, w, hoja,
@@ -96,6 +100,76 @@ TEST(Dibujos, NingunTextoPisaOtroNiSeSaleDeLaHoja) {
         for (std::size_t j = 0; j < i; ++j) {
           EXPECT_FALSE(SePisan(rotulos[i], rotulos[j]))
               << e << "," << n << ": " << rotulos[i].texto << " / " << rotulos[j].texto;
+        }
+      }
+    }
+  }
+}
+
+// Of data typed halfway or wrongly: nothing that is not finite, nothing far off the sheet, and a
+// frame without a pipe where they make none.
+TEST(Dibujos, LosDatosRotosDejanElMarcoVacio) {
+  struct Roto {
+    Ajusta pon;
+    bool tubo, colocacion;
+  };
+  const double nada = std::nan(""), sinFin = HUGE_VAL;
+  const std::vector<Roto> rotos{
+      {[](Tramo&) {}, true, true},
+      {[](Tramo& t) { t.Di = 0, t.De = 2 * t.Esp; }, false, false},
+      {[](Tramo& t) { t.Esp = 0, t.De = t.Di; }, false, false},
+      {[](Tramo& t) { t.Esp = -0.1; }, false, false},
+      {[](Tramo& t) { t.De = t.Di / 2; }, false, false},
+      {[nada](Tramo& t) { t.Reci = nada; }, false, false},
+      {[sinFin](Tramo& t) { t.De = sinFin; }, false, false},
+      {[](Tramo& t) { t.Rece = -1; }, false, false},
+      {[](Tramo& t) { t.Reci = t.Rece = 1e9; }, true, true},
+      {[](Tramo& t) { t.Delca = 1e9; }, true, true},
+      {[](Tramo& t) { t.Di = 1e9, t.De = 1.5e9, t.Esp = 2.5e8; }, true, true},
+      {[](Tramo& t) { t.Di = 1e-6, t.De = 3e-6, t.Esp = 1e-6; }, true, true},
+      {[](Tramo& t) { t.B0 = 0; }, true, false},
+      {[nada](Tramo& t) { t.B0 = nada; }, true, false},
+      {[](Tramo& t) { t.B0 = 1e9; }, true, true},
+      {[](Tramo& t) { t.B0 = 1e-9; }, true, true},
+      {[](Tramo& t) { t.TipoApoyo = 21, t.Hr1 = -1e9; }, true, false},
+      {[](Tramo& t) { t.TipoApoyo = 21, t.Hr1 = 1e9; }, true, true},
+      {[](Tramo& t) { t.TipoApoyo = 31, t.B0 = 0, t.Hr1 = 1e9; }, true, true},
+      {[](Tramo& t) { t.TipoCuna = -7, t.ICar = 99; }, true, true},
+  };
+  const auto mira = [](const Lamina& l, bool dibuja, const std::string& cual) {
+    const auto dentro = [&](Xy p, double radio) {
+      const double lejos = 3 * (l.ancho + l.alto);
+      EXPECT_LE(std::max(std::fabs(p.x), std::fabs(p.y)) + radio, lejos) << cual;
+    };
+    bool tubo = false;
+    for (const auto& pieza : l.piezas) {
+      if (const auto* r = std::get_if<Redondo>(&pieza)) {
+        tubo = true;
+        dentro(r->centro, r->radio);
+        EXPECT_LE(r->trazo.grueso, l.alto) << cual;
+      } else if (const auto* f = std::get_if<Forma>(&pieza)) {
+        for (const auto& contorno : f->contornos) {
+          for (const auto& p : contorno) dentro(p, f->trazo.grueso);
+        }
+      }
+    }
+    EXPECT_EQ(tubo, dibuja) << cual;
+    EXPECT_LT(l.piezas.size(), 5000U) << cual;
+  };
+  for (const int posicion : {1, 6}) {
+    const Escena escena(posicion);
+    const auto w = escena.Palabras();
+    for (std::size_t i = 0; i < rotos.size(); ++i) {
+      Tramo t = escena.Datos().tramo;
+      rotos[i].pon(t);
+      const auto cual = TextoEntero(posicion) + "," + TextoEntero(static_cast<int>(i));
+      for (const HojaDibujo& hoja : {HojaDibujo{}, HojaDibujo{90, 85, false, 0}}) {
+        mira(DibujaTubo(t, w, hoja), rotos[i].tubo, cual);
+        for (const double Hr : {0.0, 3.0, 1e9}) {
+          mira(DibujaColocacion(t, Hr, w, hoja), rotos[i].colocacion, cual);
+        }
+        for (const double Hr : {-1.0, nada, sinFin}) {
+          mira(DibujaColocacion(t, Hr, w, hoja), false, cual);
         }
       }
     }

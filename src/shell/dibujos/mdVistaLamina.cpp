@@ -1,4 +1,4 @@
-#include "shell/resultados/mdVistaLamina.h"
+#include "shell/dibujos/mdVistaLamina.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
