@@ -119,7 +119,7 @@ double ValorDe(Columna c, const ResultadoTramo& t, const FilaCaso& f) {
     case Columna::AsExt:
       return t.datos.tramo.EsArmado ? f.AsExt : kNada;
     case Columna::Total:
-      return f.Total;
+      return t.datos.tramo.EsArmado ? f.Total : kNada;
     case Columna::Camisa:
       return f.CAMISA > 0 ? f.CAMISA : kNada;
     case Columna::Interior:

@@ -99,7 +99,6 @@ void DetallaPostesado(EscribeDetalle& d, const CasoDibujado& c) {
   d.Grupo(txt::ResAlambre);
   d.Numero("Ø", r.FIPRDEFI * 10.0, 1, {}, " mm");
   d.Numero(txt::ResEspiras, r.NESPDEFI, 1, {}, " /m");
-  d.Numero(txt::ResTotal, c.fila.Total, 2, {}, " cm²/m");
   const int rige = HipotesisQueRige(c.tramo.datos, c.fila);
   const auto& h = r.hipotesis(rige > 0 ? rige : 1);
   if (!h.hecha) return;
