@@ -43,7 +43,7 @@ struct Sala {
       que(pantalla);
       if (pantalla.isVisible()) pantalla.done(0);
     });
-    AjustaArmaduras(
+    AbreAjustes(
         b.c, entorno,
         [this](int entrada) {
           ++pedidos;

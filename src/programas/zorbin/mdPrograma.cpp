@@ -172,7 +172,7 @@ void Programa::Enlaza() {
   p.imprimeObra = [this, padre, enLaLista] {
     ImprimeLaObra(*captura_, entorno_, padre, enLaLista);
   };
-  p.ajusta = [this, padre] { AjustaArmaduras(*captura_, entorno_, documentos_, padre); };
+  p.ajusta = [this, padre] { AbreAjustes(*captura_, entorno_, documentos_, padre); };
   p.resultados = [this] { MuestraResultados(); };
   p.diseno = [this] { marcoDiseno_->Alterna(); };
   p.seleccionaImpresora = [this, padre] {

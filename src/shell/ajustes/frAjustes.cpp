@@ -52,8 +52,8 @@ QString EnMinusculas(std::string_view texto) {
 
 }  // namespace
 
-void AjustaArmaduras(Captura& c, const Entorno& entorno, const DocumentoAjustes& documentoHtml,
-                     QWidget* padre) {
+void AbreAjustes(Captura& c, const Entorno& entorno, const DocumentoAjustes& documentoHtml,
+                 QWidget* padre) {
   const auto ajustes = AjustaArmaduras(c);
   if (ajustes != nullptr) frAjustes(*ajustes, entorno, documentoHtml, padre).exec();
 }

@@ -33,8 +33,8 @@ class TablaFilas;
 using DocumentoAjustes = std::function<QString(int entrada)>;
 
 /// mnAjustarArmaduras: what has to come before it, the window, and until it closes.
-void AjustaArmaduras(Captura& c, const Entorno& entorno, const DocumentoAjustes& documentoHtml,
-                     QWidget* padre);
+void AbreAjustes(Captura& c, const Entorno& entorno, const DocumentoAjustes& documentoHtml,
+                 QWidget* padre);
 
 class frAjustes : public QDialog {
   Q_OBJECT
