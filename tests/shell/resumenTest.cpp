@@ -456,12 +456,8 @@ TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
     EXPECT_FALSE(pantalla.findChild<QPushButton*>("btPdf")->isEnabled());
     Pulsa(pantalla, "btSalir");
   });
-<<<<<<< ours
-  CalculaElTramo(d.b.c, d.mesa.entorno, nullptr,
-                 [](int, Veredicto) { ADD_FAILURE() << "half a Tramo has no verdict"; });
-=======
-  ImprimeLaObra(d.b.c, d.mesa.entorno, nullptr);
->>>>>>> theirs
+  ImprimeLaObra(d.b.c, d.mesa.entorno, nullptr,
+                [](int, Veredicto) { ADD_FAILURE() << "nobody knows what a cancelled run is"; });
   EXPECT_EQ(persona.veces, 1);
   EXPECT_EQ(lector.veces, 1);
   EXPECT_TRUE(texto.contains("** Cálculo cancelado"));
