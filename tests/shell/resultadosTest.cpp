@@ -150,12 +150,12 @@ TEST_F(Resultados, LaTablaOrdenaFiltraYCopia) {
   EXPECT_EQ(static_cast<std::size_t>(todos), modelo.casos().Cuantos());
   auto* tabla = pantalla->findChild<QTableView*>("tablaCasos");
   const auto& columnas = modelo.vista().columnas;
-  const auto total = std::ranges::find(columnas, Columna::Total) - columnas.begin();
-  tabla->sortByColumn(static_cast<int>(total), Qt::DescendingOrder);
+  const auto uso = std::ranges::find(columnas, Columna::Uso) - columnas.begin();
+  tabla->sortByColumn(static_cast<int>(uso), Qt::DescendingOrder);
   espera();
   for (int i = 1; i < todos; ++i) {
-    EXPECT_GE(modelo.casos().Valor(modelo.Caso(i - 1), Columna::Total),
-              modelo.casos().Valor(modelo.Caso(i), Columna::Total));
+    EXPECT_GE(modelo.casos().Valor(modelo.Caso(i - 1), Columna::Uso),
+              modelo.casos().Valor(modelo.Caso(i), Columna::Uso));
   }
   pantalla->findChild<QCheckBox*>("soloPeores")->setChecked(true);
   espera();
