@@ -18,6 +18,7 @@
 #include "listados/papel/mdHojasTexto.h"
 #include "sesion/captura/guion.h"
 #include "sesion/captura/mdEdicion.h"
+#include "sesion/captura/mdTramos.h"
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/enPantalla.h"
 #include "shell/entornoPrueba.h"
@@ -447,6 +448,12 @@ TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
   d.b.Teclea(Ed::edAlt3, "0,01");
   d.b.Teclea(Ed::edPrs3, "0,01");
   d.b.Teclea(Ed::edTramo, "1");
+  // Long enough for a box on any machine: whoever gives up waits for no more than its patience.
+  for (int veces = 0; veces < 4; ++veces) {
+    std::vector<int> todos;
+    for (const auto& renglon : RenglonesTramos(d.b.c)) todos.push_back(renglon.id);
+    ASSERT_TRUE(DuplicaTramos(d.b.c, todos));
+  }
   EnPantalla<CajaProgreso> persona([](CajaProgreso& c) { Pulsa(c, "btCancelar"); });
   QString texto;
   EnPantalla<frEscribePantalla> lector([&](frEscribePantalla& pantalla) {
