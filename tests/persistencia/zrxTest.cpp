@@ -7,6 +7,7 @@
 #include "base/textos.h"
 #include "comun/carpeta.h"
 #include "persistencia/disco/mdErrorFichero.h"
+#include "persistencia/zrx/mdFabricacionZrx.h"
 
 namespace zorbin {
 namespace {
@@ -45,6 +46,26 @@ TEST(Zrx, LoDesconocidoSeConservaYLoQueNoDiceNadaNoSeEscribe) {
   EXPECT_EQ(TextoDeExtras(ExtrasDeTexto(R"({"tramos":[{"numero":"1"}]})", kNombre)), "");
 }
 
+TEST(Zrx, FabricacionYPreciosVanYVuelvenEntreLasDemasClaves) {
+  const Fabricacion fab{850.5, 7.0, 24.0, 6.0, 0.25};
+  const std::string antes = R"({"nota":"ñ","fabricacion":{"marca":1}})";
+  const auto con = ConFabricacion(antes, fab);
+  EXPECT_EQ(FabricacionDe(con), fab);
+  EXPECT_EQ(Json::parse(con)["nota"], "ñ");
+  EXPECT_EQ(Json::parse(con)["fabricacion"]["marca"], 1);
+  EXPECT_EQ(Json::parse(ConFabricacion(con, {})), Json::parse(antes));
+  EXPECT_EQ(ConFabricacion("", {}), "");
+
+  Precios precios;
+  precios.moneda = "CHF";
+  precios.precio[Partida::Relleno] = 4.25;
+  EXPECT_EQ(PreciosDe(ConPrecios("", precios)), precios);
+  EXPECT_EQ(ConPrecios(ConPrecios("", precios), {}), "");
+  EXPECT_EQ(PreciosDeTexto(R"({"moneda":"CHF","relleno":4.25})"), precios);
+  EXPECT_THROW(PreciosDeTexto(R"({"rellleno":4.25})"), ClaveMala);
+  EXPECT_THROW(PreciosDeTexto("[]"), ClaveMala);
+}
+
 TEST(Zrx, UnaVersionPosteriorSeLeeYQuedaComoEsta) {
   const std::string texto =
       R"({"version":2,"tramos":[{"numero":"1","descripcion":"","envolvente":true}],"a":1})";
@@ -81,6 +102,12 @@ TEST(Zrx, LoQueNoSeEntiendeSeNombra) {
            {hondo(kMaxNivelesZrx + 1), txt::ZrxExcesivo, ""},
            {hondo(500'000), txt::ZrxExcesivo, ""},
            {claves, txt::ZrxExcesivo, ""},
+           {R"({"precios":{"chapa":-1}})", txt::ZrxClaveMala, "precios.chapa"},
+           {R"({"precios":3})", txt::ZrxClaveMala, "precios"},
+           {R"({"tramos":[{"fabricacion":{"tubo":0}}]})", txt::ZrxClaveMala,
+            "tramos[0].fabricacion.tubo"},
+           {R"({"tramos":[{"fabricacion":{"longitudinales":{"diametro":"8"}}}]})",
+            txt::ZrxClaveMala, "tramos[0].fabricacion.longitudinales.diametro"},
            {"{}" + std::string(kMaxBytesZrx, ' '), txt::ZrxExcesivo, ""}}) {
     try {
       ExtrasDeTexto(c.texto, kNombre);

@@ -9,6 +9,7 @@
 #include "base/textos.h"
 #include "persistencia/disco/mdConjunto.h"
 #include "persistencia/disco/mdErrorFichero.h"
+#include "persistencia/zrx/mdFabricacionZrx.h"
 
 namespace zorbin {
 
@@ -75,6 +76,22 @@ ExtrasTramo EntradaDe(Json entrada, const std::string& donde) {
   return x;
 }
 
+// Sections have readers of their own, which ask nobody when they are needed.
+void CompruebaSecciones(const Extras& extras) {
+  try {
+    PreciosDe(extras.otras);
+  } catch (const ClaveMala& mala) {
+    throw Ilegible{txt::ZrxClaveMala, mala.donde};
+  }
+  for (std::size_t i = 0; i < extras.tramos.size(); ++i) {
+    try {
+      FabricacionDe(extras.tramos[i].otras);
+    } catch (const ClaveMala& mala) {
+      throw Ilegible{txt::ZrxClaveMala, "tramos[" + std::to_string(i) + "]." + mala.donde};
+    }
+  }
+}
+
 Extras ExtrasDe(Json j, std::string_view texto) {
   if (!j.is_object()) throw Ilegible{txt::ZrxSinJson, "1"};
   std::int64_t version = kVersion;
@@ -91,7 +108,11 @@ Extras ExtrasDe(Json j, std::string_view texto) {
     extras.tramos.push_back(EntradaDe(std::move(entradas[i]), "tramos[" + std::to_string(i) + "]"));
   }
   if (!j.empty()) extras.otras = Texto(j);
-  if (version > kVersion) extras.ajeno = texto;
+  if (version > kVersion) {
+    extras.ajeno = texto;
+  } else {
+    CompruebaSecciones(extras);
+  }
   return extras;
 }
 
