@@ -97,7 +97,7 @@ TEST_F(Linea, DibujaEnCadaFormaYDiceLoQueFalta) {
   }
   for (const auto& [palabras, queja] : std::vector<Caso>{
            {"--tramo 9 --que seccion --svg " + f, "el Tramo 9 no está en"},
-           {"--tramo 1 --que seccion", "falta: --svg, --pdf, --png"},
+           {"--tramo 1 --que seccion", "falta: --svg, --pdf, --png, --dxf"},
            {"--tramo 1 --que seccion --altura 3 --svg " + f, "--altura necesita --presion"},
            {"--tramo 1 --que anillo --hipotesis 6 --svg " + f, "no tiene hipótesis 6; tiene 5"},
            {"--tramo 1 --que grafico --grafico tensiones --svg " + f, "Tramo postesado"},

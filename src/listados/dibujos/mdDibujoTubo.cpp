@@ -31,12 +31,13 @@ ParedDibujada ParedArmada(const CasoDibujado& c) {
   ParedDibujada p{t.Esp * kMm, 0.0, t.Reci * kMm, t.Rece * kMm, {}};
   if (f.ErrorPostesado == 1) return p;  // the wall is too thin: there is no steel
   const double chapa = f.ajustado ? c.caso.Armado().ajuste->Camisa / 10.0 : f.CAMISA;
-  if (chapa > 0) p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa});
+  if (chapa > 0) p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa, Capa::Chapa});
   if (f.ajustado) return p;  // its bars are nobody's choice
   // With a sheet the spirals lie against it, on the side of the middle of the wall.
   const double dentro = chapa > 0 ? p.Reci + (chapa + f.FIIN) / 2.0 : p.Reci;
-  if (f.NESPIN > 0) p.acero.push_back({dentro, f.FIIN, f.NESPIN, Tinta::Barra});
-  if (f.NEXPEX > 0) p.acero.push_back({p.espesor - p.Rece, f.FIEX, f.NEXPEX, Tinta::Barra});
+  if (f.NESPIN > 0) p.acero.push_back({dentro, f.FIIN, f.NESPIN, Tinta::Barra, Capa::Interior});
+  if (f.NEXPEX > 0)
+    p.acero.push_back({p.espesor - p.Rece, f.FIEX, f.NEXPEX, Tinta::Barra, Capa::Exterior});
   return p;
 }
 
@@ -45,7 +46,7 @@ ParedDibujada ParedPostesada(const CasoDibujado& c) {
   auto p = ParedSinDisenar(c.Datos());
   if (r.FIPRDEFI > 0) {
     const double fi = r.FIPRDEFI * 10.0;
-    p.acero.push_back({p.nucleo + fi / 2.0, fi, r.NESPDEFI, Tinta::Alambre});
+    p.acero.push_back({p.nucleo + fi / 2.0, fi, r.NESPDEFI, Tinta::Alambre, Capa::Alambre});
   }
   return p;
 }
@@ -74,12 +75,20 @@ class Corte {
   void Pinta(const PalabrasDibujo& w) {
     plano_.En(Capa::Hormigon);
     Banda(0.0, pared_.espesor, {Tinta::Hormigon, 0.55});
-    if (pared_.nucleo > 0) Banda(pared_.nucleo, pared_.espesor, {Tinta::Revestimiento, 0.8});
+    if (pared_.nucleo > 0) {
+      plano_.En(Capa::Revestimiento);
+      Banda(pared_.nucleo, pared_.espesor, {Tinta::Revestimiento, 0.8});
+      plano_.En(Capa::Hormigon);
+    }
     plano_.Rayado({Rectangulo(Caja(0.0, pared_.espesor))}, Trama::Hormigon, Tinta::Tenue, 4.0);
     plano_.Area(Rectangulo(Caja(0.0, pared_.espesor)), {}, {Tinta::Tinta, kGrueso});
     if (pared_.nucleo > 0) Raya(pared_.nucleo, {Tinta::Tinta, kFino});
-    plano_.En(Capa::Armadura);
-    for (const auto& a : pared_.acero) a.porMetro > 0 ? Barras(a) : Chapa(a);
+    for (const auto& a : pared_.acero) {
+      plano_.En(a.capa);
+      plano_.Macizo(a.grueso);
+      a.porMetro > 0 ? Barras(a) : Chapa(a);
+    }
+    plano_.Macizo(0.0);
     Cotas(w);
   }
 
@@ -275,12 +284,14 @@ Lamina LaminaSeccion(const Tramo& t, const ParedDibujada& pared,
   const double alto = std::min(resto.alto - pies, m.ancho / 3);
   const double arriba = resto.y + (resto.alto - pies - alto) / 2;
   Corte corte(plano, pared, {resto.x, arriba, resto.ancho, alto});
+  plano.EnDetalle(corte.Escala());
   corte.Pinta(w);
   plano.En(Capa::Textos);
   const auto pie =
       w.Con(txt::DibPared, {w.Metros(corte.Largo() / kMm), w.Corto(corte.Escala(), 2)});
   plano.Texto({corte.CentroX(), corte.Abajo() + 7.0}, Recortado(pie, resto.ancho, kLetra),
               AnclaX::Centro, AnclaY::Base, kLetra, Tinta::Tenue);
+  plano.EnPrincipal();
   PintaLeyenda(plano, {resto.x + 8.0, corte.Abajo() + 17.0}, leyenda);
   return lamina;
 }
@@ -299,7 +310,7 @@ ParedDibujada ParedSinDisenar(const Tramo& t) {
   p.nucleo = std::max(0.0, p.espesor - p.Rece);
   const double chapa = t.Delca * 10.0;
   if (chapa > 0 && chapa < p.espesor && p.Reci < p.espesor) {
-    p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa});
+    p.acero.push_back({p.Reci, chapa, 0.0, Tinta::Chapa, Capa::Chapa});
   }
   return p;
 }
@@ -331,7 +342,7 @@ void PintaCuna(Plano& plano, const Vista& v, const Tramo& t, double semiZanja) {
   for (const auto& p : {v.P(-semi, y), v.P(-semi, fondo), v.P(semi, fondo), v.P(semi, y)}) {
     contorno.push_back(p);
   }
-  plano.En(cuna.hormigon ? Capa::Hormigon : Capa::Terreno);
+  plano.En(Capa::Cuna);
   plano.Area(contorno, {cuna.hormigon ? Tinta::Revestimiento : Tinta::Relleno, 0.45});
   plano.Rayado({contorno}, cuna.hormigon ? Trama::Hormigon : Trama::Grava, Tinta::Tenue, 2.6);
   plano.Area(contorno, {}, {Tinta::Tinta, kMedio});
@@ -342,15 +353,18 @@ void PintaTubo(Plano& plano, const Vista& v, const Tramo& t, const ParedDibujada
   plano.En(Capa::Hormigon);
   plano.Corona(v.origen, v.L(Re), v.L(Ri), {Tinta::Hormigon, 0.6});
   if (pared.nucleo > 0) {
+    plano.En(Capa::Revestimiento);
     plano.Corona(v.origen, v.L(Re), v.L(Ri + pared.nucleo), {Tinta::Revestimiento, 0.8});
   }
   plano.En(Capa::Agua);
   plano.Circulo(v.origen, v.L(Ri), {Tinta::Agua, 0.22});
-  plano.En(Capa::Armadura);
   for (const auto& a : pared.acero) {
+    plano.En(a.capa);
+    plano.Macizo(a.grueso);
     plano.Circulo(v.origen, v.L(Ri + a.distancia), {},
                   {a.tinta, std::max(kMinimoAcero, v.L(a.grueso))});
   }
+  plano.Macizo(0.0);
   plano.En(Capa::Hormigon);
   plano.Circulo(v.origen, v.L(Re), {}, {Tinta::Tinta, kGrueso});
   plano.Circulo(v.origen, v.L(Ri), {}, {Tinta::Tinta, kGrueso});

@@ -30,6 +30,7 @@ struct CapaAcero {
   double grueso = 0;     // diameter, or thickness of a sheet
   double porMetro = 0;   // bars, 0 for a sheet
   Tinta tinta = Tinta::Barra;
+  Capa capa = Capa::Interior;
 };
 
 /// Layers of concrete and steel of a wall [mm].

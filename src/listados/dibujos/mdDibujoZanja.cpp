@@ -130,7 +130,7 @@ class DibujoColocacion {
   }
 
   void Relleno() {
-    plano_.En(Capa::Terreno);
+    plano_.En(Capa::Relleno);
     const Mancha fondo{Tinta::Relleno, 0.22};
     const auto excavacion = Excavacion();
     plano_.Area(excavacion, fondo);

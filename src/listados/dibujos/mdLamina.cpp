@@ -57,8 +57,9 @@ bool Toca(const Letrero&, Xy, double) {
 }  // namespace
 
 const char* NombreCapa(Capa capa) {
-  constexpr std::array<const char*, kCapas> kNombres{"TERRENO", "AGUA",  "HORMIGON", "ARMADURA",
-                                                     "EJES",    "DATOS", "COTAS",    "TEXTOS"};
+  constexpr std::array<const char*, kCapas> kNombres{
+      "TERRENO",  "RELLENO", "CUNA", "AGUA",   "HORMIGON", "REVESTIMIENTO", "CHAPA", "INTERIOR",
+      "EXTERIOR", "ALAMBRE", "EJES", "TRAMAS", "DATOS",    "COTAS",         "TEXTOS"};
   return kNombres[static_cast<std::size_t>(capa)];
 }
 

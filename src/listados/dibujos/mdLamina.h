@@ -57,8 +57,24 @@ constexpr Tinta Serie(int i) {
   return static_cast<Tinta>(static_cast<int>(Tinta::Serie1) + i % kSeries);
 }
 
-/// Layers, which a drawing program shows and hides.
-enum class Capa : std::uint8_t { Terreno, Agua, Hormigon, Armadura, Ejes, Datos, Cotas, Textos };
+/// Layers, which a drawing program shows and hides: the parts of the work, and what tells of them.
+enum class Capa : std::uint8_t {
+  Terreno,
+  Relleno,
+  Cuna,
+  Agua,
+  Hormigon,
+  Revestimiento,
+  Chapa,
+  Interior,  // bars
+  Exterior,
+  Alambre,
+  Ejes,
+  Tramas,
+  Datos,
+  Cotas,
+  Textos,
+};
 inline constexpr int kCapas = static_cast<int>(Capa::Textos) + 1;
 const char* NombreCapa(Capa capa);
 
@@ -75,6 +91,9 @@ struct Mancha {
   double fuerza = 0;  // 0: no filling, 1: the whole colour, between them mixed with the paper
 };
 
+/// View of a sheet that has the scale of the sheet; the others are its details.
+inline constexpr int kVistaPrincipal = 0;
+
 /// Nothing to point at.
 inline constexpr int kSinId = -1;
 
@@ -82,7 +101,9 @@ struct AspectoPieza {
   Trazo trazo;
   Mancha mancha;
   Capa capa = Capa::Datos;
-  int id = kSinId;  // what whoever points at it is told
+  int id = kSinId;    // what whoever points at it is told
+  double macizo = 0;  // true thickness of what stands on the paper as a line or a dot [mm]
+  int vista = kVistaPrincipal;  // 1, 2...: a detail
 };
 
 /// Lines through points; closed ones are filled by the even-odd rule.
@@ -115,9 +136,10 @@ struct Letrero : AspectoPieza {
 using Pieza = std::variant<Forma, Redondo, Letrero>;
 
 struct Lamina {
-  double ancho = 0, alto = 0;  // [mm]
-  double escala = 0;           // 1:escala of its main view, 0 without one
-  std::vector<Pieza> piezas;   // the later ones over the earlier ones
+  double ancho = 0, alto = 0;    // [mm]
+  double escala = 0;             // 1:escala of its main view, 0 without one
+  std::vector<double> detalles;  // 1:escala of each other view
+  std::vector<Pieza> piezas;     // the later ones over the earlier ones
 };
 
 /// Identifier of the topmost thing at a place of the sheet, within `margen` [mm] of its line or

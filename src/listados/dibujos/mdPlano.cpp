@@ -158,6 +158,11 @@ Puntos Arco(Xy centro, double radio, double desde, double hasta) {
   return p;
 }
 
+void Plano::EnDetalle(double escala) {
+  lamina_.detalles.push_back(escala);
+  vista_ = static_cast<int>(lamina_.detalles.size());
+}
+
 void Plano::Quebrada(Puntos puntos, Trazo trazo) {
   Quebradas({std::move(puntos)}, trazo);
 }
@@ -185,13 +190,16 @@ void Plano::Corona(Xy centro, double radio, double hueco, Mancha mancha, Trazo t
 
 void Plano::Rayado(const std::vector<Puntos>& contornos, Trama trama, Tinta tinta, double paso) {
   const double grueso = trama == Trama::Puntos ? 0.3 : kFino;
+  const Capa antes = capa_;
+  En(Capa::Tramas);
   Quebradas(LineasDe(contornos, trama, paso), {tinta, grueso});
+  En(antes);
 }
 
 Letrero Plano::RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const {
   Letrero r;
   static_cast<AspectoPieza&>(r) = {
-      {tinta, 0.0}, {}, capa_ == Capa::Cotas ? Capa::Cotas : Capa::Textos};
+      {tinta, 0.0}, {}, capa_ == Capa::Cotas ? Capa::Cotas : Capa::Textos, kSinId, 0.0, vista_};
   r.sitio = sitio;
   r.texto = std::move(texto);
   r.alto = alto;

@@ -56,6 +56,11 @@ class Plano {
   Capa capa() const { return capa_; }
   /// Identifier of what is drawn from here on.
   void Id(int id) { id_ = id; }
+  /// True thickness of what is drawn as a line or a dot from here on [mm]; 0 for what has none.
+  void Macizo(double mm) { macizo_ = mm; }
+  /// What is drawn from here on is a detail of its own scale, until EnPrincipal.
+  void EnDetalle(double escala);
+  void EnPrincipal() { vista_ = kVistaPrincipal; }
 
   void Linea(Xy a, Xy b, Trazo trazo) { Quebrada({a, b}, trazo); }
   void Quebrada(Puntos puntos, Trazo trazo);
@@ -91,8 +96,12 @@ class Plano {
   Lamina& lamina_;
   Capa capa_ = Capa::Datos;
   int id_ = kSinId;
+  double macizo_ = 0;
+  int vista_ = kVistaPrincipal;
 
-  AspectoPieza Como(Mancha mancha, Trazo trazo) const { return {trazo, mancha, capa_, id_}; }
+  AspectoPieza Como(Mancha mancha, Trazo trazo) const {
+    return {trazo, mancha, capa_, id_, macizo_, vista_};
+  }
   Letrero RotuloDe(Xy sitio, std::string texto, double alto, Tinta tinta) const;
   void Tope(Xy p);
 };

@@ -165,6 +165,7 @@ class Ordenes {
     Opcion(dibuja_, "--svg", o.svg, txt::AyudaSvg, T(txt::PalabraFichero));
     Opcion(dibuja_, "--pdf", o.pdf, txt::AyudaPdfDibujo, T(txt::PalabraFichero));
     Opcion(dibuja_, "--png", o.png, txt::AyudaPng, T(txt::PalabraFichero));
+    Opcion(dibuja_, "--dxf", o.dxf, txt::AyudaDxf, T(txt::PalabraFichero));
     Opcion(dibuja_, "--escala", o.escala, txt::AyudaEscalaDibujo, "N");
     Eleccion(dibuja_, "--tema", o.tema, txt::AyudaTema, {"papel", "claro", "oscuro"});
     Eleccion(dibuja_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});

@@ -10,6 +10,7 @@
 #include "listados/dibujos/mdDibujoMapa.h"
 #include "listados/dibujos/mdDibujoTubo.h"
 #include "listados/dibujos/mdDibujoZanja.h"
+#include "listados/dibujos/mdDxf.h"
 #include "listados/dibujos/mdGraficosTramo.h"
 #include "listados/dibujos/mdSvg.h"
 #include "listados/obra/mdVeredictoCaso.h"
@@ -52,8 +53,8 @@ std::optional<double> Positivo(const std::string& texto, const OpcionesDibuja& o
 
 // What is wrong with options that do not go together, or nothing.
 std::string NoVanJuntas(const OpcionesDibuja& o, const Catalogo& textos) {
-  const std::array<std::pair<const char*, const std::filesystem::path&>, 3> salidas{
-      {{"--svg", o.svg}, {"--pdf", o.pdf}, {"--png", o.png}}};
+  const std::array<std::pair<const char*, const std::filesystem::path&>, 4> salidas{
+      {{"--svg", o.svg}, {"--pdf", o.pdf}, {"--png", o.png}, {"--dxf", o.dxf}}};
   const char* una = nullptr;
   for (const auto& [nombre, fichero] : salidas) {
     if (fichero.empty()) continue;
@@ -64,7 +65,7 @@ std::string NoVanJuntas(const OpcionesDibuja& o, const Catalogo& textos) {
       return textos.Compone(txt::SalidaSobreLaObra, {fichero.string()});
     }
   }
-  if (una == nullptr) return textos.Compone(txt::FaltaPalabra, {"--svg, --pdf, --png"});
+  if (una == nullptr) return textos.Compone(txt::FaltaPalabra, {"--svg, --pdf, --png, --dxf"});
   if (o.tramos.empty()) return textos.Compone(txt::FaltaPalabra, {"--tramo"});
   if (o.altura.has_value() != o.presion.has_value()) {
     return textos.Compone(txt::NecesitaOtra, {o.altura ? "--altura" : "--presion",
@@ -198,9 +199,9 @@ class Dibujante {
 
 void Escribe(const OpcionesDibuja& o, const Lamina& lamina, const std::string& titulo) {
   const Paleta paleta(TemaDe(o.tema));
-  if (!o.svg.empty()) {
-    Salida salida(o.svg);
-    salida.flujo() << SvgDe(lamina, paleta, titulo);
+  if (!o.svg.empty() || !o.dxf.empty()) {
+    Salida salida(o.svg.empty() ? o.dxf : o.svg);
+    salida.flujo() << (o.svg.empty() ? DxfDe(lamina, titulo) : SvgDe(lamina, paleta, titulo));
     salida.Cierra();
     return;
   }

@@ -1,4 +1,4 @@
-// The order "dibuja": one drawing of a Tramo as SVG, PDF or PNG.
+// The order "dibuja": one drawing of a Tramo as SVG, PDF, PNG or DXF.
 #pragma once
 
 #include <filesystem>
@@ -19,7 +19,7 @@ struct OpcionesDibuja {
   std::string que;                      // "seccion", "zanja", "anillo", "mapa" or "grafico"
   std::string grafico;                  // "acero", which is also the empty one, "interior"...
   std::string eje;                      // "presion", which is also the empty one, or "altura"
-  std::filesystem::path svg, pdf, png;  // one of them
+  std::filesystem::path svg, pdf, png, dxf;  // one of them
   std::optional<std::string> escala;    // 1:escala
   std::string tema;                     // "papel", which is also the empty one, "claro", "oscuro"
   std::string idioma;                   // "es", "en"... or empty for the Obra's

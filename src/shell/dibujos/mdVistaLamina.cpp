@@ -15,6 +15,7 @@
 #include <filesystem>
 
 #include "base/textos.h"
+#include "listados/dibujos/mdDxf.h"
 #include "listados/dibujos/mdSvg.h"
 #include "listados/pintor/mdPintaLamina.h"
 #include "persistencia/disco/mdFicheroSalida.h"
@@ -178,7 +179,7 @@ void VistaLamina::contextMenuEvent(QContextMenuEvent* suceso) {
   if (!dibuja_) return;
   QMenu menu(this);
   menu.addAction(Q(entorno_.textos.Texto(txt::ResCopiarImagen)), this, &VistaLamina::Copia);
-  for (const auto* extension : {"png", "svg", "pdf"}) {
+  for (const auto* extension : {"png", "svg", "pdf", "dxf"}) {
     const QString e = QString::fromLatin1(extension);
     menu.addAction(Q(entorno_.textos.Compone(txt::ResGuardarDibujo, {S(e.toUpper())})), this,
                    [this, e] { Guarda(e); });
@@ -205,8 +206,9 @@ void VistaLamina::Guarda(const QString& extension) {
       return EscribeLaminaPdf(fichero, lamina, papel, S(nombre_));
     }
     FicheroSalida salida(fichero);
-    salida.Escribe(extension == QStringLiteral("svg") ? SvgDe(lamina, papel, S(nombre_))
-                                                      : LaminaPng(lamina, papel));
+    salida.Escribe(extension == QStringLiteral("svg")   ? SvgDe(lamina, papel, S(nombre_))
+                   : extension == QStringLiteral("dxf") ? DxfDe(lamina, S(nombre_))
+                                                        : LaminaPng(lamina, papel));
     salida.Termina();
   });
 }

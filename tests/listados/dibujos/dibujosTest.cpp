@@ -11,6 +11,7 @@
 #include "listados/dibujos/mdDibujoMapa.h"
 #include "listados/dibujos/mdDibujoTubo.h"
 #include "listados/dibujos/mdDibujoZanja.h"
+#include "listados/dibujos/mdDxf.h"
 #include "listados/dibujos/mdGraficosTramo.h"
 #include "listados/dibujos/mdSvg.h"
 
@@ -203,7 +204,7 @@ TEST(Dibujos, LaSeccionEstaAEscala) {
   int barras = 0;
   for (const auto& p : seccion.piezas) {
     const auto* r = std::get_if<Redondo>(&p);
-    barras += r != nullptr && r->capa == Capa::Armadura;
+    barras += r != nullptr && (r->capa == Capa::Interior || r->capa == Capa::Exterior);
   }
   // The cut is 0.5 m long.
   EXPECT_EQ(barras, static_cast<int>(f.NESPIN * 0.5) + static_cast<int>(f.NEXPEX * 0.5));
@@ -271,6 +272,43 @@ TEST(Dibujos, SeSenalaLoQueHayBajoElPuntero) {
   EXPECT_EQ(punto->altura, 30u);
   EXPECT_EQ(punto->presion, 12u);
   EXPECT_FALSE(PuntoEn(mapa, malla, escena.Palabras(), {1, 1}));
+}
+
+// The bytes of a DXF, and what stands for a letter that they lack or that would mean something
+// else.
+TEST(Dibujos, LosTextosDeUnDxfSonDeSuPagina) {
+  for (const auto& [texto, bytes] : std::vector<std::pair<std::string, std::string>>{
+           {"Échelle Ø8/m² · 90°",
+            "\xC9"
+            "chelle \xD8"
+            "8/m\xB2 \xB7 90\xB0"},
+           {"σ − Σ ≤ τ ≥ ψ, Ω", "sigma - Sigma <= tau >= psi, Omega"},
+           {"Łódź \U0001F600",
+            "\\U+0141\xF3"
+            "d\\U+017A \\U+1F600"},
+           {"80 % y 50 %%d", "80 %%% y 50 %%%%%%d"},
+           {"5 % más", "5 % m\xE1s"},
+           {"a^b\nc", "a^ b c"},
+           {std::string(400, 'x'), std::string(255, 'x')}}) {
+    EXPECT_EQ(TextoDxf(texto), bytes) << texto;
+  }
+}
+
+// A detail that would grow beyond its place stands beside the sheet, at its size.
+TEST(Dibujos, UnDetalleMayorQueSuVistaSeApartaEnElDxf) {
+  Lamina l;
+  l.ancho = 100, l.alto = 50, l.escala = 10;
+  Plano plano(l);
+  plano.EnDetalle(20);
+  plano.Linea({10, 10}, {30, 10}, {Tinta::Tinta, kMedio});
+  plano.EnDetalle(2);
+  plano.Linea({10, 20}, {30, 20}, {Tinta::Tinta, kMedio});
+  const auto dxf = DxfDe(l, "x");
+  for (const auto* linea :
+       {"10\r\n1100.0\r\n20\r\n500.0\r\n30\r\n0.0\r\n11\r\n1500.0\r\n21\r\n500.0\r\n",
+        "10\r\n180.0\r\n20\r\n300.0\r\n30\r\n0.0\r\n11\r\n220.0\r\n21\r\n300.0\r\n"}) {
+    EXPECT_NE(dxf.find(linea), std::string::npos) << dxf;
+  }
 }
 
 TEST(Dibujos, DoradosEnSvg) {
