@@ -110,6 +110,17 @@ void Caja::Fondo(const QRectF& marco, int gris) {
   piezas.push_back(CaminoPuesto{camino, 0, gris});
 }
 
+void Caja::Dibuja(const QRectF& marco,
+                  std::shared_ptr<const std::function<void(QPainter&)>> pinta) {
+  DibujoPuesto puesto{marco, std::move(pinta)};
+  piezas.emplace_back(std::move(puesto));
+}
+
+void Caja::Enlaza(const QRectF& marco, const QString& destino) {
+  EnlacePuesto puesto{marco, destino};
+  piezas.emplace_back(std::move(puesto));
+}
+
 Tipografia::Tipografia(Familia familia) : familia_(familia) {
   const auto familias = QFontDatabase::families();
   for (const auto* nombre : {familia == Familia::Palo ? kPalo : kSerif, kMono}) {

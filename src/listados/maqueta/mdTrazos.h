@@ -77,6 +77,8 @@ struct Caja {
 
   void Raya(QPointF a, QPointF b, double grueso, int gris = 0);
   void Fondo(const QRectF& marco, int gris);
+  void Dibuja(const QRectF& marco, std::shared_ptr<const std::function<void(QPainter&)>> pinta);
+  void Enlaza(const QRectF& marco, const QString& destino);
 };
 
 enum class Familia { Serif, Palo };
