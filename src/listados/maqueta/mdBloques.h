@@ -2,26 +2,14 @@
 #pragma once
 
 #include <QDir>
-#include <memory>
 
+#include "listados/maqueta/mdFranja.h"
 #include "listados/maqueta/mdMaqueta.h"
 
 namespace zorbin::memoria {
 
 inline constexpr double kColumna = 453.5;  // width of the text [pt]
 inline constexpr double kCuerpo = 10.5;
-
-/// A strip of the width of the text. Its box has the origin at the left end of its baseline.
-struct Franja {
-  Caja caja;
-  double antes = 0;   // space above, which the top of a page swallows [pt]
-  bool pega = false;  // stays with the next one
-  bool nuevaPagina = false;
-  std::shared_ptr<const Caja> cabecera;  // repeated at the top when a page breaks before
-  int nivel = 0;                         // of a heading: 1 chapter, 2 section
-  QString numero, titulo;                // of a heading
-  int linea = 0;
-};
 
 /// Strips of a chapter whose elements are numbered.
 class Bloques {

@@ -5,6 +5,7 @@
 
 #include "listados/maqueta/mdBloques.h"
 #include "listados/maqueta/mdError.h"
+#include "listados/maqueta/mdPaginador.h"
 
 namespace zorbin::memoria {
 
@@ -100,72 +101,9 @@ const Elemento& Cuerpo(const Elemento& raiz) {
   return *cuerpo;
 }
 
-struct Entrada {
-  int nivel;
-  QString numero, titulo;
-  int pagina;  // of the text, from 0
-};
-
-struct Pagina {
-  Caja caja;
-  QString capitulo;
-};
-
-// Fills pages with strips; those that stay together go over together.
-class Paginador {
- public:
-  void Anade(const std::vector<Franja>& franjas) {
-    for (std::size_t i = 0; i < franjas.size();) {
-      std::size_t fin = i + 1;
-      while (fin < franjas.size() && franjas[fin - 1].pega) ++fin;
-      PonGrupo(franjas, i, fin);
-      i = fin;
-    }
-  }
-
-  std::vector<Pagina> paginas;
-  std::vector<Entrada> indice;
-
- private:
-  double y_ = kArriba;
-
-  static double Alto(const std::vector<Franja>& f, std::size_t i, std::size_t fin) {
-    double alto = 0;
-    for (; i < fin; ++i) alto += f[i].caja.Altura() + f[i].antes;
-    return alto;
-  }
-
-  void PonGrupo(const std::vector<Franja>& f, std::size_t i, std::size_t fin) {
-    const bool nueva = paginas.empty() || (f[i].nuevaPagina && y_ > kMedia);
-    if (f[i].nuevaPagina && !nueva) y_ += kAntesCapitulo;
-    if (nueva || y_ + Alto(f, i, fin) > kAbajo) {
-      paginas.push_back({{}, paginas.empty() ? QString() : paginas.back().capitulo});
-      y_ = kArriba;
-      if (f[i].cabecera && !nueva) Pon(*f[i].cabecera);
-      if (y_ + Alto(f, i, fin) - f[i].antes > kAbajo) {
-        throw ErrorFuente(f[i].linea, QStringLiteral("what stays together here fills more than "
-                                                     "a page"));
-      }
-    }
-    for (; i < fin; ++i) {
-      if (y_ > kArriba) y_ += f[i].antes;
-      Apunta(f[i]);
-      Pon(f[i].caja);
-    }
-  }
-
-  void Apunta(const Franja& f) {
-    if (f.nivel == 1) paginas.back().capitulo = f.numero + QString(2, QChar::Nbsp) + f.titulo;
-    if (f.nivel == 1 || f.nivel == 2) {
-      indice.push_back({f.nivel, f.numero, f.titulo, static_cast<int>(paginas.size()) - 1});
-    }
-  }
-
-  void Pon(const Caja& caja) {
-    paginas.back().caja.Pon(caja, {kIzquierda, y_ + caja.alto});
-    y_ += caja.Altura();
-  }
-};
+Marcos MarcosDelTexto() {
+  return {kIzquierda, kArriba, kAbajo, kAntesCapitulo, kMedia};
+}
 
 class Impresor {
  public:
@@ -173,19 +111,19 @@ class Impresor {
       : tipos_(tipografia), rotulos_(rotulos) {}
 
   // The entries, with the pages of the text shifted by those of the table of contents itself.
-  std::vector<Pagina> Indice(const std::vector<Entrada>& indice) const {
-    std::vector<Pagina> paginas;
+  std::vector<PaginaTexto> Indice(const std::vector<EntradaIndice>& indice) const {
+    std::vector<PaginaTexto> paginas;
     // One pass to count its pages, one with the numbers that follow from the count.
     for (int vuelta = 0; vuelta < 2; ++vuelta) {
       const int primera = 2 + static_cast<int>(paginas.size());
-      Paginador p;
+      Paginador p(MarcosDelTexto());
       p.Anade(FranjasDeIndice(indice, primera));
       paginas = std::move(p.paginas);
     }
     return paginas;
   }
 
-  Caja Acaba(const Pagina& pagina, int numero) const {
+  Caja Acaba(const PaginaTexto& pagina, int numero) const {
     const Tipo tipo{Letra::Cursiva, kCuerpoCabecera};
     Caja c = pagina.caja;
     c.Pon(tipos_.DeTexto(rotulos_.documento, tipo), {kIzquierda, kCabecera});
@@ -201,20 +139,20 @@ class Impresor {
   const Tipografia& tipos_;
   const Rotulos& rotulos_;
 
-  std::vector<Franja> FranjasDeIndice(const std::vector<Entrada>& indice, int primera) const {
+  std::vector<Franja> FranjasDeIndice(const std::vector<EntradaIndice>& indice, int primera) const {
     std::vector<Franja> franjas;
     Franja titulo;
     titulo.caja = tipos_.DeTexto(rotulos_.indice, {Letra::Negrita, 17});
     titulo.caja.hondo += 8;
     franjas.push_back(std::move(titulo));
-    for (const auto& e : indice) franjas.push_back(DeEntrada(e, primera + e.pagina));
+    for (const auto& e : indice) franjas.push_back(DeEntrada(e, primera + e.lugar.pagina));
     for (std::size_t i = 0; i + 1 < indice.size(); ++i) {
       if (indice[i].nivel == 1) franjas[i + 1].pega = true;
     }
     return franjas;
   }
 
-  Franja DeEntrada(const Entrada& e, int pagina) const {
+  Franja DeEntrada(const EntradaIndice& e, int pagina) const {
     const bool capitulo = e.nivel == 1;
     const Tipo tipo{capitulo ? Letra::Negrita : Letra::Recta, kCuerpoIndice};
     const double xNumero = capitulo ? 0 : 20;
@@ -297,7 +235,7 @@ std::vector<Caja> Maqueta(const Tipografia& tipografia, const Rotulos& rotulos,
   const Numeros numeros = Numerador().Numera(capitulos, fichero);
   const Referencia referencia = Referencias(numeros, rotulos);
   Bloques bloques(tipografia, rotulos, referencia, figuras);
-  Paginador texto;
+  Paginador texto(MarcosDelTexto());
   for (const auto& c : capitulos) {
     fichero = c.fichero;
     texto.Anade(bloques.DeCapitulo(Cuerpo(c.raiz)));
@@ -305,7 +243,7 @@ std::vector<Caja> Maqueta(const Tipografia& tipografia, const Rotulos& rotulos,
   fichero = QStringLiteral("portada.html");
   const Impresor impresor(tipografia, rotulos);
   std::vector<Caja> paginas{Portada(tipografia, Cuerpo(portada), bloques)};
-  const auto numera = [&](const std::vector<Pagina>& parte) {
+  const auto numera = [&](const std::vector<PaginaTexto>& parte) {
     for (const auto& p : parte) {
       paginas.push_back(impresor.Acaba(p, static_cast<int>(paginas.size()) + 1));
     }

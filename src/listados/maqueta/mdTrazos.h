@@ -3,14 +3,18 @@
 #pragma once
 
 #include <QFont>
-#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QHash>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointF>
+#include <QRawFont>
 #include <QRectF>
 #include <QString>
-#include <map>
+#include <array>
+#include <functional>
+#include <memory>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -22,10 +26,7 @@ enum class Letra { Recta, Cursiva, Negrita, NegritaCursiva, Mono };
 struct Tipo {
   Letra letra = Letra::Recta;
   double cuerpo = 10.5;
-
-  bool operator<(const Tipo& o) const {
-    return std::pair(letra, cuerpo) < std::pair(o.letra, o.cuerpo);
-  }
+  int gris = 0;  // 0 black to 255 white
 };
 
 struct TextoPuesto {
@@ -45,7 +46,19 @@ struct ImagenPuesta {
   QImage imagen;
 };
 
-using Pieza = std::variant<TextoPuesto, CaminoPuesto, ImagenPuesta>;
+/// A drawing that paints itself, a point to a unit, from the upper left corner of its place.
+struct DibujoPuesto {
+  QRectF marco;
+  std::shared_ptr<const std::function<void(QPainter&)>> pinta;
+};
+
+/// A place that leads to another one of the document. It shows nothing.
+struct EnlacePuesto {
+  QRectF marco;
+  QString destino;  // name of an anchor
+};
+
+using Pieza = std::variant<TextoPuesto, CaminoPuesto, ImagenPuesta, DibujoPuesto, EnlacePuesto>;
 
 struct Caja {
   double ancho = 0;
@@ -57,19 +70,25 @@ struct Caja {
 
   /// Places `otra` with its origin at `sitio`; the size does not change.
   void Pon(const Caja& otra, QPointF sitio);
+  void Pon(Caja&& otra, QPointF sitio);
 
   /// Places `otra` at the right end, `subida` above the baseline, and grows to hold it.
   void Sigue(const Caja& otra, double subida = 0);
 
   void Raya(QPointF a, QPointF b, double grueso, int gris = 0);
+  void Fondo(const QRectF& marco, int gris);
+  void Dibuja(const QRectF& marco, std::shared_ptr<const std::function<void(QPainter&)>> pinta);
+  void Enlaza(const QRectF& marco, const QString& destino);
 };
 
-/// The fonts of the report. They are measured large and without hinting, so that a length does not
-/// depend on the device.
+enum class Familia { Serif, Palo };
+
+/// The fonts of a document. They are measured large and without hinting, so that a length does not
+/// depend on the device. What a word measures is kept: one belongs to one thread.
 class Tipografia {
  public:
   /// @throws ErrorFuente when this machine lacks the fonts
-  Tipografia();
+  explicit Tipografia(Familia familia = Familia::Serif);
 
   double Ancho(const QString& texto, const Tipo& tipo) const;
 
@@ -79,20 +98,38 @@ class Tipografia {
   /// Outline of a text at its baseline.
   QPainterPath Contorno(const QString& texto, const Tipo& tipo) const;
 
+  /// Paints a box with its origin at `sitio` [pt]. The painter stands on a device of
+  /// 72 · kPorPunto dots per inch.
+  void Pinta(QPainter& pintor, const Caja& caja, QPointF sitio) const;
+
  private:
+  /// A text shaped, at the size of measuring.
+  struct Trazado {
+    QList<QGlyphRun> glifos;
+    double ancho = 0, alto = 0, hondo = 0;
+  };
+  struct Glifo {
+    quint32 indice = 0;
+    double ancho = 0, alto = 0, hondo = 0;
+  };
   struct Medida {
     QFont fuente;
-    QFontMetricsF metrica;
+    QRawFont cruda;
+    QHash<char16_t, Glifo> cifras;
+    QHash<QString, Trazado> palabras;
   };
-  mutable std::map<Letra, Medida> medidas_;
 
-  const Medida& De(Letra letra) const;
+  Familia familia_;
+  mutable std::array<std::unique_ptr<Medida>, 5> medidas_;
+
+  Medida& De(Letra letra) const;
+  static const Glifo& DeCifra(Medida& m, char16_t c);
+  static const Trazado& DePalabra(Medida& m, const QString& texto);
+  Trazado Mide(Medida& m, const QString& texto) const;
+  void PintaTexto(QPainter& pintor, const TextoPuesto& t, QPointF sitio) const;
 };
 
-/// Device units of a point: a page is painted on a device of 72 · kPorPunto dots per inch.
+/// Device units of a point.
 inline constexpr int kPorPunto = 100;
-
-/// Paints a box with its origin at `sitio` [pt].
-void Pinta(QPainter& pintor, const Caja& caja, QPointF sitio);
 
 }  // namespace zorbin::memoria

@@ -84,7 +84,8 @@ QJsonObject Verificacion() {
 }
 
 // The document in memory: the PDF writer does not tell what became of its bytes.
-QByteArray Pdf(const std::vector<Caja>& paginas, const QString& titulo) {
+QByteArray Pdf(const Tipografia& tipografia, const std::vector<Caja>& paginas,
+               const QString& titulo) {
   QByteArray bytes;
   QBuffer destino(&bytes);
   destino.open(QIODevice::WriteOnly);
@@ -97,7 +98,7 @@ QByteArray Pdf(const std::vector<Caja>& paginas, const QString& titulo) {
   QPainter pintor(&pdf);
   for (std::size_t i = 0; i < paginas.size(); ++i) {
     if (i > 0) pdf.newPage();
-    Pinta(pintor, paginas[i], {0, 0});
+    tipografia.Pinta(pintor, paginas[i], {0, 0});
   }
   pintor.end();
   return bytes;
@@ -118,7 +119,7 @@ int Genera(const QDir& carpeta, const QDir& figuras, const QString& salida) {
     const auto paginas = Maqueta(tipografia, rotulos, portada, capitulos, figuras, fichero);
     QDir().mkpath(QFileInfo(salida).path());
     QSaveFile f(salida);
-    const QByteArray bytes = Pdf(paginas, rotulos.documento);
+    const QByteArray bytes = Pdf(tipografia, paginas, rotulos.documento);
     const bool escrito =
         f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.commit();
     return escrito ? 0 : Falla(kFalla, salida + ": " + f.errorString());
