@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QStyleFactory>
 #include <QTest>
 #include <iostream>
 
@@ -20,27 +19,12 @@
 #include "shell/calculadoras/Protecciones.h"
 #include "shell/captura/CapturaDatos.h"
 #include "shell/entornoPrueba.h"
+#include "shell/piezas/mdTema.h"
 #include "shell/principal/FormaPrincipal.h"
 #include "shell/principal/mdRecuperacion.h"
 
 namespace zorbin {
 namespace {
-
-QPalette Oscura() {
-  QPalette p;
-  const std::map<QPalette::ColorRole, QColor> colores{
-      {QPalette::Window, "#2d2d30"},      {QPalette::WindowText, "#e6e6e6"},
-      {QPalette::Base, "#1e1e20"},        {QPalette::AlternateBase, "#28282c"},
-      {QPalette::Text, "#e6e6e6"},        {QPalette::Button, "#3c3c40"},
-      {QPalette::ButtonText, "#e6e6e6"},  {QPalette::ToolTipBase, "#3c3c40"},
-      {QPalette::ToolTipText, "#e6e6e6"}, {QPalette::PlaceholderText, "#8c8c8c"},
-      {QPalette::Highlight, "#266eb4"},   {QPalette::HighlightedText, "#ffffff"}};
-  for (const auto& [rol, color] : colores) p.setColor(rol, color);
-  for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    p.setColor(QPalette::Disabled, rol, QColor(125, 125, 125));
-  }
-  return p;
-}
 
 class Fotografo {
  public:
@@ -193,8 +177,7 @@ int main(int argumentos, char** palabras) {
   }
   const int idioma = lista.size() > 2 ? lista[2].toInt() : 1;
   const bool oscura = lista.size() > 3 && lista[3] == "oscura";
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  if (oscura) QApplication::setPalette(Oscura());
+  PonTema(oscura ? Tema::Oscuro : Tema::Claro);
   prueba::Mesa mesa;
   prueba::Persona persona;
   InterlocutorQt voz(mesa.textos, mesa.preferencias);

@@ -373,6 +373,54 @@ TEST(Captura, LaListaDeTramosLlevaAUnoSinPreguntar) {
   EXPECT_FALSE(lista->topLevelItem(5)->isHidden());
 }
 
+// Several are dragged at once, as one step that is undone.
+TEST(Captura, LosTramosSeArrastranAOtroSitio) {
+  ConMuestra p;
+  auto* lista = p.ventana->findChild<QTreeWidget*>("Tramos");
+  const auto orden = [&p] {
+    std::string numeros;
+    for (const auto& t : p.c.version.tramos) numeros += t->numero;
+    return numeros;
+  };
+  const auto suelta = [&](int encima, bool arriba) {
+    QModelIndexList filas;
+    for (const int i : {1, 2}) filas += lista->indexFromItem(lista->topLevelItem(i));
+    const std::unique_ptr<QMimeData> datos(lista->model()->mimeData(filas));
+    const QRect sitio = lista->visualItemRect(lista->topLevelItem(encima));
+    QDropEvent suceso(arriba ? sitio.topLeft() + QPoint(9, 2) : sitio.bottomLeft() - QPoint(-9, 2),
+                      Qt::MoveAction, datos.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(lista->viewport(), &suceso);
+    EXPECT_NE(suceso.dropAction(), Qt::MoveAction) << "the toolkit would take the rows away";
+  };
+  ASSERT_EQ(lista->dragDropMode(), QAbstractItemView::InternalMove);
+  ASSERT_EQ(orden(), "1234567");
+  suelta(4, false);
+  EXPECT_EQ(orden(), "1452367");
+  p.ventana->findChild<QAction*>("mnDeshacer")->trigger();
+  EXPECT_EQ(orden(), "1234567");
+  EXPECT_FALSE(p.c.EnCambio());
+  suelta(0, true);
+  EXPECT_EQ(orden(), "2314567");
+  suelta(6, false);
+  EXPECT_EQ(orden(), "2456731") << "what lies there by now, to the end";
+  EXPECT_EQ(lista->topLevelItemCount(), 7);
+}
+
+TEST(Ventana, ElTemaDelSistemaSigueAlEscritorio) {
+  ConMuestra p;
+  const bool delEscritorio = EsOscura(QApplication::palette());
+  for (const auto& [tema, queda] :
+       {std::pair{Tema::Sistema, delEscritorio}, {Tema::Oscuro, true}}) {
+    p.mesa.preferencias.PonTema(static_cast<int>(tema));
+    QApplication::setPalette(PaletaDe(!queda));
+    QEvent suceso(QEvent::ThemeChange);
+    QApplication::sendEvent(p.ventana.get(), &suceso);
+    EXPECT_EQ(EsOscura(QApplication::palette()), queda);
+  }
+  p.mesa.preferencias.PonTema(static_cast<int>(Tema::Sistema));
+  PonTema(Tema::Sistema);
+}
+
 // ---------------------------------------------------------------------------------------------
 // Languages
 

@@ -166,7 +166,8 @@ TEST(Recuperacion, SePuedeDejarParaLuegoODescartar) {
   EXPECT_EQ(responde(txt::BtDescartar, {true}), 0U);
 }
 
-TEST(Recuperacion, UnaObraQueTieneOtroNoPierdeElBorrador) {
+// It is only read, and what was typed can be saved as another.
+TEST(Recuperacion, UnaObraQueTieneOtroTomaElBorrador) {
   Puesto s;
   s.Corta();
   const FicheroRegistros otro(S(s.ruta), FicheroRegistros::Modo::LecturaEscritura);
@@ -174,10 +175,10 @@ TEST(Recuperacion, UnaObraQueTieneOtroNoPierdeElBorrador) {
   EnPantalla<frRecuperar> ingeniero(
       [&](frRecuperar& d) { Pulsa(d, txt::BtRecuperar, p->textos()); });
   p->Empieza();
-  Puesto::Espera([&] { return s.persona.cajas.size() == 1 && !p->captura().ObraCargada; });
-  EXPECT_TRUE(s.persona.Ultima().contains(s.ruta)) << S(s.persona.Ultima());
-  ASSERT_EQ(s.Borradores().size(), 1U);
-  EXPECT_EQ(s.Borradores().at(0).filename(), "borrador-1-1.json");
+  Puesto::Espera([&] { return p->captura().EnCambio(); });
+  EXPECT_TRUE(p->captura().SoloLectura());
+  EXPECT_TRUE(s.persona.cajas.empty()) << S(s.persona.Ultima());
+  EXPECT_EQ(s.Borradores().size(), 1U);
 }
 
 TEST(Avisos, LaBarraDeEstadoDiceLoQueSeDeshizoYLoQueSoloSeLee) {

@@ -5,8 +5,10 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTableView>
 #include <QTreeWidget>
+#include <set>
 
 #include "base/textos.h"
 #include "calculo/corrida/mdCalculaTramo.h"
@@ -22,6 +24,7 @@
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdMarcoDiseno.h"
 #include "shell/resultados/mdModeloCasos.h"
+#include "shell/resultados/mdVariosTramos.h"
 
 namespace zorbin::prueba {
 namespace {
@@ -169,6 +172,28 @@ TEST_F(Resultados, LaTablaOrdenaFiltraYCopia) {
   const auto lineas = QApplication::clipboard()->text().split('\n', Qt::SkipEmptyParts);
   EXPECT_EQ(lineas.size(), modelo.rowCount() + 1);
   EXPECT_EQ(lineas.last().split('\t').size(), modelo.columnCount());
+
+  // The chart of several Tramos has a line for each that is chosen.
+  auto* varios = pantalla->findChild<PanelVariosTramos*>();
+  pantalla->findChild<QTabWidget*>("panelDetalle")->setCurrentWidget(varios);
+  auto* tramos = varios->findChild<QListWidget*>("tramosComparados");
+  ASSERT_EQ(tramos->count(), 7);
+  const auto lineas_de = [&] {
+    varios->Espera();
+    QApplication::processEvents();
+    std::set<int> ids;
+    for (const auto& pieza : varios->grafico().lamina().lamina.piezas) {
+      if (const auto* t = std::get_if<Forma>(&pieza); t != nullptr && t->id >= 0) {
+        ids.insert(t->id);
+      }
+    }
+    return ids.size();
+  };
+  EXPECT_EQ(lineas_de(), 6U);
+  tramos->item(6)->setCheckState(Qt::Checked);
+  EXPECT_EQ(lineas_de(), 7U);
+  for (int i = 1; i < 7; ++i) tramos->item(i)->setCheckState(Qt::Unchecked);
+  EXPECT_EQ(lineas_de(), 1U);
 
   // The list of Tramos tells which comply.
   const auto* lista = ventana().findChild<QTreeWidget*>("Tramos");

@@ -1,5 +1,6 @@
 #include "calculo/corrida/mdCalculaTramo.h"
 
+#include <memory>
 #include <utility>
 
 #include "calculo/armado/mdArmado.h"
@@ -113,11 +114,18 @@ class CorridaTramo {
   const Tramo& t_ = x_.datos.tramo;
   Marcha marcha_;
   VeredictoTramo veredicto_{x_.datos};
+  std::unique_ptr<Zunchados> zunchados_;
   Cargas dadas_;
   TerminosAnillo anillo_;  // of the height in hand
   int casos_ = 0;          // of the range
   FilaCaso fila_;          // of the Caso in hand
   bool empezado_ = false;  // its pressures stand, and it is not designed
+
+  // Of the first post-tensioned Caso on: the Tramo of another kind has none.
+  Zunchados& Probados() {
+    if (!zunchados_) zunchados_ = std::make_unique<Zunchados>(t_);
+    return *zunchados_;
+  }
 
   // @return whether the run goes on
   bool Sigue() {
@@ -195,7 +203,7 @@ class CorridaTramo {
       f.verificacion = veredicto_.Resume(diseno, marcha_.avisos);
       PonDiseno(f, diseno);
     } else {
-      const auto diseno = CalculaPostesado(t_, anillo_, f, marcha_);
+      const auto diseno = CalculaPostesado(t_, anillo_, f, Probados(), marcha_);
       f.verificacion = veredicto_.Resume(diseno, f.DP, f.MDP);
       PonDiseno(f, diseno);
     }
@@ -244,7 +252,8 @@ ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila) 
     auto verificacion = veredicto.Verifica(diseno, marcha.avisos);
     return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
   }
-  auto diseno = CalculaPostesado(datos.tramo, anillo, fila, marcha);
+  Zunchados zunchados(datos.tramo);
+  auto diseno = CalculaPostesado(datos.tramo, anillo, fila, zunchados, marcha);
   auto verificacion = veredicto.Verifica(diseno, fila.DP, fila.MDP);
   return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
 }

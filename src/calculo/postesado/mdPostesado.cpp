@@ -26,15 +26,16 @@ constexpr std::int16_t kErrorCambio = 91;
 class Analisis {
  public:
   Analisis(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
-           Marcha& marcha, ResultadoPostesado& r)
+           Zunchados& zunchados, Marcha& marcha, ResultadoPostesado& r)
       : t_(t),
         caso_(presiones),
+        zunchados_(zunchados),
         marcha_(marcha),
         r_(r),
         esfuerzos_(EsfuerzosHipotesis(terminos)),
         presiones_(PresionesHipotesis(presiones)) {
-    r_.radios = Radios(t);
-    r_.materiales = Materiales(t);
+    r_.radios = zunchados.radios();
+    r_.materiales = zunchados.materiales();
     r_.PP = caso_.PP;
     r_.LimiteChapa = kFraccionChapa * t_.FYKPost;
     for (int h = 1; h <= kHipotesisPostesado; ++h) Carga(r_.hipotesis(h), h);
@@ -54,6 +55,7 @@ class Analisis {
  private:
   const Tramo& t_;
   const PresionesCaso& caso_;
+  Zunchados& zunchados_;
   Marcha& marcha_;
   ResultadoPostesado& r_;
   const EsfuerzosPostesado esfuerzos_;
@@ -163,7 +165,7 @@ class Analisis {
       if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
       alambre_.NESP = EspirasEnteras(alambre_.NESP);
       const Intento x = Intenta(p);
-      if (!x.perdidas.NucleoAguanta) return NoAguanta(p, x);
+      if (!x.zunchado.perdidas.NucleoAguanta) return NoAguanta(p, x);
       if (Aceptado(p, x)) return Resultados(p, x);
       alambre_.NESP = alambre_.NESP + 1.0;
     }
@@ -182,45 +184,42 @@ class Analisis {
 
   // What one winding gives for the hypothesis of `p`.
   struct Intento {
-    SeccionPostesada seccion;
-    PerdidasPostesado perdidas;
+    const Zunchado& zunchado;
     OvalizacionPostesada oval;
-    PorPresion K;
     LimitesPresion limites;
   };
 
-  Intento Intenta(const HipotesisPostesada& p) const {
+  Intento Intenta(const HipotesisPostesada& p) {
     const auto& m = r_.materiales;
-    Intento x;
-    x.seccion = PropiedadesSeccion(m, r_.radios, alambre_);
-    x.perdidas = PerdidasYTensiones(t_, m, r_.radios, x.seccion);
-    if (!x.perdidas.NucleoAguanta) return x;
-    x.oval = TensionesOvalizacion(m, x.seccion, alambre_.FIPR, p.MomHip, p.AxilHip);
-    x.K = CoeficientesPresion(m, x.seccion);
-    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, x.perdidas, x.oval, x.K);
+    Intento x{zunchados_.De(alambre_), {}, {}};
+    const Zunchado& z = x.zunchado;
+    if (!z.perdidas.NucleoAguanta) return x;
+    x.oval = TensionesOvalizacion(m, z.seccion, alambre_.FIPR, p.MomHip, p.AxilHip);
+    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, z.perdidas, x.oval, z.K);
     return x;
   }
 
   void NoAguanta(HipotesisPostesada& p, const Intento& x) {
-    static_cast<SeccionPostesada&>(p) = x.seccion;
-    static_cast<PerdidasPostesado&>(p) = x.perdidas;
+    static_cast<SeccionPostesada&>(p) = x.zunchado.seccion;
+    static_cast<PerdidasPostesado&>(p) = x.zunchado.perdidas;
     Falla(p, kErrorZunchado, ClaseAviso::ResistenciaInicial,
           std::max(std::fabs(p.SigIniInt), std::fabs(p.SigIniExt)));
   }
 
   bool Aceptado(const HipotesisPostesada& p, const Intento& x) const {
-    const bool nucleo = !t_.Icontes1 || caso_.DP * t_.Coepre1 <= x.perdidas.PresPrimario;
+    const bool nucleo = !t_.Icontes1 || caso_.DP * t_.Coepre1 <= x.zunchado.perdidas.PresPrimario;
     return nucleo && p.PresHip <= x.limites.PresLimite;
   }
 
   void Resultados(HipotesisPostesada& p, const Intento& x) {
     static_cast<Alambre&>(p) = alambre_;
-    static_cast<SeccionPostesada&>(p) = x.seccion;
-    static_cast<PerdidasPostesado&>(p) = x.perdidas;
+    const Zunchado& z = x.zunchado;
+    static_cast<SeccionPostesada&>(p) = z.seccion;
+    static_cast<PerdidasPostesado&>(p) = z.perdidas;
     static_cast<OvalizacionPostesada&>(p) = x.oval;
-    static_cast<PorPresion&>(p) = x.K;
+    static_cast<PorPresion&>(p) = z.K;
     static_cast<LimitesPresion&>(p) = x.limites;
-    ultimas_ = Tensiones(p.PresHip, x.perdidas, x.oval, x.K);
+    ultimas_ = Tensiones(p.PresHip, z.perdidas, x.oval, z.K);
     ultimaHipotesis_ = p.h;
     static_cast<TensionesHipotesis&>(p) = ultimas_;
     p.TensionChapa = CompruebaChapa(t_, r_.materiales.RatioChapa, p);
@@ -232,9 +231,10 @@ class Analisis {
 }  // namespace
 
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
-                                    const PresionesCaso& presiones, Marcha& marcha) {
+                                    const PresionesCaso& presiones, Zunchados& zunchados,
+                                    Marcha& marcha) {
   ResultadoPostesado r;
-  Analisis(t, terminos, presiones, marcha, r).Corre();
+  Analisis(t, terminos, presiones, zunchados, marcha, r).Corre();
   return r;
 }
 

@@ -7,6 +7,7 @@
 // "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
+#include "calculo/postesado/mdZunchados.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -21,11 +22,13 @@ namespace zorbin {
 /// @param t          the Tramo, in calculation units
 /// @param terminos   of the ring [m·t/m, t/m]
 /// @param presiones  [at]
+/// @param zunchados  of the Tramo; those that Casos before tried are not calculated again
 /// @param marcha     rounds and warnings are added, those of the search for no listing
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; SinConvergencia and DemasiadasVueltas
 /// for
 ///         a search that does not end
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
-                                    const PresionesCaso& presiones, Marcha& marcha);
+                                    const PresionesCaso& presiones, Zunchados& zunchados,
+                                    Marcha& marcha);
 
 }  // namespace zorbin

@@ -8,6 +8,7 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "listados/dibujos/mdRotulosMapa.h"
 
 namespace zorbin {
 
@@ -121,8 +122,12 @@ class DibujoMapa {
     Celdas();
     Tramas();
     Rango();
-    Niveles();
+    const auto rotulos = Rotulos(caso);
+    Niveles(rotulos);
     if (caso != nullptr) Marca(*caso);
+    for (const auto& r : rotulos) {
+      plano_.Encima(r.centro, r.texto, AnclaX::Centro, AnclaY::Medio, kLetraMenor);
+    }
     PintaEjes(plano_, ejes, w_, false);
   }
 
@@ -133,7 +138,7 @@ class DibujoMapa {
       plano_.Area(caja, {TintaDe(h), 0.5});
       plano_.Rayado({caja}, TramaDe(h), TintaDe(h), kPaso);
       plano_.Area(caja, {}, {TintaDe(h), kFino});
-      Linea(sitio, TextoEntero(h) + " · " + w_.Hipotesis(datos_.tramo.EsArmado, h));
+      Linea(sitio, Nombre(h));
     }
     if (HayIncumplidos()) {
       const Puntos caja = Rectangulo({sitio.x, sitio.y - 3.2, 7.0, 4.0});
@@ -185,8 +190,7 @@ class DibujoMapa {
       ancho = std::max(ancho, AnchoTexto(w_.T(n), kLetraMenor));
     }
     for (const int h : Hipotesis()) {
-      ancho =
-          std::max(ancho, AnchoTexto("0 · " + w_.Hipotesis(datos_.tramo.EsArmado, h), kLetraMenor));
+      ancho = std::max(ancho, AnchoTexto(Nombre(h), kLetraMenor));
     }
     return ancho + 9.0;
   }
@@ -204,7 +208,7 @@ class DibujoMapa {
   std::vector<Muestra> Muestras() const {
     std::vector<Muestra> x;
     for (const int h : Hipotesis()) {
-      x.push_back({0.5, TramaDe(h), TintaDe(h), w_.Hipotesis(datos_.tramo.EsArmado, h)});
+      x.push_back({0.5, TramaDe(h), TintaDe(h), Nombre(h)});
     }
     if (HayIncumplidos()) {
       x.push_back({0.0, Trama::Cruzada, Tinta::NoCumple, w_.T(txt::DibNoCumple)});
@@ -221,6 +225,30 @@ class DibujoMapa {
   const EjesEnLamina* ejes_ = nullptr;
   std::vector<double> acero_;
   double minimo_ = std::numeric_limits<double>::infinity(), maximo_ = -minimo_;
+
+  std::string Nombre(int h) const {
+    return TextoEntero(h) + " · " + w_.Hipotesis(datos_.tramo.EsArmado, h);
+  }
+
+  // The governing hypothesis written into its area, or its number where the name has no room.
+  std::vector<RotuloArea> Rotulos(const FilaCaso* caso) const {
+    CeldasMapa celdas{{}, Columnas(), ejes_->marco};
+    for (std::size_t i = 0; i < Filas(); ++i) {
+      for (std::size_t j = 0; j < Columnas(); ++j) celdas.claves.push_back(HipotesisDe(i, j));
+    }
+    std::vector<Marco> ocupados;
+    if (caso != nullptr) {
+      constexpr double kMarca = 2.5;
+      const Xy p = ejes_->P(V(caso->DP), caso->Hr);
+      ocupados.push_back({p.x - kMarca, p.y - kMarca, 2 * kMarca, 2 * kMarca});
+    }
+    return RotulosDeAreas(
+        celdas,
+        [this](int h) {
+          return std::vector{Nombre(h), TextoEntero(h)};
+        },
+        ocupados);
+  }
 
   double V(double at) const { return w_.Convertido(at, kPresion); }
   std::size_t Columnas() const { return malla_.ejes.presiones.size(); }
@@ -326,7 +354,7 @@ class DibujoMapa {
             m.y + m.alto * (celda.y + 0.5) / static_cast<double>(Filas())};
   }
 
-  void Niveles() {
+  void Niveles(const std::vector<RotuloArea>& rotulos) {
     if (!(maximo_ > minimo_)) return;
     std::vector<Xy> puestos;
     for (const double nivel : Marcas(minimo_, maximo_, kNiveles)) {
@@ -340,24 +368,28 @@ class DibujoMapa {
       plano_.Quebradas(lineas, {Tinta::Tinta, 0.3});
       const auto larga = std::max_element(lineas.begin(), lineas.end(),
                                           [](auto& a, auto& b) { return a.size() < b.size(); });
-      if (larga->size() >= 6) Cifra(*larga, nivel, puestos);
+      if (larga->size() >= 6) Cifra(*larga, w_.Corto(nivel, 2), puestos, rotulos);
     }
   }
 
-  // At the middle of a line, or further along where another figure stands.
-  void Cifra(const Puntos& linea, double nivel, std::vector<Xy>& puestos) {
+  // At the middle of a line, or further along where something else is written.
+  void Cifra(const Puntos& linea, const std::string& cifra, std::vector<Xy>& puestos,
+             const std::vector<RotuloArea>& rotulos) {
+    const double ancho = AnchoTexto(cifra, kLetraMenor, true), alto = kLetraMenor;
     for (const double donde : {0.5, 0.35, 0.65, 0.2, 0.8}) {
       const Xy p = linea[static_cast<std::size_t>(donde * static_cast<double>(linea.size() - 1))];
       const Marco& m = ejes_->marco;
       const bool lejos = std::all_of(puestos.begin(), puestos.end(), [p](Xy q) {
         return std::fabs(p.x - q.x) > 9.0 || std::fabs(p.y - q.y) > 4.5;
       });
-      if (!lejos || p.x < m.x + 5 || p.x > m.Derecha() - 5 || p.y < m.y + 3 ||
+      const Marco caja{p.x - ancho / 2, p.y - alto / 2, ancho, alto};
+      const bool tapa = std::any_of(rotulos.begin(), rotulos.end(),
+                                    [&caja](const RotuloArea& r) { return SePisan(r.caja, caja); });
+      if (!lejos || tapa || p.x < m.x + 5 || p.x > m.Derecha() - 5 || p.y < m.y + 3 ||
           p.y > m.Abajo() - 3) {
         continue;
       }
-      plano_.Encima(p, w_.Corto(nivel, 2), AnclaX::Centro, AnclaY::Medio, kLetraMenor, Tinta::Tinta,
-                    true);
+      plano_.Encima(p, cifra, AnclaX::Centro, AnclaY::Medio, kLetraMenor, Tinta::Tinta, true);
       puestos.push_back(p);
       return;
     }

@@ -91,6 +91,11 @@ bool EjesEnLamina::Contiene(Xy p) const {
   return p.x >= marco.x && p.x <= marco.Derecha() && p.y >= marco.y && p.y <= marco.Abajo();
 }
 
+std::string ValoresEn(const EjesEnLamina& ejes, Xy sitio, const PalabrasDibujo& w) {
+  const Xy v = ejes.Valores(sitio);
+  return ejes.x.titulo + ": " + w.Numero(v.x, 2) + "   " + ejes.y.titulo + ": " + w.Numero(v.y, 2);
+}
+
 std::vector<double> Marcas(double desde, double hasta, int cuantas) {
   std::vector<double> v;
   if (!(hasta > desde) || !std::isfinite(hasta - desde)) return {desde};

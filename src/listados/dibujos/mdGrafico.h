@@ -36,6 +36,9 @@ struct LaminaConEjes {
   EjesEnLamina ejes;
 };
 
+/// The values of a place of the sheet, with the titles of their axes.
+std::string ValoresEn(const EjesEnLamina& ejes, Xy sitio, const PalabrasDibujo& palabras);
+
 /// Round values (1, 2 or 5 times a power of ten apart) between two, some `cuantas` of them.
 std::vector<double> Marcas(double desde, double hasta, int cuantas);
 

@@ -7,33 +7,21 @@
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "listados/dibujos/mdLineasGrafico.h"
 
 namespace zorbin {
 
 namespace {
 
 constexpr double kNada = std::numeric_limits<double>::quiet_NaN();
-constexpr std::string_view kPresion = "at->MPa";
-constexpr std::string_view kCarga = "T/M2->kN/M2";
-constexpr std::string_view kMomento = "mT->mkN";
 constexpr std::string_view kTension = "Kp/cm2->MPa";
 
-Patron PatronDe(std::size_t i) {
-  constexpr std::array<Patron, 4> kPatrones{Patron::Continuo, Patron::Discontinuo, Patron::Eje,
-                                            Patron::Punteado};
-  return kPatrones[i % kPatrones.size()];
-}
-
 // The values of a chart, along its axis and by lines.
-class Datos {
+class Datos : public LineasDeMalla {
  public:
   Datos(EjeDeGrafico eje, const Malla& malla, const PalabrasDibujo& w)
-      : eje_(eje), malla_(malla), w_(w) {}
+      : LineasDeMalla(eje, malla, w), eje_(eje), malla_(malla), w_(w) {}
 
-  bool PorAltura() const { return eje_ == EjeDeGrafico::Altura; }
-  std::size_t Lineas() const {
-    return PorAltura() ? malla_.ejes.presiones.size() : malla_.ejes.alturas.size();
-  }
   std::string NombreLinea(std::size_t i) const {
     return PorAltura() ? "DP " + w_.Presion(malla_.ejes.presiones[i])
                        : "Hr " + w_.Metros(malla_.ejes.alturas[i]);
@@ -41,45 +29,23 @@ class Datos {
   std::vector<Xy> Linea(std::size_t i,
                         const std::function<double(const PuntoMalla&)>& valor) const {
     std::vector<Xy> puntos;
-    const auto n = PorAltura() ? malla_.ejes.alturas.size() : malla_.ejes.presiones.size();
-    for (std::size_t k = 0; k < n; ++k) {
-      const auto& p = PorAltura() ? malla_.En(k, i) : malla_.En(i, k);
+    for (std::size_t k = 0; k < Puntos(); ++k) {
+      const auto& p = En(i, k);
       puntos.push_back({Abscisa(k), p ? valor(*p) : kNada});
     }
     return puntos;
   }
   EjeGrafico EjeX() const {
-    const auto n = PorAltura() ? malla_.ejes.alturas.size() : malla_.ejes.presiones.size();
-    const std::string titulo =
-        PorAltura() ? w_.T(txt::DibEjeAltura) : w_.Con(txt::DibEjePresion, {w_.Unidad(kPresion)});
-    if (n < 2) return EjeRedondo(titulo, Abscisa(0), Abscisa(0));
-    return {titulo, Abscisa(0), Abscisa(n - 1)};
+    const std::string titulo = TituloEje(eje_, w_);
+    if (Puntos() < 2) return EjeRedondo(titulo, Abscisa(0), Abscisa(0));
+    return {titulo, Abscisa(0), Abscisa(Puntos() - 1)};
   }
 
  private:
   const EjeDeGrafico eje_;
   const Malla& malla_;
   const PalabrasDibujo& w_;
-
-  double Abscisa(std::size_t k) const {
-    return PorAltura() ? malla_.ejes.alturas[k] : w_.Convertido(malla_.ejes.presiones[k], kPresion);
-  }
 };
-
-EjeGrafico EjeY(const std::string& titulo, const std::vector<SerieGrafico>& series,
-                bool desdeCero) {
-  double minimo = std::numeric_limits<double>::infinity(), maximo = -minimo;
-  for (const auto& s : series) {
-    for (const auto& p : s.puntos) {
-      if (!std::isfinite(p.y)) continue;
-      minimo = std::min(minimo, p.y);
-      maximo = std::max(maximo, p.y);
-    }
-  }
-  if (!std::isfinite(minimo)) return {titulo, 0.0, 1.0};
-  if (desdeCero) minimo = std::min(minimo, 0.0);
-  return EjeRedondo(titulo, minimo, maximo);
-}
 
 std::vector<SerieGrafico> SeriesAcero(QueGrafico que, const Datos& d) {
   const auto valor = [que](const PuntoMalla& p) {
@@ -101,7 +67,7 @@ std::vector<SerieGrafico> SeriesMomentos(const Datos& d, const PalabrasDibujo& w
     const auto serie = [&](int nombre, double PuntoMalla::*M, Patron patron) {
       series.push_back(
           {w.Con(nombre, {d.NombreLinea(i)}),
-           d.Linea(i, [&](const PuntoMalla& p) { return w.Convertido(p.*M, kMomento); }),
+           d.Linea(i, [&](const PuntoMalla& p) { return w.Convertido(p.*M, kMomentoGrafico); }),
            Serie(static_cast<int>(i)), patron});
     };
     serie(txt::DibMomentoMayor, &PuntoMalla::mayorM, Patron::Continuo);
@@ -150,7 +116,7 @@ std::vector<SerieGrafico> SeriesCargas(const Malla& malla, const Tramo& t,
     for (std::size_t k = 0; k < malla.ejes.alturas.size(); ++k) {
       const auto q = malla.cargas[k] ? filas[i].valor(*malla.cargas[k]) : std::nullopt;
       hay = hay || q;
-      s.puntos.push_back({malla.ejes.alturas[k], q ? w.Convertido(*q, kCarga) : kNada});
+      s.puntos.push_back({malla.ejes.alturas[k], q ? w.Convertido(*q, kCargaGrafico) : kNada});
     }
     if (hay) series.push_back(std::move(s));
   }
@@ -172,6 +138,32 @@ std::vector<Xy> LineaTensiones(const RadiosPostesado& r, const HipotesisPostesad
 
 }  // namespace
 
+Patron PatronDe(std::size_t i) {
+  constexpr std::array<Patron, 4> kPatrones{Patron::Continuo, Patron::Discontinuo, Patron::Eje,
+                                            Patron::Punteado};
+  return kPatrones[i % kPatrones.size()];
+}
+
+std::string TituloEje(EjeDeGrafico eje, const PalabrasDibujo& w) {
+  return eje == EjeDeGrafico::Altura ? w.T(txt::DibEjeAltura)
+                                     : w.Con(txt::DibEjePresion, {w.Unidad(kPresionGrafico)});
+}
+
+EjeGrafico EjeY(const std::string& titulo, const std::vector<SerieGrafico>& series,
+                bool desdeCero) {
+  double minimo = std::numeric_limits<double>::infinity(), maximo = -minimo;
+  for (const auto& s : series) {
+    for (const auto& p : s.puntos) {
+      if (!std::isfinite(p.y)) continue;
+      minimo = std::min(minimo, p.y);
+      maximo = std::max(maximo, p.y);
+    }
+  }
+  if (!std::isfinite(minimo)) return {titulo, 0.0, 1.0};
+  if (desdeCero) minimo = std::min(minimo, 0.0);
+  return EjeRedondo(titulo, minimo, maximo);
+}
+
 EjesMalla EjesDelGrafico(const DatosTramo& datos, EjeDeGrafico eje, int puntos) {
   const EjesMalla alrededor = EjesAlrededor(datos, puntos, puntos);
   EjesMalla ejes = EjesDelTramo(datos, kMaxLineas);
@@ -191,11 +183,11 @@ LaminaConEjes DibujaGraficoTramo(QueGrafico que, EjeDeGrafico eje, const DatosTr
   switch (que) {
     case QueGrafico::Momentos:
       series = SeriesMomentos(d, w);
-      unidad = w.Unidad(kMomento) + "/m";
+      unidad = w.Unidad(kMomentoGrafico) + "/m";
       break;
     case QueGrafico::Cargas:
       series = SeriesCargas(malla, datos.tramo, w);
-      unidad = w.Unidad(kCarga);
+      unidad = w.Unidad(kCargaGrafico);
       desdeCero = true;
       break;
     default:

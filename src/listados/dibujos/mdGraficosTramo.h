@@ -12,6 +12,9 @@ enum class QueGrafico : std::uint8_t { Acero, Interior, Exterior, Momentos, Carg
 /// Along which of the two the chart runs; each value of the other is a line.
 enum class EjeDeGrafico : std::uint8_t { Altura, Presion };
 
+/// With its unit.
+std::string TituloEje(EjeDeGrafico eje, const PalabrasDibujo& palabras);
+
 /// Most lines of a chart: more are not told apart.
 inline constexpr std::size_t kMaxLineas = 6;
 

@@ -112,7 +112,7 @@ void Compara(std::vector<RenglonVersion>& renglones, const Captura& fichero,
 }  // namespace
 
 bool HayTrabajoSinGuardar(const Captura& c) {
-  return c.ObraCargada && !c.SoloLectura() && c.EnCambio();
+  return c.ObraCargada && c.EnCambio();
 }
 
 Borrador TomaBorrador(const Captura& c) {
@@ -122,6 +122,8 @@ Borrador TomaBorrador(const Captura& c) {
   b.fichero = FicheroDe(c);
   b.huella = c.huella;
   b.version = VersionActual(c);
+  // What could not be read is no work of anybody, and the file has it still.
+  std::erase_if(b.version.tramos, [](const TramoFijo& t) { return !t->dano.empty(); });
   b.lista = ListaDe(c.guardada);
   for (const auto& t : b.version.tramos) {
     const auto lugar = LugarDe(c.guardada, t->id);

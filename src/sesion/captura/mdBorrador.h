@@ -46,7 +46,8 @@ struct Borrador {
   bool ConTramo() const { return enMano >= 0; }
 };
 
-/// Whether there is something to keep: a change of an Obra that can be saved.
+/// Whether there is something to keep: a change, also of an Obra that is
+/// only read, since it can be saved as another.
 bool HayTrabajoSinGuardar(const Captura& c);
 
 Borrador TomaBorrador(const Captura& c);

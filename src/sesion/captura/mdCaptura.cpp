@@ -3,9 +3,11 @@
 #include <cmath>
 #include <utility>
 
+#include "base/mdAnsi.h"
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "persistencia/registros/mdRegistros.h"
 #include "sesion/captura/mdEtiquetas.h"
 
 namespace zorbin {
@@ -220,6 +222,20 @@ void VaA(Captura& c, Ed campo) {
 
 std::string TextoDeFalta(const Captura& c, const Tecleado& leido) {
   return leido.valor ? Texto(c, txt::NoEsValorNumerico) : c.textos.Compone(leido.falta);
+}
+
+std::string FaltaDeTexto(const Catalogo& textos, std::string_view texto) {
+  const auto ansi = AAnsi(texto);
+  if (!ansi.sobra.empty()) return textos.Compone(txt::CaracterNoGuardable, {ansi.sobra});
+  const int largo = static_cast<int>(ansi.bytes.size());
+  if (largo <= kMaxTexto) return {};
+  return textos.Compone(txt::TextoPasaDelLimite, {TextoEntero(kMaxTexto), TextoEntero(largo)});
+}
+
+bool ValidaTexto(Captura& c, Ed campo) {
+  const std::string falta = FaltaDeTexto(c.textos, c[campo].texto);
+  if (!falta.empty()) Rechaza(c, campo, falta, NombreDeCampo(c, campo));
+  return falta.empty();
 }
 
 namespace {

@@ -192,6 +192,11 @@ void MuestraPagina(Captura& c, const Paginas& pagina);
 /// Why what was typed is no quantity: it is no number, or is beyond kMayorTecleado.
 std::string TextoDeFalta(const Captura& c, const Tecleado& leido);
 
+/// Why a text fits in no record of the file; empty where it does.
+std::string FaltaDeTexto(const Catalogo& textos, std::string_view texto);
+/// Whether the text of a field can be saved; where not, it is refused.
+bool ValidaTexto(Captura& c, Ed campo);
+
 /// Whether all of them pass. A braced list looks at each, in its order, so that every fault is
 /// told.
 inline bool Cada(std::initializer_list<bool> pasan) {

@@ -226,7 +226,6 @@ void PoneTextosCaptura(Captura& c) {
 void CambiaIdioma(Captura& c, std::int16_t idioma) {
   c.textos.PonIdioma(idioma);
   PoneTextosCaptura(c);
-  RenuevaFiguras(c);
 }
 
 void RevisaUnidades(Captura& c, bool aSI) {

@@ -77,9 +77,7 @@ struct Modelo {
   Paginas pagina{0, 0, 0, 0};  // in front on each tab
   Ed foco = Ed::edObra;
   std::string titulo;
-  std::string textoCancelar;     // of btCancelar: cancel what is new, or reread
-  std::string figuraColocacion;  // file names; empty for none
-  std::string figuraTubo;
+  std::string textoCancelar;         // of btCancelar: cancel what is new, or reread
   std::vector<AvisoDeCampo> avisos;  // of all the pages
 
   Control& operator[](Ed id) { return controles[static_cast<std::size_t>(id)]; }

@@ -99,7 +99,6 @@ void MuestraTramo(Captura& c) {
   AplicaTipologia(c);
   AplicaColocacion(c);
   BloqueosTramo(c);
-  RenuevaFiguras(c);
   RenuevaEtiquetas(c);
   c.LeyendoDatos = false;
 }

@@ -170,17 +170,18 @@ SalidaCampo SaleLista(Captura& c, Ed campo) {
   if (campo == Ed::edIdioma) return SaleIdioma(c, posicion);
   auto& codigo = c.e.tramo.*Fila(campo).codigo;
   codigo = ValorDeLista(c, campo, posicion);
-  if (campo == Ed::edTipoCuna0) RenuevaFiguras(c);
   return SalidaCampo::Pasa;
 }
 
 SalidaCampo SaleDescripcion(Captura& c, Ed campo) {
+  if (!ValidaTexto(c, campo)) return SalidaCampo::Queda;
   Escribe(c, Ed::edDescriTramo2, c[campo].texto);
   c.e.tramo.DescriTramo = c[campo].texto;
   return SalidaCampo::Pasa;
 }
 
 SalidaCampo SaleObra(Captura& c, Ed campo) {
+  if (!ValidaTexto(c, campo)) return SalidaCampo::Queda;
   if (campo == Ed::edObra) Escribe(c, Ed::edObra2, c[campo].texto);
   (campo == Ed::edObra ? c.e.obra.NombreObra : c.e.obra.Cliente) = c[campo].texto;
   return SalidaCampo::Pasa;

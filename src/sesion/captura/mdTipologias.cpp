@@ -131,20 +131,6 @@ void Pide(Captura& c, Ed campo, bool pedido) {
   pedido ? Enciende(c, campo) : Apaga(c, campo);
 }
 
-// Some typologies have no picture of their own, and none of another.
-std::string FiguraDeTubo(const Captura& c) {
-  switch (c.e.tramo.Tipologia) {
-    case kArmada:
-      return Texto(c, txt::FiguraTubo2110);
-    case kEmbebida:
-      return Texto(c, txt::FiguraTubo2211);
-    case kRevestida:
-      return Texto(c, txt::FiguraTubo2221);
-    default:
-      return {};
-  }
-}
-
 void RellenaB0(Captura& c) {
   if (!EnBlanco(c, Ed::edB0) || EnBlanco(c, Ed::edDi0)) return;
   c.e.tramo.B0 = AnchoAutomatico(c);
@@ -202,7 +188,6 @@ void LimpiaCaptura(Captura& c, int Profundidad) {
   if (Profundidad < 2) c[Ed::rdTipoCamisa].opcion = -1;
   c.pantalla.pagina.TabPostesados = 0;
   if (Profundidad == 0) LimpiaSeccion(c);
-  if (Profundidad < 2) c.pantalla.figuraTubo.clear();
   RenuevaEtiquetas(c);
   RenuevaTitulo(c);
   if (Profundidad == 0) c.pantalla.titulo = TextoUnidades(c) + Texto(c, txt::CapturaDeDatos);
@@ -217,7 +202,6 @@ void EligeTipologia(Captura& c, bool postesada) {
   c.pantalla.pagina.TabTipologia = postesada ? 1 : 0;
   CargaListasGeom(c, GrupoDeTipologia(nueva));
   c.EsComercial = BuscaEnTramo(c, ModoGeom::Busca) == kGeomHallado;
-  RenuevaFiguras(c);
   ActualizaMenus(c);
   RenuevaTitulo(c);
 }
@@ -229,7 +213,6 @@ void EligeOpcionCamisa(Captura& c, int opcion) {
   AplicaTipologia(c);
   if (opcion == 1) Escribe(c, Ed::edReci0, "");
   CargaListasGeom(c, GrupoDeTipologia(c.e.tramo.Tipologia));
-  RenuevaFiguras(c);
 }
 
 void EligeColocacion(Captura& c, int opcion) {
@@ -267,20 +250,11 @@ void AplicaColocacion(Captura& c) {
   Pide(c, Ed::edHr1, colocacion != 0);
   Pide(c, Ed::edTipoApoyo0, colocacion != 2);
   Pide(c, Ed::edIAs, colocacion == 2);
-  RenuevaFiguras(c);
   RenuevaEtiquetas(c);
 }
 
 void AplicaTipologia(Captura& c) {
   Pide(c, Ed::edReci0, c.e.tramo.Tipologia != kRevestida);
-}
-
-void RenuevaFiguras(Captura& c) {
-  const auto& t = c.e.tramo;
-  const int primera =
-      t.TipoCuna == 2 ? txt::FigurasColocacionHormigon[0] : txt::FigurasColocacionGranular[0];
-  c.pantalla.figuraColocacion = Texto(c, primera + t.TipoColocacion);
-  c.pantalla.figuraTubo = FiguraDeTubo(c);
 }
 
 void BloqueosObra(Captura& c) {

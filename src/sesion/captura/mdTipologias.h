@@ -36,9 +36,6 @@ void EligeColocacion(Captura& c, int opcion);
 void AplicaColocacion(Captura& c);
 void AplicaTipologia(Captura& c);
 
-/// File name of the figures for the choices made.
-void RenuevaFiguras(Captura& c);
-
 /// Locks of the fields that only a range of pressures or heights asks for.
 void BloqueosObra(Captura& c);
 void BloqueosTramo(Captura& c);

@@ -77,6 +77,18 @@ std::string NombreDeIds(const Captura& c, int texto, const std::vector<int>& ids
   return c.textos.Compone(texto, {t == nullptr ? std::string{} : t->numero});
 }
 
+// Another order of the same Tramos, as one step. @return whether it is another
+bool PonOrden(Captura& c, std::vector<TramoFijo> tramos, const std::vector<int>& movidos) {
+  if (tramos == c.version.tramos) return false;
+  const EnUnPaso paso(c, NombreDeIds(c, txt::PasoMueve, movidos));
+  CambiaLista(c, [&](Version& v) {
+    // The order asked for, with what is in hand by now.
+    for (auto& t : tramos) t = v.tramos[*LugarDe(v, t->id)];
+    v.tramos = tramos;
+  });
+  return true;
+}
+
 }  // namespace
 
 void PonEnMano(Captura& c, int id) {
@@ -182,14 +194,20 @@ bool MueveTramos(Captura& c, const std::vector<int>& ids, int paso) {
     }
   };
   paso < 0 ? mueve(tramos.begin(), tramos.end()) : mueve(tramos.rbegin(), tramos.rend());
-  if (tramos == c.version.tramos) return false;
-  const EnUnPaso este(c, NombreDeIds(c, txt::PasoMueve, ids));
-  CambiaLista(c, [&](Version& v) {
-    // The order of before, with what is in hand by now.
-    for (auto& t : tramos) t = v.tramos[*LugarDe(v, t->id)];
-    v.tramos = tramos;
-  });
-  return true;
+  return PonOrden(c, std::move(tramos), ids);
+}
+
+bool LlevaTramos(Captura& c, const std::vector<int>& ids, int antesDe) {
+  std::vector<TramoFijo> llevados;
+  std::vector<TramoFijo> tramos;
+  std::optional<std::size_t> sitio;
+  for (const auto& t : c.version.tramos) {
+    if (t->id == antesDe) sitio = tramos.size();
+    (Esta(ids, t->id) ? llevados : tramos).push_back(t);
+  }
+  const auto donde = static_cast<std::ptrdiff_t>(sitio.value_or(tramos.size()));
+  tramos.insert(tramos.begin() + donde, llevados.begin(), llevados.end());
+  return PonOrden(c, std::move(tramos), ids);
 }
 
 std::string RenumeraTramo(Captura& c, int id, const std::string& texto) {

@@ -26,6 +26,9 @@ void AnadeTramos(Captura& c, std::vector<TramoEnObra> tramos, std::string nombre
 void BorraTramos(Captura& c, const std::vector<int>& ids);
 /// One place towards the beginning (-1) or the end (1). @return whether they could
 bool MueveTramos(Captura& c, const std::vector<int>& ids, int paso);
+/// Together, in their order, before another one.
+/// @param antesDe  id; 0 for the end
+bool LlevaTramos(Captura& c, const std::vector<int>& ids, int antesDe);
 /// Gives a Tramo another number. @return why it may not have it; empty where it has
 std::string RenumeraTramo(Captura& c, int id, const std::string& numero);
 /// Numbers 1, 2, 3... in the order of the list.

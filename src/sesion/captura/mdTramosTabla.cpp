@@ -155,7 +155,7 @@ class LectorTabla {
     const auto& ficha = columna.dato->ficha;
     if (const auto* texto = std::get_if<std::string Tramo::*>(&columna.dato->miembro)) {
       t.*(*texto) = celda;
-      return {};
+      return FaltaDeTexto(c_.textos, celda);
     }
     const auto leido = NumeroTecleado(celda, c_.SeparadorDecimal);
     if (!leido.valor || std::fabs(*leido.valor) > kMayorTecleado) return TextoDeFalta(c_, leido);

@@ -97,8 +97,9 @@ bool CompruebaAlturas(Captura& c) {
 bool ValidaObra(Captura& c) {
   c.faltas.clear();
   // The last two guards of the increments can't be reached: the tests before them are as strict.
+  const bool textos = Cada({ValidaTexto(c, Ed::edObra), ValidaTexto(c, Ed::edCliente)});
   const bool presiones = CompletaPresiones(c) && ComparaPresiones(c);
-  return CompruebaAlturas(c) && presiones;
+  return CompruebaAlturas(c) && presiones && textos;
 }
 
 }  // namespace zorbin

@@ -27,9 +27,9 @@ class Validacion {
   // Each part, so that all the faults are told at once; how many Casos there are can be asked of
   // data without a fault.
   bool Todo() {
-    const bool vale =
-        Cada({Presiones(), Tipologia() && (c_.e.tramo.EsArmado ? Armado() : Postesado()),
-              Dimensiones(), Apoyo(), Alturas(), Relleno(), Cargas()});
+    const bool vale = Cada({ValidaTexto(c_, Ed::edDescriTramo), Presiones(),
+                            Tipologia() && (c_.e.tramo.EsArmado ? Armado() : Postesado()),
+                            Dimensiones(), Apoyo(), Alturas(), Relleno(), Cargas()});
     return vale && Casos();
   }
 

@@ -1,6 +1,7 @@
 #include "sesion/resultados/mdCasos.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <numeric>
@@ -27,12 +28,83 @@ std::string SinMayusculas(std::string texto) {
   return texto;
 }
 
+// Whether a column of figures could show a text.
+bool EsDeCifras(std::string_view texto) {
+  return texto.find_first_not_of("0123456789.,-\xE2\x88\x9E") == std::string_view::npos;
+}
+
+// A text looked for in what columns show. To compose what they show takes long, and few values are
+// met again and again: what was found of a value is kept until another one takes its place.
+class Buscado {
+ public:
+  Buscado(const CasosObra& casos, const VistaCasos& vista, const PalabrasDibujo& palabras)
+      : casos_(casos), w_(palabras), texto_(SinMayusculas(vista.texto)) {
+    if (texto_.empty()) return;
+    const bool cifras = EsDeCifras(texto_);
+    for (const auto c : vista.columnas) {
+      if (!De(c).numero || cifras) columnas_.push_back({c, {}});
+    }
+    for (auto& columna : columnas_) columna.vistos.resize(2 * kVistos);
+  }
+
+  bool Vacio() const { return texto_.empty(); }
+
+  bool Esta(std::size_t caso, const ResultadoTramo& t, const FilaCaso& f) {
+    return std::ranges::any_of(columnas_, [&](ColumnaBuscada& columna) {
+      const bool armado = t.datos.tramo.EsArmado;
+      const Clave clave = ClaveDe(caso, columna.columna, t, f);
+      auto& visto = columna.vistos[Lugar(clave) + (armado ? kVistos : 0)];
+      if (!visto.puesto || visto.clave != clave) {
+        const std::string texto = SinMayusculas(casos_.Texto(caso, columna.columna, w_));
+        visto = {clave, true, texto.find(texto_) != std::string::npos};
+      }
+      return visto.hay;
+    });
+  }
+
+ private:
+  static constexpr int kBits = 12;
+  static constexpr std::size_t kVistos = std::size_t{1} << kBits;
+
+  // The bits of what a text is made of, in a Tramo of a kind.
+  using Clave = std::pair<std::uint64_t, std::uint64_t>;
+  struct Visto {
+    Clave clave;
+    bool puesto = false;
+    bool hay = false;
+  };
+  struct ColumnaBuscada {
+    Columna columna;
+    std::vector<Visto> vistos;
+  };
+
+  const CasosObra& casos_;
+  const PalabrasDibujo& w_;
+  const std::string texto_;
+  std::vector<ColumnaBuscada> columnas_;
+
+  Clave ClaveDe(std::size_t caso, Columna c, const ResultadoTramo& t, const FilaCaso& f) const {
+    const auto bits = [](double a, double b) {
+      return Clave{std::bit_cast<std::uint64_t>(a), std::bit_cast<std::uint64_t>(b)};
+    };
+    if (c == Columna::Interior) return bits(f.NESPIN, f.FIIN);
+    if (c == Columna::Exterior) return bits(f.NEXPEX, f.FIEX);
+    return bits(EsEntera(c) ? casos_.Valor(caso, c) : ValorDe(c, t, f), 0.0);
+  }
+
+  static std::size_t Lugar(const Clave& clave) {
+    constexpr std::uint64_t kMezcla = 0x9E3779B97F4A7C15U;
+    return static_cast<std::size_t>(((clave.first ^ (clave.second * kMezcla)) * kMezcla) >>
+                                    (64 - kBits));
+  }
+};
+
 class Filtro {
  public:
   Filtro(const CasosObra& casos, const VistaCasos& vista, const PalabrasDibujo& palabras)
-      : casos_(casos), v_(vista), w_(palabras), texto_(SinMayusculas(vista.texto)) {}
+      : casos_(casos), v_(vista), buscado_(casos, vista, palabras) {}
 
-  bool Pasa(std::size_t i) const {
+  bool Pasa(std::size_t i) {
     const auto lugar = casos_.LugarTramo(i);
     if (v_.tramo && *v_.tramo != lugar) return false;
     if (v_.soloPeores && casos_.Peor(lugar) != i) return false;
@@ -40,16 +112,13 @@ class Filtro {
     if (v_.veredicto && fila.verificacion.veredicto != *v_.veredicto) return false;
     const auto& datos = casos_.Tramos()[lugar].datos;
     if (v_.hipotesis != 0 && HipotesisQueRige(datos, fila) != v_.hipotesis) return false;
-    return texto_.empty() || std::ranges::any_of(v_.columnas, [&](Columna c) {
-             return SinMayusculas(casos_.Texto(i, c, w_)).find(texto_) != std::string::npos;
-           });
+    return buscado_.Vacio() || buscado_.Esta(i, casos_.Tramos()[lugar], fila);
   }
 
  private:
   const CasosObra& casos_;
   const VistaCasos& v_;
-  const PalabrasDibujo& w_;
-  std::string texto_;
+  Buscado buscado_;
 };
 
 struct Llave {
@@ -113,7 +182,7 @@ CasosObra::Enteras CasosObra::CalculaEnteras(const Sigue& sigue) const {
 std::optional<std::vector<std::uint32_t>> Ordena(const CasosObra& casos, const VistaCasos& v,
                                                  const PalabrasDibujo& w,
                                                  const std::function<bool()>& sigue) {
-  const Filtro filtro(casos, v, w);
+  Filtro filtro(casos, v, w);
   std::vector<Llave> llaves;
   llaves.reserve(casos.Cuantos());
   for (std::size_t i = 0; i < casos.Cuantos(); ++i) {

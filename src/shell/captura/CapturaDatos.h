@@ -50,8 +50,6 @@ class CapturaDatos : public QWidget {
   void cambiada();
   /// A button was pressed.
   void pedida(zorbin::Orden orden);
-  /// A picture is to be seen large.
-  void figuraPedida(const QString& fichero, const QString& titulo);
 
  protected:
   void changeEvent(QEvent* suceso) override;

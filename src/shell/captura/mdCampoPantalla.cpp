@@ -27,7 +27,6 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kMaxTexto = 126;  // bytes of a record, and characters of its code page
 constexpr int kColumnasNumero = 10;
 constexpr int kColumnasTexto = 24;
 constexpr int kLineasParrafo = 3;
@@ -109,7 +108,6 @@ void CampoPantalla::CreaLinea(QWidget* padre) {
     linea_ = casilla;
   } else {
     linea_ = new QLineEdit(padre);
-    linea_->setMaxLength(kMaxTexto);
     linea_->setMinimumWidth(AnchoDe(*linea_, kColumnasTexto / 2));
   }
   widget_ = linea_;
@@ -175,12 +173,7 @@ void CampoPantalla::CreaParrafo(QWidget* padre) {
   parrafo_->setFixedHeight(linea * kLineasParrafo + linea);
   connect(parrafo_, &QPlainTextEdit::textChanged, this, [this] {
     if (escribiendo_) return;
-    const QString texto = ConSaltosDeFichero(parrafo_->toPlainText());
-    if (texto.size() > kMaxTexto) {
-      parrafo_->undo();
-      return;
-    }
-    emit textoCambiado(texto);
+    emit textoCambiado(ConSaltosDeFichero(parrafo_->toPlainText()));
   });
 }
 

@@ -6,13 +6,13 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 #include <utility>
 
 #include "base/textos.h"
+#include "shell/captura/mdListaArrastrable.h"
 #include "shell/piezas/mdQt.h"
 
 namespace zorbin {
@@ -20,7 +20,7 @@ namespace zorbin {
 namespace {
 
 enum Columna { kEstado, kNumero, kDescripcion, kDi, kEsp, kTipologia, kColumnas };
-constexpr int kPapelId = Qt::UserRole;
+constexpr int kPapelId = ListaArrastrable::kPapelId;
 constexpr int kPorLaObra = -1;
 constexpr auto kOrdenables =
     std::to_array<int>({kPorLaObra, kNumero, kDescripcion, kDi, kEsp, kTipologia, kEstado});
@@ -28,6 +28,8 @@ constexpr auto kOrdenables =
 // Numbers sort as numbers.
 class FilaTramo : public QTreeWidgetItem {
  public:
+  FilaTramo() { setFlags(flags() & ~Qt::ItemIsDropEnabled); }  // beside another, not into it
+
   bool operator<(const QTreeWidgetItem& otra) const override {
     const int columna = treeWidget()->sortColumn();
     if (columna != kNumero && columna != kDi && columna != kEsp) {
@@ -63,7 +65,7 @@ PanelTramos::PanelTramos(const Captura& c, QWidget* padre)
       c_(c),
       busca_(new QLineEdit(this)),
       ordena_(new QToolButton(this)),
-      lista_(new QTreeWidget(this)) {
+      lista_(new ListaArrastrable(this)) {
   auto* filas = new QVBoxLayout(this);
   filas->setContentsMargins(6, 6, 6, 6);
   busca_->setObjectName(QStringLiteral("buscaTramo"));
@@ -98,6 +100,7 @@ void PanelTramos::CreaLista() {
   for (const auto senal : {&QTreeWidget::itemActivated, &QTreeWidget::itemClicked}) {
     connect(lista_, senal, this, [this](QTreeWidgetItem* fila, int) { Pide(fila); });
   }
+  connect(lista_, &ListaArrastrable::llevados, this, &PanelTramos::ordenPedido);
   const auto tecla = [this](Qt::Key key, auto pide) {
     connect(new QShortcut(key, lista_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
             this, pide);
@@ -127,6 +130,7 @@ void PanelTramos::CreaOrden() {
 // By a column, or -1 for the order of the Obra.
 void PanelTramos::OrdenaPor(int columna) {
   orden_ = columna;
+  lista_->PonArrastre(columna < 0);
   puestos_.clear();
   Refresca();
 }

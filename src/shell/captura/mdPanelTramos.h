@@ -11,10 +11,11 @@
 
 class QLineEdit;
 class QToolButton;
-class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace zorbin {
+
+class ListaArrastrable;
 
 class PanelTramos : public QWidget {
   Q_OBJECT
@@ -40,12 +41,14 @@ class PanelTramos : public QWidget {
   /// Keys pressed in the list.
   void borradoPedido();
   void numeroPedido();
+  /// Dragged together before another one; 0 for the end.
+  void ordenPedido(const std::vector<int>& ids, int antesDe);
 
  private:
   const Captura& c_;
   QLineEdit* busca_;
   QToolButton* ordena_;
-  QTreeWidget* lista_;
+  ListaArrastrable* lista_;
   std::map<int, EstadoTramo> estados_;
   std::vector<RenglonTramo> puestos_;
   int orden_ = -1;  // column; -1 for the order of the Obra

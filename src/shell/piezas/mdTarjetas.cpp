@@ -106,8 +106,9 @@ int LayoutTarjetas::Reparte(const QRect& sitio, bool coloca) const {
   const QRect dentro = sitio.marginsRemoved(contentsMargins());
   const int columnas =
       std::clamp((dentro.width() + kHueco) / (kMinimo * Digito() + kHueco), 1, kColumnas);
-  const int ancho =
-      std::min((dentro.width() - (columnas - 1) * kHueco) / columnas, kMaximo * Digito());
+  const int parte = (dentro.width() - (columnas - 1) * kHueco) / columnas;
+  // A single column is narrower than two, and leaves no stripe beside it.
+  const int ancho = columnas == 1 ? parte : std::min(parte, kMaximo * Digito());
   const int todo = columnas * ancho + (columnas - 1) * kHueco;
   std::vector<int> altos(static_cast<std::size_t>(columnas), 0);
   for (auto* pieza : piezas_) {

@@ -24,7 +24,6 @@
 #include "sesion/captura/mdPaginas.h"
 #include "sesion/captura/mdTramos.h"
 #include "shell/captura/CapturaDatos.h"
-#include "shell/captura/frFiguras.h"
 #include "shell/captura/mdPanelTramos.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdIconos.h"
@@ -96,10 +95,6 @@ CapturaDatos& FormaPrincipal::captura() {
   centro_->addWidget(captura_);
   connect(captura_, &CapturaDatos::cambiada, this, &FormaPrincipal::Actualiza);
   connect(captura_, &CapturaDatos::pedida, this, [this](Orden o) { Ejecuta(o); });
-  connect(captura_, &CapturaDatos::figuraPedida, this,
-          [this](const QString& ruta, const QString& titulo) {
-            (new frFiguras(ruta, titulo, this))->show();
-          });
   return *captura_;
 }
 
@@ -228,6 +223,9 @@ void FormaPrincipal::CreaPanelTramos() {
   marcoTramos_->hide();
   connect(panel_, &PanelTramos::borradoPedido, this, [this] { Ejecuta(Orden::mnBorraTramos); });
   connect(panel_, &PanelTramos::numeroPedido, this, [this] { Ejecuta(Orden::mnRenumeraTramo); });
+  connect(panel_, &PanelTramos::ordenPedido, this, [this](const std::vector<int>& ids, int antes) {
+    Protege([&] { captura().Hace([&] { LlevaTramos(c_, ids, antes); }); });
+  });
   connect(panel_, &PanelTramos::tramoPedido, this, [this](int id) {
     // Whoever goes down the list by its keys stays in it.
     const bool enLaLista = panel_->isAncestorOf(QApplication::focusWidget());
@@ -510,9 +508,10 @@ void FormaPrincipal::RenuevaInicio() {
 bool FormaPrincipal::Recupera(const Borrador& b, bool deFichero) {
   if (c_.ObraCargada) return false;
   if (deFichero) {
-    if (!AbreFichero(QFile::decodeName(b.fichero.c_str()))) return false;
-    if (c_.SoloLectura()) {
-      Cierra();
+    std::error_code sinFichero;
+    if (std::filesystem::equivalent(b.fichero, RutaMuestra(kMuestra), sinFichero)) {
+      AbreMuestra();
+    } else if (!AbreFichero(QFile::decodeName(b.fichero.c_str()))) {
       return false;
     }
   } else {
@@ -594,6 +593,7 @@ void FormaPrincipal::dropEvent(QDropEvent* suceso) {
 void FormaPrincipal::changeEvent(QEvent* suceso) {
   QMainWindow::changeEvent(suceso);
   if (suceso->type() == QEvent::PaletteChange && barra_ != nullptr) DibujaIconos();
+  if (suceso->type() == QEvent::ThemeChange && ver_ != nullptr) ver_->RenuevaTema();
 }
 
 }  // namespace zorbin

@@ -63,8 +63,8 @@ class FormaPrincipal : public QMainWindow {
   /// Opens an Obra by its file; one that is open is closed first, unless it has unsaved edits.
   bool Abre(const QString& ruta);
 
-  /// Opens the Obra of a draft, or begins a new one, and puts the draft on the screen. An Obra that
-  /// can't be opened for writing takes none.
+  /// Opens the Obra of a draft, or begins a new one, and puts the draft on the screen. One that
+  /// is only read takes it too: it is then saved as another.
   bool Recupera(const Borrador& b, bool deFichero);
 
   /// Tells in the status bar what needs no answer; it stays there until the Obra is closed.

@@ -21,7 +21,7 @@ MenuVer::MenuVer(QMenu& menu, const Catalogo& textos, Preferencias& preferencias
     deTema_.push_back(Anade(*temas_, *grupo, texto));
     connect(deTema_.back(), &QAction::triggered, this, [this, tema] {
       preferencias_.PonTema(tema);
-      PonTema(static_cast<Tema>(tema));
+      RenuevaTema();
     });
   }
   grupo = new QActionGroup(this);
@@ -41,6 +41,10 @@ QAction* MenuVer::Anade(QMenu& menu, QActionGroup& grupo, int texto) {
   grupo.addAction(accion);
   entradas_.push_back({accion, texto});
   return accion;
+}
+
+void MenuVer::RenuevaTema() const {
+  PonTema(static_cast<Tema>(preferencias_.Tema()));
 }
 
 void MenuVer::Renueva() {

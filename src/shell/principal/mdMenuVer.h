@@ -22,6 +22,8 @@ class MenuVer : public QObject {
 
   /// Texts, and the entries in force.
   void Renueva();
+  /// The colours of the desktop are others: light or dark again, as was chosen.
+  void RenuevaTema() const;
 
  signals:
   /// @param idioma  1 to 5

@@ -12,8 +12,8 @@
 
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
-#include "shell/captura/frFiguras.h"
 #include "shell/piezas/mdQt.h"
+#include "shell/principal/mdFigura.h"
 
 namespace zorbin {
 

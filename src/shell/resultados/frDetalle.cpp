@@ -19,6 +19,7 @@
 #include "shell/dibujos/mdVistaLamina.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
+#include "shell/resultados/mdVariosTramos.h"
 
 namespace zorbin {
 
@@ -49,6 +50,8 @@ PanelDetalle::PanelDetalle(const Entorno& entorno, QWidget* padre)
                      static_cast<QWidget*>(todo_)}) {
     addTab(w, QString{});
   }
+  varios_ = new PanelVariosTramos(entorno, this);
+  addTab(varios_, QString{});
   setUsesScrollButtons(true);
   RenuevaTextos();
 }
@@ -88,11 +91,7 @@ QWidget* PanelDetalle::CreaGrafico() {
   filas->addWidget(valores_);
   connect(grafico_, &VistaLamina::apuntado, valores_, &QLabel::setText);
   grafico_->PonCuenta([this](const LaminaConEjes& l, Xy sitio) -> QString {
-    if (!l.ejes.Contiene(sitio)) return {};
-    const auto w = Palabras();
-    const Xy v = l.ejes.Valores(sitio);
-    return Q(l.ejes.x.titulo + ": " + w.Numero(v.x, 2) + "   " + l.ejes.y.titulo + ": " +
-             w.Numero(v.y, 2));
+    return l.ejes.Contiene(sitio) ? Q(ValoresEn(l.ejes, sitio, Palabras())) : QString{};
   });
   return pagina;
 }
@@ -130,9 +129,11 @@ QWidget* PanelDetalle::CreaComprobaciones() {
 }
 
 void PanelDetalle::RenuevaTextos() {
-  for (int i = 0; i < count(); ++i) {
+  for (int i = 0; i < indexOf(varios_); ++i) {
     setTabText(i, Q(entorno_.textos.Texto(txt::ResPestanas[static_cast<std::size_t>(i)])));
   }
+  setTabText(indexOf(varios_), Q(entorno_.textos.Texto(txt::ResVariosTramos)));
+  varios_->RenuevaTextos();
   LlenaListas();
   Muestra();
 }
@@ -148,8 +149,9 @@ void PanelDetalle::LlenaListas() {
   que_->setCurrentIndex(que);
   const int eje = eje_->currentIndex();
   eje_->clear();
-  eje_->addItem(Q(w.T(txt::DibEjeAltura)));
-  eje_->addItem(Q(w.Con(txt::DibEjePresion, {w.Unidad("at->MPa")})));
+  for (const auto e : {EjeDeGrafico::Altura, EjeDeGrafico::Presion}) {
+    eje_->addItem(Q(TituloEje(e, w)));
+  }
   eje_->setCurrentIndex(eje < 0 ? 1 : eje);
 }
 
@@ -162,7 +164,7 @@ void PanelDetalle::Pon(std::shared_ptr<const CasoConTramo> caso, EstiloNumeros e
 }
 
 void PanelDetalle::Muestra() {
-  setEnabled(caso_ != nullptr);
+  for (int i = 0; i < indexOf(varios_); ++i) widget(i)->setEnabled(caso_ != nullptr);
   if (caso_ == nullptr) {
     for (auto* v : {grafico_, seccion_, pared_, zanja_, anillo_, tensiones_}) v->Pon({});
     todo_->clear();

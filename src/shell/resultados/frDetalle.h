@@ -18,6 +18,7 @@ class QTreeWidget;
 
 namespace zorbin {
 
+class PanelVariosTramos;
 class VistaLamina;
 
 class PanelDetalle : public QTabWidget {
@@ -28,6 +29,7 @@ class PanelDetalle : public QTabWidget {
 
   /// None shows nothing.
   void Pon(std::shared_ptr<const CasoConTramo> caso, EstiloNumeros estilo);
+  PanelVariosTramos& varios() { return *varios_; }
   void RenuevaTextos();
   /// Until the chart has been calculated; the next events show it.
   void Espera() { faena_.Espera(); }
@@ -52,6 +54,7 @@ class PanelDetalle : public QTabWidget {
   QTableWidget* matriz_;
   QLabel* comprobaciones_;
   QTreeWidget* todo_;
+  PanelVariosTramos* varios_;
 
   UltimaFaena faena_;
 

@@ -27,6 +27,7 @@
 #include "shell/resultados/frCompara.h"
 #include "shell/resultados/frDetalle.h"
 #include "shell/resultados/mdModeloCasos.h"
+#include "shell/resultados/mdVariosTramos.h"
 
 namespace zorbin {
 
@@ -207,6 +208,9 @@ bool frResultados::Calcula() {
   for (std::size_t i = 0; i < casos->Tramos().size(); ++i) {
     emit verificado(calculo.ids[i], CuentaDeVeredictos(casos->Tramos()[i]).veredicto);
   }
+  std::vector<DatosTramo> hechos;
+  for (const auto& t : casos->Tramos()) hechos.push_back(t.datos);
+  detalle_->varios().Pon(std::move(hechos), Estilo());
   modelo_->Pon(std::move(casos), textos, Estilo());
   LlenaListas();
   LlenaColumnas();

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QMainWindow>
 #include <QTimer>
+#include <algorithm>
 
 #include "base/textos.h"
 #include "shell/piezas/mdQt.h"
@@ -11,7 +12,9 @@ namespace zorbin {
 
 namespace {
 
-constexpr int kAncho = 440;  // at first [px]
+// At first: a part of the window, so that the form keeps two columns in a narrow one.
+constexpr double kParte = 0.27;
+constexpr int kMenorAncho = 370, kMayorAncho = 560;  // [px]
 
 }  // namespace
 
@@ -58,7 +61,11 @@ void MarcoDiseno::Aplica() {
   setVisible(hayObra_ && LoQuiere());
   if (!isVisible() || !sinAncho_) return;
   sinAncho_ = false;
-  QTimer::singleShot(0, this, [this] { ventana_.resizeDocks({this}, {kAncho}, Qt::Horizontal); });
+  QTimer::singleShot(0, this, [this] {
+    const int ancho =
+        std::clamp(static_cast<int>(ventana_.width() * kParte), kMenorAncho, kMayorAncho);
+    ventana_.resizeDocks({this}, {ancho}, Qt::Horizontal);
+  });
 }
 
 void MarcoDiseno::closeEvent(QCloseEvent* suceso) {

@@ -29,7 +29,8 @@ struct Calculado : ResultadoPostesado {
 
 Calculado Calcula(const Tubo& e) {
   Marcha marcha;
-  auto r = CalculaPostesado(e.tramo, e.anillo, e.presiones, marcha);
+  Zunchados zunchados(e.tramo);
+  auto r = CalculaPostesado(e.tramo, e.anillo, e.presiones, zunchados, marcha);
   return {std::move(r), std::move(marcha.avisos)};
 }
 

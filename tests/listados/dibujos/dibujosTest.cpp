@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
+#include <set>
 
 #include "base/mdCarpetas.h"
 #include "base/mdTextos.h"
@@ -13,6 +15,7 @@
 #include "listados/dibujos/mdDibujoZanja.h"
 #include "listados/dibujos/mdDxf.h"
 #include "listados/dibujos/mdGraficosTramo.h"
+#include "listados/dibujos/mdGraficoComparado.h"
 #include "listados/dibujos/mdSvg.h"
 
 namespace zorbin {
@@ -55,6 +58,8 @@ class Escena {
       for (const auto que : {QueGrafico::Acero, QueGrafico::Momentos, QueGrafico::Cargas}) {
         x.push_back(DibujaGraficoTramo(que, eje, Datos(), malla, w, hoja).lamina);
       }
+      const TramoComparado uno{Datos(), std::make_shared<const Malla>(malla)};
+      x.push_back(DibujaGraficoComparado(QueCompara::Momento, eje, {uno, uno}, w, hoja).lamina);
     }
     return x;
   }
@@ -309,6 +314,55 @@ TEST(Dibujos, UnDetalleMayorQueSuVistaSeApartaEnElDxf) {
         "10\r\n180.0\r\n20\r\n300.0\r\n30\r\n0.0\r\n11\r\n220.0\r\n21\r\n300.0\r\n"}) {
     EXPECT_NE(dxf.find(linea), std::string::npos) << dxf;
   }
+}
+
+// Each name stands wholly on cells that its hypothesis governs, and the great areas have one.
+TEST(Dibujos, ElMapaNombraSusAreas) {
+  for (const int tramo : {1, 3, 6}) {
+    const Escena escena(tramo);
+    const auto w = escena.Palabras();
+    const auto malla = CalculaMapa(escena.Datos());
+    for (const HojaDibujo& hoja : {HojaDibujo{}, HojaDibujo{105, 70, false, 0}}) {
+      const auto mapa = DibujaMapa(malla, escena.Datos(), &escena.Fila(), w, hoja);
+      std::set<int> nombradas;
+      for (const auto& r : Rotulos(mapa.lamina)) {
+        if (!r.halo || r.negrita) continue;
+        const int h = std::stoi(r.texto);
+        nombradas.insert(h);
+        const auto m = CajaTexto(r);
+        for (const Xy p :
+             {Xy{m.x, m.y}, Xy{m.Derecha(), m.y}, Xy{m.x, m.Abajo()}, Xy{m.Derecha(), m.Abajo()}}) {
+          const auto sitio = PuntoEn(mapa, malla, w, p);
+          ASSERT_TRUE(sitio) << r.texto;
+          EXPECT_EQ(malla.En(sitio->altura, sitio->presion)->hipotesis, h) << r.texto;
+        }
+      }
+      std::map<int, std::size_t> celdas;
+      for (const auto& p : malla.puntos) ++celdas[p ? p->hipotesis : 0];
+      for (const auto& [h, cuantas] : celdas) {
+        if (h == 0 || cuantas < malla.puntos.size() / 5) continue;
+        EXPECT_TRUE(nombradas.contains(h)) << tramo << ": " << h;
+      }
+    }
+  }
+}
+
+// At each place of the axis, the greatest of what its Tramo has there.
+TEST(Dibujos, LaComparacionTomaElMayorDeCadaTramo) {
+  const Escena escena(1);
+  const auto w = escena.Palabras();
+  const auto ejes = EjesDelGrafico(escena.Datos(), EjeDeGrafico::Presion, 12);
+  const auto malla = std::make_shared<const Malla>(CalculaMalla(escena.Datos(), ejes));
+  const auto l = DibujaGraficoComparado(QueCompara::Acero, EjeDeGrafico::Presion,
+                                        {{escena.Datos(), malla}}, w);
+  double mayor = 0;
+  for (std::size_t i = 0; i < ejes.alturas.size(); ++i) {
+    mayor = std::max(mayor, malla->En(i, 6)->acero.value_or(0));
+  }
+  const Xy p = l.ejes.P(w.Convertido(ejes.presiones[6], "at->MPa"), mayor);
+  EXPECT_EQ(QueHayEn(l.lamina, p, 0.3), 0);
+  EXPECT_EQ(QueHayEn(l.lamina, {p.x, p.y + 3.0}, 0.3), kSinId);
+  EXPECT_GT(ejes.alturas.size(), 1U);
 }
 
 TEST(Dibujos, DoradosEnSvg) {

@@ -39,7 +39,7 @@ std::string Retrato(const Captura& c) {
   b.autor = {};
   std::ostringstream texto;
   texto << TextoDeBorrador(b) << c.pantalla.titulo << c.pantalla.textoCancelar
-        << c.pantalla.figuraColocacion << c.pantalla.figuraTubo << c.textos.IdiomaOffset();
+        << c.textos.IdiomaOffset();
   for (const bool orden : c.pantalla.habilitadas) texto << orden;
   for (const auto& fila : TablaCampos()) {
     const auto& control = c[fila.id];

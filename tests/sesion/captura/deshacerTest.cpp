@@ -58,6 +58,10 @@ const ClaseDePaso kClases[] = {
      [](auto& b) {
        MueveTramos(b.c, {b.Id(2), b.Id(3)}, -1);
      }},
+    {"carried to another place", 1,
+     [](auto& b) {
+       LlevaTramos(b.c, {b.Id(2), b.Id(6)}, b.Id(4));
+     }},
     {"renumbered", 1, [](auto& b) { RenumeraTramo(b.c, b.Id(3), "40"); }},
     {"all renumbered", 2, [](auto& b) { BorraTramos(b.c, {b.Id(1)}), RenumeraTodos(b.c); }},
     {"reread", 2, [](auto& b) { b.Teclea(edGr0, "1,9"), Relee(b.c); }},

@@ -63,6 +63,7 @@ TEST(Tabla, LoQueNoCabeSeDicePorFilaYColumna) {
     std::vector<std::pair<const char*, const char*>> dice;  // row and column
     const char* que;
   };
+  const std::string largo = "Di (m)\tDescriTramo\n1\t" + std::string(127, 'x') + "\n";
   for (const auto& f : std::vector<Fila>{
            {"", {{"1", "1"}}, ""},
            {"NumeroTramo\tDi (m)\n", {}, ""},
@@ -77,6 +78,8 @@ TEST(Tabla, LoQueNoCabeSeDicePorFilaYColumna) {
            {"Di (m)\tTipoCuna\n1\t-1\n", {{"2", "2"}}, "TipoCuna"},
            {"Di (m)\tTipoColocacion\n1\t3\n", {{"2", "2"}}, "TipoColocacion"},
            {"Di (m)\tDe (m)\n1\t3\n", {{"1", "2"}}, "De"},
+           {"Di (m)\tDescriTramo\n1\tΩ\n", {{"2", "2"}}, "Ω"},
+           {largo.c_str(), {{"2", "2"}}, "126"},
        }) {
     SCOPED_TRACE(f.tabla);
     ConMuestra b;

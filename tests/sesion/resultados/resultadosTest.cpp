@@ -132,6 +132,34 @@ TEST_F(Casos, ElTextoLlevaElSignoDecimalYSusUnidades) {
   EXPECT_EQ(casos.CalculaEnteras([&](double) { return ++preguntas < 1; }), nullptr);
 }
 
+// What is found is what can be read, whatever is kept of values that were met before.
+TEST_F(Muestra, SeBuscaEnLoQueSeLee) {
+  casos.PonEnteras(casos.CalculaEnteras({}));
+  VistaCasos v;
+  for (const auto& f : TablaColumnas()) v.columnas.push_back(f.columna);
+  const auto minusculas = [](std::string texto) {
+    for (char& letra : texto) {
+      if (letra >= 'A' && letra <= 'Z') letra = static_cast<char>(letra - 'A' + 'a');
+    }
+    return texto;
+  };
+  std::size_t hallados = 0;
+  for (const char* que : {"4", "4,1", "0,72", "-", "-0,", "mdp", "STP", "Ø", " Ø10", "· ", "✓",
+                          "cumple", "ó", "1 ·", "nada de esto"}) {
+    v.texto = que;
+    std::vector<std::uint32_t> leidos;
+    for (std::uint32_t i = 0; i < casos.Cuantos(); ++i) {
+      const bool hay = std::ranges::any_of(v.columnas, [&](Columna c) {
+        return minusculas(casos.Texto(i, c, w)).find(minusculas(que)) != std::string::npos;
+      });
+      if (hay) leidos.push_back(i);
+    }
+    EXPECT_EQ(Ordena(casos, v, w), leidos) << que;
+    hallados += leidos.size();
+  }
+  EXPECT_GT(hallados, casos.Cuantos());
+}
+
 TEST_F(Muestra, LaMatrizTieneElUsoDelVeredicto) {
   for (std::size_t i = 0; i < casos.Cuantos(); ++i) {
     const auto caso = CasoConSuTramo(casos.Tramo(i), casos.Fila(i));

@@ -1,8 +1,6 @@
-#include "shell/captura/frFiguras.h"
+#include "shell/principal/mdFigura.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "shell/piezas/mdTema.h"
@@ -36,19 +34,13 @@ QPixmap AOscuras(const QPixmap& dibujo, const QPalette& paleta) {
 
 Figura::Figura(QWidget* padre) : QWidget(padre) {
   setFocusPolicy(Qt::NoFocus);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 void Figura::Pon(const QString& ruta) {
   if (ruta == ruta_) return;
   ruta_ = ruta;
   imagen_ = ruta.isEmpty() ? QPixmap() : QPixmap(ruta);
-  updateGeometry();
   update();
-}
-
-QSize Figura::sizeHint() const {
-  return {360, 260};
 }
 
 void Figura::paintEvent(QPaintEvent*) {
@@ -63,29 +55,6 @@ void Figura::paintEvent(QPaintEvent*) {
                     .scaled(cabe * escala, Qt::KeepAspectRatio, Qt::SmoothTransformation);
   dibujo.setDevicePixelRatio(escala);
   pintor.drawPixmap(caja, dibujo);
-}
-
-void Figura::mouseDoubleClickEvent(QMouseEvent*) {
-  if (Hay()) emit dobleClic();
-}
-
-void Figura::keyPressEvent(QKeyEvent* suceso) {
-  if (Hay() && (suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Space)) {
-    emit dobleClic();
-  } else {
-    QWidget::keyPressEvent(suceso);
-  }
-}
-
-frFiguras::frFiguras(const QString& ruta, const QString& titulo, QWidget* padre) : QDialog(padre) {
-  setWindowTitle(titulo);
-  setAttribute(Qt::WA_DeleteOnClose);
-  auto* filas = new QVBoxLayout(this);
-  auto* figura = new Figura(this);
-  figura->setAccessibleName(titulo);
-  figura->Pon(ruta);
-  filas->addWidget(figura);
-  resize(900, 640);
 }
 
 }  // namespace zorbin
