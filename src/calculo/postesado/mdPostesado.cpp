@@ -26,16 +26,18 @@ constexpr std::int16_t kErrorCambio = 91;
 class Analisis {
  public:
   Analisis(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
-           Zunchados& zunchados, Marcha& marcha, ResultadoPostesado& r)
+           Zunchados& zunchados, Marcha& marcha, ResultadoPostesado& r, Rastro* rastro)
       : t_(t),
         caso_(presiones),
         zunchados_(zunchados),
         marcha_(marcha),
         r_(r),
-        esfuerzos_(EsfuerzosHipotesis(terminos)),
+        rastro_(rastro),
+        esfuerzos_(EsfuerzosHipotesis(terminos, rastro)),
         presiones_(PresionesHipotesis(presiones)) {
     r_.radios = zunchados.radios();
     r_.materiales = zunchados.materiales();
+    if (rastro) AnotaTramo();
     r_.PP = caso_.PP;
     r_.LimiteChapa = kFraccionChapa * t_.FYKPost;
     for (int h = 1; h <= kHipotesisPostesado; ++h) Carga(r_.hipotesis(h), h);
@@ -58,6 +60,8 @@ class Analisis {
   Zunchados& zunchados_;
   Marcha& marcha_;
   ResultadoPostesado& r_;
+  Rastro* rastro_;
+  Rastro* enPasada_ = nullptr;  // of the pass in hand: those of the verification leave steps
   const EsfuerzosPostesado esfuerzos_;
   const Lista<double, kHipotesisPostesado> presiones_;
   FaseAviso fase_ = FaseAviso::Final;
@@ -65,6 +69,14 @@ class Analisis {
   int IdxAlambre_ = 0;          // its position; the search, MDP and verification share it
   TensionesHipotesis ultimas_;  // of the last pass that got to its stresses
   int ultimaHipotesis_ = 0;     // its hypothesis
+
+  // What is the same in all Casos of the Tramo.
+  void AnotaTramo() const {
+    const EnLugar radios(rastro_, {Apartado::Radios});
+    Radios(t_, rastro_);
+    const EnLugar materiales(rastro_, {Apartado::Materiales});
+    Materiales(t_, rastro_);
+  }
 
   void Avisa(int h, ClaseAviso clase, std::optional<double> valor = {}) {
     r_.MensajePostesado = clase;
@@ -92,7 +104,11 @@ class Analisis {
 
   bool EligePrimero() {
     const double FuerzaAnillo = Finito(caso_.DP * 10.0 * r_.radios.RadioNuc / 100.0);
-    const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia);
+    const EnLugar lugar(rastro_, {Apartado::AlambreInicial});
+    if (rastro_) {
+      rastro_->Anota(Formula::FuerzaAnillo, {caso_.DP, r_.radios.RadioNuc}, FuerzaAnillo);
+    }
+    const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia, rastro_);
     if (!primero) {
       r_.ErrorPostesado = kErrorEspesor;
       Avisa(0, ClaseAviso::EspesorInsuficiente);
@@ -133,7 +149,8 @@ class Analisis {
     if (alambre_ != Final()) {
       r_.PP = kPPAlambreCambia;
     } else {
-      r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP);
+      const EnLugar lugar(rastro_, {Apartado::PruebaNeta});
+      r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP, rastro_);
       r_.PPHipotesis = ultimaHipotesis_;
       r_.PPConAlambreFinal = p.error == 0;
     }
@@ -141,6 +158,7 @@ class Analisis {
 
   FinPostesado Verifica() {
     fase_ = FaseAviso::Final;
+    enPasada_ = rastro_;
     bool hay = false;
     for (int h = 1; h <= kHipotesisPostesado; ++h) {
       auto& p = r_.hipotesis(h);
@@ -159,7 +177,10 @@ class Analisis {
 
   // One pass: adds spirals to the winding in hand until the hypothesis of `p` holds.
   void Pasada(HipotesisPostesada& p) {
+    const EnLugar lugar(enPasada_, {Apartado::Limites, static_cast<std::int8_t>(p.h)});
+    UltimaVuelta ultima(enPasada_);
     for (int vuelta = 0; vuelta < kMaxVueltas; ++vuelta) {
+      ultima.Empieza();
       ++r_.Vueltas;
       marcha_.vueltas.Suma(kVueltasDePasada);
       if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
@@ -191,12 +212,19 @@ class Analisis {
 
   Intento Intenta(const HipotesisPostesada& p) {
     const auto& m = r_.materiales;
-    Intento x{zunchados_.De(alambre_), {}, {}};
+    Rastro* seccion = DelAlambre(p);
+    Intento x{zunchados_.De(alambre_, seccion), {}, {}};
     const Zunchado& z = x.zunchado;
     if (!z.perdidas.NucleoAguanta) return x;
-    x.oval = TensionesOvalizacion(m, z.seccion, alambre_.FIPR, p.MomHip, p.AxilHip);
-    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, z.perdidas, x.oval, z.K);
+    x.oval = TensionesOvalizacion(m, z.seccion, alambre_.FIPR, p.MomHip, p.AxilHip, enPasada_);
+    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, z.perdidas, x.oval, z.K, enPasada_);
     return x;
+  }
+
+  // What depends on the winding alone is the same in every hypothesis, but for one that asks for
+  // another winding: the first one leaves its steps, and that one.
+  Rastro* DelAlambre(const HipotesisPostesada& p) const {
+    return p.h == 1 || alambre_ != Final() ? enPasada_ : nullptr;
   }
 
   void NoAguanta(HipotesisPostesada& p, const Intento& x) {
@@ -208,7 +236,18 @@ class Analisis {
 
   bool Aceptado(const HipotesisPostesada& p, const Intento& x) const {
     const bool nucleo = !t_.Icontes1 || caso_.DP * t_.Coepre1 <= x.zunchado.perdidas.PresPrimario;
-    return nucleo && p.PresHip <= x.limites.PresLimite;
+    const bool aceptado = nucleo && p.PresHip <= x.limites.PresLimite;
+    if (enPasada_ && aceptado) AnotaAceptado(p, x);
+    return aceptado;
+  }
+
+  void AnotaAceptado(const HipotesisPostesada& p, const Intento& x) const {
+    LuzEspiras(alambre_.FIPR, alambre_.NESP, enPasada_);
+    if (t_.Icontes1) {
+      enPasada_->Anota(Formula::AceptaNucleo,
+                       {caso_.DP, t_.Coepre1, x.zunchado.perdidas.PresPrimario});
+    }
+    enPasada_->Anota(Formula::AceptaHipotesis, {p.PresHip, x.limites.PresLimite});
   }
 
   void Resultados(HipotesisPostesada& p, const Intento& x) {
@@ -219,7 +258,7 @@ class Analisis {
     static_cast<OvalizacionPostesada&>(p) = x.oval;
     static_cast<PorPresion&>(p) = z.K;
     static_cast<LimitesPresion&>(p) = x.limites;
-    ultimas_ = Tensiones(p.PresHip, z.perdidas, x.oval, z.K);
+    ultimas_ = Tensiones(p.PresHip, z.perdidas, x.oval, z.K, enPasada_);
     ultimaHipotesis_ = p.h;
     static_cast<TensionesHipotesis&>(p) = ultimas_;
     p.TensionChapa = CompruebaChapa(t_, r_.materiales.RatioChapa, p);
@@ -232,9 +271,9 @@ class Analisis {
 
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
                                     const PresionesCaso& presiones, Zunchados& zunchados,
-                                    Marcha& marcha) {
+                                    Marcha& marcha, Rastro* rastro) {
   ResultadoPostesado r;
-  Analisis(t, terminos, presiones, zunchados, marcha, r).Corre();
+  Analisis(t, terminos, presiones, zunchados, marcha, r, rastro).Corre();
   return r;
 }
 

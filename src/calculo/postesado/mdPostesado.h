@@ -8,6 +8,7 @@
 #pragma once
 
 #include "calculo/postesado/mdZunchados.h"
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -29,6 +30,6 @@ namespace zorbin {
 ///         a search that does not end
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
                                     const PresionesCaso& presiones, Zunchados& zunchados,
-                                    Marcha& marcha);
+                                    Marcha& marcha, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

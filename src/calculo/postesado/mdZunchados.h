@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <deque>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -29,9 +30,9 @@ class Zunchados {
   const RadiosPostesado& radios() const { return radios_; }
   const MaterialesPostesado& materiales() const { return materiales_; }
 
-  /// Stands until the next one is asked for.
+  /// Stands until the next one is asked for. With a `rastro` it leaves its steps there.
   /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-  const Zunchado& De(const Alambre& alambre);
+  const Zunchado& De(const Alambre& alambre, Rastro* rastro = nullptr);
 
  private:
   static constexpr int kBits = 10;
@@ -42,7 +43,7 @@ class Zunchados {
   std::array<std::uint16_t, std::size_t{1} << kBits> lugares_{};  // in hechos_ from 1; 0 for none
   std::deque<Zunchado> hechos_;
 
-  Zunchado Calcula(const Alambre& alambre) const;
+  Zunchado Calcula(const Alambre& alambre, Rastro* rastro) const;
 };
 
 }  // namespace zorbin
