@@ -72,14 +72,35 @@ double Linea_6030(double fyd, double BRAZO, double A, double N, double M) {
 }
 
 Comprobacion1050 Lineas_1050(double A1, double A2, double M, double BRAZO, double N, double fyd,
-                             double CANTO, double Fcad) {
+                             double CANTO, double Fcad, Rastro* rastro) {
   if (!EsTraccionCompuesta(M, N, BRAZO)) {
     const auto k = CoeficientesDeFlexion(M, N, BRAZO, CANTO, Fcad);
-    return {false, 0.0, k.K1, k.K2, AreaDeFlexion(k, N, fyd)};
+    const double necesaria = AreaDeFlexion(k, N, fyd);
+    if (rastro) {
+      if (N < 0.0) {
+        rastro->Anota(Formula::ComprobacionCompresion, {N});
+      } else {
+        rastro->Anota(Formula::ComprobacionFlexion, {M, N, BRAZO});
+      }
+      rastro->Anota(Formula::K1Comprobacion, {M, N, BRAZO, CANTO}, k.K1);
+      rastro->Anota(Formula::K2Comprobacion, {M, N, BRAZO, Fcad, CANTO}, k.K2);
+      rastro->Anota(Formula::NecesariaFlexion, {k.K1, k.K2, N, fyd}, necesaria);
+    }
+    return {false, 0.0, k.K1, k.K2, necesaria};
   }
   // Without steel on either face each would take half.
   const double r = A1 + A2 == 0.0 ? 0.5 : Div(A1, A1 + A2);
-  return {true, r, 0.0, 0.0, Div((Div(Div(M, N), BRAZO) + r) * N, fyd)};
+  const double necesaria = Div((Div(Div(M, N), BRAZO) + r) * N, fyd);
+  if (rastro) {
+    rastro->Anota(Formula::ComprobacionTraccion, {M, N, BRAZO});
+    if (A1 + A2 == 0.0) {
+      rastro->Anota(Formula::MitadCara, {}, r);
+    } else {
+      rastro->Anota(Formula::ParteCara, {A1, A2}, r);
+    }
+    rastro->Anota(Formula::NecesariaTraccion, {M, N, BRAZO, r, fyd}, necesaria);
+  }
+  return {true, r, 0.0, 0.0, necesaria};
 }
 
 }  // namespace zorbin

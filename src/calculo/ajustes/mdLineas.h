@@ -6,6 +6,7 @@
 // layers, `CANTO` the useful depth, `Fcad` the reduced strength of the concrete.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/resultados.h"
 
 namespace zorbin {
@@ -62,6 +63,6 @@ struct Comprobacion1050 {
 /// @param A1  steel on the tensioned face  @param A2  steel on the other
 /// @throws ErrorEjecucion DivisionPorCero for N, BRAZO or fyd of 0
 Comprobacion1050 Lineas_1050(double A1, double A2, double M, double BRAZO, double N, double fyd,
-                             double CANTO, double Fcad);
+                             double CANTO, double Fcad, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

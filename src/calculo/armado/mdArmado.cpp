@@ -59,6 +59,41 @@ void AreasFinales(ResultadoArmado& r) {
   PonAreas(r);
 }
 
+void AnotaEsfuerzos(const TerminosAnillo& x, const PresionesCaso& p, double R, const Esfuerzos& e,
+                    int s, Rastro& rastro) {
+  const auto M = [&](int i) { return x.MHip(i, s); };
+  const auto N = [&](int i) { return x.NHip(i, s); };
+  const auto anota = [&](int h, Formula formula, std::initializer_list<double> v, double r) {
+    const EnLugar lugar(&rastro, {Apartado::Hipotesis, static_cast<std::int8_t>(h),
+                                  static_cast<std::int8_t>(s), CaraPared::Ninguna});
+    rastro.Anota(formula, v, r);
+  };
+  anota(1, Formula::NHip1, {p.PP, R}, e.N(1, s));
+  anota(2, Formula::MHip2, {M(3), M(1), M(4)}, e.M(2, s));
+  anota(2, Formula::NHip2, {N(3), N(1), N(4)}, e.N(2, s));
+  anota(3, Formula::MHip3, {M(2), M(1), M(8)}, e.M(3, s));
+  anota(3, Formula::NHip3, {N(2), N(1), N(8), p.STP, R}, e.N(3, s));
+  anota(4, Formula::MHip4, {M(2), M(1), M(3), M(4)}, e.M(4, s));
+  anota(4, Formula::NHip4, {N(2), N(1), N(3), N(4), p.DP, R}, e.N(4, s));
+  anota(5, Formula::MHip5, {M(2), M(1), M(11), M(9), M(10)}, e.M(5, s));
+  anota(5, Formula::NHip5, {N(2), N(1), N(11), N(9), N(10), p.MDP, R}, e.N(5, s));
+}
+
+// What the Caso ends with: the areas of its steel, or of its hand adjustment.
+void AnotaArmadura(const ResultadoArmado& r, Rastro& rastro) {
+  const EnLugar lugar(&rastro, {Apartado::Armadura});
+  const auto dos = [&](double camisa, double espiras, double exterior) {
+    rastro.Anota(Formula::InteriorFinal, {camisa, espiras}, r.AsInt);
+    rastro.Anota(Formula::ExteriorFinal, {exterior}, r.AsExt);
+  };
+  if (r.ajuste) {
+    dos(r.ajuste->Camisa, r.ajuste->Espiras, r.ajuste->Exterior);
+  } else {
+    dos(r.AreaCamisa, r.AreaEspiras, r.AreaExterior);
+  }
+  rastro.Anota(Formula::TotalFinal, {r.AsInt, r.AsExt}, r.Total);
+}
+
 void ExigeFinitas(const ResultadoArmado& r) {
   for (const auto& fila : r.TablaHip.v) Finito(fila.Total);
   for (const double x : {r.AsInt, r.AsExt, r.Total, r.AreaCamisa, r.AreaEspiras, r.AreaExterior}) {
@@ -70,13 +105,17 @@ void ExigeFinitas(const ResultadoArmado& r) {
 class Diseno {
  public:
   Diseno(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
-         const std::optional<Ajuste>& ajuste, Marcha& marcha)
-      : t_(t), p_(presiones), marcha_(marcha), R_(t.Di / 2.0) {
+         const std::optional<Ajuste>& ajuste, Marcha& marcha, Rastro* rastro)
+      : t_(t), p_(presiones), marcha_(marcha), rastro_(rastro), R_(t.Di / 2.0) {
     r_.ajuste = ajuste;
     if (ajuste) r_.AreaExterior = ajuste->Exterior;
     r_.BRAZO = BrazoEntreCapas(t);
     AnotaInicio(marcha.registro, t, R_);
-    r_.esfuerzos = EsfuerzosArmado(terminos, presiones, R_);
+    if (rastro) {
+      const EnLugar lugar(rastro, {Apartado::Hipotesis});
+      rastro->Anota(Formula::Radio, {t.Di}, R_);
+    }
+    r_.esfuerzos = EsfuerzosArmado(terminos, presiones, R_, rastro);
   }
 
   ResultadoArmado Calcula() {
@@ -95,6 +134,7 @@ class Diseno {
     }
     AreasFinales(r_);
     ExigeFinitas(r_);
+    if (rastro_) AnotaArmadura(r_, *rastro_);
     return r_;
   }
 
@@ -102,12 +142,15 @@ class Diseno {
   const Tramo& t_;
   const PresionesCaso& p_;
   Marcha& marcha_;
+  Rastro* rastro_;
   const double R_;  // [m]
   ResultadoArmado r_;
 
   // A hypothesis all in compression finds no stress allowed: that of an earlier one stands.
   void Busca(int h, FaseAviso fase) {
-    const auto x = ArmTubo(t_, r_.esfuerzos, h, fase, r_.ajuste, marcha_);
+    // The governing hypothesis is searched twice: the second time is what the Caso rests on.
+    Rastro* rastro = fase == FaseAviso::Final ? rastro_ : nullptr;
+    const auto x = ArmTubo(t_, r_.esfuerzos, h, fase, r_.ajuste, marcha_, rastro);
     static_cast<AceroArmado&>(r_) = x;
     r_.sinFisuracion = x.sinFisuracion;
     r_.TensionMax = x.TensionMax;
@@ -119,7 +162,8 @@ class Diseno {
 
   FilaHip DisenaHipotesis(int h) {
     if (h == kHipPPNeta) {
-      const auto as = ArmPPNeta(t_, p_.PP);
+      const EnLugar lugar(rastro_, {Apartado::PruebaFabrica, kHipPPNeta});
+      const auto as = ArmPPNeta(t_, p_.PP, rastro_);
       return {as.AsInt, as.AsExt, as.AsInt + as.AsExt};
     }
     Busca(h, FaseAviso::Busqueda);
@@ -137,17 +181,36 @@ class Diseno {
         r_.HipotesisRige = I16(h);
       }
     }
+    if (rastro_) AnotaRige(Max);
+  }
+
+  void AnotaRige(double Max) {
+    const auto& T = r_.TablaHip;
+    for (int h = 1; h <= kHipotesisArmado; ++h) {
+      const EnLugar lugar(rastro_, {Apartado::Rige, static_cast<std::int8_t>(h)});
+      rastro_->Anota(Formula::TotalHip, {T(h).AsInt, T(h).AsExt}, T(h).Total);
+    }
+    const EnLugar lugar(rastro_, {Apartado::Rige, static_cast<std::int8_t>(r_.HipotesisRige)});
+    rastro_->Anota(Formula::Rige, {T(1).Total, T(2).Total, T(3).Total, T(4).Total, T(5).Total},
+                   Max);
   }
 
   // The factory test governs: steel for its areas, and the steel ratio of what is provided.
   void RigePPNeta() {
     const FilaHip& fila = r_.TablaHip(kHipPPNeta);
     static_cast<AceroArmado&>(r_) =
-        DisponePPNeta(t_, {fila.AsInt, fila.AsExt}, r_.ajuste, marcha_.avisos);
+        DisponePPNeta(t_, {fila.AsInt, fila.AsExt}, r_.ajuste, marcha_.avisos, rastro_);
     PonAreas(r_);
     if (r_.CAMISA <= 0) return;
     const double ASCR = Div(r_.Total, t_.Esp * 100.0 * 100.0);
-    const auto limite = LimiteLisas(t_.Fck);
+    const EnLugar lugar(rastro_, {Apartado::Retraccion, kHipPPNeta});
+    const auto limite = LimiteLisas(t_.Fck, rastro_);
+    if (rastro_) {
+      rastro_->Anota(Formula::CuantiaTotal, {r_.AsInt, r_.AsExt, t_.Esp}, ASCR);
+      rastro_->Anota(
+          ASCR > limite.ASC ? Formula::RetraccionPruebaPasa : Formula::RetraccionPruebaCumple,
+          {ASCR, limite.ASC});
+    }
     if (ASCR > limite.ASC) {
       marcha_.avisos.push_back(
           {ClaseAviso::RetraccionLisas, kHipPPNeta, FaseAviso::Final, ASCR, true});
@@ -169,8 +232,8 @@ class Diseno {
 
 }  // namespace
 
-Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& presiones,
-                          double R) {
+Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& presiones, double R,
+                          Rastro* rastro) {
   const auto p = Presiones(presiones);
   Esfuerzos x;
   for (int s = 1; s <= kSecciones; ++s) {
@@ -193,13 +256,16 @@ Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& p
       Finito(x.N(h, s));
     }
   }
+  for (int s = 1; rastro && s <= kSecciones; ++s) {
+    AnotaEsfuerzos(terminos, presiones, R, x, s, *rastro);
+  }
   return x;
 }
 
 ResultadoArmado DisenoArmado(const Tramo& t, const TerminosAnillo& terminos,
                              const PresionesCaso& presiones, const std::optional<Ajuste>& ajuste,
-                             Marcha& marcha) {
-  return Diseno(t, terminos, presiones, ajuste, marcha).Calcula();
+                             Marcha& marcha, Rastro* rastro) {
+  return Diseno(t, terminos, presiones, ajuste, marcha, rastro).Calcula();
 }
 
 }  // namespace zorbin

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -18,7 +19,8 @@ namespace zorbin {
 /// @param presiones  [at]
 /// @param R          inner radius [m]
 /// @throws ErrorEjecucion Desbordamiento
-Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& presiones, double R);
+Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& presiones, double R,
+                          Rastro* rastro = nullptr);
 
 /// Designs a Caso. The hypothesis with the largest total governs, and the later one of equals; its
 /// steel is searched again for its warnings. Where it is the factory test, bars are laid out for
@@ -31,6 +33,6 @@ Esfuerzos EsfuerzosArmado(const TerminosAnillo& terminos, const PresionesCaso& p
 /// @throws ErrorEjecucion as `ArmTubo`; Registro
 ResultadoArmado DisenoArmado(const Tramo& t, const TerminosAnillo& terminos,
                              const PresionesCaso& presiones, const std::optional<Ajuste>& ajuste,
-                             Marcha& marcha);
+                             Marcha& marcha, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -37,7 +38,7 @@ double BrazoEntreCapas(const Tramo& t);
 /// @param t   Di [m], Fyd [kp/cm2], Icontes0, Adato [cm2/m], CamMax [mm], TipoCamisa
 /// @param PP  factory test pressure [at]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-AreasCaras ArmPPNeta(const Tramo& t, double PP);
+AreasCaras ArmPPNeta(const Tramo& t, double PP, Rastro* rastro = nullptr);
 
 /// Lays out the areas of the factory test: bars, or sheet and bars, at the inner face, and bars at
 /// the outer one. Nothing is added for cracking, which is checked where there is a moment.
@@ -47,7 +48,7 @@ AreasCaras ArmPPNeta(const Tramo& t, double PP);
 /// @param avisos  bars that do not fit in one layer are added
 /// @throws ErrorEjecucion as `ReparteArmadura`
 AceroArmado DisponePPNeta(const Tramo& t, const AreasCaras& as, const std::optional<Ajuste>& ajuste,
-                          std::vector<Aviso>& avisos);
+                          std::vector<Aviso>& avisos, Rastro* rastro = nullptr);
 
 /// Searches the steel of a hypothesis: classifies every section as composite tension (between the
 /// layers) or flexo-compression, couples the two faces where both are in composite tension, and
@@ -62,6 +63,6 @@ AceroArmado DisponePPNeta(const Tramo& t, const AreasCaras& as, const std::optio
 /// @throws ErrorEjecucion DivisionPorCero (an axial force of 0 among them), Desbordamiento,
 ///         SinConvergencia, DemasiadasVueltas
 AceroBuscado ArmTubo(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, FaseAviso fase,
-                     const std::optional<Ajuste>& ajuste, Marcha& marcha);
+                     const std::optional<Ajuste>& ajuste, Marcha& marcha, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+#include "calculo/rastro/mdRastro.h"
+
 namespace zorbin {
 
 /// Steel chosen for one face.
@@ -29,7 +31,7 @@ double AreaBarras(double D, double n);
 /// Whether n bars of diameter D [mm] in a metre leave between them, in one layer, a bar's diameter
 /// and 2 cm at least.
 /// @throws ErrorEjecucion DivisionPorCero for no bars
-bool CabenEnUnaCapa(double D, double n);
+bool CabenEnUnaCapa(double D, double n, Rastro* rastro = nullptr);
 
 /// Steel for an area. Of the diameters that give hardly more than it the thickest wins; a larger
 /// one is taken while the bars do not fit in one layer, and with the largest they are told to take
@@ -42,6 +44,6 @@ bool CabenEnUnaCapa(double D, double n);
 /// @param AreaExterior   its outer area [cm2/m]
 /// @throws ErrorEjecucion Desbordamiento for an area or a count that does not fit in 16 bits
 Reparto ReparteArmadura(double AS, std::int16_t ICAMIS, double CAMMAX, bool HayAjuste,
-                        double AreaExterior);
+                        double AreaExterior, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -34,7 +35,8 @@ ParedFisuracion ParedDe(const Tramo& t);
 
 /// @param Ri, Re  areas of the inner and outer face [cm2/m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-SeccionHomogenea Homogeneiza(const ParedFisuracion& p, double Ri, double Re);
+SeccionHomogenea Homogeneiza(const ParedFisuracion& p, double Ri, double Re,
+                             Rastro* rastro = nullptr);
 
 /// Tension of the concrete beside the one allowed.
 struct TensionFisuracion {
@@ -47,7 +49,7 @@ struct TensionFisuracion {
 /// @param M  [m·t/m]  @param N  tension positive [t/m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 TensionFisuracion TensionDeFisuracion(const ParedFisuracion& p, const SeccionHomogenea& h, double M,
-                                      double N);
+                                      double N, Rastro* rastro = nullptr);
 
 /// The check of one hypothesis.
 class Fisuracion {
@@ -57,7 +59,8 @@ class Fisuracion {
   /// @param hipotesis  1..5
   /// @param vueltas    of the run; the check adds its own
   /// @throws ErrorEjecucion Subindice for a SubTipo outside 1..3
-  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, CuentaVueltas& vueltas);
+  Fisuracion(const Tramo& t, const Esfuerzos& esfuerzos, int hipotesis, CuentaVueltas& vueltas,
+             Rastro* rastro = nullptr);
 
   /// Adds steel in steps of 0.5 cm2/m until every section of the hypothesis passes. A second call
   /// keeps the largest tension found by the first until steel has to grow again.
@@ -72,6 +75,7 @@ class Fisuracion {
  private:
   const Esfuerzos& esfuerzos_;
   CuentaVueltas& vueltas_;
+  Rastro* rastro_;
   const int h_;
   const ParedFisuracion pared_;
   double tensionMax_ = 0;

@@ -14,18 +14,19 @@ namespace zorbin {
 /// Limit moment of a section [m·t/m], 0.35 Fck d2 / GamaB on the useful depth d.
 /// @param d  ESP less the cover of the tensioned layer [m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-double MomentoLimite(const DatosSeccion& s, double d);
+double MomentoLimite(const DatosSeccion& s, double d, Rastro* rastro = nullptr);
 
 /// What is compared with it [m·t/m]: the magnitude of the moment, in compression taken to the
 /// tensioned layer.
 /// @param N  axial force, tension positive [t/m]  @param r  cover of the tensioned layer [m]
 /// @throws ErrorEjecucion Desbordamiento
-double MomentoReducido(const DatosSeccion& s, double M, double N, double ESP, double r);
+double MomentoReducido(const DatosSeccion& s, double M, double N, double ESP, double r,
+                       Rastro* rastro = nullptr);
 
 /// The least steel of the tensioned face in flexo-compression [cm2/m]: 0.04 Fck GamaY d / (Fyk
 /// GamaB), on the useful depth d [m].
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-double MinimaFlexion(const DatosSeccion& s, double d);
+double MinimaFlexion(const DatosSeccion& s, double d, Rastro* rastro = nullptr);
 
 /// Area of the tensioned face [cm2/m], never below 0.04 Fck GamaY d / (Fyk GamaB), on the useful
 /// depth d = ESP - r. No value when the moment is beyond the limit moment 0.35 Fck d2 / GamaB,
@@ -36,6 +37,6 @@ double MinimaFlexion(const DatosSeccion& s, double d);
 /// @param r     cover of the tensioned layer [m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 std::optional<double> FlexoCompuesta(const DatosSeccion& s, double M, double N, double ESP,
-                                     double r);
+                                     double r, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -30,11 +30,20 @@ constexpr std::array<Banda, 5> kBandas{{
 
 }  // namespace
 
-LimiteRetraccion LimiteLisas(double Fck) {
+LimiteRetraccion LimiteLisas(double Fck, Rastro* rastro) {
+  const Banda* banda = &kBandas.back();
   for (const auto& b : kBandas) {
-    if (Fck <= b.hasta) return {(Fck - b.desde) * b.pendiente / 100.0 + b.base, b.paso};
+    if (Fck <= b.hasta) {
+      banda = &b;
+      break;
+    }
   }
-  return {kBandas.back().base, kBandas.back().paso};
+  const double ASC = (Fck - banda->desde) * banda->pendiente / 100.0 + banda->base;
+  if (rastro) {
+    rastro->Anota(Formula::LimiteRetraccion, {Fck, banda->desde, banda->pendiente, banda->base},
+                  ASC);
+  }
+  return {ASC, banda->paso};
 }
 
 }  // namespace zorbin

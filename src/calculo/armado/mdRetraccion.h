@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+#include "calculo/rastro/mdRastro.h"
+
 namespace zorbin {
 
 /// Limit of a strength.
@@ -16,6 +18,6 @@ struct LimiteRetraccion {
 /// 0.096 up to 350 kp/cm2, straight lines up to 600, 0.33 above. The lines do not meet at 400, so
 /// a concrete just above it is allowed 0.125 and one of 400 only 0.1205.
 /// @param Fck  characteristic strength of the concrete [kp/cm2]
-LimiteRetraccion LimiteLisas(double Fck);
+LimiteRetraccion LimiteLisas(double Fck, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/aritmetica.h"
+#include "calculo/rastro/mdRastro.h"
 
 namespace zorbin {
 
@@ -21,7 +22,7 @@ struct DatosSeccion {
 /// The least steel of a face in composite tension [cm2/m]: 0.04 Fck GamaY Esp / (GamaB Fyk), on the
 /// whole thickness.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-double MinimaTraccion(const DatosSeccion& d);
+double MinimaTraccion(const DatosSeccion& d, Rastro* rastro = nullptr);
 
 /// Area of one face [cm2/m]. The layer takes N in the share of its area, and the couple of the
 /// moment:
@@ -35,6 +36,6 @@ double MinimaTraccion(const DatosSeccion& d);
 /// @param vueltas  of the run; the iteration adds its own
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia, DemasiadasVueltas
 double TraccionCompuesta(const DatosSeccion& d, double M, double N, double Aotra,
-                         CuentaVueltas& vueltas);
+                         CuentaVueltas& vueltas, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -16,6 +16,7 @@
 
 #include <cstdint>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -27,12 +28,12 @@ double TanGrados(double grados);
 
 /// Active earth pressure coefficient tan2(45 - Fi/2) of a fill of internal friction Fi, 0 to 90
 /// [degrees]; [-]. Source: W. J. M. Rankine, "On the stability of loose earth" (1857).
-double EmpujeActivo(double Fi);
+double EmpujeActivo(double Fi, Rastro* rastro = nullptr);
 
 /// Root of e^x - x - c = 0, the equation of the plane of equal settlement, by Newton from x0, whose
 /// sign decides which of the two roots; both exist for c > 1. Stops when a step is below 0.00001.
 /// @throws ErrorEjecucion DivisionPorCero for a step from x = 0, Desbordamiento, SinConvergencia
-double ResuelveEcua(double c, double x0);
+double ResuelveEcua(double c, double x0, Rastro* rastro = nullptr);
 
 /// Friction constant K·mu' of a trench fill by `TipoRelleno` 11, 12, 21, 22, 23 [-]: Rankine ratio
 /// by the friction along the wall of the trench. Any other code gives 0, which CoefZanja refuses.
@@ -57,7 +58,7 @@ double CoefAsentamiento(double p);
 /// @param H    fill height above the crown, above 0 [m]
 /// @param B    trench width, above 0 [m]
 /// @throws ErrorEjecucion DivisionPorCero for a 0 among them, Desbordamiento
-double CoefZanja(double Kmu, double H, double B);
+double CoefZanja(double Kmu, double H, double B, Rastro* rastro = nullptr);
 
 /// Positive projection (embankment) [-], to be multiplied by Gr·H·De. Below the plane of equal
 /// settlement the complete condition, (e^y - 1)/y; above it the incomplete one.
@@ -68,7 +69,7 @@ double CoefZanja(double Kmu, double H, double B);
 /// @param De   external diameter, above 0 [m]
 /// @param H    fill height above the crown, above 0 [m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia
-double CoefTerraplen(double M2, double r, double Hp, double De, double H);
+double CoefTerraplen(double M2, double r, double Hp, double De, double H, Rastro* rastro = nullptr);
 
 /// Negative projection (trench under embankment) [-], to be multiplied by Gr·H·width. As the
 /// positive one, with the friction upwards.
@@ -79,18 +80,19 @@ double CoefTerraplen(double M2, double r, double Hp, double De, double H);
 /// @param B    trench width, above 0 [m]
 /// @param H    fill height above the crown, above 0 [m]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, SinConvergencia
-double CoefZanjaTerraplenada(double Ka, double Mu, double Hr1, double B, double H);
+double CoefZanjaTerraplenada(double Ka, double Mu, double Hr1, double B, double H,
+                             Rastro* rastro = nullptr);
 
 /// Pressure on the crown of the concentrated load `ICarga` at a fill height H [m], in t/m2: 1 axle
 /// of 7 t, 2 axle of 13 t, 3 vehicle of 60 t, 4 railway; 0 for any other code. The formulas are
 /// fitted branch by branch (one wheel near the crown, all of them further down) and do not meet at
 /// the limits. Source: the Anejo.
 /// @throws ErrorEjecucion DivisionPorCero, at a root of a denominator: none for H >= 0
-double PresionMovil(std::int16_t ICarga, double H);
+double PresionMovil(std::int16_t ICarga, double H, Rastro* rastro = nullptr);
 
 /// Impact coefficient at height H [m]: 1 from 3 m on, 1 + 0.3/H below [-]. Source: the Anejo.
 /// @throws ErrorEjecucion DivisionPorCero for H = 0
-double CoefImpacto(double H);
+double CoefImpacto(double H, Rastro* rastro = nullptr);
 
 /// Loads of a Tramo whose load is given, and those that a laying without formula keeps [t/m2]: Q is
 /// QDato, and the origin of the lateral thrust QDato on the width of the pipe in a compacted
@@ -99,7 +101,7 @@ double CoefImpacto(double H);
 /// @param t    QDato [t/m2], TipoApoyo, IndCar, De, B0 [m], Gr [t/m3]
 /// @param Hr0  first fill height of the range [m]
 /// @throws ErrorEjecucion DivisionPorCero for a trench without width
-Cargas CargasDadas(const Tramo& t, double Hr0);
+Cargas CargasDadas(const Tramo& t, double Hr0, Rastro* rastro = nullptr);
 
 /// Loads of the Tramo at height H, over the external diameter. A trench, or a trench under an
 /// embankment, is never loaded more than the embankment of settlement ratio 0.5 over it: where that
@@ -110,6 +112,7 @@ Cargas CargasDadas(const Tramo& t, double Hr0);
 /// @param ICarga  concentrated load, 0 for the load without traffic
 /// @param dadas   what a laying without formula keeps [t/m of pipe]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento, Subindice, SinConvergencia
-Cargas CargasMarston(const Tramo& t, double H, std::int16_t ICarga, const Cargas& dadas = {});
+Cargas CargasMarston(const Tramo& t, double H, std::int16_t ICarga, const Cargas& dadas = {},
+                     Rastro* rastro = nullptr);
 
 }  // namespace zorbin

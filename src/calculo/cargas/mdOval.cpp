@@ -39,6 +39,87 @@ double AxilLateral(const ResultantesOval& r, double De, int col, double h) {
   return ((KNlA(col) * r.w + KNlB(col)) * h + (KNlC(col) * r.w + KNlD(col)) * De) * r.Wl;
 }
 
+void AnotaResultantes(const DatosOval& d, const ResultantesOval& r, Rastro& rastro) {
+  rastro.Anota(Formula::Dm, {d.Di, d.De}, r.Dm);
+  rastro.Anota(Formula::W, {d.De, r.Dm}, r.w);
+  rastro.Anota(Formula::Wp, {d.De, d.Di, d.GAMAB}, r.Wp);
+  rastro.Anota(Formula::Wf, {d.Di}, r.Wf);
+  rastro.Anota(Formula::Wt, {d.De, d.GAMAT}, r.Wt);
+  rastro.Anota(Formula::Wq, {d.Q, d.QMovil, d.De}, r.Wq);
+  rastro.Anota(Formula::Wm, {d.QMovil, d.De}, r.Wm);
+  rastro.Anota(Formula::Wl, {d.LANDA, d.GAMAT, d.De}, r.Wl);
+  rastro.Anota(Formula::H1, {d.QH, d.GAMAT}, r.h1);
+  rastro.Anota(Formula::H0, {r.h1, d.QMovil, d.GAMAT}, r.h0);
+}
+
+// The terms of a section, with the coefficients of its column.
+void AnotaTerminos(const TerminosOval& t, const ResultantesOval& r, double De, int col, int s,
+                   Rastro& rastro) {
+  const double w = r.w;
+  const double Dm = r.Dm;
+  rastro.Anota(Formula::MPropio, {r.Wp, KMp(col), Dm}, t.propio.M(s));
+  rastro.Anota(Formula::NPropio, {r.Wp, KNp(col)}, t.propio.N(s));
+  rastro.Anota(Formula::MFluido, {r.Wf, KMp(col), Dm}, t.fluido.M(s));
+  rastro.Anota(Formula::NFluido, {r.Wf, KNf(col)}, t.fluido.N(s));
+  rastro.Anota(Formula::MTimpanos, {KMtA(col), w, KMtB(col), r.Wt, Dm}, t.timpanos.M(s));
+  rastro.Anota(Formula::NTimpanos, {KNtA(col), w, KNtB(col), r.Wt}, t.timpanos.N(s));
+  rastro.Anota(Formula::MVertical, {KMvA(col), w, KMvB(col), r.Wq, Dm}, t.vertical.M(s));
+  rastro.Anota(Formula::NVertical, {KNvA(col), w, KNvB(col), r.Wq}, t.vertical.N(s));
+  rastro.Anota(Formula::MMovil, {KMvA(col), w, KMvB(col), r.Wm, Dm}, t.movil.M(s));
+  rastro.Anota(Formula::NMovil, {KNvA(col), w, KNvB(col), r.Wm}, t.movil.N(s));
+  const auto lateral = [&](Formula M, Formula N, double h, const EsfuerzoSecciones& e) {
+    rastro.Anota(M, {KMlA(col), w, KMlB(col), h, KMlC(col), KMlD(col), De, r.Wl, Dm}, e.M(s));
+    rastro.Anota(N, {KNlA(col), w, KNlB(col), h, KNlC(col), KNlD(col), De, r.Wl}, e.N(s));
+  };
+  lateral(Formula::MLateral, Formula::NLateral, r.h1, t.lateral);
+  lateral(Formula::MLateralFijo, Formula::NLateralFijo, r.h0, t.lateralFijo);
+}
+
+// One of the sums of `Oval`.
+void AnotaSuma(const TerminosOval& t, int TIGEN, int s, double M, double N, Rastro& rastro) {
+  const auto& [p, f, ti, v, m, l1, l0, factor] = t;
+  switch (TIGEN) {
+    case 1:
+      rastro.Anota(Formula::MComb1, {p.M(s), factor}, M);
+      rastro.Anota(Formula::NComb1, {p.N(s), factor}, N);
+      break;
+    case 2:
+      rastro.Anota(Formula::MComb2, {f.M(s), factor}, M);
+      rastro.Anota(Formula::NComb2, {f.N(s), factor}, N);
+      break;
+    case 3:
+      rastro.Anota(Formula::MComb3, {l1.M(s), ti.M(s), v.M(s), factor}, M);
+      rastro.Anota(Formula::NComb3, {l1.N(s), ti.N(s), v.N(s), factor}, N);
+      break;
+    case 4:
+      rastro.Anota(Formula::MComb4, {m.M(s), factor}, M);
+      rastro.Anota(Formula::NComb4, {m.N(s), factor}, N);
+      break;
+    case 7:
+      rastro.Anota(Formula::MComb7, {f.M(s), p.M(s), ti.M(s), l1.M(s), v.M(s), m.M(s), factor}, M);
+      rastro.Anota(Formula::NComb7, {p.N(s), f.N(s), ti.N(s), l1.N(s), v.N(s), m.N(s), factor}, N);
+      break;
+    case 8:
+      rastro.Anota(Formula::MComb8, {l0.M(s), ti.M(s), v.M(s), factor}, M);
+      rastro.Anota(Formula::NComb8, {l0.N(s), ti.N(s), v.N(s), factor}, N);
+      break;
+    case 9:
+      rastro.Anota(Formula::MComb9, {ti.M(s), factor}, M);
+      rastro.Anota(Formula::NComb9, {ti.N(s), factor}, N);
+      break;
+    case 10:
+      rastro.Anota(Formula::MComb10, {l0.M(s), factor}, M);
+      rastro.Anota(Formula::NComb10, {l0.N(s), factor}, N);
+      break;
+    case 11:
+      rastro.Anota(Formula::MComb11, {v.M(s), factor}, M);
+      rastro.Anota(Formula::NComb11, {v.N(s), factor}, N);
+      break;
+    default:  // no hypothesis adds it up
+      break;
+  }
+}
+
 void ExigeFinitos(const EsfuerzoSecciones& e) {
   for (int s = 1; s <= kSecciones; ++s) {
     Finito(e.M(s));
@@ -48,7 +129,7 @@ void ExigeFinitos(const EsfuerzoSecciones& e) {
 
 }  // namespace
 
-ResultantesOval ResultantesDe(const DatosOval& d) {
+ResultantesOval ResultantesDe(const DatosOval& d, Rastro* rastro) {
   ResultantesOval r;
   r.Dm = (d.Di + d.De) / 2.0;
   r.w = Div(d.De, r.Dm);
@@ -60,11 +141,12 @@ ResultantesOval ResultantesDe(const DatosOval& d) {
   r.Wl = d.LANDA * d.GAMAT * d.De;
   r.h1 = Div(d.QH, d.GAMAT);
   r.h0 = r.h1 - Div(d.QMovil, d.GAMAT);
+  if (rastro) AnotaResultantes(d, r, *rastro);
   return r;
 }
 
-TerminosOval CalculaTerminos(const DatosOval& d) {
-  const ResultantesOval r = ResultantesDe(d);
+TerminosOval CalculaTerminos(const DatosOval& d, Rastro* rastro) {
+  const ResultantesOval r = ResultantesDe(d, rastro);
   const bool menor = d.ICUNA == kCunaMenorDe90;
   const int grupo = menor ? 1 : d.ICUNA;
   TerminosOval t;
@@ -86,6 +168,11 @@ TerminosOval CalculaTerminos(const DatosOval& d) {
     t.lateral.N(s) = AxilLateral(r, d.De, col, r.h1);
     t.lateralFijo.M(s) = MomentoLateral(r, d.De, col, r.h0);
     t.lateralFijo.N(s) = AxilLateral(r, d.De, col, r.h0);
+    if (rastro) {
+      const bool unMetro = rastro->lugar.apartado == Apartado::ResultantesUnMetro;
+      const EnLugar lugar(rastro, unMetro ? Apartado::TerminosUnMetro : Apartado::Terminos, s);
+      AnotaTerminos(t, r, d.De, col, s, *rastro);
+    }
   }
   for (const auto* e :
        {&t.propio, &t.fluido, &t.timpanos, &t.vertical, &t.movil, &t.lateral, &t.lateralFijo}) {
@@ -95,7 +182,7 @@ TerminosOval CalculaTerminos(const DatosOval& d) {
 }
 
 void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
-          Lista<double, kSecciones>& N) {
+          Lista<double, kSecciones>& N, Rastro* rastro) {
   const auto& [p, f, ti, v, m, l1, l0, factor] = t;
   for (int s = 1; s <= kSecciones; ++s) {
     double& Ms = M(s);
@@ -127,6 +214,10 @@ void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
     // clang-format on
     Ms = Finito(Ms * factor);
     Ns = Finito(Ns * factor);
+    if (rastro) {
+      const EnLugar lugar(rastro, Apartado::Combinaciones, s);
+      AnotaSuma(t, TIGEN, s, Ms, Ns, *rastro);
+    }
   }
 }
 

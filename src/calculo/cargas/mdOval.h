@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "base/tablas.h"
+#include "calculo/rastro/mdRastro.h"
 
 namespace zorbin {
 
@@ -40,7 +41,7 @@ struct ResultantesOval {
 };
 
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-ResultantesOval ResultantesDe(const DatosOval& d);
+ResultantesOval ResultantesDe(const DatosOval& d, Rastro* rastro = nullptr);
 
 /// Beddings of the run.
 inline constexpr std::int16_t kCunaGranular90 = 1;
@@ -72,7 +73,7 @@ struct TerminosOval {
 /// Source: the Anejo, for thick-walled rings on beddings of 90 and 120 degrees; "less than 90" is
 /// 1.25 times the granular bedding.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento; Subindice for a bedding outside 1..4
-TerminosOval CalculaTerminos(const DatosOval& d);
+TerminosOval CalculaTerminos(const DatosOval& d, Rastro* rastro = nullptr);
 
 /// Moments [m·t/m] and axial forces [t/m] of the term TIGEN, a load or a sum of loads:
 ///     1 own weight                         7 the whole: 6 and the moving load
@@ -84,6 +85,6 @@ TerminosOval CalculaTerminos(const DatosOval& d);
 /// Any other code leaves M and N as they came, but for the factor of the bedding.
 /// @throws ErrorEjecucion Desbordamiento
 void Oval(const TerminosOval& t, int TIGEN, Lista<double, kSecciones>& M,
-          Lista<double, kSecciones>& N);
+          Lista<double, kSecciones>& N, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

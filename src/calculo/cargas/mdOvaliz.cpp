@@ -7,12 +7,16 @@ DatosOval DatosDelAnillo(const Tramo& t, const Cargas& q, double Landa) {
 }
 
 TerminosAnillo Ovalizacion(const Tramo& t, const Cargas& altura, const Cargas& unMetro,
-                           double Landa) {
-  const TerminosOval terminos = CalculaTerminos(DatosDelAnillo(t, altura, Landa));
-  const TerminosOval deUnMetro = CalculaTerminos(DatosDelAnillo(t, unMetro, Landa));
+                           double Landa, Rastro* rastro) {
+  const auto terminosDe = [&](const Cargas& q, Apartado apartado) {
+    const EnLugar lugar(rastro, apartado);
+    return CalculaTerminos(DatosDelAnillo(t, q, Landa), rastro);
+  };
+  const TerminosOval terminos = terminosDe(altura, Apartado::Resultantes);
+  const TerminosOval deUnMetro = terminosDe(unMetro, Apartado::ResultantesUnMetro);
   TerminosAnillo x;
   for (int h = 1; h <= kTerminosOval; ++h) {
-    Oval(h == kTerminoUnMetro ? deUnMetro : terminos, h, x.MHip.filas(h), x.NHip.filas(h));
+    Oval(h == kTerminoUnMetro ? deUnMetro : terminos, h, x.MHip.filas(h), x.NHip.filas(h), rastro);
   }
   return x;
 }

@@ -26,6 +26,6 @@ DatosOval DatosDelAnillo(const Tramo& t, const Cargas& q, double Landa);
 /// a
 ///         bedding outside 1..4
 TerminosAnillo Ovalizacion(const Tramo& t, const Cargas& altura, const Cargas& unMetro,
-                           double Landa);
+                           double Landa, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -42,8 +42,8 @@ std::vector<FilaCargas> TablaCargas(const Tramo& t, const Rango& r, const Cargas
   return filas;
 }
 
-Cargas CargasUnMetro(const Tramo& t, const Cargas& dadas) {
-  return CargasMarston(t, kUnMetro, 0, dadas);
+Cargas CargasUnMetro(const Tramo& t, const Cargas& dadas, Rastro* rastro) {
+  return CargasMarston(t, kUnMetro, 0, dadas, rastro);
 }
 
 }  // namespace zorbin

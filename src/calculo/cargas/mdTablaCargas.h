@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/resultado.h"
 
 namespace zorbin {
@@ -17,6 +18,6 @@ std::vector<FilaCargas> TablaCargas(const Tramo& t, const Rango& r, const Cargas
 /// Loads of 1 m of earth without concentrated load [t/m2], those of the system test.
 /// @param dadas  as `CargasMarston` takes them
 /// @throws ErrorEjecucion as `CargasMarston`
-Cargas CargasUnMetro(const Tramo& t, const Cargas& dadas = {});
+Cargas CargasUnMetro(const Tramo& t, const Cargas& dadas = {}, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

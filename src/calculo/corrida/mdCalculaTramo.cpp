@@ -45,14 +45,31 @@ void AnotaAnillo(Registro* registro, const DatosTramo& datos, const CargasAltura
   r.FinLinea();
 }
 
-TerminosAnillo Anillo(const ResultadoTramo& x, const CargasAltura& altura) {
-  return Ovalizacion(x.datos.tramo, altura.cargas, x.unMetro, altura.Landa);
+TerminosAnillo Anillo(const ResultadoTramo& x, const CargasAltura& altura,
+                      Rastro* rastro = nullptr) {
+  return Ovalizacion(x.datos.tramo, altura.cargas, x.unMetro, altura.Landa, rastro);
 }
 
 ResultadoArmado Armado(const DatosTramo& datos, const TerminosAnillo& anillo, const FilaCaso& f,
-                       Marcha& marcha) {
+                       Marcha& marcha, Rastro* rastro = nullptr) {
   const auto ajuste = AjusteDelCaso(datos.ajustes, f.DP, datos.tramo.NumeroTramo, f.Hr);
-  return DisenoArmado(datos.tramo, anillo, f, ajuste, marcha);
+  return DisenoArmado(datos.tramo, anillo, f, ajuste, marcha, rastro);
+}
+
+// The steps of what a Caso shares with others: its pressures, and the loads of its height.
+void RastreaCargas(const ResultadoTramo& x, const FilaCaso& fila, Rastro* rastro) {
+  const auto& t = x.datos.tramo;
+  PresionesDe(fila.DP, x.rango, t.Di, x.datos.obra.GolpeCalculado, rastro);
+  {
+    const EnLugar lugar(rastro, Apartado::Empuje);
+    EmpujeActivo(t.Fi, rastro);
+  }
+  const bool calculada = t.IndCar == 1;
+  const EnLugar lugar(rastro, Apartado::Cargas);
+  const Cargas dadas = CargasDadas(t, RangoDe(x.datos).Hr0, calculada ? nullptr : rastro);
+  if (calculada) CargasMarston(t, fila.Hr, t.ICar, dadas, rastro);
+  const EnLugar unMetro(rastro, Apartado::CargasUnMetro);
+  CargasUnMetro(t, dadas, rastro);
 }
 
 void PonDiseno(FilaCaso& f, const ResultadoArmado& r) {
@@ -234,18 +251,19 @@ ResultadoTramo CalculaTramo(const DatosTramo& datos, const Rango& rango, const S
   return CorridaTramo(datos, rango, sigue, registro).Corre();
 }
 
-ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila) {
+ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila, Rastro* rastro) {
   const auto& datos = resultado.datos;
-  const auto anillo = Anillo(resultado, resultado.Altura(fila));
+  if (rastro) RastreaCargas(resultado, fila, rastro);
+  const auto anillo = Anillo(resultado, resultado.Altura(fila), rastro);
   Marcha marcha;
   VeredictoTramo veredicto(datos);
   if (datos.tramo.EsArmado) {
-    auto diseno = Armado(datos, anillo, fila, marcha);
-    auto verificacion = veredicto.Verifica(diseno, marcha.avisos);
+    auto diseno = Armado(datos, anillo, fila, marcha, rastro);
+    auto verificacion = veredicto.Verifica(diseno, marcha.avisos, rastro);
     return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
   }
-  auto diseno = CalculaPostesado(datos.tramo, anillo, fila, marcha);
-  auto verificacion = veredicto.Verifica(diseno, fila.DP, fila.MDP);
+  auto diseno = CalculaPostesado(datos.tramo, anillo, fila, marcha, rastro);
+  auto verificacion = veredicto.Verifica(diseno, fila.DP, fila.MDP, rastro);
   return {anillo, std::move(marcha.avisos), std::move(diseno), std::move(verificacion)};
 }
 

@@ -6,6 +6,7 @@
 
 #include "base/mdRegistro.h"
 #include "calculo/corrida/mdRango.h"
+#include "calculo/rastro/mdRastro.h"
 #include "core/resultado.h"
 
 namespace zorbin {
@@ -32,7 +33,9 @@ ResultadoTramo CalculaTramo(const DatosTramo& datos, const Rango& rango,
 
 /// The whole of one Caso of a result, calculated again from its data: moments, hypotheses,
 /// stresses, warnings.
+/// @param rastro  where given, takes the steps of the whole Caso, its loads and pressures included
 /// @throws ErrorEjecucion only where the row's own calculation did, which no row of a result does
-ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila);
+ResultadoCaso CasoEntero(const ResultadoTramo& resultado, const FilaCaso& fila,
+                         Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -90,9 +90,17 @@ std::optional<double> PresionSiguiente(double DP, const Rango& r) {
   return std::nullopt;
 }
 
-PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalculado) {
+PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalculado,
+                          Rastro* rastro) {
   const double MDP = Finito((DP - r.DPIni) * r.PendienteMDP + r.MDPIni);
-  return {DP, MDP, PruebaSistema(MDP, golpeCalculado), PruebaFabricaExigida(MDP, Di)};
+  const PresionesCaso p{DP, MDP, PruebaSistema(MDP, golpeCalculado), PruebaFabricaExigida(MDP, Di)};
+  if (rastro) {
+    const bool estrecho = Di * 1000.0 <= kDiamCorte;
+    rastro->Anota(Formula::MDP, {DP, r.DPIni, r.PendienteMDP, r.MDPIni}, MDP);
+    rastro->Anota(golpeCalculado ? Formula::STPCalculado : Formula::STPEstimado, {MDP}, p.STP);
+    rastro->Anota(estrecho ? Formula::PPEstrecho : Formula::PPAncho, {MDP}, p.PP);
+  }
+  return p;
 }
 
 CuentaRango CuentaDe(const Rango& r) {

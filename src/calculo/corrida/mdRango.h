@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/resultado.h"
 
 namespace zorbin {
@@ -33,7 +34,8 @@ std::optional<double> PresionSiguiente(double DP, const Rango& r);
 /// @param Di              internal diameter [m]
 /// @param golpeCalculado  the surge is calculated, not estimated
 /// @throws ErrorEjecucion Desbordamiento
-PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalculado);
+PresionesCaso PresionesDe(double DP, const Rango& r, double Di, bool golpeCalculado,
+                          Rastro* rastro = nullptr);
 
 /// Casos of a run at most: their number has 16 bits.
 inline constexpr int kMaxCasosCorrida = 32767;

@@ -38,14 +38,15 @@ ResumenVerificacion VeredictoTramo::Resume(ResultadoArmado& r, std::span<const A
   });
 }
 
-Verificacion VeredictoTramo::Verifica(ResultadoArmado& r, std::span<const Aviso> avisos) {
+Verificacion VeredictoTramo::Verifica(ResultadoArmado& r, std::span<const Aviso> avisos,
+                                      Rastro* rastro) {
   return SiSePuede([&] {
     if (!datos_.envolvente) {
-      return VerificaArmado(Limites(), r, DispuestaDe(r), SinSolucionExterior(avisos));
+      return VerificaArmado(Limites(), r, DispuestaDe(r), SinSolucionExterior(avisos), rastro);
     }
-    const auto x = Envuelve(Limites(), r, avisos);
+    const auto x = Envuelve(Limites(), r, avisos, rastro);
     r = x.armado;
-    auto v = VerificaArmado(Limites(), r, x.dispuesta, x.sinSolucion);
+    auto v = VerificaArmado(Limites(), r, x.dispuesta, x.sinSolucion, rastro);
     static_cast<ResumenVerificacion&>(v) = x.resumen;
     return v;
   });
@@ -56,8 +57,9 @@ ResumenVerificacion VeredictoTramo::Resume(const ResultadoPostesado& r, double D
   return SiSePuede([&] { return ResumePostesado(datos_.tramo, r, DP, MDP); });
 }
 
-Verificacion VeredictoTramo::Verifica(const ResultadoPostesado& r, double DP, double MDP) const {
-  return SiSePuede([&] { return VerificaPostesado(datos_.tramo, r, DP, MDP); });
+Verificacion VeredictoTramo::Verifica(const ResultadoPostesado& r, double DP, double MDP,
+                                      Rastro* rastro) const {
+  return SiSePuede([&] { return VerificaPostesado(datos_.tramo, r, DP, MDP, rastro); });
 }
 
 }  // namespace zorbin

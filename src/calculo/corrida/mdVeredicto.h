@@ -22,8 +22,10 @@ class VeredictoTramo {
   ResumenVerificacion Resume(const ResultadoPostesado& r, double DP, double MDP) const;
 
   /// The same verdict with its checks.
-  Verificacion Verifica(ResultadoArmado& r, std::span<const Aviso> avisos);
-  Verificacion Verifica(const ResultadoPostesado& r, double DP, double MDP) const;
+  Verificacion Verifica(ResultadoArmado& r, std::span<const Aviso> avisos,
+                        Rastro* rastro = nullptr);
+  Verificacion Verifica(const ResultadoPostesado& r, double DP, double MDP,
+                        Rastro* rastro = nullptr) const;
 
  private:
   const DatosTramo& datos_;

@@ -44,6 +44,20 @@ class Crecimiento {
     }
   }
 
+  // The last round: what each face is asked for, and the steel that lies in it.
+  void Anota(Rastro& rastro) const {
+    const auto cara = [&](double A, std::int16_t TipoCamisa, CaraPared que) {
+      const EnLugar lugar(&rastro, {Apartado::Envolvente, 0, 0, que});
+      ReparteArmadura(A, TipoCamisa, d_.CamMax, false, 0.0, &rastro);
+    };
+    if (interior_) cara(Ai_, d_.TipoCamisa, CaraPared::Interior);
+    if (exterior_) cara(Ae_, 0, CaraPared::Exterior);
+    const EnLugar lugar(&rastro, {Apartado::Envolvente});
+    rastro.Anota(Formula::InteriorFinal, {r_.AreaCamisa, r_.AreaEspiras}, r_.AsInt);
+    rastro.Anota(Formula::ExteriorFinal, {r_.AreaExterior}, r_.AsExt);
+    rastro.Anota(Formula::TotalFinal, {r_.AsInt, r_.AsExt}, r_.Total);
+  }
+
   bool LoPideLaFisuracion() const { return Corta(usos_.fisuracion[1]) && EnTope(); }
 
   DisenoEnvolvente Resultado() {
@@ -59,6 +73,8 @@ class Crecimiento {
   UsosArmado usos_;
   ResumenVerificacion resumen_;
   int rondas_ = 0;
+  bool interior_ = false;  // laid out anew
+  bool exterior_ = false;
 
   bool EnTope() const { return d_.tope && Ae_ >= *d_.tope; }
 
@@ -82,6 +98,7 @@ class Crecimiento {
   }
 
   void DisponeInterior() {
+    interior_ = true;
     const auto p = ReparteArmadura(Ai_, d_.TipoCamisa, d_.CamMax, false, 0.0);
     r_.CAMISA = p.CAMISA;
     r_.FIIN = p.DIA;
@@ -90,6 +107,7 @@ class Crecimiento {
   }
 
   void DisponeExterior() {
+    exterior_ = true;
     const auto p = ReparteArmadura(Ae_, 0, d_.CamMax, false, 0.0);
     r_.FIEX = p.DIA;
     r_.NEXPEX = p.NESP;
@@ -137,7 +155,7 @@ const FilaHip& MayorConSolucion(const ResultadoArmado& r, std::span<const Aviso>
 }  // namespace
 
 DisenoEnvolvente Envuelve(const DatosVerificacion& d, const ResultadoArmado& metodo,
-                          std::span<const Aviso> avisos) {
+                          std::span<const Aviso> avisos, Rastro* rastro) {
   const bool sinSolucion = SinSolucionExterior(avisos);
   UsosArmado usos;
   DisenoEnvolvente x{metodo, DispuestaDe(metodo), {}, sinSolucion, 0};
@@ -148,7 +166,10 @@ DisenoEnvolvente Envuelve(const DatosVerificacion& d, const ResultadoArmado& met
   if (!crece) return x;
   Crecimiento crecimiento(d, metodo);
   if (sinSolucion) crecimiento.EmpiezaEn(MayorConSolucion(metodo, avisos));
-  if (crecimiento.Crece()) return crecimiento.Resultado();
+  if (crecimiento.Crece()) {
+    if (rastro) crecimiento.Anota(*rastro);
+    return crecimiento.Resultado();
+  }
   if (crecimiento.LoPideLaFisuracion()) x.resumen.motivo = MotivoVeredicto::FisuracionSobreTope;
   return x;
 }

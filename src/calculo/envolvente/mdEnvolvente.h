@@ -31,6 +31,6 @@ struct DisenoEnvolvente {
 /// @param metodo, avisos  of the method's design
 /// @throws ErrorEjecucion as the formulas
 DisenoEnvolvente Envuelve(const DatosVerificacion& d, const ResultadoArmado& metodo,
-                          std::span<const Aviso> avisos);
+                          std::span<const Aviso> avisos, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -38,8 +38,10 @@ double EspirasPorMetro(double d, double s) {
   return Div(100.0, d / 10.0 + s);
 }
 
-double LuzEspiras(double f, double n) {
-  return Div(100.0 - f * n, n);
+double LuzEspiras(double f, double n, Rastro* rastro) {
+  const double luz = Div(100.0 - f * n, n);
+  if (rastro) rastro->Anota(Formula::LuzEspiras, {f, n}, luz);
+  return luz;
 }
 
 double EspirasEnteras(double NESP) {
@@ -51,10 +53,12 @@ double EspMinimo(int i) {
   return kTabla(i).EspMin;
 }
 
-Alambre AlambreMasAbierto(int i, std::int16_t Tipologia) {
+Alambre AlambreMasAbierto(int i, std::int16_t Tipologia, Rastro* rastro) {
   const auto& f = kTabla(i);
   const double espMax = Tipologia == kRevestida ? f.EspMaxRevestida : f.EspMax;
-  return {f.Diametro / 10.0, EspirasPorMetro(f.Diametro, espMax / 10.0)};
+  const double espiras = EspirasPorMetro(f.Diametro, espMax / 10.0);
+  if (rastro) rastro->Anota(Formula::EspirasPorMetro, {f.Diametro, espMax}, espiras);
+  return {f.Diametro / 10.0, espiras};
 }
 
 RangosFuerza CalculaRangos(double SFck) {
@@ -72,16 +76,24 @@ RangosFuerza CalculaRangos(double SFck) {
 }
 
 std::optional<AlambreElegido> PrimerAlambre(double FuerzaAnillo, double SFck,
-                                            std::int16_t Tipologia) {
+                                            std::int16_t Tipologia, Rastro* rastro) {
   const RangosFuerza r = CalculaRangos(SFck);
-  const auto elige = [Tipologia](int idx, int fila) {
-    return AlambreElegido{idx, AlambreMasAbierto(fila, Tipologia)};
+  const auto elige = [Tipologia, rastro](int idx, int fila) {
+    return AlambreElegido{idx, AlambreMasAbierto(fila, Tipologia, rastro)};
   };
-  if (FuerzaAnillo < r.FuerzaMin(1)) return elige(1, kAlambre5mm);
+  if (FuerzaAnillo < r.FuerzaMin(1)) {
+    if (rastro) rastro->Anota(Formula::AlambreHasta, {FuerzaAnillo, r.FuerzaMin(1)});
+    return elige(1, kAlambre5mm);
+  }
   for (int i = 1; i <= kAlambres; ++i) {
     if (!(r.FuerzaMin(i) <= FuerzaAnillo && FuerzaAnillo < r.FuerzaMax(i))) continue;
+    if (rastro) {
+      rastro->Anota(Formula::AlambreDesde, {FuerzaAnillo, r.FuerzaMin(i)});
+      rastro->Anota(Formula::AlambreHasta, {FuerzaAnillo, r.FuerzaMax(i)});
+    }
     return i == 1 ? elige(kAlambre5mm, kAlambre5mm) : elige(i, i);
   }
+  if (rastro) rastro->Anota(Formula::SinAlambre, {FuerzaAnillo, r.FuerzaMax(kAlambres)});
   return std::nullopt;
 }
 

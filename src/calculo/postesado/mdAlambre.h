@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/resultadoPostesado.h"
 
 namespace zorbin {
@@ -26,7 +27,7 @@ constexpr double FuerzaAlambre(double d, double Pi, double SFck) {
 
 /// Clear distance [cm] between spirals of diameter f [cm], n per metre.
 /// @throws ErrorEjecucion DivisionPorCero
-double LuzEspiras(double f, double n);
+double LuzEspiras(double f, double n, Rastro* rastro = nullptr);
 
 /// Spirals brought up to a whole number; a fraction of at most 0.02 stays as it is. [1/m]
 double EspirasEnteras(double NESP);
@@ -37,7 +38,7 @@ double EspMinimo(int i);
 
 /// The wire in position i, wound at its widest spacing; a lined cylinder (`Tipologia` 2221) narrows
 /// that of the two thick wires.
-Alambre AlambreMasAbierto(int i, std::int16_t Tipologia);
+Alambre AlambreMasAbierto(int i, std::int16_t Tipologia, Rastro* rastro = nullptr);
 
 /// Ring forces that each wire takes [t/m].
 struct RangosFuerza {
@@ -63,6 +64,6 @@ struct AlambreElegido {
 /// @param SFck  breaking stress of the wire [kp/cm2]
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 std::optional<AlambreElegido> PrimerAlambre(double FuerzaAnillo, double SFck,
-                                            std::int16_t Tipologia);
+                                            std::int16_t Tipologia, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

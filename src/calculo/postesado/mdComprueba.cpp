@@ -41,19 +41,32 @@ double PresionLimite(double PresTension, double Base, double Limite, double MDP)
   return Div((Limite - Base) * MDP, PresTension);
 }
 
-double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP) {
+double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP, Rastro* rastro) {
   double PP = kPPSinLimite;
-  const auto limita = [&PP, MDP](double PresTension, const Lista<double, kSecciones>& Base,
-                                 double Limite) {
+  UltimaVuelta menor(rastro);
+  const auto anota = [&](PuntoPared punto, int s, double PresTension, double Base, double P) {
+    menor.Empieza();
+    const EnLugar lugar(rastro, Apartado::PruebaNeta, s);
+    rastro->lugar.punto = punto;
+    if (punto == PuntoPared::PI || punto == PuntoPared::PE) {
+      rastro->Anota(Formula::PPNucleo, {Base, MDP, PresTension}, P);
+    } else {
+      rastro->Anota(Formula::PPRevestimiento, {Fctr, Base, MDP, PresTension}, P);
+    }
+  };
+  const auto limita = [&](PuntoPared punto, double PresTension,
+                          const Lista<double, kSecciones>& Base, double Limite) {
     for (int s = 1; s <= kSecciones; ++s) {
-      PP = std::min(PP, PresionLimite(PresTension, Base(s), Limite, MDP));
+      const double P = PresionLimite(PresTension, Base(s), Limite, MDP);
+      if (rastro && P < PP && PresTension != 0.0) anota(punto, s, PresTension, Base(s), P);
+      PP = std::min(PP, P);
     }
   };
   const double limiteRevestimiento = Fctr / kSeguridadRevestimiento;
-  limita(x.PrPI, x.SinPI, kCompresionPrueba);
-  limita(x.PrPE, x.SinPE, kCompresionPrueba);
-  limita(x.PrRI, x.SinRI, limiteRevestimiento);
-  limita(x.PrRE, x.SinRE, limiteRevestimiento);
+  limita(PuntoPared::PI, x.PrPI, x.SinPI, kCompresionPrueba);
+  limita(PuntoPared::PE, x.PrPE, x.SinPE, kCompresionPrueba);
+  limita(PuntoPared::RI, x.PrRI, x.SinRI, limiteRevestimiento);
+  limita(PuntoPared::RE, x.PrRE, x.SinRE, limiteRevestimiento);
   return PP;
 }
 

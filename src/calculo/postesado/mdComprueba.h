@@ -2,6 +2,7 @@
 // Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -40,6 +41,7 @@ double PresionLimite(double PresTension, double Base, double Limite, double MDP)
 /// @param Fctr  tensile strength of the coating [kp/cm2]
 /// @param MDP   [at]
 /// @throws ErrorEjecucion Desbordamiento
-double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP);
+double PruebaFabricaNeta(const TensionesHipotesis& x, double Fctr, double MDP,
+                         Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -7,6 +7,7 @@
 // Source: Anejo 4 "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -19,7 +20,7 @@ struct EsfuerzosPostesado {
 };
 
 /// Adds up the load terms [m·t/m, t/m] of each hypothesis.
-EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos);
+EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos, Rastro* rastro = nullptr);
 
 /// Pressure of each hypothesis [at]. Reads DP, MDP, STP [at].
 Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p);
@@ -38,12 +39,13 @@ Lista<double, kHipotesisPostesado> LimitesPrimario(double Fctn);
 /// @param K                  stresses by unit of pressure [kp/cm2 / at]
 /// @throws ErrorEjecucion DivisionPorCero for a coefficient of 0, Desbordamiento
 LimitesPresion PresionesLimite(double LimPrimario, double Fctr, const PerdidasPostesado& p,
-                               const OvalizacionPostesada& o, const PorPresion& K);
+                               const OvalizacionPostesada& o, const PorPresion& K,
+                               Rastro* rastro = nullptr);
 
 /// Stresses of every face and of the wire under the pressure P [at]: prestress, ovalisation and
 /// pressure superposed, as the section is elastic.
 /// @throws ErrorEjecucion Desbordamiento
 TensionesHipotesis Tensiones(double P, const PerdidasPostesado& p, const OvalizacionPostesada& o,
-                             const PorPresion& K);
+                             const PorPresion& K, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -46,6 +46,39 @@ void SeccionHomogeneizada(const MaterialesPostesado& m, const RadiosPostesado& r
   s.Io = MomentoInercia(m, r, FIPR, s);
 }
 
+void AnotaSeccion(const MaterialesPostesado& m, const RadiosPostesado& r, double FIPR,
+                  const SeccionPostesada& s, Rastro& x) {
+  const double e = r.RadioNuc - r.RadioInt;
+  const double h = r.RadioRev - r.RadioNuc;
+  const double ym = (r.RadioRev + r.RadioNuc) / 2.0 - r.RadioInt;
+  x.Anota(Formula::ENucleo, {r.RadioNuc, r.RadioInt}, e);
+  x.Anota(Formula::HRevestimiento, {r.RadioRev, r.RadioNuc}, h);
+  x.Anota(Formula::Sno, {e, m.nc, m.Delca}, s.sno);
+  x.Anota(Formula::Yno, {e, m.nc, r.RadioCam, r.RadioInt, m.Delca, s.sno}, s.yno);
+  x.Anota(Formula::Sro, {m.n, s.Asp, s.sno, h, m.n2}, s.sro);
+  x.Anota(Formula::Ym, {r.RadioRev, r.RadioNuc, r.RadioInt}, ym);
+  x.Anota(Formula::Yi, {s.sno, s.yno, m.n, s.Asp, FIPR, e, h, m.n2, ym, s.sro}, s.yi);
+  x.Anota(Formula::Ye, {e, s.yi}, s.ye);
+  x.Anota(Formula::Yr, {h, s.ye}, s.yr);
+  x.Anota(Formula::Io,
+          {e, s.yi, ym, h, m.n2, r.RadioCam, r.RadioInt, m.nc, m.Delca, FIPR, m.n, s.Asp}, s.Io);
+}
+
+void AnotaLame(const MaterialesPostesado& m, const RadiosPostesado& r, const SeccionPostesada& s,
+               Rastro& x) {
+  const double h = r.RadioRev - r.RadioNuc;
+  x.Anota(Formula::Rco, {r.RadioInt, s.sno}, s.rco);
+  x.Anota(Formula::Rro, {s.rco, h}, s.rro);
+  x.Anota(Formula::LameA, {r.RadioInt, s.rco}, s.A);
+  x.Anota(Formula::LameB, {s.A}, s.B);
+  x.Anota(Formula::LameC, {s.A}, s.C);
+  x.Anota(Formula::LameAr, {s.rco, s.rro}, s.Ar);
+  x.Anota(Formula::LameBr, {s.Ar}, s.Br);
+  x.Anota(Formula::LameCr, {r.RadioNuc, s.Asp}, s.Cr);
+  x.Anota(Formula::LameK, {s.B, s.Br}, s.k);
+  x.Anota(Formula::LameD, {m.n2, s.B, m.n1, s.Br, s.Cr}, s.D);
+}
+
 void CoeficientesLame(const MaterialesPostesado& m, const RadiosPostesado& r, SeccionPostesada& s) {
   const double ri2 = r.RadioInt * r.RadioInt;
   const double rco2 = s.rco * s.rco;
@@ -61,32 +94,45 @@ void CoeficientesLame(const MaterialesPostesado& m, const RadiosPostesado& r, Se
 
 }  // namespace
 
-double ModuloElastico(double fck) {
+double ModuloElastico(double fck, Rastro* rastro) {
   const double beta = std::min(kBetaMax, 1.3 - fck / 4000.0);
-  return Finito(39453.505 * std::pow(fck + 80.0, 1.0 / 3.0) * beta);
+  const double E = Finito(39453.505 * std::pow(fck + 80.0, 1.0 / 3.0) * beta);
+  if (rastro) {
+    rastro->Anota(Formula::Beta, {fck}, beta);
+    rastro->Anota(Formula::Modulo, {fck, beta}, E);
+  }
+  return E;
 }
 
-double ResistenciaTraccion(double fck) {
-  if (fck <= kCorteTraccion) return Finito(0.452 * std::pow(fck, 2.0 / 3.0));
-  return Finito(1.28 * std::sqrt(fck));
+double ResistenciaTraccion(double fck, Rastro* rastro) {
+  const bool menor = fck <= kCorteTraccion;
+  const double Fct = Finito(menor ? 0.452 * std::pow(fck, 2.0 / 3.0) : 1.28 * std::sqrt(fck));
+  if (rastro) rastro->Anota(menor ? Formula::FctMenor : Formula::FctMayor, {fck}, Fct);
+  return Fct;
 }
 
-RadiosPostesado Radios(const Tramo& t) {
+RadiosPostesado Radios(const Tramo& t, Rastro* rastro) {
   RadiosPostesado r;
   r.RadioRev = Finito(t.De * 50.0);
   r.RadioInt = Finito(t.Di * 50.0);
   r.RadioCam = Finito(t.Reci * 100.0 + r.RadioInt);
   r.RadioNuc = Finito(r.RadioRev - t.Rece * 100.0);
+  if (rastro) {
+    rastro->Anota(Formula::RadioRev, {t.De}, r.RadioRev);
+    rastro->Anota(Formula::RadioInt, {t.Di}, r.RadioInt);
+    rastro->Anota(Formula::RadioCam, {t.Reci, r.RadioInt}, r.RadioCam);
+    rastro->Anota(Formula::RadioNuc, {r.RadioRev, t.Rece}, r.RadioNuc);
+  }
   return r;
 }
 
-MaterialesPostesado Materiales(const Tramo& t) {
+MaterialesPostesado Materiales(const Tramo& t, Rastro* rastro) {
   MaterialesPostesado m;
-  m.Ecno = ModuloElastico(t.Fckno);
-  m.Ecn = ModuloElastico(t.Fckn);
-  m.Ecr = ModuloElastico(t.Fckr);
-  m.Fctn = ResistenciaTraccion(t.Fckn);
-  m.Fctr = ResistenciaTraccion(t.Fckr);
+  m.Ecno = ModuloElastico(t.Fckno, rastro);
+  m.Ecn = ModuloElastico(t.Fckn, rastro);
+  m.Ecr = ModuloElastico(t.Fckr, rastro);
+  m.Fctn = ResistenciaTraccion(t.Fckn, rastro);
+  m.Fctr = ResistenciaTraccion(t.Fckr, rastro);
   m.ni = Div(t.Ep, m.Ecno);
   m.n = Div(t.Ep, m.Ecn);
   m.n1 = Div(t.Ep, m.Ecr);
@@ -96,15 +142,29 @@ MaterialesPostesado Materiales(const Tramo& t) {
   m.Delca = t.PostFlag == kSinCamisa ? 0.0 : t.Delca;
   m.Epsc = -std::fabs(t.Epsc);
   m.Epsr = -std::fabs(t.Epsr);
+  if (rastro) {
+    rastro->Anota(Formula::Ni, {t.Ep, m.Ecno}, m.ni);
+    rastro->Anota(Formula::N, {t.Ep, m.Ecn}, m.n);
+    rastro->Anota(Formula::N1, {t.Ep, m.Ecr}, m.n1);
+    rastro->Anota(Formula::N2, {m.Ecr, m.Ecn}, m.n2);
+    rastro->Anota(Formula::Nc, {t.Es, m.Ecn}, m.RatioChapa);
+  }
   return m;
 }
 
 SeccionPostesada PropiedadesSeccion(const MaterialesPostesado& m, const RadiosPostesado& r,
-                                    const Alambre& a) {
+                                    const Alambre& a, Rastro* rastro) {
   SeccionPostesada s;
   s.Asp = a.NESP * kPiAsp * a.FIPR * a.FIPR / 4.0 / 100.0;
   SeccionHomogeneizada(m, r, a.FIPR, s);
   CoeficientesLame(m, r, s);
+  if (rastro) {
+    const EnLugar seccion(rastro, Apartado::Seccion);
+    rastro->Anota(Formula::Asp, {a.NESP, a.FIPR}, s.Asp);
+    AnotaSeccion(m, r, a.FIPR, s, *rastro);
+    const EnLugar lame(rastro, Apartado::Lame);
+    AnotaLame(m, r, s, *rastro);
+  }
   return s;
 }
 

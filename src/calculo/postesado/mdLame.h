@@ -7,6 +7,7 @@
 // cylinder. All in kp/cm2 and cm.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -18,7 +19,7 @@ namespace zorbin {
 /// Source: the Spanish code of structural concrete (EHE), tangent modulus. Valid up to 1,000
 /// kp/cm2.
 /// @throws ErrorEjecucion Desbordamiento below -80 kp/cm2
-double ModuloElastico(double fck);
+double ModuloElastico(double fck, Rastro* rastro = nullptr);
 
 /// Tensile strength of a concrete [kp/cm2] of strength `fck` [kp/cm2]: 0.452 fck^(2/3) up to 500,
 /// 1.28 fck^(1/2) above: 0.21 fck^(2/3) and 0.7·0.58 fck^(1/2) in MPa. The branches do not meet
@@ -27,23 +28,23 @@ double ModuloElastico(double fck);
 /// Source: the Spanish code of structural concrete (EHE), lower characteristic strength. Valid up
 /// to 1,000 kp/cm2.
 /// @throws ErrorEjecucion Desbordamiento for a negative strength
-double ResistenciaTraccion(double fck);
+double ResistenciaTraccion(double fck, Rastro* rastro = nullptr);
 
 /// Radii of the four cylindrical faces [cm].
 /// Reads Di, De, Reci, Rece [m]: in a post-tensioned pipe Reci is the concrete inside the cylinder
 /// and Rece the thickness of the coating.
 /// @throws ErrorEjecucion Desbordamiento
-RadiosPostesado Radios(const Tramo& t);
+RadiosPostesado Radios(const Tramo& t, Rastro* rastro = nullptr);
 
 /// Moduli, strengths and modular ratios of the materials; shrinkage as shortening.
 /// Reads Fckno, Fckn, Fckr, Ep, Es [kp/cm2], PostFlag, Delca [cm], Epsc, Epsr (of either sign).
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-MaterialesPostesado Materiales(const Tramo& t);
+MaterialesPostesado Materiales(const Tramo& t, Rastro* rastro = nullptr);
 
 /// Constants of the section with the winding `a`. The core enters Lamé's formulas with the cylinder
 /// spread over its thickness.
 /// @throws ErrorEjecucion DivisionPorCero for no coating or no wire, Desbordamiento
 SeccionPostesada PropiedadesSeccion(const MaterialesPostesado& m, const RadiosPostesado& r,
-                                    const Alambre& a);
+                                    const Alambre& a, Rastro* rastro = nullptr);
 
 }  // namespace zorbin

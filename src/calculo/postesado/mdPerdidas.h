@@ -6,6 +6,7 @@
 // kp/cm2, at and cm. Sign: tension is positive; a positive moment stretches the inner face.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -30,7 +31,8 @@ constexpr double LimiteZunchado(double Fckno) {
 /// [%], Fic, Fir, PostFlag of the Tramo.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 PerdidasPostesado PerdidasYTensiones(const Tramo& t, const MaterialesPostesado& m,
-                                     const RadiosPostesado& r, const SeccionPostesada& s);
+                                     const RadiosPostesado& r, const SeccionPostesada& s,
+                                     Rastro* rastro = nullptr);
 
 /// Stresses by ovalisation: the homogenised section stays plane, each material with its modulus.
 /// @param MomHip   moments at crown, haunches, invert [kp·cm/cm]
@@ -39,11 +41,13 @@ PerdidasPostesado PerdidasYTensiones(const Tramo& t, const MaterialesPostesado& 
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
 OvalizacionPostesada TensionesOvalizacion(const MaterialesPostesado& m, const SeccionPostesada& s,
                                           double FIPR, const Lista<double, kSecciones>& MomHip,
-                                          const Lista<double, kSecciones>& AxilHip);
+                                          const Lista<double, kSecciones>& AxilHip,
+                                          Rastro* rastro = nullptr);
 
 /// Stresses by each unit of internal pressure: core and coating are two of Lamé's cylinders that
 /// share their contact, with the wire between them.
 /// @throws ErrorEjecucion DivisionPorCero, Desbordamiento
-PorPresion CoeficientesPresion(const MaterialesPostesado& m, const SeccionPostesada& s);
+PorPresion CoeficientesPresion(const MaterialesPostesado& m, const SeccionPostesada& s,
+                               Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -26,15 +26,18 @@ constexpr std::int16_t kErrorCambio = 91;
 class Analisis {
  public:
   Analisis(const Tramo& t, const TerminosAnillo& terminos, const PresionesCaso& presiones,
-           Marcha& marcha, ResultadoPostesado& r)
+           Marcha& marcha, ResultadoPostesado& r, Rastro* rastro)
       : t_(t),
         caso_(presiones),
         marcha_(marcha),
         r_(r),
-        esfuerzos_(EsfuerzosHipotesis(terminos)),
+        rastro_(rastro),
+        esfuerzos_(EsfuerzosHipotesis(terminos, rastro)),
         presiones_(PresionesHipotesis(presiones)) {
-    r_.radios = Radios(t);
-    r_.materiales = Materiales(t);
+    const EnLugar radios(rastro, {Apartado::Radios});
+    r_.radios = Radios(t, rastro);
+    const EnLugar materiales(rastro, {Apartado::Materiales});
+    r_.materiales = Materiales(t, rastro);
     r_.PP = caso_.PP;
     r_.LimiteChapa = kFraccionChapa * t_.FYKPost;
     for (int h = 1; h <= kHipotesisPostesado; ++h) Carga(r_.hipotesis(h), h);
@@ -56,6 +59,8 @@ class Analisis {
   const PresionesCaso& caso_;
   Marcha& marcha_;
   ResultadoPostesado& r_;
+  Rastro* rastro_;
+  Rastro* enPasada_ = nullptr;  // of the pass in hand: those of the verification leave steps
   const EsfuerzosPostesado esfuerzos_;
   const Lista<double, kHipotesisPostesado> presiones_;
   FaseAviso fase_ = FaseAviso::Final;
@@ -90,7 +95,11 @@ class Analisis {
 
   bool EligePrimero() {
     const double FuerzaAnillo = Finito(caso_.DP * 10.0 * r_.radios.RadioNuc / 100.0);
-    const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia);
+    const EnLugar lugar(rastro_, {Apartado::AlambreInicial});
+    if (rastro_) {
+      rastro_->Anota(Formula::FuerzaAnillo, {caso_.DP, r_.radios.RadioNuc}, FuerzaAnillo);
+    }
+    const auto primero = PrimerAlambre(FuerzaAnillo, t_.SFck, t_.Tipologia, rastro_);
     if (!primero) {
       r_.ErrorPostesado = kErrorEspesor;
       Avisa(0, ClaseAviso::EspesorInsuficiente);
@@ -131,7 +140,8 @@ class Analisis {
     if (alambre_ != Final()) {
       r_.PP = kPPAlambreCambia;
     } else {
-      r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP);
+      const EnLugar lugar(rastro_, {Apartado::PruebaNeta});
+      r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP, rastro_);
       r_.PPHipotesis = ultimaHipotesis_;
       r_.PPConAlambreFinal = p.error == 0;
     }
@@ -139,6 +149,7 @@ class Analisis {
 
   FinPostesado Verifica() {
     fase_ = FaseAviso::Final;
+    enPasada_ = rastro_;
     bool hay = false;
     for (int h = 1; h <= kHipotesisPostesado; ++h) {
       auto& p = r_.hipotesis(h);
@@ -157,7 +168,10 @@ class Analisis {
 
   // One pass: adds spirals to the winding in hand until the hypothesis of `p` holds.
   void Pasada(HipotesisPostesada& p) {
+    const EnLugar lugar(enPasada_, {Apartado::Limites, static_cast<std::int8_t>(p.h)});
+    UltimaVuelta ultima(enPasada_);
     for (int vuelta = 0; vuelta < kMaxVueltas; ++vuelta) {
+      ultima.Empieza();
       ++r_.Vueltas;
       marcha_.vueltas.Suma(kVueltasDePasada);
       if (!CabenEspiras()) return Falla(p, kErrorEspesor, ClaseAviso::EspesorInsuficiente);
@@ -191,14 +205,21 @@ class Analisis {
 
   Intento Intenta(const HipotesisPostesada& p) const {
     const auto& m = r_.materiales;
+    Rastro* seccion = DelAlambre(p);
     Intento x;
-    x.seccion = PropiedadesSeccion(m, r_.radios, alambre_);
-    x.perdidas = PerdidasYTensiones(t_, m, r_.radios, x.seccion);
+    x.seccion = PropiedadesSeccion(m, r_.radios, alambre_, seccion);
+    x.perdidas = PerdidasYTensiones(t_, m, r_.radios, x.seccion, seccion);
     if (!x.perdidas.NucleoAguanta) return x;
-    x.oval = TensionesOvalizacion(m, x.seccion, alambre_.FIPR, p.MomHip, p.AxilHip);
-    x.K = CoeficientesPresion(m, x.seccion);
-    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, x.perdidas, x.oval, x.K);
+    x.oval = TensionesOvalizacion(m, x.seccion, alambre_.FIPR, p.MomHip, p.AxilHip, enPasada_);
+    x.K = CoeficientesPresion(m, x.seccion, seccion);
+    x.limites = PresionesLimite(p.LimPrimario, m.Fctr, x.perdidas, x.oval, x.K, enPasada_);
     return x;
+  }
+
+  // What depends on the winding alone is the same in every hypothesis, but for one that asks for
+  // another winding: the first one leaves its steps, and that one.
+  Rastro* DelAlambre(const HipotesisPostesada& p) const {
+    return p.h == 1 || alambre_ != Final() ? enPasada_ : nullptr;
   }
 
   void NoAguanta(HipotesisPostesada& p, const Intento& x) {
@@ -210,7 +231,17 @@ class Analisis {
 
   bool Aceptado(const HipotesisPostesada& p, const Intento& x) const {
     const bool nucleo = !t_.Icontes1 || caso_.DP * t_.Coepre1 <= x.perdidas.PresPrimario;
-    return nucleo && p.PresHip <= x.limites.PresLimite;
+    const bool aceptado = nucleo && p.PresHip <= x.limites.PresLimite;
+    if (enPasada_ && aceptado) AnotaAceptado(p, x);
+    return aceptado;
+  }
+
+  void AnotaAceptado(const HipotesisPostesada& p, const Intento& x) const {
+    LuzEspiras(alambre_.FIPR, alambre_.NESP, enPasada_);
+    if (t_.Icontes1) {
+      enPasada_->Anota(Formula::AceptaNucleo, {caso_.DP, t_.Coepre1, x.perdidas.PresPrimario});
+    }
+    enPasada_->Anota(Formula::AceptaHipotesis, {p.PresHip, x.limites.PresLimite});
   }
 
   void Resultados(HipotesisPostesada& p, const Intento& x) {
@@ -220,7 +251,7 @@ class Analisis {
     static_cast<OvalizacionPostesada&>(p) = x.oval;
     static_cast<PorPresion&>(p) = x.K;
     static_cast<LimitesPresion&>(p) = x.limites;
-    ultimas_ = Tensiones(p.PresHip, x.perdidas, x.oval, x.K);
+    ultimas_ = Tensiones(p.PresHip, x.perdidas, x.oval, x.K, enPasada_);
     ultimaHipotesis_ = p.h;
     static_cast<TensionesHipotesis&>(p) = ultimas_;
     p.TensionChapa = CompruebaChapa(t_, r_.materiales.RatioChapa, p);
@@ -232,9 +263,10 @@ class Analisis {
 }  // namespace
 
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
-                                    const PresionesCaso& presiones, Marcha& marcha) {
+                                    const PresionesCaso& presiones, Marcha& marcha,
+                                    Rastro* rastro) {
   ResultadoPostesado r;
-  Analisis(t, terminos, presiones, marcha, r).Corre();
+  Analisis(t, terminos, presiones, marcha, r, rastro).Corre();
   return r;
 }
 

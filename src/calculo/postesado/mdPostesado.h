@@ -7,6 +7,7 @@
 // "Cálculo Mecánico" of the Instrucción del Instituto Eduardo Torroja.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 
@@ -26,6 +27,7 @@ namespace zorbin {
 /// for
 ///         a search that does not end
 ResultadoPostesado CalculaPostesado(const Tramo& t, const TerminosAnillo& terminos,
-                                    const PresionesCaso& presiones, Marcha& marcha);
+                                    const PresionesCaso& presiones, Marcha& marcha,
+                                    Rastro* rastro = nullptr);
 
 }  // namespace zorbin

@@ -32,14 +32,19 @@ struct SeccionVista {
 };
 
 SeccionVista MiraSeccion(const DatosVerificacion& d, const Esfuerzos& x, const ArmaduraDispuesta& a,
-                         int h, int s) {
+                         int h, int s, Rastro* rastro) {
   const double M = x.M(h, s);
   const double N = x.N(h, s);
   const bool interior = TraccionaInterior(s, M);
   const std::size_t cara = interior ? 0 : 1;
+  if (rastro) {
+    rastro->lugar.cara = Cara(cara);
+    rastro->Anota(Formula::MomentoKp, {M}, CalculaM(M));
+    rastro->Anota(Formula::AxilKp, {N}, N * kKpPorT);
+  }
   const auto c =
       Lineas_1050(interior ? a.AsInt : a.AsExt, interior ? a.AsExt : a.AsInt, CalculaM(M), d.BRAZO,
-                  N * kKpPorT, d.seccion.Fyd, d.CANTO[cara], d.Fcad);
+                  N * kKpPorT, d.seccion.Fyd, d.CANTO[cara], d.Fcad, rastro);
   return {h, s, M, N, cara, c.traccion, c.necesaria};
 }
 
@@ -74,12 +79,14 @@ template <class Toma>
 class Recorrido {
  public:
   Recorrido(const DatosVerificacion& d, const ResultadoArmado& r, const ArmaduraDispuesta& a,
-            Toma& toma)
-      : d_(d), r_(r), a_(a), dispuesta_{a.AsInt, a.AsExt}, toma_(toma) {
-    if (d.TipoCamisa == 0) homogenea_ = Homogeneiza(d.pared, a.AsInt, a.AsExt);
+            Toma& toma, Rastro* rastro)
+      : d_(d), r_(r), a_(a), dispuesta_{a.AsInt, a.AsExt}, toma_(toma), rastro_(rastro) {
+    const EnLugar lugar(rastro, {Apartado::Comprobaciones});
+    if (d.TipoCamisa == 0) homogenea_ = Homogeneiza(d.pared, a.AsInt, a.AsExt, rastro);
   }
 
   void Corre() {
+    const EnLugar lugar(rastro_, {Apartado::Comprobaciones, kHipPPNeta});
     Comprueba(QueComprueba::PruebaFabrica, kHipPPNeta, 0, CaraPared::Ninguna,
               r_.TablaHip(kHipPPNeta).Total, a_.AsInt + a_.AsExt);
     for (int h = kPrimeraConMomento; h <= kHipotesisArmado; ++h) {
@@ -97,6 +104,7 @@ class Recorrido {
   const ArmaduraDispuesta& a_;
   const std::array<double, 2> dispuesta_;
   Toma& toma_;
+  Rastro* rastro_;
   SeccionHomogenea homogenea_{};
   struct MinimaDeCara {
     double area = 0;  // [cm2/m]
@@ -107,15 +115,25 @@ class Recorrido {
   void Comprueba(QueComprueba que, int h, int s, CaraPared cara, double valor, double limite) {
     toma_(ComprobacionCaso{que, static_cast<std::int8_t>(h), static_cast<std::int8_t>(s), cara,
                            valor, limite, Uso(valor, limite)});
+    if (rastro_ && valor > 0.0 && limite > 0.0) AnotaUso(que, valor, limite);
+  }
+
+  void AnotaUso(QueComprueba que, double valor, double limite) {
+    const Formula formula = que == QueComprueba::MomentoLimite ? Formula::UsoMomento
+                            : que == QueComprueba::Fisuracion  ? Formula::UsoFisuracion
+                                                               : Formula::UsoArmadura;
+    rastro_->Anota(formula, {valor, limite}, Uso(valor, limite));
   }
 
   void CompruebaSeccion(int h, int s) {
-    const auto v = MiraSeccion(d_, r_.esfuerzos, a_, h, s);
+    const EnLugar lugar(rastro_, {Apartado::Comprobaciones, static_cast<std::int8_t>(h),
+                                  static_cast<std::int8_t>(s), CaraPared::Ninguna});
+    const auto v = MiraSeccion(d_, r_.esfuerzos, a_, h, s, rastro_);
     const auto cara = Cara(v.cara);
     Comprueba(QueComprueba::Armadura, h, s, cara, v.necesaria, dispuesta_[v.cara]);
     if (!v.traccion) {
       const double Mr =
-          MomentoReducido(d_.seccion, v.M, v.N, d_.seccion.Esp, d_.recubrimiento[v.cara]);
+          MomentoReducido(d_.seccion, v.M, v.N, d_.seccion.Esp, d_.recubrimiento[v.cara], rastro_);
       Comprueba(QueComprueba::MomentoLimite, h, s, cara, Mr, d_.momentoLimite[v.cara]);
     }
     if (d_.tope && cara == CaraPared::Exterior) {
@@ -125,7 +143,7 @@ class Recorrido {
     const double minima = Minima(d_, v);
     if (minima > minimas_[v.cara].area) minimas_[v.cara] = {minima, h, s};
     if (d_.TipoCamisa == 0) {
-      const auto t = TensionDeFisuracion(d_.pared, homogenea_, v.M, v.N);
+      const auto t = TensionDeFisuracion(d_.pared, homogenea_, v.M, v.N, rastro_);
       Comprueba(QueComprueba::Fisuracion, h, s, cara, t.Sx, t.Sa);
     }
   }
@@ -197,7 +215,8 @@ ResumenVerificacion SinComprobar(MotivoVeredicto motivo) {
 // Runs the checks into `toma` and tells the verdict.
 template <class Toma>
 ResumenVerificacion Juzga(const DatosVerificacion& d, const ResultadoArmado& r,
-                          const ArmaduraDispuesta& a, bool sinSolucion, Toma&& toma) {
+                          const ArmaduraDispuesta& a, bool sinSolucion, Toma&& toma,
+                          Rastro* rastro = nullptr) {
   ResumenVerificacion resumen;
   if (r.IESP > 0) {
     const ComprobacionCaso pared{
@@ -216,7 +235,7 @@ ResumenVerificacion Juzga(const DatosVerificacion& d, const ResultadoArmado& r,
     usos.Anota(c);
     toma(c);
   };
-  Recorrido(d, r, a, anota).Corre();
+  Recorrido(d, r, a, anota, rastro).Corre();
   resumen.avisos = Avisos(d, r, a);
   const bool agotado = sinSolucion && !a.ajustada;
   if (agotado || usos.momento > 1.0 || resumen.uso > kUsoCumple) {
@@ -297,11 +316,11 @@ ResumenVerificacion ResumeArmado(const DatosVerificacion& d, const ResultadoArma
 }
 
 Verificacion VerificaArmado(const DatosVerificacion& d, const ResultadoArmado& r,
-                            const ArmaduraDispuesta& a, bool sinSolucion) {
+                            const ArmaduraDispuesta& a, bool sinSolucion, Rastro* rastro) {
   Verificacion v;
   auto& lista = v.comprobaciones;
-  static_cast<ResumenVerificacion&>(v) =
-      Juzga(d, r, a, sinSolucion, [&lista](const ComprobacionCaso& c) { lista.push_back(c); });
+  static_cast<ResumenVerificacion&>(v) = Juzga(
+      d, r, a, sinSolucion, [&lista](const ComprobacionCaso& c) { lista.push_back(c); }, rastro);
   return v;
 }
 

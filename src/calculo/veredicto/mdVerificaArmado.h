@@ -13,6 +13,7 @@
 
 #include "calculo/armado/mdFisuracion.h"
 #include "calculo/armado/mdTrcom.h"
+#include "calculo/rastro/mdRastro.h"
 #include "core/verificacion.h"
 
 namespace zorbin {
@@ -69,8 +70,9 @@ ResumenVerificacion ResumeArmado(const DatosVerificacion& d, const ResultadoArma
                                  UsosArmado* usos = nullptr);
 
 /// The same verdict with its checks, in the order factory test, hypotheses, faces.
+/// @param rastro  takes the steps of every section that is checked
 Verificacion VerificaArmado(const DatosVerificacion& d, const ResultadoArmado& r,
-                            const ArmaduraDispuesta& a, bool sinSolucion);
+                            const ArmaduraDispuesta& a, bool sinSolucion, Rastro* rastro = nullptr);
 
 /// Whether a search ended without an outer area within its maximum.
 bool SinSolucionExterior(std::span<const Aviso> avisos);

@@ -22,13 +22,16 @@ constexpr int kPosicionDeDiametro = 3;   // the wire of position i has i + 3 mm
 template <class Toma>
 class RecorridoPostesado {
  public:
-  RecorridoPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, Toma& toma)
-      : t_(t), r_(r), DP_(DP), toma_(toma) {}
+  RecorridoPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, Toma& toma,
+                     Rastro* rastro)
+      : t_(t), r_(r), DP_(DP), toma_(toma), rastro_(rastro) {}
 
   void Corre() {
+    const EnLugar lugar(rastro_, {Apartado::Comprobaciones});
     const double FuerzaAnillo = DP_ * 10.0 * r_.radios.RadioNuc / 100.0;
-    Comprueba(QueComprueba::FuerzaAlambre, 0, FuerzaAnillo,
-              CalculaRangos(t_.SFck).FuerzaMax(kAlambres));
+    const double mayor = CalculaRangos(t_.SFck).FuerzaMax(kAlambres);
+    Comprueba(QueComprueba::FuerzaAlambre, 0, FuerzaAnillo, mayor);
+    AnotaUso(Formula::UsoAnillo, {FuerzaAnillo, mayor}, FuerzaAnillo, mayor);
     if (r_.fin == FinPostesado::SinAlambre) return SinDiseno(0, QueComprueba::Espesor);
     bool delAlambre = false;
     for (const auto& p : r_.hipotesis.v) {
@@ -50,6 +53,13 @@ class RecorridoPostesado {
   const ResultadoPostesado& r_;
   const double DP_;
   Toma& toma_;
+  Rastro* rastro_;
+
+  void AnotaUso(Formula formula, std::initializer_list<double> valores, double valor,
+                double limite) {
+    if (rastro_ && valor > 0.0 && limite > 0.0)
+      rastro_->Anota(formula, valores, Uso(valor, limite));
+  }
 
   void Comprueba(QueComprueba que, int h, double valor, double limite) {
     toma_(ComprobacionCaso{que, static_cast<std::int8_t>(h), 0, CaraPared::Ninguna, valor, limite,
@@ -63,20 +73,27 @@ class RecorridoPostesado {
 
   // What depends on the winding alone: the same in every hypothesis.
   void CompruebaAlambre(const HipotesisPostesada& p) {
-    Comprueba(QueComprueba::Zunchado, 0, std::max(std::fabs(p.SigIniInt), std::fabs(p.SigIniExt)),
-              LimiteZunchado(t_.Fckno));
+    const double inicial = std::max(std::fabs(p.SigIniInt), std::fabs(p.SigIniExt));
+    const double limite = LimiteZunchado(t_.Fckno);
+    Comprueba(QueComprueba::Zunchado, 0, inicial, limite);
+    AnotaUso(Formula::UsoZunchado, {inicial, t_.Fckno}, inicial, limite);
     if (t_.Icontes1 && p.error != kErrorZunchado) {
-      Comprueba(QueComprueba::PruebaNucleo, 0, DP_ * t_.Coepre1, p.PresPrimario);
+      const double prueba = DP_ * t_.Coepre1;
+      Comprueba(QueComprueba::PruebaNucleo, 0, prueba, p.PresPrimario);
+      AnotaUso(Formula::UsoNucleo, {DP_, t_.Coepre1, p.PresPrimario}, prueba, p.PresPrimario);
     }
   }
 
   void CompruebaHipotesis(const HipotesisPostesada& p) {
     const double Fctr = r_.materiales.Fctr;
+    const EnLugar lugar(rastro_, {Apartado::Comprobaciones, static_cast<std::int8_t>(p.h)});
     for (int s = 1; s <= kSecciones; ++s) {
+      const EnLugar seccion(rastro_, Apartado::Comprobaciones, s);
       const auto tension = [&](QueComprueba que, CaraPared cara, double total, double base,
                                double limite) {
         toma_(ComprobacionCaso{que, static_cast<std::int8_t>(p.h), static_cast<std::int8_t>(s),
                                cara, total, limite, UsoTension(total, base, limite)});
+        if (rastro_ && limite > base) AnotaCamino(que, cara, total, base, limite);
       };
       using enum QueComprueba;
       tension(TensionNucleo, CaraPared::Interior, p.TotPI(s), p.SigPI, p.LimPrimario);
@@ -84,7 +101,18 @@ class RecorridoPostesado {
       tension(TensionRevestimiento, CaraPared::Interior, p.TotRI(s), p.SigRI, Fctr);
       tension(TensionRevestimiento, CaraPared::Exterior, p.TotRE(s), p.SigRE, Fctr);
     }
-    Comprueba(QueComprueba::TensionChapa, p.h, p.TensionChapa / kEscalaChapa, r_.LimiteChapa);
+    const double chapa = p.TensionChapa / kEscalaChapa;
+    Comprueba(QueComprueba::TensionChapa, p.h, chapa, r_.LimiteChapa);
+    AnotaUso(Formula::UsoChapa, {chapa, t_.FYKPost}, chapa, r_.LimiteChapa);
+  }
+
+  void AnotaCamino(QueComprueba que, CaraPared cara, double total, double base, double limite) {
+    using enum PuntoPared;
+    const bool interior = cara == CaraPared::Interior;
+    const bool nucleo = que == QueComprueba::TensionNucleo;
+    const EnLugar lugar(rastro_, Apartado::Comprobaciones);
+    rastro_->lugar.punto = nucleo ? (interior ? PI : PE) : (interior ? RI : RE);
+    rastro_->Anota(Formula::UsoCamino, {total, base, limite}, UsoTension(total, base, limite));
   }
 };
 
@@ -109,7 +137,7 @@ std::uint32_t Avisos(const ResultadoPostesado& r, bool PPVale, double MDP) {
 
 template <class Toma>
 ResumenVerificacion Juzga(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP,
-                          Toma&& toma) {
+                          Toma&& toma, Rastro* rastro = nullptr) {
   ResumenVerificacion resumen;
   double usoHipotesis = 0;
   const auto anota = [&](const ComprobacionCaso& c) {
@@ -120,7 +148,7 @@ ResumenVerificacion Juzga(const Tramo& t, const ResultadoPostesado& r, double DP
     }
     toma(c);
   };
-  RecorridoPostesado(t, r, DP, anota).Corre();
+  RecorridoPostesado(t, r, DP, anota, rastro).Corre();
   const bool PPVale = r.fin != FinPostesado::SinAlambre && r.PPConAlambreFinal;
   resumen.avisos = Avisos(r, PPVale, MDP);
   if (resumen.uso > kUsoCumple || HayFallida(r)) {
@@ -141,11 +169,12 @@ ResumenVerificacion ResumePostesado(const Tramo& t, const ResultadoPostesado& r,
   return Juzga(t, r, DP, MDP, [](const ComprobacionCaso&) {});
 }
 
-Verificacion VerificaPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP) {
+Verificacion VerificaPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP,
+                               Rastro* rastro) {
   Verificacion v;
   auto& lista = v.comprobaciones;
-  static_cast<ResumenVerificacion&>(v) =
-      Juzga(t, r, DP, MDP, [&lista](const ComprobacionCaso& c) { lista.push_back(c); });
+  static_cast<ResumenVerificacion&>(v) = Juzga(
+      t, r, DP, MDP, [&lista](const ComprobacionCaso& c) { lista.push_back(c); }, rastro);
   return v;
 }
 

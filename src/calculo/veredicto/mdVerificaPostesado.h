@@ -5,6 +5,7 @@
 // reinforced or prestressed pipes; the limits are those of the search.
 #pragma once
 
+#include "calculo/rastro/mdRastro.h"
 #include "core/campos/tramo.h"
 #include "core/resultados.h"
 #include "core/verificacion.h"
@@ -20,6 +21,7 @@ ResumenVerificacion ResumePostesado(const Tramo& t, const ResultadoPostesado& r,
 
 /// The same verdict with its checks: those of the winding, then each hypothesis in turn with its
 /// sections, core before coating and inner face before outer.
-Verificacion VerificaPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP);
+Verificacion VerificaPostesado(const Tramo& t, const ResultadoPostesado& r, double DP, double MDP,
+                               Rastro* rastro = nullptr);
 
 }  // namespace zorbin
