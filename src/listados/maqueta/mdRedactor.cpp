@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kCuerpo = 10.0;
 constexpr double kCuerpoPie = 8.5;
+constexpr double kCuerpoPaso = 9.2;
 constexpr double kLineaAlto = 1.02, kLineaHondo = 0.36;  // of a line, of the size
 constexpr double kAire = 0.8;                            // round the ink of a higher one [pt]
 constexpr double kHuecoFiguras = 16.0;
@@ -147,6 +148,55 @@ void Redactor::Formula(const QString& texto, const QString& numero, const QStrin
   const double x = std::max(0.0, std::min((ancho_ - formula.ancho) / 2.0, libre - formula.ancho));
   f.caja.Pon(std::move(formula), {x, 0});
   f.caja.Pon(rotulo, {ancho_ - rotulo.ancho, 0});
+  franjas_.push_back(std::move(f));
+}
+
+void Redactor::Paso(const QString& rotulo, const std::vector<QString>& partes,
+                    const QString& numero) {
+  constexpr double kRotulo = 128.0, kHueco = 10.0, kEntreLineas = 3.5;
+  const Tipo menor{Letra::Recta, 8.2, 70};
+  const Caja cifra = numero.isEmpty()
+                         ? Caja()
+                         : tipos_.DeTexto(QStringLiteral("(%1)").arg(numero), menor);
+  const double x = kRotulo + kHueco;
+  const double libre = ancho_ - x - 34.0;
+  std::vector<Caja> lineas;
+  for (const auto& parte : partes) {
+    const auto leida = LeeFormula(parte, 0);
+    Caja caja = ComponeFormula(tipos_, leida, kCuerpoPaso, true);
+    if (caja.ancho > libre) {
+      const double cuerpo = std::max(kCuerpoFormulaMinimo, kCuerpoPaso * libre / caja.ancho * 0.98);
+      caja = ComponeFormula(tipos_, leida, cuerpo, true);
+    }
+    constexpr double kEntrePartes = 0.28 * kCuerpoPaso;
+    if (!lineas.empty() && lineas.back().ancho + kEntrePartes + caja.ancho <= libre) {
+      lineas.back().ancho += kEntrePartes;
+      lineas.back().Sigue(caja);
+    } else {
+      lineas.push_back(std::move(caja));
+    }
+  }
+  Franja f;
+  f.antes = 4.5;
+  f.caja.ancho = ancho_;
+  f.caja.alto = 0.8 * kCuerpoPaso;
+  double y = 0;
+  for (const auto& renglon : Renglones(tipos_, rotulo, menor, kRotulo)) {
+    f.caja.Pon(tipos_.DeTexto(renglon, menor), {0, y});
+    f.caja.hondo = y + 0.3 * menor.cuerpo;
+    y += 1.2 * menor.cuerpo;
+  }
+  y = 0;
+  for (std::size_t i = 0; i < lineas.size(); ++i) {
+    if (i == 0) {
+      f.caja.alto = std::max(f.caja.alto, lineas[i].alto);
+    } else {
+      y += lineas[i - 1].hondo + kEntreLineas + lineas[i].alto;
+    }
+    f.caja.hondo = std::max(f.caja.hondo, y + lineas[i].hondo);
+    f.caja.Pon(Caja(lineas[i]), {i == 0 ? x : x + 12.0, y});
+  }
+  f.caja.Pon(cifra, {ancho_ - cifra.ancho, 0});
   franjas_.push_back(std::move(f));
 }
 

@@ -92,6 +92,24 @@ void CompruebaSecciones(const Extras& extras) {
   }
 }
 
+// The picture of the cover is kept as text.
+PortadaObra PortadaDe(Json portada) {
+  if (!portada.is_object()) throw Ilegible{txt::ZrxClaveMala, "informe"};
+  const std::string donde = "informe.";
+  PortadaObra x;
+  std::string logo;
+  Toma(portada, donde, "autor", x.autor);
+  Toma(portada, donde, "revisor", x.revisor);
+  Toma(portada, donde, "revision", x.revision);
+  Toma(portada, donde, "fecha", x.fecha);
+  Toma(portada, donde, "logo", logo);
+  const auto bytes = DeBase64(logo);
+  if (!bytes || bytes->size() > kMaxBytesLogo) throw Ilegible{txt::ZrxClaveMala, donde + "logo"};
+  x.logo = *bytes;
+  if (!portada.empty()) x.otras = Texto(portada);
+  return x;
+}
+
 Extras ExtrasDe(Json j, std::string_view texto) {
   if (!j.is_object()) throw Ilegible{txt::ZrxSinJson, "1"};
   std::int64_t version = kVersion;
@@ -106,6 +124,10 @@ Extras ExtrasDe(Json j, std::string_view texto) {
   Extras extras;
   for (std::size_t i = 0; i < entradas.size(); ++i) {
     extras.tramos.push_back(EntradaDe(std::move(entradas[i]), "tramos[" + std::to_string(i) + "]"));
+  }
+  if (const auto portada = j.find("informe"); portada != j.end()) {
+    extras.portada = PortadaDe(std::move(*portada));
+    j.erase("informe");
   }
   if (!j.empty()) extras.otras = Texto(j);
   if (version > kVersion) {
@@ -125,6 +147,19 @@ void AnadeOtras(Json& objeto, const std::string& otras) {
 Json JsonDe(const ExtrasTramo& x) {
   Json j{{"numero", x.numero}, {"descripcion", x.descripcion}};
   if (x.Envolvente) j["envolvente"] = true;
+  AnadeOtras(j, x.otras);
+  return j;
+}
+
+Json JsonDe(const PortadaObra& x) {
+  Json j = Json::object();
+  for (const auto& [clave, valor] : {std::pair{"autor", &x.autor},
+                                     {"revisor", &x.revisor},
+                                     {"revision", &x.revision},
+                                     {"fecha", &x.fecha}}) {
+    if (!valor->empty()) j[clave] = *valor;
+  }
+  if (!x.logo.empty()) j["logo"] = EnBase64(x.logo);
   AnadeOtras(j, x.otras);
   return j;
 }
@@ -158,9 +193,11 @@ std::string TextoDeExtras(const Extras& extras) {
   for (const auto& x : extras.tramos) {
     if (x.DiceAlgo()) entradas.push_back(JsonDe(x));
   }
-  if (entradas.empty() && extras.otras.empty()) return {};
+  const bool portada = extras.portada.DiceAlgo();
+  if (entradas.empty() && !portada && extras.otras.empty()) return {};
   Json j{{"version", kVersion}};
   if (!entradas.empty()) j["tramos"] = std::move(entradas);
+  if (portada) j["informe"] = JsonDe(extras.portada);
   AnadeOtras(j, extras.otras);
   return Texto(j, kSangria) + "\n";
 }

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "base/mdCatalogo.h"
+#include "persistencia/zrx/mdPortadaObra.h"
 
 namespace zorbin {
 
@@ -40,8 +41,9 @@ struct ExtrasTramo {
 
 struct Extras {
   std::vector<ExtrasTramo> tramos;
-  std::string otras;  // unknown keys of the whole, a JSON object; empty for none
-  std::string ajeno;  // the file as it is, where a later version of the program wrote it
+  PortadaObra portada;  // of the report
+  std::string otras;    // unknown keys of the whole, a JSON object; empty for none
+  std::string ajeno;    // the file as it is, where a later version of the program wrote it
 
   bool operator==(const Extras&) const = default;
 };

@@ -181,7 +181,8 @@ class Ordenes {
     DeclaraObra(calcula_, o.obra, o.tramos);
     Eleccion(calcula_, "--formato", o.formato, txt::AyudaFormato, {"resumen", "json"});
     Eleccion(calcula_, "--listado", o.listado, txt::AyudaListado,
-             {"normal", "tabular", "pantalla", "lame"});
+             {"normal", "tabular", "pantalla", "lame", "informe"});
+    Eleccion(calcula_, "--detalle", o.detalle, txt::AyudaDetalle, {"resumen", "pesimo", "todos"});
     Opcion(calcula_, "--pdf", o.pdf, txt::AyudaPdf, T(txt::PalabraFichero));
     Opcion(calcula_, "--texto", o.texto, txt::AyudaTexto, T(txt::PalabraFichero));
     Eleccion(calcula_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});
@@ -191,6 +192,7 @@ class Ordenes {
     calcula_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
     calcula_->add_flag("--estricto", o.estricto, T(txt::AyudaEstricto));
     calcula_->add_flag("--envolvente", o.envolvente, T(txt::AyudaEnvolvente));
+    calcula_->add_flag("--si", o.si, T(txt::AyudaSi));
     Opcion(calcula_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
     Opcion(calcula_, "--registros", o.registros, txt::AyudaRegistros, T(txt::PalabraCarpeta));
   }

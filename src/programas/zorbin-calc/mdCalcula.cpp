@@ -20,6 +20,7 @@
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdSalida.h"
+#include "programas/zorbin-calc/mdSalidaInforme.h"
 #include "programas/zorbin-calc/mdSalidaPdf.h"
 #include "programas/zorbin-calc/mdValida.h"
 #include "programas/zorbin-calc/mdVigia.h"
@@ -32,6 +33,8 @@ namespace {
 struct Encargo {
   Obra obra;
   std::vector<TramoPedido> tramos;
+  std::map<int, Tramo> tecleados;       // as they were stored, by position
+  std::vector<std::string> rechazados;  // Tramos left out, each with its reason
 };
 
 // Whether an output would be written over the project or a file beside it.
@@ -58,10 +61,18 @@ std::string NoVanJuntas(const OpcionesCalcula& o, const Catalogo& textos) {
     return textos.Compone(txt::NoVanJuntas, {a, b});
   };
   if (o.listado.empty()) {
+    if (!o.detalle.empty() || o.si) {
+      return textos.Compone(txt::NecesitaOtra, {o.si ? "--si" : "--detalle", "--listado informe"});
+    }
     if (!pdf && !texto) return "";
     return textos.Compone(txt::NecesitaOtra, {pdf ? "--pdf" : "--texto", "--listado"});
   }
   if (!o.formato.empty()) return juntas("--listado", "--formato");
+  if (o.listado == "informe") {
+    if (!pdf) return textos.Compone(txt::NecesitaOtra, {"--listado informe", "--pdf"});
+  } else if (!o.detalle.empty() || o.si) {
+    return textos.Compone(txt::NecesitaOtra, {o.si ? "--si" : "--detalle", "--listado informe"});
+  }
   if (pdf && texto) return juntas("--pdf", "--texto");
   if ((pdf || texto) && salida) return juntas(pdf ? "--pdf" : "--texto", "--salida");
   return "";
@@ -73,7 +84,10 @@ void Comprueba(const Proyecto& proyecto, const OpcionesCalcula& opciones, const 
                const std::vector<int>& posiciones, Encargo& encargo) {
   const auto lista = BuscaFaltas(proyecto, opciones.tablas,
                                  {posiciones, SeparadorDeLinea(opciones.separador)}, textos);
-  for (const auto& f : lista.faltas) Queja(TextoFalta(f, textos));
+  for (const auto& f : lista.faltas) {
+    Queja(TextoFalta(f, textos));
+    encargo.rechazados.push_back(TextoFalta(f, textos));
+  }
   PonComprobada(encargo.obra, lista.obra);
   std::erase_if(encargo.tramos, [&](const TramoPedido& p) { return !lista.Vale(p.posicion); });
   for (auto& p : encargo.tramos) {
@@ -105,6 +119,7 @@ class Calculador {
   }
 
   int EnPaginas() try {
+    if (opciones_.listado == "informe") return EnInforme();
     if (!opciones_.pdf.empty()) {
       EscribePdf(opciones_.pdf, encargo_.obra.NombreObra, textos_,
                  [this](DestinoHojas& hojas) { Imprime(hojas); });
@@ -223,6 +238,31 @@ class Calculador {
     documento.Escribe(hojas);
   }
 
+  int EnInforme() {
+    std::vector<ResultadoTramo> resultados;
+    Corre([&resultados](ResultadoTramo&& r, const TramoPedido&) {
+      resultados.push_back(std::move(r));
+    });
+    DatosInforme datos{encargo_.obra,
+                       proyecto_.extras.portada,
+                       opciones_.obra.filename().string(),
+                       HuellaDe(opciones_.obra),
+                       "ZORBIN " ZORBIN_VERSION,
+                       FechaPedida(),
+                       DetalleDeLinea(opciones_.detalle),
+                       {},
+                       encargo_.rechazados};
+    for (std::size_t i = 0; i < resultados.size(); ++i) {
+      const auto& p = encargo_.tramos[i];
+      const auto tecleado = encargo_.tecleados.find(p.posicion);
+      datos.tramos.push_back({&resultados[i], p.numero,
+                              tecleado == encargo_.tecleados.end() ? p.tramo : tecleado->second,
+                              p.tramo});
+    }
+    const int hecho = EscribeInformePdf(opciones_.pdf, datos, textos_, estilo_, opciones_.si);
+    return hecho == kHecho ? Codigo() : hecho;
+  }
+
   Fecha FechaPedida() const {
     if (opciones_.fecha.empty()) return Ahora();
     const auto corte = opciones_.fecha.find(' ');
@@ -263,7 +303,8 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   const auto posiciones = BuscaTramos(opciones.tramos, opciones.obra, proyecto.lista, textos);
   if (!posiciones) return kPalabrasMalas;
 
-  Encargo encargo{proyecto.obra, TramosPedidos(proyecto, *posiciones)};
+  Encargo encargo{proyecto.obra, TramosPedidos(proyecto, *posiciones), {}, {}};
+  for (const auto& p : encargo.tramos) encargo.tecleados[p.posicion] = p.tramo;
   const auto pedidos = encargo.tramos.size();
   if (pedidos == 0) {
     Queja(textos.Compone(txt::ObraSinTramos, {opciones.obra.string()}));

@@ -13,7 +13,9 @@ struct OpcionesCalcula {
   std::filesystem::path obra;
   std::vector<int> tramos;          // numbers; empty for all
   std::string formato;              // "resumen", which is also the empty one, or "json"
-  std::string listado;              // "normal", "tabular", "pantalla", "lame" or empty for none
+  std::string listado;              // "normal", "tabular", "pantalla", "lame", "informe" or none
+  std::string detalle;              // of "informe": "resumen", "pesimo" or "todos"
+  bool si = false;                  // of "informe": also of very many pages
   std::filesystem::path pdf;        // of the listing
   std::filesystem::path texto;      // of the listing
   std::string idioma;               // "es", "en"... or empty for the Obra's
