@@ -16,6 +16,8 @@ struct OpcionesCalcula {
   std::string listado;              // "normal", "tabular", "pantalla", "lame" or empty for none
   std::filesystem::path pdf;        // of the listing
   std::filesystem::path texto;      // of the listing
+  std::filesystem::path tabla;      // of the Casos, .csv or .xlsx
+  std::string columnas;             // of the table, with commas; empty for those shown at first
   std::string idioma;               // "es", "en"... or empty for the Obra's
   std::string fecha;                // of the page heads, or empty for the machine's
   std::filesystem::path salida;     // empty for standard output
