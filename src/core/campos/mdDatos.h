@@ -30,15 +30,16 @@ struct Ficha {
   int registro = 0;     // of the project file: of the header, or offset in the block; 0 for none
   int registroMks = 0;  // a second one, with the MKS value alone, that nobody reads
   bool seLee = true;    // written only: it follows from others
-  std::string_view mascara = "#####0.00";  // under MKS
-  std::string_view mascaraSI = {};         // under SI, where another
-  std::string_view mascaraFichero = {};    // of the file, where another
-  std::string_view mascaraTecleada = {};   // of what was typed, where another
-  double minimo = 0;                       // on leaving the field
-  std::optional<double> defecto = {};      // under MKS
-  std::optional<double> defectoSI = {};    // under SI, where another
-  bool anulaAjustes = false;               // a change voids the hand adjustments of the Tramo
-  Campo campo = {};                        // its field on the screen; without name for none
+  std::string_view mascara = "#####0.00";      // under MKS
+  std::string_view mascaraSI = {};             // under SI, where another
+  std::string_view mascaraFichero = {};        // of the file, where another
+  std::string_view mascaraTecleada = {};       // of what was typed, where another
+  double minimo = 0;                           // on leaving the field
+  std::optional<double> defecto = {};          // under MKS
+  std::optional<double> defectoSI = {};        // under SI, where another
+  std::span<const std::int16_t> codigos = {};  // of a code, all that it may be
+  bool anulaAjustes = false;                   // a change voids the hand adjustments of the Tramo
+  Campo campo = {};                            // its field on the screen; without name for none
 
   bool Escala() const { return UnidadesDe(magnitud).Escala(); }
   constexpr bool EnPantalla() const { return !campo.nombre.empty(); }

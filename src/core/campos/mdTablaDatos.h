@@ -24,13 +24,24 @@ inline constexpr Paginas kPaginaTubo{1};
 inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
+// Codes of the data, in the order of the entries of their lists. 0 stands where a datum says nothing
+// of a Tramo, such as the sheet of a post-tensioned one.
+inline constexpr std::array<std::int16_t, 5> kCodigosIdioma{1, 2, 3, 4, 5};
+inline constexpr std::array<std::int16_t, 3> kCodigosTipologia{kArmada, kEmbebida, kRevestida};
+inline constexpr std::array<std::int16_t, 3> kCodigosDeDos{0, 1, 2};
+inline constexpr std::array<std::int16_t, 2> kCodigosDeMarca{0, 1};
+inline constexpr std::array<std::int16_t, 6> kCodigosApoyo{0, 11, 12, 21, 22, 31};
+inline constexpr std::array<std::int16_t, 6> kCodigosRellenos{0, 11, 12, 21, 22, 23};
+inline constexpr std::array<std::int16_t, 4> kCodigosDeTres{0, 1, 2, 3};
+inline constexpr std::array<std::int16_t, 5> kCodigosCarga{0, 1, 2, 3, 4};
+
 // The titles of edPrs2 and edPrsM2 are crossed between Obra and Tramo, and that is meant. The
 // choice of the enveloping design has no record: the file beside the Obra keeps it. Results tell it
 // of the run.
 // clang-format off
 inline constexpr auto kDatosObra = std::to_array<Dato<Obra>>({
     {&Obra::Idioma,
-     {.nombre = "Idioma", .magnitud = Magnitud::Codigo,
+     {.nombre = "Idioma", .magnitud = Magnitud::Codigo, .codigos = kCodigosIdioma,
       .campo = {.id = Ed::edIdioma, .nombre = "edIdioma", .clase = Clase::Lista,
        .etiqueta = txt::RotIdioma, .rotulo = txt::RotIdioma, .consejo = txt::TipIdioma,
        .entrada = txt::IdiomasPropios[0], .entradas = 5, .entradaDefecto = 1}}},
@@ -109,7 +120,7 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
       .campo = {.id = Ed::edDescriTramo, .nombre = "edDescriTramo", .clase = Clase::Texto,
        .pagina = kPaginaTramo, .rotulo = txt::RotDescriTramo, .consejo = txt::TipDescriTramo}}},
     {&Tramo::Tipologia,
-     {.nombre = "Tipologia", .magnitud = Magnitud::Codigo, .registro = 9}},
+     {.nombre = "Tipologia", .magnitud = Magnitud::Codigo, .registro = 9, .codigos = kCodigosTipologia}},
     {&Tramo::EsArmado,
      {.nombre = "EsArmado", .magnitud = Magnitud::Marca}},
     {&Tramo::PostFlag,
@@ -136,13 +147,13 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
        .ceroEnBlanco = true, .etiqueta = txt::EtCoepre1, .rotulo = txt::RotCoepre1,
        .consejo = txt::TipCoepre1}}},
     {&Tramo::TipoControl,
-     {.nombre = "TipoControl", .magnitud = Magnitud::Codigo, .registro = 12, .anulaAjustes = true,
+     {.nombre = "TipoControl", .magnitud = Magnitud::Codigo, .registro = 12, .codigos = kCodigosDeDos, .anulaAjustes = true,
       .campo = {.id = Ed::edTipoControl, .nombre = "edTipoControl", .clase = Clase::Lista,
        .pagina = kPaginaArmado, .etiqueta = txt::EtTipoControl, .rotulo = txt::EtTipoControl,
        .consejo = txt::TipTipoControl, .entrada = txt::ControlIntenso, .entradas = 2,
        .entradaDefecto = 1}}},
     {&Tramo::TipoCamisa,
-     {.nombre = "TipoCamisa", .magnitud = Magnitud::Codigo, .registro = 13, .anulaAjustes = true,
+     {.nombre = "TipoCamisa", .magnitud = Magnitud::Codigo, .registro = 13, .codigos = kCodigosDeDos, .anulaAjustes = true,
       .campo = {.id = Ed::edTipoCamisa, .nombre = "edTipoCamisa", .clase = Clase::Lista,
        .pagina = kPaginaArmado, .etiqueta = txt::EtTipoCamisa, .rotulo = txt::EtTipoCamisa,
        .consejo = txt::TipTipoCamisa, .entrada = txt::TiposDeCamisa[0], .entradas = 2,
@@ -305,19 +316,19 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
        .ceroEnBlanco = true, .etiqueta = txt::DensidadTubo, .rotulo = txt::EtGc,
        .consejo = txt::TipGc}}},
     {&Tramo::TipoCuna,
-     {.nombre = "TipoCuna", .magnitud = Magnitud::Codigo, .registro = 44, .anulaAjustes = true,
+     {.nombre = "TipoCuna", .magnitud = Magnitud::Codigo, .registro = 44, .codigos = kCodigosDeDos, .anulaAjustes = true,
       .campo = {.id = Ed::edTipoCuna0, .nombre = "edTipoCuna0", .clase = Clase::Lista,
        .pagina = kPaginaRelleno, .etiqueta = txt::EtTipoCuna, .rotulo = txt::EtTipoCuna,
        .consejo = txt::TipTipoCuna, .entrada = txt::CunaGranular, .entradas = 2,
        .entradaDefecto = 1}}},
     {&Tramo::TipoApoyo,
-     {.nombre = "TipoApoyo", .magnitud = Magnitud::Codigo, .registro = 45, .anulaAjustes = true,
+     {.nombre = "TipoApoyo", .magnitud = Magnitud::Codigo, .registro = 45, .codigos = kCodigosApoyo, .anulaAjustes = true,
       .campo = {.id = Ed::edTipoApoyo0, .nombre = "edTipoApoyo0", .clase = Clase::Lista,
        .pagina = kPaginaRelleno, .etiqueta = txt::EtTipoApoyo, .rotulo = txt::EtTipoApoyo,
        .consejo = txt::TipTipoApoyo, .entrada = txt::TiposDeApoyo[0], .entradas = 2,
        .entradaDefecto = 2}}},
     {&Tramo::TipoColocacion,
-     {.nombre = "TipoColocacion", .magnitud = Magnitud::Codigo,
+     {.nombre = "TipoColocacion", .magnitud = Magnitud::Codigo, .codigos = kCodigosDeDos,
       .campo = {.id = Ed::rdTipoColocacion, .nombre = "rdTipoColocacion", .clase = Clase::Opcion,
        .pagina = kPaginaColocacion, .consejo = txt::TipColocacion}}},
     {&Tramo::B0,
@@ -337,7 +348,7 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
       .campo = {.id = Ed::edFi0, .nombre = "edFi0", .pagina = kPaginaRelleno,
        .etiqueta = txt::EtFi, .rotulo = txt::RotFi, .consejo = txt::TipFi}}},
     {&Tramo::TipoRelleno,
-     {.nombre = "TipoRelleno", .magnitud = Magnitud::Codigo, .registro = 50, .anulaAjustes = true,
+     {.nombre = "TipoRelleno", .magnitud = Magnitud::Codigo, .registro = 50, .codigos = kCodigosRellenos, .anulaAjustes = true,
       .campo = {.id = Ed::edTipoRelleno0, .nombre = "edTipoRelleno0", .clase = Clase::Lista,
        .pagina = kPaginaRelleno, .etiqueta = txt::EtTipoRelleno, .rotulo = txt::EtTipoRelleno,
        .consejo = txt::TipTipoRelleno, .entrada = txt::RocasMachacadas, .entradas = 5,
@@ -348,7 +359,7 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
       .campo = {.id = Ed::edHr1, .nombre = "edHr1", .pagina = kPaginaRelleno,
        .ceroEnBlanco = true, .etiqueta = txt::EtHr1, .rotulo = txt::RotHr1, .consejo = txt::TipHr1}}},
     {&Tramo::IAs,
-     {.nombre = "IAs", .magnitud = Magnitud::Codigo, .registro = 52, .anulaAjustes = true,
+     {.nombre = "IAs", .magnitud = Magnitud::Codigo, .registro = 52, .codigos = kCodigosDeTres, .anulaAjustes = true,
       .campo = {.id = Ed::edIAs, .nombre = "edIAs", .clase = Clase::Lista,
        .pagina = kPaginaRelleno, .etiqueta = txt::EtIAs, .rotulo = txt::EtIAs,
        .consejo = txt::TipIAs, .entrada = txt::RocaNoAsentable, .entradas = 3,
@@ -360,9 +371,9 @@ inline constexpr auto kDatosTramo = std::to_array<Dato<Tramo>>({
        .etiqueta = txt::EtQDato, .rotulo = txt::RotQDatoMKS, .rotuloSI = txt::RotQDatoSI,
        .consejo = txt::TipQDato}}},
     {&Tramo::IndCar,
-     {.nombre = "IndCar", .magnitud = Magnitud::Codigo, .registro = 54}},
+     {.nombre = "IndCar", .magnitud = Magnitud::Codigo, .registro = 54, .codigos = kCodigosDeMarca}},
     {&Tramo::ICar,
-     {.nombre = "ICar", .magnitud = Magnitud::Codigo, .registro = 55, .anulaAjustes = true,
+     {.nombre = "ICar", .magnitud = Magnitud::Codigo, .registro = 55, .codigos = kCodigosCarga, .anulaAjustes = true,
       .campo = {.id = Ed::edICar0, .nombre = "edICar0", .clase = Clase::Lista,
        .pagina = kPaginaCargas, .etiqueta = txt::EtICar, .rotulo = txt::EtICar,
        .consejo = txt::TipICar, .entrada = txt::TiposDeCarga[0], .entradas = 5, .entradaDefecto = 3}}},

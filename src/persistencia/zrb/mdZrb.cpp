@@ -458,7 +458,6 @@ void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion) {
   Tramo t = e.tramo;
   LeeDatos(t, f, base, e.obra.EsSI());
   CompletaTramo(t, e.obra.EsSI());
-  t.Hr0Delta = AlturasDe(e.obra, t).Hr0Delta;
   e.tramo = std::move(t);
 }
 

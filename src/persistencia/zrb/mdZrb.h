@@ -44,7 +44,7 @@ ObraLeida CargaObra(EstadoCalculo& e, const FicheroRegistros& f);
 ObraLeida RescataObra(EstadoCalculo& e, const FicheroRegistros& f);
 
 /// Reads the block at a position, from 1, into e.tramo, in the units of the Obra's system, and sets
-/// the load fields and the heights in force. A blank record leaves the field as it was; a paired
+/// the load fields. A blank record leaves the field as it was; a paired
 /// one is 0, and a blank description is a blank description. NumeroTramo is not written.
 /// @throws ErrorFichero as CargaObra, also where the end of the file cuts the block
 void CargaTramo(EstadoCalculo& e, const FicheroRegistros& f, int posicion);

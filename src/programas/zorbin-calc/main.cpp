@@ -6,11 +6,13 @@
 
 #include "base/mdCarpetas.h"
 #include "base/textos.h"
+#include "listados/datos/mdTablaCasos.h"
 #include "persistencia/disco/mdDescriptor.h"
 #include "programas/zorbin-calc/mdAyuda.h"
 #include "programas/zorbin-calc/mdCalcula.h"
 #include "programas/zorbin-calc/mdCalculadoras.h"
 #include "programas/zorbin-calc/mdDibuja.h"
+#include "programas/zorbin-calc/mdImportaDatos.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdRescata.h"
@@ -38,6 +40,7 @@ class Ordenes {
     DeclaraAjustes();
     DeclaraRescata();
     DeclaraDibuja();
+    DeclaraImporta();
     DeclaraHidraulica();
     DeclaraMedios();
   }
@@ -71,6 +74,7 @@ class Ordenes {
   CLI::App* ajustes_ = nullptr;
   CLI::App* rescata_ = nullptr;
   CLI::App* dibuja_ = nullptr;
+  CLI::App* importa_ = nullptr;
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
@@ -78,6 +82,7 @@ class Ordenes {
   OpcionesListaAjustes deAjustes_;
   OpcionesRescata deRescata_;
   OpcionesDibuja deDibuja_;
+  OpcionesImporta deImporta_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -87,6 +92,7 @@ class Ordenes {
     if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
     if (rescata_->parsed()) return Rescata(deRescata_, textos_);
     if (dibuja_->parsed()) return Dibuja(deDibuja_, textos_);
+    if (importa_->parsed()) return ImportaDatos(deImporta_, textos_);
     if (medios_->parsed()) return Medios(deMedios_, textos_);
     return Calcula(deCalcula_, textos_);
   }
@@ -175,6 +181,19 @@ class Ordenes {
     Opcion(dibuja_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
   }
 
+  void DeclaraImporta() {
+    importa_ = Orden("importa", txt::AyudaImporta);
+    auto& o = deImporta_;
+    Opcion(importa_, "DATOS", o.datos, txt::AyudaDatos, "");
+    Opcion(importa_, "OBRA.zrb", o.obra, txt::AyudaObraDestino, "");
+    importa_->add_flag("--parcial", o.parcial, T(txt::AyudaParcial));
+    Opcion(importa_, "--plantilla", o.plantilla, txt::AyudaPlantilla, T(txt::PalabraFichero));
+    Eleccion(importa_, "--idioma", o.idioma, txt::AyudaIdiomaCalculadora,
+             {"es", "en", "ca", "pt", "fr"});
+    Eleccion(importa_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+    Opcion(importa_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
+  }
+
   void DeclaraCalcula() {
     calcula_ = Orden("calcula", txt::CalculaUnaObra);
     auto& o = deCalcula_;
@@ -185,6 +204,11 @@ class Ordenes {
     Eleccion(calcula_, "--detalle", o.detalle, txt::AyudaDetalle, {"resumen", "pesimo", "todos"});
     Opcion(calcula_, "--pdf", o.pdf, txt::AyudaPdf, T(txt::PalabraFichero));
     Opcion(calcula_, "--texto", o.texto, txt::AyudaTexto, T(txt::PalabraFichero));
+    Opcion(calcula_, "--tabla", o.tabla, txt::AyudaTabla, T(txt::PalabraFichero));
+    calcula_
+        ->add_option("--columnas", o.columnas,
+                     textos_.Compone(txt::AyudaColumnas, {NombresDeColumnas()}))
+        ->type_name("A,B...");
     Eleccion(calcula_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});
     Opcion(calcula_, "--fecha", o.fecha, txt::AyudaFecha, T(txt::PalabraFecha));
     Opcion(calcula_, "--salida", o.salida, txt::AyudaSalida, T(txt::PalabraFichero));

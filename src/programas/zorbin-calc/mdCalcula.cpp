@@ -9,6 +9,7 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "listados/datos/mdJson.h"
+#include "listados/datos/mdTablaCasos.h"
 #include "listados/obra/mdDocumento.h"
 #include "listados/obra/mdPantalla.h"
 #include "listados/obra/mdResumen.h"
@@ -60,6 +61,14 @@ std::string NoVanJuntas(const OpcionesCalcula& o, const Catalogo& textos) {
   const auto juntas = [&](const char* a, const char* b) {
     return textos.Compone(txt::NoVanJuntas, {a, b});
   };
+  if (!o.columnas.empty() && o.tabla.empty()) {
+    return textos.Compone(txt::NecesitaOtra, {"--columnas", "--tabla"});
+  }
+  if (!o.tabla.empty()) {
+    if (!o.listado.empty()) return juntas("--tabla", "--listado");
+    if (!o.formato.empty()) return juntas("--tabla", "--formato");
+    if (salida) return juntas("--tabla", "--salida");
+  }
   if (o.listado.empty()) {
     if (!o.detalle.empty() || o.si) {
       return textos.Compone(txt::NecesitaOtra, {o.si ? "--si" : "--detalle", "--listado informe"});
@@ -115,6 +124,18 @@ class Calculador {
     Salida salida(opciones_.salida);
     opciones_.formato == "json" ? EscribeJson(salida.flujo()) : EscribeResumen(salida.flujo());
     salida.Cierra();
+    return Codigo();
+  }
+
+  int EnTabla() {
+    std::string mala;
+    const auto columnas = ColumnasDeLista(opciones_.columnas, mala).value();
+    const PalabrasDibujo palabras(textos_, estilo_);
+    const auto tabla = TablaPorNombre({encargo_.obra, columnas}, palabras, opciones_.tabla);
+    const auto capturados = Capturados();
+    ListadoTabla lector(*tabla, columnas, capturados);
+    Lee(lector);
+    tabla->Termina();
     return Codigo();
   }
 
@@ -192,9 +213,14 @@ class Calculador {
     });
   }
 
-  void EscribeJson(std::ostream& flujo) {
+  std::map<int, Tramo> Capturados() const {
     std::map<int, Tramo> capturados;
     for (const auto& p : encargo_.tramos) capturados[p.posicion] = p.tramo;
+    return capturados;
+  }
+
+  void EscribeJson(std::ostream& flujo) {
+    const auto capturados = Capturados();
     ListadoJson json(flujo, opciones_.obra.string(), capturados, textos_, estilo_);
     json.EmpiezaObra(encargo_.obra);
     Lee(json);
@@ -280,7 +306,13 @@ void PonIdioma(const Proyecto& proyecto, const OpcionesCalcula& opciones, Catalo
 // What is wrong with the words, or nothing.
 std::string PalabrasQueNoSirven(const OpcionesCalcula& opciones, const Catalogo& textos) {
   if (auto queja = NoVanJuntas(opciones, textos); !queja.empty()) return queja;
-  for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto}) {
+  if (!opciones.tabla.empty() && !EsNombreDeTabla(opciones.tabla)) {
+    return textos.Compone(txt::ExtensionDeTabla, {opciones.tabla.string()});
+  }
+  if (std::string mala; !ColumnasDeLista(opciones.columnas, mala)) {
+    return textos.Compone(txt::ColumnaDeTablaMala, {mala, NombresDeColumnas()});
+  }
+  for (const auto& salida : {opciones.salida, opciones.pdf, opciones.texto, opciones.tabla}) {
     if (PisaLaObra(salida, opciones.obra)) {
       return textos.Compone(txt::SalidaSobreLaObra, {salida.string()});
     }
@@ -315,7 +347,9 @@ int Calcula(const OpcionesCalcula& opciones, Catalogo& textos) try {
   if (faltan && encargo.tramos.empty()) return kFicheroRechazado;
 
   Calculador calculador(proyecto, encargo, opciones, textos);
-  const int codigo = opciones.listado.empty() ? calculador.Resultados() : calculador.EnPaginas();
+  const int codigo = !opciones.tabla.empty()    ? calculador.EnTabla()
+                     : opciones.listado.empty() ? calculador.Resultados()
+                                                : calculador.EnPaginas();
   return codigo == kHecho && (faltan || proyecto.SinAjustes || proyecto.SinExtras)
              ? kFicheroRechazado
              : codigo;

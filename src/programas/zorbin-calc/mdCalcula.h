@@ -18,6 +18,8 @@ struct OpcionesCalcula {
   bool si = false;                  // of "informe": also of very many pages
   std::filesystem::path pdf;        // of the listing
   std::filesystem::path texto;      // of the listing
+  std::filesystem::path tabla;      // of the Casos, .csv or .xlsx
+  std::string columnas;             // of the table, with commas; empty for those shown at first
   std::string idioma;               // "es", "en"... or empty for the Obra's
   std::string fecha;                // of the page heads, or empty for the machine's
   std::filesystem::path salida;     // empty for standard output

@@ -144,8 +144,12 @@ void CalculaDe(Captura& c) {
   Escribe(c, Ed::edDe0, t.De, "#####0.000");
 }
 
+double AnchoAutomatico(const Tramo& t) {
+  return t.De * 1.4 + 0.68;
+}
+
 double AnchoAutomatico(const Captura& c) {
-  return c.e.tramo.De * 1.4 + 0.68;
+  return AnchoAutomatico(c.e.tramo);
 }
 
 void RecalculaB0(Captura& c) {

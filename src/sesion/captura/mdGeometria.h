@@ -49,6 +49,7 @@ void CargaListaDiametros(Captura& c);
 /// De from Di and Esp, shown.
 void CalculaDe(Captura& c);
 /// Automatic width of the trench: 1.4 De + 0.68 [m].
+double AnchoAutomatico(const Tramo& t);
 double AnchoAutomatico(const Captura& c);
 /// B0 takes the automatic width, shown. An embankment has no trench, and nothing happens.
 void RecalculaB0(Captura& c);

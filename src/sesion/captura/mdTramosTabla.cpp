@@ -9,33 +9,16 @@
 #include "base/mdTextos.h"
 #include "base/textos.h"
 #include "core/mdUnidades.h"
+#include "persistencia/entrada/mdColumnasTramo.h"
 #include "sesion/captura/mdTramos.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr std::string_view kNumero = "NumeroTramo";
 constexpr int kDecimales = 6;
 
 using DatoTramo = Dato<Tramo>;
-
-// What follows from other data has no column: the capture finds it again.
-bool TieneColumna(const Ficha& ficha) {
-  constexpr std::array<std::string_view, 8> kDeducidos{
-      "NumeroTramo", "EsArmado", "PostFlag", "SubTipo", "GamaY", "GamaF", "Fct", "De"};
-  return !ficha.deSesion && std::ranges::find(kDeducidos, ficha.nombre) == kDeducidos.end();
-}
-
-std::string UnidadDe(const Ficha& ficha, bool si) {
-  const auto& unidades = UnidadesDe(ficha.magnitud);
-  return std::string(si ? unidades.si : unidades.mks);
-}
-
-std::string Cabecera(const Ficha& ficha, bool si) {
-  const std::string unidad = UnidadDe(ficha, si);
-  return std::string(ficha.nombre) + (unidad.empty() ? "" : " (" + unidad + ")");
-}
 
 // Neither a tabulator nor a break of line ends a cell from inside.
 std::string Celda(std::string texto) {
@@ -103,7 +86,7 @@ class LectorTabla {
     for (const auto& cabecera : cabeceras) {
       const auto abre = cabecera.find('(');
       const std::string nombre(Recorta(cabecera.substr(0, abre)));
-      if (nombre == kNumero) {
+      if (nombre == kColumnaNumero) {
         columnas_.push_back({});
         continue;
       }
@@ -214,7 +197,7 @@ class LectorTabla {
 
 std::string CopiaTramos(const Captura& c, const std::vector<int>& ids) {
   const Version v = VersionActual(c);
-  std::string tabla(kNumero);
+  std::string tabla(kColumnaNumero);
   const auto datos = TablaDe(Tramo{});
   for (const auto& dato : datos) {
     if (TieneColumna(dato.ficha)) tabla += "\t" + Cabecera(dato.ficha, c.EsSI());

@@ -223,8 +223,6 @@ class Validacion {
 
   bool Alturas() {
     const auto r = AlturasDe(c_.e.obra, c_.e.tramo);
-    // Where the heights are the Obra's, so is the increment.
-    c_.e.tramo.Hr0Delta = r.Hr0Delta;
     if (!(r.Hr0 > 0)) return FallaAltura(Ed::edHr0, txt::DebeTeclearAltura);
     // Only an Obra without a height is held to the 1 m.
     if (r.Hr0 < 1.0 && !(c_.e.obra.Alt1 > 0.01)) {
@@ -237,11 +235,12 @@ class Validacion {
 
   bool IncrementoDeAlturas(const zorbin::Alturas& r) {
     auto& t = c_.e.tramo;
-    if (t.Hr0Delta < 0.01 &&
+    if (r.AlturasPropias && t.Hr0Delta < 0.01 &&
         !ValidaNumero(c_, Ed::edHr0Delta, -kMayorTecleado, t.Hr0Delta, txt::EtAlt3)) {
       return false;
     }
-    if (t.Hr0Delta <= 0 && r.Hr0Final != r.Hr0) {
+    const double paso = r.AlturasPropias ? t.Hr0Delta : r.Hr0Delta;
+    if (paso <= 0 && r.Hr0Final != r.Hr0) {
       return FallaAltura(Ed::edHr0Delta, txt::DebeIncrementoAlturas);
     }
     return true;

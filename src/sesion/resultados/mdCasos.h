@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "sesion/resultados/mdColumnas.h"
+#include "listados/datos/mdColumnas.h"
 
 namespace zorbin {
 
@@ -37,6 +37,10 @@ class CasosObra {
   using Enteras = std::shared_ptr<const std::vector<ValoresEnteros>>;
   Enteras CalculaEnteras(const Sigue& sigue) const;
   bool TieneEnteras() const { return enteras_ != nullptr; }
+  /// Those of a Caso; null before they are calculated.
+  const ValoresEnteros* EnterasDe(std::size_t caso) const {
+    return enteras_ == nullptr ? nullptr : &(*enteras_)[caso];
+  }
   void PonEnteras(Enteras enteras) { enteras_ = std::move(enteras); }
 
  private:

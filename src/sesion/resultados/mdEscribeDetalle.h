@@ -5,15 +5,10 @@
 #include <string_view>
 #include <utility>
 
+#include "listados/datos/mdColumnas.h"
 #include "sesion/resultados/mdDetalle.h"
 
 namespace zorbin {
-
-inline constexpr std::string_view kPresion = "at->MPa";
-inline constexpr std::string_view kTension = "Kp/cm2->MPa";
-inline constexpr std::string_view kCarga = "T/M2->kN/M2";
-inline constexpr std::string_view kMomento = "mT->mkN";
-inline constexpr std::string_view kFuerza = "T->kN";
 
 class EscribeDetalle {
  public:

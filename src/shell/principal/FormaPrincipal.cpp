@@ -3,13 +3,10 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QDragEnterEvent>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QSessionManager>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -43,10 +40,6 @@ namespace {
 
 const QString kNombreVentana = QStringLiteral("FormaPrincipal");
 constexpr char kMuestra[] = "acequia.zrb";
-
-bool EsDeObra(const QString& ruta) {
-  return ruta.endsWith(QStringLiteral(".zrb"), Qt::CaseInsensitive);
-}
 
 }  // namespace
 
@@ -129,6 +122,9 @@ void FormaPrincipal::CreaMenus() {
   auto* obras = NuevoMenu(txt::MenuObras);
   NuevaAccion(*obras, Orden::MnAbriFichero, txt::MenuAbrir, QKeySequence::Open);
   NuevaAccion(*obras, Orden::MnNuevaObra, txt::MenuNueva, QKeySequence::New);
+  NuevaAccion(*obras, txt::MenuImportar, {}, [this] {
+    Trae({});
+  })->setObjectName(QStringLiteral("mnImportar"));
   NuevaAccion(*obras, Orden::MnSeleccionarImpresora, txt::MenuImpresora, {});
   NuevaAccion(*obras, Orden::MnImprimir, txt::MenuImprimir, QKeySequence::Print);
   NuevaAccion(*obras, Orden::mnGrabaObra, txt::BtGrabar, QKeySequence::Save);
@@ -445,23 +441,6 @@ void FormaPrincipal::GrabaCon(bool (*graba)(Captura&)) {
   recientes_->Renueva();
 }
 
-void FormaPrincipal::AbreConDialogo() {
-  if (!DejaLaObra()) return;
-  QFileDialog dialogo(this, Q(c_.textos.Texto(txt::TituloAbrir)),
-                      entorno_.preferencias.UltimaCarpeta(), FiltrosObra(c_.textos));
-  dialogo.setFileMode(QFileDialog::ExistingFile);
-  if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return;
-  AbreFichero(dialogo.selectedFiles().constFirst());
-}
-
-bool FormaPrincipal::Abre(const QString& ruta) {
-  if (!EsDeObra(ruta)) {
-    Avisa(this, c_.textos, Q(c_.textos.Compone(txt::NoEsObra, {S(ruta)})));
-    return false;
-  }
-  return DejaLaObra() && AbreFichero(ruta);
-}
-
 // Whether what is open may give way to another Obra.
 bool FormaPrincipal::DejaLaObra() {
   if (!c_.ObraCargada) return true;
@@ -574,20 +553,6 @@ void FormaPrincipal::GuardaSesion(QSessionManager& sesion) {
     sesion.release();
   }
   sesion.cancel();
-}
-
-void FormaPrincipal::dragEnterEvent(QDragEnterEvent* suceso) {
-  const auto direcciones = suceso->mimeData()->urls();
-  if (direcciones.size() == 1 && direcciones.constFirst().isLocalFile()) {
-    suceso->acceptProposedAction();
-  }
-}
-
-void FormaPrincipal::dropEvent(QDropEvent* suceso) {
-  const QString ruta = suceso->mimeData()->urls().constFirst().toLocalFile();
-  suceso->acceptProposedAction();
-  // After the drop, so that the program it came from does not wait for a message box.
-  QTimer::singleShot(0, this, [this, ruta] { Protege([&] { Abre(ruta); }); });
 }
 
 void FormaPrincipal::changeEvent(QEvent* suceso) {

@@ -147,6 +147,8 @@ class FormaPrincipal : public QMainWindow {
   void GrabaCon(bool (*graba)(Captura&));
   bool DejaLaObra();
   bool AbreFichero(const QString& ruta);
+  void Trae(const QString& ruta);
+  void AbreOTrae(const QString& ruta);
   void AbreMuestra();
   void Actualiza();
   void ActualizaEstado();

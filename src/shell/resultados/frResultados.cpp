@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFile>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -22,6 +23,8 @@
 #include "base/textos.h"
 #include "listados/obra/mdVeredictoCaso.h"
 #include "sesion/captura/mdPaginas.h"
+#include "sesion/resultados/mdExporta.h"
+#include "shell/impresion/mdGuardar.h"
 #include "shell/piezas/mdFaena.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/frCompara.h"
@@ -36,6 +39,8 @@ namespace {
 const QString kVentana = QStringLiteral("Resultados");
 const QString kColumnasElegidas = QStringLiteral("Resultados/Columnas");
 const QString kPartes = QStringLiteral("ResultadosPartes");
+const QString kLibro = QStringLiteral("xlsx");
+const QString kTexto = QStringLiteral("csv");
 constexpr int kMayorAncho = 220;  // of a column at first [px]
 
 double Hecho(const Avance& a) {
@@ -100,10 +105,17 @@ void frResultados::CreaPiezas() {
   menuColumnas_ = new QMenu(columnas_);
   columnas_->setMenu(menuColumnas_);
   copia_ = new QPushButton(this);
+  exporta_ = new QPushButton(this);
+  exporta_->setObjectName(QStringLiteral("exportaCasos"));
+  auto* menuExporta = new QMenu(exporta_);
+  aLibro_ = menuExporta->addAction({});
+  aTexto_ = menuExporta->addAction({});
+  exporta_->setMenu(menuExporta);
   compara_ = new QPushButton(this);
   calcula_ = new QPushButton(this);
   listados_ = new QPushButton(this);
-  for (auto* boton : {copia_, compara_, calcula_, listados_}) boton->setAutoDefault(false);
+  for (auto* boton : {copia_, exporta_, compara_, calcula_, listados_})
+    boton->setAutoDefault(false);
   cuenta_ = new QLabel(this);
   aviso_ = new QLabel(this);
   for (auto* rotulo : {cuenta_, aviso_}) rotulo->setTextFormat(Qt::PlainText);
@@ -121,6 +133,7 @@ void frResultados::Coloca() {
   botones->addWidget(calcula_);
   botones->addWidget(columnas_);
   botones->addWidget(copia_);
+  botones->addWidget(exporta_);
   botones->addWidget(compara_);
   botones->addStretch();
   botones->addWidget(listados_);
@@ -146,6 +159,8 @@ void frResultados::Enlaza() {
   connect(soloPeores_, &QCheckBox::toggled, this, &frResultados::Filtra);
   connect(calcula_, &QPushButton::clicked, this, &frResultados::Calcula);
   connect(copia_, &QPushButton::clicked, this, &frResultados::Copia);
+  connect(aLibro_, &QAction::triggered, this, [this] { Exporta(kLibro); });
+  connect(aTexto_, &QAction::triggered, this, [this] { Exporta(kTexto); });
   connect(compara_, &QPushButton::clicked, this, &frResultados::Compara);
   connect(listados_, &QPushButton::clicked, this, [this] {
     if (resumen_) resumen_();
@@ -165,6 +180,9 @@ void frResultados::RenuevaTextos() {
   pon(soloPeores_, txt::ResSoloPeores);
   pon(columnas_, txt::ResColumnas);
   pon(copia_, txt::ResumenCopiar);
+  pon(exporta_, txt::ResExportar);
+  aLibro_->setText(Rotulo(entorno_.textos.Texto(txt::ResTablaXlsx)) + " (.xlsx)");
+  aTexto_->setText(Rotulo(entorno_.textos.Texto(txt::ResTablaCsv)) + " (.csv)");
   pon(compara_, txt::ResComparar);
   pon(calcula_, txt::ResRecalcular);
   pon(listados_, txt::ResResumen);
@@ -205,6 +223,7 @@ bool frResultados::Calcula() {
   for (const auto& r : calculo.encargo.rechazados) reparos_ += r + "\n";
   for (const auto& f : calculo.Fallos()) reparos_ += f + "\n";
   numeros_ = calculo.numeros;
+  ids_ = calculo.ids;
   for (std::size_t i = 0; i < casos->Tramos().size(); ++i) {
     emit verificado(calculo.ids[i], CuentaDeVeredictos(casos->Tramos()[i]).veredicto);
   }
@@ -377,6 +396,7 @@ void frResultados::Cuenta() {
   for (const auto& tira : tabla_->selectionModel()->selection()) elegidos += tira.height();
   compara_->setEnabled(elegidos == 2);
   copia_->setEnabled(modelo_->rowCount() > 0);
+  exporta_->setEnabled(modelo_->rowCount() > 0);
   cuenta_->setText(Q(entorno_.textos.Compone(
       txt::ResCuenta, {TextoEntero(modelo_->rowCount()), std::to_string(modelo_->casos().Cuantos()),
                        std::to_string(modelo_->casos().Tramos().size()), TextoEntero(elegidos)})));
@@ -394,6 +414,31 @@ void frResultados::Copia() {
     texto = TextoTabulado(modelo_->casos(), casos, modelo_->vista().columnas, modelo_->Palabras());
   });
   QGuiApplication::clipboard()->setText(Q(texto));
+}
+
+// The rows in sight with the columns in sight, in their order.
+void frResultados::Exporta(const QString& extension) {
+  const auto& textos = entorno_.textos;
+  const bool libro = extension == kLibro;
+  const QString ruta = PideNombreFichero(
+      this, textos, entorno_.preferencias,
+      {txt::ResTituloExportar, libro ? txt::ResTablaXlsx : txt::ResTablaCsv, extension},
+      Q(textos.Texto(txt::ResTituloTabla)));
+  if (ruta.isEmpty()) return;
+  std::vector<std::uint32_t> orden;
+  for (int i = 0; i < modelo_->rowCount(); ++i) orden.push_back(modelo_->Caso(i));
+  const std::filesystem::path fichero(QFile::encodeName(ruta).toStdString());
+  HazDocumento(this, textos, ruta, [&](MarchaFaena& marcha) {
+    ExportaTabla(
+        {modelo_->casos(), orden, modelo_->vista().columnas, calculada_, ids_, numeros_},
+        modelo_->Palabras(), fichero, [&](std::size_t hechos) {
+          marcha.Exige();
+          if (!marcha.Espera()) return;
+          marcha.Di({textos.Compone(txt::ResEscribiendoTabla,
+                                    {std::to_string(hechos), std::to_string(orden.size())}),
+                     static_cast<double>(hechos) / static_cast<double>(orden.size())});
+        });
+  });
 }
 
 void frResultados::Compara() {

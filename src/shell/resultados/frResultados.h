@@ -10,6 +10,7 @@
 #include "sesion/trabajo/mdTrabajo.h"
 #include "shell/piezas/mdEntorno.h"
 
+class QAction;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -57,7 +58,8 @@ class frResultados : public QWidget {
   std::function<void()> resumen_;
   Version calculada_;
   std::vector<std::string> numeros_;
-  std::string reparos_;  // Tramos left out, failures
+  std::vector<int> ids_;  // of the Tramos calculated
+  std::string reparos_;   // Tramos left out, failures
   int idioma_ = -1;
 
   ModeloCasos* modelo_;
@@ -71,7 +73,10 @@ class frResultados : public QWidget {
   QCheckBox* soloPeores_;
   QToolButton* columnas_;
   QMenu* menuColumnas_;
+  QAction* aLibro_;
+  QAction* aTexto_;
   QPushButton* copia_;
+  QPushButton* exporta_;
   QPushButton* compara_;
   QPushButton* calcula_;
   QPushButton* listados_;
@@ -93,6 +98,7 @@ class frResultados : public QWidget {
   void Ordenado();
   void Cuenta();
   void Copia();
+  void Exporta(const QString& extension);
   void Compara();
   std::vector<std::uint32_t> Elegidos() const;
   void AjustaAnchos();

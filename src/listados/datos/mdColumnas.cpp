@@ -1,4 +1,4 @@
-#include "sesion/resultados/mdColumnas.h"
+#include "listados/datos/mdColumnas.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,17 +9,20 @@
 #include "calculo/anillo/mdAnilloCaso.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "calculo/postesado/mdHipotesis.h"
-#include "sesion/resultados/mdEscribeDetalle.h"
 
 namespace zorbin {
 
 namespace {
 
+constexpr double kCmPorMetro = 100.0;
 constexpr double kNada = std::numeric_limits<double>::quiet_NaN();
 
 // clang-format off
 constexpr std::array<FilaColumna, kColumnas> kTabla{{
     {Columna::Tramo,           "tramo",      nullptr, txt::ResCol[0],       "",       "",       0, false, true},
+    {Columna::Descripcion,     "descripcion",nullptr, txt::RotDescriTramo,  "",       "",       0, false, false},
+    {Columna::Di,              "Di",         "Di",    0,                    "",       "m",      3, true,  false},
+    {Columna::Esp,             "Esp",        "Esp",   0,                    "",       "cm",     1, true,  false},
     {Columna::Hr,              "Hr",         "Hr",    0,                    "",       "m",      2, true,  true},
     {Columna::DP,              "DP",         "DP",    0,                    kPresion, "",       0, true,  true},
     {Columna::MDP,             "MDP",        "MDP",   0,                    kPresion, "",       0, true,  true},
@@ -85,10 +88,13 @@ std::string Titulo(Columna c, const PalabrasDibujo& w) {
   return f.simbolo != nullptr ? std::string(f.simbolo) : w.T(f.titulo);
 }
 
-std::string Cabeza(Columna c, const PalabrasDibujo& w) {
+std::string UnidadDe(Columna c, const PalabrasDibujo& w) {
   const auto& f = De(c);
-  std::string unidad = f.conversion.empty() ? std::string{} : w.Unidad(f.conversion);
-  unidad += f.unidad;
+  return (f.conversion.empty() ? std::string{} : w.Unidad(f.conversion)) + f.unidad;
+}
+
+std::string Cabeza(Columna c, const PalabrasDibujo& w) {
+  const std::string unidad = UnidadDe(c, w);
   return unidad.empty() ? Titulo(c, w) : Titulo(c, w) + "\n" + unidad;
 }
 
@@ -96,6 +102,10 @@ double ValorDe(Columna c, const ResultadoTramo& t, const FilaCaso& f) {
   switch (c) {
     case Columna::Tramo:
       return t.datos.tramo.NumeroTramo;
+    case Columna::Di:
+      return t.datos.tramo.Di;
+    case Columna::Esp:
+      return t.datos.tramo.Esp * kCmPorMetro;
     case Columna::Hr:
       return f.Hr;
     case Columna::DP:
@@ -179,6 +189,8 @@ std::string TextoPalabra(Columna c, const ResultadoTramo& t, const FilaCaso& f,
   switch (c) {
     case Columna::Tramo:
       return TextoEntero(t.datos.tramo.NumeroTramo);
+    case Columna::Descripcion:
+      return t.datos.tramo.DescriTramo;
     case Columna::Rige: {
       const int h = HipotesisQueRige(t.datos, f);
       return h > 0 ? TextoEntero(h) + " · " + w.Hipotesis(armado, h) : std::string("-");

@@ -12,8 +12,17 @@
 
 namespace zorbin {
 
+inline constexpr std::string_view kPresion = "at->MPa";
+inline constexpr std::string_view kTension = "Kp/cm2->MPa";
+inline constexpr std::string_view kCarga = "T/M2->kN/M2";
+inline constexpr std::string_view kMomento = "mT->mkN";
+inline constexpr std::string_view kFuerza = "T->kN";
+
 enum class Columna : std::uint8_t {
   Tramo,
+  Descripcion,
+  Di,
+  Esp,
   Hr,
   DP,
   MDP,
@@ -70,6 +79,8 @@ std::optional<Columna> ColumnaPorClave(std::string_view clave);
 std::string Cabeza(Columna c, const PalabrasDibujo& palabras);
 /// Title alone, for a list of columns.
 std::string Titulo(Columna c, const PalabrasDibujo& palabras);
+/// Unit alone; empty for none.
+std::string UnidadDe(Columna c, const PalabrasDibujo& palabras);
 
 /// Value by which a column is sorted, in calculation units; not a number where there is none.
 /// @param c  a column of the row
