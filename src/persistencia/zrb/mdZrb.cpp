@@ -58,14 +58,28 @@ std::vector<const Dato<Bloque>*> EnOrden(std::span<const Dato<Bloque>> tabla) {
 // ---------------------------------------------------------------------------------------------
 // Reading
 
+void ExigeCabida(const FicheroRegistros& f, int registro, std::string_view nombre, double valor) {
+  if (std::fabs(valor) <= kMayorNumero) return;
+  throw ErrorFichero(
+      {txt::NumeroExcesivo, {f.Nombre(), TextoEntero(registro), std::string(nombre)}});
+}
+
+// The file holds both halves of a datum, so neither may pass what it holds.
+void ExigeCabida(const FicheroRegistros& f, int registro, const Ficha& ficha,
+                 const ParUnidades& par) {
+  ExigeCabida(f, registro, ficha.nombre, par.mks);
+  ExigeCabida(f, registro, ficha.nombre, par.si);
+}
+
 double LeeNumero(const FicheroRegistros& f, int registro, std::string_view nombre,
                  std::string_view texto) {
   const auto valor = NumeroTexto(texto);
-  if (!valor || std::fabs(*valor) > kMayorNumero) {
+  if (!valor) {
     throw ErrorFichero(
         {txt::NoEsNumero,
          {f.Nombre(), TextoEntero(registro), std::string(nombre), std::string(texto)}});
   }
+  ExigeCabida(f, registro, nombre, *valor);
   return *valor;
 }
 
@@ -91,7 +105,9 @@ double LeePar(const FicheroRegistros& f, int registro, const Ficha& ficha, bool 
   if (corte != std::string::npos) {
     par.si = LeeNumero(f, registro, ficha.nombre, texto.substr(corte + kSeparadorPar.size()));
   }
-  return si ? par.si : par.mks;
+  const double valor = si ? par.si : par.mks;
+  ExigeCabida(f, registro, ficha, Pareja(valor, si, ficha.magnitud));
+  return valor;
 }
 
 ErrorFichero OtroFormato(const FicheroRegistros& f, int mensaje) {
@@ -330,13 +346,16 @@ std::string TextoDato(const Tramo& t, const Dato<Tramo>& dato, const Escritor& e
 
 // The records of the data. `base` is what the records of the block count from.
 template <class Bloque>
-void PonDatos(std::vector<Registro128>& r, const Bloque& bloque, int base, bool si,
-              char separador) {
+void PonDatos(std::vector<Registro128>& r, const FicheroRegistros& f, const Bloque& bloque,
+              int base, bool si, char separador) {
   for (const auto& dato : TablaDe(bloque)) {
     const auto& ficha = dato.ficha;
     if (ficha.registro == 0) continue;
     const std::string nombre(ficha.nombre);
     const Escritor escritor(ficha, si, separador);
+    if (const auto* real = std::get_if<double Bloque::*>(&dato.miembro)) {
+      ExigeCabida(f, base + ficha.registro, ficha, Pareja(bloque.*(*real), si, ficha.magnitud));
+    }
     r.push_back({base + ficha.registro, nombre, TextoDato(bloque, dato, escritor, si)});
     if (ficha.registroMks == 0) continue;
     const double valor = bloque.*std::get<double Bloque::*>(dato.miembro);
@@ -454,7 +473,7 @@ void EscribeObra(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos&
       {3, "SisUnid", std::string(kRotuloUnidades) + o.SisUnid + std::string(27, ' ')},
       {4, "GolpeCalculado",
        std::string(kRotuloGolpe) + textos.Texto(o.GolpeCalculado ? txt::Si : txt::No)}};
-  PonDatos(r, o, 0, o.EsSI(), separador);
+  PonDatos(r, f, o, 0, o.EsSI(), separador);
   PonReserva(r, kPrimeraReserva, kRegistroCuenta - 1);
   r.push_back({kRegistroCuenta, "", TextoEntero(static_cast<int>(lista.size()))});
   EscribeTodos(f, std::move(r));
@@ -466,7 +485,7 @@ void EscribeTramo(FicheroRegistros& f, const EstadoCalculo& e, const ListaTramos
   std::vector<Registro128> r{
       {base + kOffsetCuenta, "", TextoEntero(static_cast<int>(lista.size()))},
       {base + kOffsetNumero, "NumeroTramo", lista.at(static_cast<std::size_t>(posicion - 1))}};
-  PonDatos(r, e.tramo, base, e.obra.EsSI(), separador);
+  PonDatos(r, f, e.tramo, base, e.obra.EsSI(), separador);
   PonReserva(r, base + kUltimoOffsetLeido + 1, base + kUltimoOffset);
   EscribeTodos(f, std::move(r));
 }
