@@ -43,7 +43,7 @@ enum class SalidaCampo {
 };
 
 /// A step that can be undone: how the Obra stood before and after, and what was done.
-struct Paso {
+struct PasoDado {
   Version antes;
   Version despues;
   int enManoAntes = 0;  // id of the Tramo in hand
