@@ -74,7 +74,7 @@ struct Captura {
   std::optional<FicheroRegistros> fichero;
   std::uint64_t huella = 0;  // of what the file holds
   std::string sinAjustes;    // why its hand adjustments were refused; empty where they were not
-  std::function<void(Paso)> alDarPaso;  // of whoever undoes
+  std::function<void(PasoDado)> alDarPaso;  // of whoever undoes
   int pasosAbiertos = 0;                // a step within another is a part of it
   bool ObraCargada = false;
   std::vector<std::string> danos;  // what of the file could not be read: it is never written
