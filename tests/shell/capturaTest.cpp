@@ -29,6 +29,7 @@
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/mdDibujoDatos.h"
 #include "shell/entornoPrueba.h"
+#include "shell/piezas/mdTema.h"
 #include "shell/principal/FormaPrincipal.h"
 #include "shell/principal/mdArranque.h"
 
