@@ -41,6 +41,12 @@ int ListaArrastrable::AntesDe(QPoint sitio) const {
   return siguiente == nullptr ? 0 : siguiente->data(0, kPapelId).toInt();
 }
 
+void ListaArrastrable::dragEnterEvent(QDragEnterEvent* suceso) {
+  if (!suceso->mimeData()->hasFormat(kFormato)) return suceso->ignore();
+  setState(DraggingState);
+  suceso->accept();
+}
+
 // Told as nothing done, so that the toolkit takes no row away by itself.
 void ListaArrastrable::dropEvent(QDropEvent* suceso) {
   std::vector<int> ids;
