@@ -29,6 +29,7 @@
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/mdDibujoDatos.h"
 #include "shell/entornoPrueba.h"
+#include "shell/piezas/mdTema.h"
 #include "shell/principal/FormaPrincipal.h"
 #include "shell/principal/mdArranque.h"
 
@@ -387,8 +388,12 @@ TEST(Captura, LosTramosSeArrastranAOtroSitio) {
     for (const int i : {1, 2}) filas += lista->indexFromItem(lista->topLevelItem(i));
     const std::unique_ptr<QMimeData> datos(lista->model()->mimeData(filas));
     const QRect sitio = lista->visualItemRect(lista->topLevelItem(encima));
-    QDropEvent suceso(arriba ? sitio.topLeft() + QPoint(9, 2) : sitio.bottomLeft() - QPoint(-9, 2),
-                      Qt::MoveAction, datos.get(), Qt::LeftButton, {});
+    const QPoint donde =
+        arriba ? sitio.topLeft() + QPoint(9, 2) : sitio.bottomLeft() - QPoint(-9, 2);
+    QDragEnterEvent entra(donde, Qt::MoveAction, datos.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(lista->viewport(), &entra);
+    EXPECT_TRUE(entra.isAccepted());
+    QDropEvent suceso(donde, Qt::MoveAction, datos.get(), Qt::LeftButton, {});
     QApplication::sendEvent(lista->viewport(), &suceso);
     EXPECT_NE(suceso.dropAction(), Qt::MoveAction) << "the toolkit would take the rows away";
   };

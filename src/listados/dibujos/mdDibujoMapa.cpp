@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <optional>
 
 #include "base/mdTextos.h"
 #include "base/textos.h"
@@ -242,6 +243,10 @@ class DibujoMapa {
       const Xy p = ejes_->P(V(caso->DP), caso->Hr);
       ocupados.push_back({p.x - kMarca, p.y - kMarca, 2 * kMarca, 2 * kMarca});
     }
+    if (const auto r = MarcoDelRango()) {
+      for (const double x : {r->x, r->Derecha()}) ocupados.push_back({x, r->y, 0.0, r->alto});
+      for (const double y : {r->y, r->Abajo()}) ocupados.push_back({r->x, y, r->ancho, 0.0});
+    }
     return RotulosDeAreas(
         celdas,
         [this](int h) {
@@ -395,12 +400,19 @@ class DibujoMapa {
     }
   }
 
-  void Rango() {
+  // Of the heights and pressures that the Tramo goes through; none where it has none.
+  std::optional<Marco> MarcoDelRango() const {
     const auto propios = EjesDelTramo(datos_, 2);
-    if (propios.alturas.empty() || propios.presiones.empty()) return;
+    if (propios.alturas.empty() || propios.presiones.empty()) return std::nullopt;
     const Xy a = ejes_->P(V(propios.presiones.front()), propios.alturas.front());
     const Xy b = ejes_->P(V(propios.presiones.back()), propios.alturas.back());
-    const Puntos marco = Rectangulo({a.x, a.y, b.x - a.x, b.y - a.y});
+    return Marco{a.x, a.y, b.x - a.x, b.y - a.y};
+  }
+
+  void Rango() {
+    const auto rango = MarcoDelRango();
+    if (!rango) return;
+    const Puntos marco = Rectangulo(*rango);
     plano_.Area(marco, {}, {Tinta::Papel, 1.0});
     plano_.Area(marco, {}, {Tinta::Tinta, 0.4, Patron::Discontinuo});
   }

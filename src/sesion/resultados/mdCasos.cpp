@@ -44,16 +44,15 @@ class Buscado {
     for (const auto c : vista.columnas) {
       if (!De(c).numero || cifras) columnas_.push_back({c, {}});
     }
-    for (auto& columna : columnas_) columna.vistos.resize(2 * kVistos);
+    for (auto& columna : columnas_) columna.vistos.resize(kVistos);
   }
 
   bool Vacio() const { return texto_.empty(); }
 
   bool Esta(std::size_t caso, const ResultadoTramo& t, const FilaCaso& f) {
     return std::ranges::any_of(columnas_, [&](ColumnaBuscada& columna) {
-      const bool armado = t.datos.tramo.EsArmado;
       const Clave clave = ClaveDe(caso, columna.columna, t, f);
-      auto& visto = columna.vistos[Lugar(clave) + (armado ? kVistos : 0)];
+      auto& visto = columna.vistos[Lugar(clave)];
       if (!visto.puesto || visto.clave != clave) {
         const std::string texto = SinMayusculas(casos_.Texto(caso, columna.columna, w_));
         visto = {clave, true, texto.find(texto_) != std::string::npos};
@@ -63,11 +62,16 @@ class Buscado {
   }
 
  private:
-  static constexpr int kBits = 12;
+  static constexpr int kBits = 15;
   static constexpr std::size_t kVistos = std::size_t{1} << kBits;
 
   // The bits of what a text is made of, in a Tramo of a kind.
-  using Clave = std::pair<std::uint64_t, std::uint64_t>;
+  struct Clave {
+    std::uint64_t primero = 0, segundo = 0;
+    bool armado = false;
+
+    bool operator==(const Clave&) const = default;
+  };
   struct Visto {
     Clave clave;
     bool puesto = false;
@@ -84,8 +88,9 @@ class Buscado {
   std::vector<ColumnaBuscada> columnas_;
 
   Clave ClaveDe(std::size_t caso, Columna c, const ResultadoTramo& t, const FilaCaso& f) const {
-    const auto bits = [](double a, double b) {
-      return Clave{std::bit_cast<std::uint64_t>(a), std::bit_cast<std::uint64_t>(b)};
+    const auto bits = [&t](double a, double b) {
+      return Clave{std::bit_cast<std::uint64_t>(a), std::bit_cast<std::uint64_t>(b),
+                   t.datos.tramo.EsArmado};
     };
     if (c == Columna::Interior) return bits(f.NESPIN, f.FIIN);
     if (c == Columna::Exterior) return bits(f.NEXPEX, f.FIEX);
@@ -94,7 +99,7 @@ class Buscado {
 
   static std::size_t Lugar(const Clave& clave) {
     constexpr std::uint64_t kMezcla = 0x9E3779B97F4A7C15U;
-    return static_cast<std::size_t>(((clave.first ^ (clave.second * kMezcla)) * kMezcla) >>
+    return static_cast<std::size_t>(((clave.primero ^ (clave.segundo * kMezcla)) * kMezcla) >>
                                     (64 - kBits));
   }
 };

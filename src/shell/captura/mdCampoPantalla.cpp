@@ -231,6 +231,8 @@ void CampoPantalla::PonTexto(const Control& control) {
   if (linea_ != nullptr) {
     if (linea_->text() != texto) linea_->setText(texto);
     linea_->setReadOnly(control.bloqueado);
+    // Nobody goes on writing there: what is too long is read from its beginning.
+    if (control.bloqueado && !linea_->hasFocus()) linea_->setCursorPosition(0);
   } else if (parrafo_ != nullptr) {
     const QString corto = SinSaltosDeFichero(texto);
     if (parrafo_->toPlainText() != corto) parrafo_->setPlainText(corto);

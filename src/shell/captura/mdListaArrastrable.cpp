@@ -41,13 +41,19 @@ int ListaArrastrable::AntesDe(QPoint sitio) const {
   return siguiente == nullptr ? 0 : siguiente->data(0, kPapelId).toInt();
 }
 
-// Told as a copy, so that the toolkit takes no row away by itself.
+void ListaArrastrable::dragEnterEvent(QDragEnterEvent* suceso) {
+  if (!suceso->mimeData()->hasFormat(kFormato)) return suceso->ignore();
+  setState(DraggingState);
+  suceso->accept();
+}
+
+// Told as nothing done, so that the toolkit takes no row away by itself.
 void ListaArrastrable::dropEvent(QDropEvent* suceso) {
   std::vector<int> ids;
   for (const auto& id : suceso->mimeData()->data(kFormato).split(' ')) {
     if (!id.isEmpty()) ids.push_back(id.toInt());
   }
-  suceso->setDropAction(Qt::CopyAction);
+  suceso->setDropAction(Qt::IgnoreAction);
   suceso->accept();
   stopAutoScroll();
   setState(NoState);

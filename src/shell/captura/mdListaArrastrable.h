@@ -27,6 +27,7 @@ class ListaArrastrable : public QTreeWidget {
   QStringList mimeTypes() const override;
   QMimeData* mimeData(const QList<QTreeWidgetItem*>& filas) const override;
   Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+  void dragEnterEvent(QDragEnterEvent* suceso) override;
   void dropEvent(QDropEvent* suceso) override;
 
  private:

@@ -18,8 +18,9 @@ namespace zorbin {
 namespace {
 
 constexpr QSize kMenorDibujo{160, 160};
-constexpr int kAlPrincipio = 6;  // Tramos chosen
-constexpr int kRenglones = 6;    // of the list in sight
+constexpr int kAlPrincipio = 6;     // Tramos chosen
+constexpr int kRenglones = 6;       // of the list in sight
+constexpr int kEntreRenglones = 2;  // [px]
 
 }  // namespace
 
@@ -37,7 +38,8 @@ PanelVariosTramos::PanelVariosTramos(const Entorno& entorno, QWidget* padre)
   eje_->setObjectName(QStringLiteral("cbEjeCompara"));
   lista_->setObjectName(QStringLiteral("tramosComparados"));
   grafico_->PonNombre(QStringLiteral("tramos"));
-  lista_->setMaximumHeight((fontMetrics().height() + 6) * kRenglones);
+  lista_->setSpacing(kEntreRenglones);
+  lista_->setMaximumHeight((fontMetrics().height() + 2 * kEntreRenglones + 4) * kRenglones);
   for (auto* rotulo : {valores_, cuantos_}) rotulo->setTextFormat(Qt::PlainText);
   auto* arriba = new QHBoxLayout;
   for (auto* combo : {que_, eje_}) {

@@ -107,14 +107,14 @@ TEST(Campos, UnTextoQueNoSePuedeGuardarSeRehusa) {
     for (const auto& [texto, dice] : std::vector<std::pair<std::string, const char*>>{
              {std::string(127, 'x'), "126"}, {"acequia Ω", "Ω"}}) {
       ConTramo b;
-      b.Teclea({{campo, texto, Queda}});
+      EXPECT_EQ(b.Teclea(campo, texto), Queda);
       EXPECT_NE(b.c[campo].falta.find(dice), std::string::npos) << b.c[campo].falta;
       EXPECT_EQ(b.c[campo].texto, texto);
       EXPECT_FALSE(Graba(b.c));
       EXPECT_EQ(b.voz.ficherosPedidos, 0);
       ASSERT_FALSE(b.c.faltas.empty());
       EXPECT_EQ(b.c.faltas[0].campo, campo);
-      b.Teclea({{campo, std::string(126, 'x'), Pasa}});
+      EXPECT_EQ(b.Teclea(campo, std::string(126, 'x')), Pasa);
     }
   }
 }
