@@ -216,6 +216,9 @@ class Busqueda {
         Ae = asFlexExt_;
         break;
       }
+      if (rastro_ && topeActivo_ && Ae <= t_.Adato) {
+        rastro_->Anota(Formula::ExteriorCabe, {Ae, t_.Adato});
+      }
       if (!topeActivo_ || Ae <= t_.Adato) break;
       if (ronda == kMaxRondasTope) {
         Avisa(ClaseAviso::NoLlegaNegativos);
@@ -290,16 +293,20 @@ class Busqueda {
     AnotaMayor(Formula::InteriorTraccion, pos, asFlexInt_);
     double Ai = inicial;
     UltimaVuelta ultima(rastro_);
-    for (int ronda = 0; TraccionNeg(Ai) > t_.Adato; ++ronda) {
-      ultima.Empieza();
+    double neg = TraccionNeg(Ai);
+    for (int ronda = 0; neg > t_.Adato; ++ronda) {
       if (ronda == kMaxRondasTope) {
         Avisa(ClaseAviso::NoLlegaAmbos);
         break;
       }
       Ai = Ai + kPasoAcero;
+      ultima.Empieza();
+      neg = TraccionNeg(Ai);
     }
-    if (rastro_ && Ai != inicial)
+    if (rastro_ && Ai != inicial) {
       rastro_->Anota(Formula::InteriorCrece, {inicial, Ai - inicial}, Ai);
+    }
+    if (rastro_ && neg <= t_.Adato) rastro_->Anota(Formula::ExteriorCabe, {neg, t_.Adato});
     return Ai;
   }
 

@@ -95,7 +95,11 @@ EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos, Rastro* ra
   return x;
 }
 
-Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p) {
+Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p, Rastro* rastro) {
+  if (rastro) {
+    const EnLugar lugar(rastro, {Apartado::Hipotesis, 2});
+    rastro->Anota(Formula::PresionSobre, {p.MDP}, p.MDP + kSobrepresion);
+  }
   return {{p.DP, p.MDP + kSobrepresion, p.DP, p.MDP, p.STP, 0.0}};
 }
 

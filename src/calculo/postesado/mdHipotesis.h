@@ -23,7 +23,8 @@ struct EsfuerzosPostesado {
 EsfuerzosPostesado EsfuerzosHipotesis(const TerminosAnillo& terminos, Rastro* rastro = nullptr);
 
 /// Pressure of each hypothesis [at]. Reads DP, MDP, STP [at].
-Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p);
+Lista<double, kHipotesisPostesado> PresionesHipotesis(const PresionesCaso& p,
+                                                      Rastro* rastro = nullptr);
 
 /// Limit stress of the core in each hypothesis [kp/cm2]: 5 kp/cm2 of compression left, but its
 /// tensile strength Fctn [kp/cm2] under the overpressure of hypothesis 2, and 0 with moving loads

@@ -147,7 +147,7 @@ MaterialesPostesado Materiales(const Tramo& t, Rastro* rastro) {
     rastro->Anota(Formula::N, {t.Ep, m.Ecn}, m.n);
     rastro->Anota(Formula::N1, {t.Ep, m.Ecr}, m.n1);
     rastro->Anota(Formula::N2, {m.Ecr, m.Ecn}, m.n2);
-    rastro->Anota(Formula::Nc, {t.Es, m.Ecn}, m.RatioChapa);
+    if (t.PostFlag == kConCamisa) rastro->Anota(Formula::Nc, {t.Es, m.Ecn}, m.nc);
   }
   return m;
 }

@@ -34,7 +34,7 @@ class Analisis {
         r_(r),
         rastro_(rastro),
         esfuerzos_(EsfuerzosHipotesis(terminos, rastro)),
-        presiones_(PresionesHipotesis(presiones)) {
+        presiones_(PresionesHipotesis(presiones, rastro)) {
     r_.radios = zunchados.radios();
     r_.materiales = zunchados.materiales();
     if (rastro) AnotaTramo();
@@ -61,6 +61,7 @@ class Analisis {
   Marcha& marcha_;
   ResultadoPostesado& r_;
   Rastro* rastro_;
+  double partida_ = 0;          // spirals with which the search of the hypothesis starts [1/m]
   Rastro* enPasada_ = nullptr;  // of the pass in hand: those of the verification leave steps
   const EsfuerzosPostesado esfuerzos_;
   const Lista<double, kHipotesisPostesado> presiones_;
@@ -126,7 +127,12 @@ class Analisis {
     HipotesisPostesada p;
     for (int h = 1; h <= kHipotesisPostesado; ++h) {
       Carga(p, h);
+      partida_ = alambre_.NESP;
+      const EnLugar lugar(rastro_, {Apartado::AlambreInicial, static_cast<std::int8_t>(h)});
       Pasada(p);
+      if (rastro_ && p.error == 0) {
+        rastro_->Anota(Formula::BuscaEspiras, {partida_, alambre_.NESP - partida_}, alambre_.NESP);
+      }
     }
     r_.FIPRDEFI = alambre_.FIPR;
     r_.NESPDEFI = alambre_.NESP;
@@ -199,7 +205,9 @@ class Analisis {
     if (LuzEspiras(alambre_.FIPR, alambre_.NESP) * 10.0 >= EspMinimo(IdxAlambre_)) return true;
     if (IdxAlambre_ == kAlambres) return false;
     ++IdxAlambre_;
-    alambre_ = AlambreMasAbierto(IdxAlambre_, t_.Tipologia);
+    Rastro* busca = fase_ == FaseAviso::Busqueda ? rastro_ : nullptr;
+    alambre_ = AlambreMasAbierto(IdxAlambre_, t_.Tipologia, busca);
+    partida_ = alambre_.NESP;
     return true;
   }
 

@@ -10,7 +10,7 @@ namespace zorbin {
 
 namespace {
 
-constexpr double kEntera = 1e-13;  // what may be left of a figure that is printed whole [-]
+constexpr int kCifrasDeUnReal = 14;  // beyond them stands the rounding of the calculation
 constexpr int kCifrasConstante = 10;
 constexpr int kPrimeraPotencia = 7;  // numbers from 10^7 on, and below
 constexpr int kUltimaPotencia = -4;  // 10^-3, are printed by a power of ten
@@ -71,12 +71,16 @@ Cifra Escrita(double valor, const Partes& p, char separador) {
   return c;
 }
 
-int Exponente(double valor, int n) {
-  return valor == 0.0 ? 0 : Parte(valor, n).exponente;
+// No zero stands for a digit that was rounded off: an integer is printed to its units.
+int CifrasDe(double valor, int n) {
+  const int exponente = Parte(valor, n).exponente;
+  return exponente < kPrimeraPotencia ? std::max(n, exponente + 1) : n;
 }
 
-double Ultima(double valor, int n) {
-  return std::pow(10.0, Exponente(valor, n) - n + 1);
+double Ultima(double valor, int pedidas) {
+  if (valor == 0.0) return 0.0;
+  const int n = CifrasDe(valor, pedidas);
+  return std::pow(10.0, Parte(valor, n).exponente - n + 1);
 }
 
 std::vector<Cifra> Todas(std::span<const double> datos, int n, char separador) {
@@ -102,14 +106,12 @@ bool Muestra(const Expresion& e, const std::vector<Cifra>& datos, const Cifra& r
 
 }  // namespace
 
-Cifra EnCifras(double valor, int n, char separador) {
+Cifra EnCifras(double valor, int pedidas, char separador) {
   if (valor == 0.0) return {0.0, 0.0, "0", "0"};
-  for (int k = 1; k <= n; ++k) {
-    const Partes p = Parte(valor, k);
-    if (std::fabs(ValorDe(p) - std::fabs(valor)) <= kEntera * std::fabs(valor)) {
-      return Escrita(valor, p, separador);
-    }
-  }
+  const int n = CifrasDe(valor, pedidas);
+  Partes entera = Parte(valor, kCifrasDeUnReal);
+  entera.cifras.resize(entera.cifras.find_last_not_of('0') + 1);
+  if (static_cast<int>(entera.cifras.size()) <= n) return Escrita(valor, entera, separador);
   Cifra c = Escrita(valor, Parte(valor, n), separador);
   c.margen = Ultima(valor, n) / 2.0;
   return c;
@@ -124,7 +126,7 @@ CifrasPaso EligeCifras(const Expresion& e, std::span<const double> datos, double
   CifrasPaso x;
   for (const int delResultado : {kMenosCifras + 1, kMenosCifras}) {
     x.resultado = EnCifras(resultado, delResultado, separador);
-    const double ultima = resultado == 0.0 ? 0.0 : Ultima(resultado, delResultado);
+    const double ultima = Ultima(resultado, delResultado);
     for (int n = delResultado; n <= kMasCifras; ++n) {
       x.datos = Todas(datos, n, separador);
       if (Muestra(e, x.datos, x.resultado, ultima)) return x;

@@ -11,8 +11,8 @@ namespace zorbin {
 inline constexpr int kMenosCifras = 4;
 inline constexpr int kMasCifras = 7;
 
-/// `valor` with `n` significant digits, fewer where they say it whole.
-Cifra EnCifras(double valor, int n, char separador);
+/// `valor` with so many significant digits: fewer where they say it whole, more up to the units.
+Cifra EnCifras(double valor, int pedidas, char separador);
 
 /// A constant of a formula, as many digits as it has.
 Cifra Constante(double valor, char separador);

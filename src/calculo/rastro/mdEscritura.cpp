@@ -275,6 +275,16 @@ std::vector<double> Factores(const Expresion& e, bool si) {
   return v;
 }
 
+std::vector<Expresion> Todas(bool si) {
+  std::vector<Expresion> v;
+  for (int i = 0; i < kFormulas; ++i) {
+    const Expresion e = LeeExpresion(InfoDe(static_cast<Formula>(i)).expresion);
+    const double resultado = e.EsRelacion() ? 1.0 : FactorDe(SimboloDe(e.resultado).unidad, si);
+    v.push_back(CambiaUnidades(e, Factores(e, si), resultado));
+  }
+  return v;
+}
+
 SimboloPaso Simbolo(std::string_view nombre, bool si, const Cifra& cifra) {
   const auto& s = SimboloDe(nombre);
   return {std::string(s.signo), SinOrdenes(s.signo), UnidadDe(s.unidad, si), cifra};
@@ -282,15 +292,15 @@ SimboloPaso Simbolo(std::string_view nombre, bool si, const Cifra& cifra) {
 
 }  // namespace
 
-Expresion EnUnidades(Formula formula, bool si) {
-  const Expresion e = LeeExpresion(InfoDe(formula).expresion);
-  const double resultado = e.EsRelacion() ? 1.0 : FactorDe(SimboloDe(e.resultado).unidad, si);
-  return CambiaUnidades(e, Factores(e, si), resultado);
+const Expresion& EnUnidades(Formula formula, bool si) {
+  static const std::vector<Expresion> mks = Todas(false);
+  static const std::vector<Expresion> internacional = Todas(true);
+  return (si ? internacional : mks)[static_cast<std::size_t>(formula)];
 }
 
 PasoEscrito EscribePaso(const Paso& paso, bool si, char separador) {
   const auto& info = InfoDe(paso.formula);
-  const Expresion e = EnUnidades(paso.formula, si);
+  const Expresion& e = EnUnidades(paso.formula, si);
   const auto factores = Factores(e, si);
   std::vector<double> datos;
   for (std::size_t i = 0; i < factores.size(); ++i) datos.push_back(paso.valores[i] * factores[i]);

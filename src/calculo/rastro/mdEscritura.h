@@ -62,6 +62,6 @@ PasoEscrito EscribePaso(const Paso& paso, bool si, char separador);
 std::string TextoLlano(const PasoEscrito& paso);
 
 /// Expression of a formula whose figures are in the units printed.
-Expresion EnUnidades(Formula formula, bool si);
+const Expresion& EnUnidades(Formula formula, bool si);
 
 }  // namespace zorbin

@@ -339,6 +339,8 @@ constexpr std::array<InfoFormula, kFormulas> kInfo{{
     {"u = sini/(0.55*fcko)", txt::FormulaUsoZunchado, "ap-perdidas", "10.1"},
     {"u = DP*coep/PrimP", txt::FormulaUsoNucleo, "ap-pasada", "11.3"},
     {"u = sch/(0.8*fyc)", txt::FormulaUsoChapa, "ap-pasada", "11.3"},
+    {"Phip = MDP + 1", txt::FormulaPresionHip, "tab-hippost", "11.1"},
+    {"Ne = Nant + dN", txt::FormulaBuscaEspiras, "ap-busqueda", "11.4"},
 }};
 // clang-format on
 

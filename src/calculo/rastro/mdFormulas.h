@@ -311,8 +311,10 @@ enum class Formula : std::uint16_t {
   UsoZunchado,
   UsoNucleo,
   UsoChapa,
+  PresionSobre,
+  BuscaEspiras,
 };
-inline constexpr int kFormulas = static_cast<int>(Formula::UsoChapa) + 1;
+inline constexpr int kFormulas = static_cast<int>(Formula::BuscaEspiras) + 1;
 
 /// A unit in both systems.
 struct UnidadPaso {

@@ -45,7 +45,7 @@ enum class Apartado : std::uint8_t {
   Comprobaciones,  // of the verdict
   Radios,          // post-tensioned
   Materiales,
-  AlambreInicial,  // first wire, by the ring force
+  AlambreInicial,  // search of the wire: first one, spirals of each hypothesis
   Seccion,
   Lame,
   Perdidas,
