@@ -43,7 +43,7 @@ enum class SalidaCampo {
 };
 
 /// A step that can be undone: how the Obra stood before and after, and what was done.
-struct Paso {
+struct PasoHecho {
   Version antes;
   Version despues;
   int enManoAntes = 0;  // id of the Tramo in hand
@@ -74,8 +74,8 @@ struct Captura {
   std::optional<FicheroRegistros> fichero;
   std::uint64_t huella = 0;  // of what the file holds
   std::string sinAjustes;    // why its hand adjustments were refused; empty where they were not
-  std::function<void(Paso)> alDarPaso;  // of whoever undoes
-  int pasosAbiertos = 0;                // a step within another is a part of it
+  std::function<void(PasoHecho)> alDarPaso;  // of whoever undoes
+  int pasosAbiertos = 0;                     // a step within another is a part of it
   bool ObraCargada = false;
   std::vector<std::string> danos;  // what of the file could not be read: it is never written
   bool Tecleando = false;          // a field holds what its rule has not seen yet

@@ -38,10 +38,10 @@ void Descarta(Captura& c);
 /// Goes to a version of before or after: data and Tramo in hand, without any rule. What is unsaved
 /// follows.
 void VuelveA(Captura& c, const Version& v, int enMano);
-inline void Deshace(Captura& c, const Paso& paso) {
+inline void Deshace(Captura& c, const PasoHecho& paso) {
   VuelveA(c, paso.antes, paso.enManoAntes);
 }
-inline void Rehace(Captura& c, const Paso& paso) {
+inline void Rehace(Captura& c, const PasoHecho& paso) {
   VuelveA(c, paso.despues, paso.enManoDespues);
 }
 

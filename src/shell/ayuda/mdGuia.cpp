@@ -57,7 +57,7 @@ QListWidgetItem* PrimeroVisible(const QListWidget& lista) {
 std::size_t ApartadoDe(const Manual& manual, const QString& ancla) {
   const auto& todos = manual.apartados;
   const auto a = std::find_if(todos.begin(), todos.end(),
-                              [&](const Apartado& uno) { return uno.ancla == ancla; });
+                              [&](const ApartadoManual& uno) { return uno.ancla == ancla; });
   return static_cast<std::size_t>(a - todos.begin());
 }
 

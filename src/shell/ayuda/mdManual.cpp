@@ -55,7 +55,7 @@ class Lector {
   const QString& html_;
   qsizetype i_ = 0;
   Manual manual_;
-  Apartado titular_;  // the heading being read
+  ApartadoManual titular_;  // the heading being read
   bool enTitular_ = false;
   bool primerHijo_ = false;  // nothing of the heading has come yet
 

@@ -10,7 +10,7 @@
 
 namespace zorbin {
 
-struct Apartado {
+struct ApartadoManual {
   int nivel = 1;  // 1 to 3
   QString ancla;
   QString titulo;
@@ -24,7 +24,7 @@ struct EntradaIndice {
 struct Manual {
   QString html;
   QString idioma;  // attribute lang of the page; empty when it has none
-  std::vector<Apartado> apartados;
+  std::vector<ApartadoManual> apartados;
   std::vector<EntradaIndice> indice;  // as an index is read: by the alphabet of its language
 };
 

@@ -16,7 +16,7 @@ constexpr int kPasos = 500;  // kept; each shares with the others what it did no
 
 class Hecho : public QUndoCommand {
  public:
-  Hecho(Captura& c, Paso paso) : QUndoCommand(Q(paso.nombre)), c_(c), paso_(std::move(paso)) {}
+  Hecho(Captura& c, PasoHecho paso) : QUndoCommand(Q(paso.nombre)), c_(c), paso_(std::move(paso)) {}
 
   void undo() override { zorbin::Deshace(c_, paso_); }
   // A step comes here when it has been done.
@@ -27,7 +27,7 @@ class Hecho : public QUndoCommand {
 
  private:
   Captura& c_;
-  Paso paso_;
+  PasoHecho paso_;
   bool hecha_ = false;
 };
 
@@ -41,7 +41,7 @@ std::optional<std::string> Nombre(bool puede, const QString& texto) {
 Historia::Historia(Captura& c, std::function<void(const std::function<void()>&)> hace)
     : c_(c), hace_(std::move(hace)) {
   pila_.setUndoLimit(kPasos);
-  c_.alDarPaso = [this](Paso paso) { pila_.push(new Hecho(c_, std::move(paso))); };
+  c_.alDarPaso = [this](PasoHecho paso) { pila_.push(new Hecho(c_, std::move(paso))); };
 }
 
 Historia::~Historia() {

@@ -13,6 +13,7 @@
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 class QTableWidget;
 class QTreeWidget;
 
@@ -51,6 +52,7 @@ class PanelDetalle : public QTabWidget {
   VistaLamina* tensiones_;
   QTableWidget* matriz_;
   QLabel* comprobaciones_;
+  QPushButton* pasos_;
   QTreeWidget* todo_;
 
   UltimaFaena faena_;
@@ -68,6 +70,7 @@ class PanelDetalle : public QTabWidget {
   void MuestraEsfuerzos();
   void MuestraMatriz();
   void MuestraTodo();
+  void MuestraPasos();
 };
 
 }  // namespace zorbin

@@ -281,7 +281,7 @@ class Paseo {
   void Reabre() {
     b_.c.alDarPaso = nullptr;
     Descarta(b_.c);
-    b_.c.alDarPaso = [this](Paso paso) {
+    b_.c.alDarPaso = [this](PasoHecho paso) {
       b_.pasos.resize(b_.dados);
       b_.pasos.push_back(std::move(paso));
       ++b_.dados;

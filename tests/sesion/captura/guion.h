@@ -65,7 +65,7 @@ struct Banco {
       : textos(Catalogo::Lee(ZORBIN_FUENTES "recursos/textos")),
         tablas(LeeTablas(ZORBIN_FUENTES "recursos/tablas")),
         c(e, textos, tablas, voz, separador) {
-    c.alDarPaso = [this](Paso paso) {
+    c.alDarPaso = [this](PasoHecho paso) {
       pasos.resize(dados);
       pasos.push_back(std::move(paso));
       ++dados;
@@ -158,7 +158,7 @@ struct Banco {
   TablasCatalogo tablas;
   Guion voz;
   Captura c;
-  std::vector<Paso> pasos;
+  std::vector<PasoHecho> pasos;
   std::size_t dados = 0;  // of them, those that are not undone
 };
 
