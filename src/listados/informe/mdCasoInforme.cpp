@@ -63,32 +63,26 @@ class CasoInforme {
     p_.r.Tabla(c, p_.T(txt::InfPiePresiones));
   }
 
-  HojaDibujo Panel() const {
+  static HojaDibujo Panel(double ancho, double alto) {
     HojaDibujo hoja;
-    hoja.ancho = kMmColumna / 2.0 - 3.0;
-    hoja.alto = 78;
+    hoja.ancho = ancho;
+    hoja.alto = alto;
     hoja.cabecera = false;
     return hoja;
   }
 
   void Figuras() {
     const CasoDibujado caso{v_.tramo, v_.fila, v_.caso};
-    std::vector<std::pair<memoria::DibujoFigura, QString>> figuras;
-    Lamina seccion = DibujaTransversal(caso, p_.dibujo, Panel());
+    const HojaDibujo media = Panel(kMmColumna / 2.0 - 3.0, 66);
+    Lamina seccion = DibujaTransversal(caso, p_.dibujo, media);
     const QString escala = p_.Con(txt::InfEscala, {p_.dibujo.Corto(seccion.escala, 1)});
-    figuras.emplace_back(Plantilla::Figura(std::move(seccion)),
-                         p_.T(txt::InfPieArmaduras) + QStringLiteral(", ") + escala);
+    p_.r.Figuras(
+        {{Plantilla::Figura(std::move(seccion)),
+          p_.T(txt::InfPieArmaduras) + QStringLiteral(", ") + escala},
+         {Plantilla::Figura(DibujaPared(caso, p_.dibujo, media)), p_.T(txt::InfPiePared)}});
     const int h = std::max(1, HipotesisQueRige(v_.tramo.datos, v_.fila));
-    figuras.emplace_back(Plantilla::Figura(DibujaAnillo(caso, h, p_.dibujo, Panel())),
-                         p_.Con(txt::InfPieAnillo, {p_.Hipotesis(armado_, h).toStdString()}));
-    p_.r.Figuras(std::move(figuras));
-    Lamina pared = DibujaPared(caso, p_.dibujo, [&] {
-      HojaDibujo hoja = Panel();
-      hoja.ancho = kMmColumna * 0.8;
-      hoja.alto = 52;
-      return hoja;
-    }());
-    p_.r.Figuras({{Plantilla::Figura(std::move(pared)), p_.T(txt::InfPiePared)}});
+    p_.r.Figuras({{Plantilla::Figura(DibujaAnillo(caso, h, p_.dibujo, Panel(kMmColumna, 72))),
+                   p_.Con(txt::InfPieAnillo, {p_.Hipotesis(armado_, h).toStdString()})}});
   }
 
   double M(int h, int s) const {
@@ -191,7 +185,7 @@ void EscribeCaso(Plantilla& p, const TramoInforme& t, std::size_t i, std::size_t
         AnclaCaso(i, fila));
     CasoInforme(p, v, figuras).Escribe();
   });
-  EscribePasos(p, t, fila);
+  EscribePasos(p, t, t.resultado->filas[fila]);
 }
 
 }  // namespace zorbin

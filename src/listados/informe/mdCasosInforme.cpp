@@ -137,7 +137,8 @@ class TablaDeCasos {
     const auto& r = v.Postesado();
     pon(OfreceArmadura(v) ? Q(p_.caso.Barras(r.NESPDEFI, r.FIPRDEFI * 10.0, 1)) : kNada);
     pon(p_.Presion(v.fila.PP));
-    pon(Q(TextoPP(r, r.PP, p_.textos, p_.estilo)).trimmed());
+    const bool esPresion = r.PP < kPPAlambreCambia;
+    pon(esPresion ? p_.Presion(r.PP) : Q(TextoPP(r, r.PP, p_.textos, p_.estilo)).trimmed());
   }
 };
 

@@ -180,16 +180,16 @@ class Compositor {
 
   Franja Linea(const EntradaIndice& e, int primera) const {
     const bool capitulo = e.nivel == 1;
-    const Tipo tipo{capitulo ? Letra::Negrita : Letra::Recta, 10.0};
+    const Tipo tipo{capitulo ? Letra::Negrita : Letra::Recta, 9.2};
     const double xTitulo = capitulo ? (e.numero.isEmpty() ? 0 : 24) : 58;
     const Caja numero = letras_->DeTexto(QString::number(e.lugar.pagina + primera), tipo);
     const QString titulo =
         memoria::Acortado(*letras_, e.titulo, tipo, kColumnaInforme - xTitulo - numero.ancho - 24);
     Franja f;
-    f.antes = capitulo ? 5.0 : 0.0;
+    f.antes = capitulo ? 4.0 : 0.0;
     f.caja.ancho = kColumnaInforme;
-    f.caja.alto = 9.6;
-    f.caja.hondo = 3.6;
+    f.caja.alto = 8.7;
+    f.caja.hondo = 2.7;
     f.caja.Pon(letras_->DeTexto(e.numero, tipo), {capitulo ? 0.0 : 24.0, 0});
     Caja t = letras_->DeTexto(titulo, tipo);
     double x = xTitulo + t.ancho + 6;
@@ -214,6 +214,24 @@ class Compositor {
 Informe ComponeInforme(const DatosInforme& datos, const Catalogo& textos,
                        const EstiloNumeros& estilo, const SigueInforme& sigue) try {
   return Compositor(datos, textos, estilo, sigue).Compone();
+} catch (const memoria::ErrorFuente& error) {
+  throw ErrorFuente(error.what());
+}
+
+Informe ComponePasos(const ResultadoTramo& resultado, const FilaCaso& fila, const Catalogo& textos,
+                     const EstiloNumeros& estilo) try {
+  DatosInforme datos;
+  datos.tramos.push_back({&resultado, {}, resultado.datos.tramo, resultado.datos.tramo});
+  Informe informe;
+  auto letras = std::make_shared<memoria::Tipografia>(memoria::Familia::Palo);
+  memoria::Redactor redactor(*letras, kColumnaInforme, {}, {});
+  Plantilla p(datos, textos, estilo, redactor);
+  EscribePasos(p, datos.tramos.front(), fila);
+  Paginador paginas({kMargenInforme, 40.0, 810.0, 0, 0}, true);
+  paginas.Anade(redactor.Toma());
+  for (auto& pagina : paginas.paginas) informe.paginas.push_back(std::move(pagina.caja));
+  informe.letras = std::move(letras);
+  return informe;
 } catch (const memoria::ErrorFuente& error) {
   throw ErrorFuente(error.what());
 }

@@ -67,6 +67,13 @@ struct Informe {
 Informe ComponeInforme(const DatosInforme& datos, const Catalogo& textos,
                        const EstiloNumeros& estilo, const SigueInforme& sigue = {});
 
+/// The steps of a Caso alone, on pages without cover.
+Informe ComponePasos(const ResultadoTramo& resultado, const FilaCaso& fila, const Catalogo& textos,
+                     const EstiloNumeros& estilo);
+/// The same as plain text, a line for each step.
+std::string TextoDePasos(const ResultadoTramo& resultado, const FilaCaso& fila,
+                         const Catalogo& textos, const EstiloNumeros& estilo);
+
 /// Pages of the report to expect; it lays out a sample, and no more.
 int PaginasPrevistas(const DatosInforme& datos, const Catalogo& textos,
                      const EstiloNumeros& estilo);

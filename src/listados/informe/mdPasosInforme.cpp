@@ -105,9 +105,9 @@ class Pasos {
         }
         QString unidad = Q(std::string(x.unidad));
         if (!unidad.isEmpty()) unidad.prepend(QChar(u' '));
-        c.filas.push_back({{Plantilla::Celda(Sitio(paso.lugar)),
-                            Plantilla::Simbolo(Q(x.cifras.formula)),
-                            Plantilla::Celda(Q(x.resultado.llano) + unidad)}});
+        c.filas.push_back(
+            {{Plantilla::Celda(Sitio(paso.lugar)), Plantilla::Simbolo(Q(x.cifras.formula)),
+              Plantilla::Celda(Q(x.resultado.llano) + unidad)}});
       }
       p_.r.Tabla(c);
     }
@@ -116,9 +116,21 @@ class Pasos {
 
 }  // namespace
 
-void EscribePasos(Plantilla& p, const TramoInforme& t, std::size_t fila) {
-  const auto& r = *t.resultado;
-  Pasos(p, t.completo.EsArmado).Escribe(PasosDelCaso(r, r.filas[fila]));
+std::string TextoDePasos(const ResultadoTramo& resultado, const FilaCaso& fila,
+                         const Catalogo& textos, const EstiloNumeros& estilo) {
+  std::string texto;
+  for (const auto& grupo : PasosDelCaso(resultado, fila).grupos) {
+    texto += (texto.empty() ? "" : "\n") + textos.Texto(TituloDe(grupo.lugar.apartado)) + "\n";
+    for (const auto& paso : grupo.pasos) {
+      const auto x = EscribePaso(paso, estilo.si, estilo.separador);
+      texto += textos.Texto(x.etiqueta) + ": " + TextoLlano(x) + "\n";
+    }
+  }
+  return texto;
+}
+
+void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila) {
+  Pasos(p, t.completo.EsArmado).Escribe(PasosDelCaso(*t.resultado, fila));
 }
 
 }  // namespace zorbin

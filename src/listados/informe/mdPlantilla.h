@@ -82,7 +82,7 @@ void EscribeAvisos(Plantilla& p, const TramoInforme& t);
 void EscribeCaso(Plantilla& p, const TramoInforme& t, std::size_t i, std::size_t fila,
                  bool figuras);
 /// Its formulas with their figures.
-void EscribePasos(Plantilla& p, const TramoInforme& t, std::size_t fila);
+void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila);
 /// What comes before the Casos told one by one.
 void EscribeTramo(Plantilla& p, const TramoInforme& t, std::size_t i);
 

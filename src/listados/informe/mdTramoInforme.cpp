@@ -40,11 +40,11 @@ void EscribeDibujos(Plantilla& p, const TramoInforme& t) {
     p.r.Nota(p.T(txt::InfSinDibujo));
     return;
   }
-  Lamina seccion = DibujaTubo(datos, p.dibujo, Panel(kMmColumna, 92));
+  Lamina seccion = DibujaTubo(datos, p.dibujo, Panel(kMmColumna, 70));
   const QString pieSeccion = p.T(txt::InfPieSeccion) + Escala(p, seccion);
   p.r.Figuras({{Plantilla::Figura(std::move(seccion)), pieSeccion}});
   const double Hr = r.rango.Hr0Final;
-  Lamina zanja = DibujaColocacion(datos, Hr, p.dibujo, Panel(kMmColumna, 100));
+  Lamina zanja = DibujaColocacion(datos, Hr, p.dibujo, Panel(kMmColumna, 80));
   const QString pieZanja = p.Con(txt::InfPieZanja, {p.Num(Hr, 2).toStdString()}) + Escala(p, zanja);
   p.r.Figuras({{Plantilla::Figura(std::move(zanja)), pieZanja}});
 }
@@ -101,7 +101,7 @@ void EscribeCargas(Plantilla& p, const TramoInforme& t) {
     EjesMalla una{ejes.alturas, {ejes.presiones.front()}};
     const auto malla = CalculaMalla(r.datos, una);
     auto grafico = DibujaGraficoTramo(QueGrafico::Cargas, EjeDeGrafico::Altura, r.datos, malla,
-                                      p.dibujo, Panel(kMmColumna * 0.86, 78));
+                                      p.dibujo, Panel(kMmColumna * 0.86, 66));
     p.r.Figuras({{Plantilla::Figura(std::move(grafico.lamina)), p.T(txt::InfPieGrafico)}});
   } catch (const ErrorEjecucion&) {
     // A height beyond those of the Tramo cannot be calculated: its table stands without the chart.
@@ -116,7 +116,7 @@ void EscribeMapa(Plantilla& p, const TramoInforme& t) {
   const auto malla =
       CalculaMalla(r.datos, EjesAlrededor(r.datos, kColumnasMapa / 2, kFilasMapa / 2));
   const auto* peor = CuentaDeVeredictos(r).peor;
-  auto mapa = DibujaMapa(malla, r.datos, peor, p.dibujo, Panel(kMmColumna, 112));
+  auto mapa = DibujaMapa(malla, r.datos, peor, p.dibujo, Panel(kMmColumna, 100));
   p.r.Figuras({{Plantilla::Figura(std::move(mapa.lamina)), p.T(txt::InfPieMapa)}});
 }
 

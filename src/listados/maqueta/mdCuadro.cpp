@@ -16,7 +16,7 @@ constexpr double kMargen = 4.0;        // of the first and last column [pt]
 constexpr double kAire = 3.1;          // above and below a row [pt]
 constexpr double kInterlinea = 1.22;   // of the size
 constexpr double kCuerpoMinimo = 6.2;  // letters are not made smaller [pt]
-constexpr double kMaximoEntera = 240;  // a table up to this height is not cut [pt]
+constexpr double kMaximoEntera = 150;  // a table up to this height is not cut [pt]
 constexpr int kGrisCabeza = 90, kFondoCabeza = 243, kRaya = 215;
 
 double Suma(const std::vector<double>& v) {
@@ -74,7 +74,8 @@ class Tablero {
     }
   }
 
-  void Mide(std::vector<double>& natural, std::vector<double>& minimo) const {
+  // @param cabezas  the heads ask for their whole width; otherwise they are broken into lines
+  void Mide(std::vector<double>& natural, std::vector<double>& minimo, bool cabezas) const {
     natural.assign(Columnas(), 0.0);
     minimo.assign(Columnas(), 0.0);
     for (const auto& fila : c_.filas) {
@@ -92,7 +93,9 @@ class Tablero {
     for (const auto& fila : c_.cabezas) {
       std::size_t i = 0;
       for (const auto& cabeza : fila) {
-        if (cabeza.abarca == 1) MideTexto(cabeza.texto, TipoCabeza(), natural[i], minimo[i]);
+        double suyo = 0;
+        if (cabeza.abarca == 1) MideTexto(cabeza.texto, TipoCabeza(), suyo, minimo[i]);
+        natural[i] = std::max(natural[i], cabezas ? suyo : minimo[i]);
         i += static_cast<std::size_t>(cabeza.abarca);
       }
     }
@@ -105,7 +108,8 @@ class Tablero {
     const double libre = texto_ - 2 * kMargen - kHueco * huecos;
     std::vector<double> minimo;
     for (;; cuerpo_ -= 0.4) {
-      Mide(anchos_, minimo);
+      Mide(anchos_, minimo, true);
+      if (Suma(anchos_) > libre) Mide(anchos_, minimo, false);
       if (Suma(minimo) <= libre || cuerpo_ - 0.4 < kCuerpoMinimo) break;
     }
     if (Suma(anchos_) > libre) Estrecha(minimo, libre);
@@ -113,12 +117,22 @@ class Tablero {
     if (c_.ancho && sobra > 0) {
       if (huecos > 0) hueco_ = std::min(kHuecoMayor, kHueco + sobra / huecos);
       const double queda = sobra - (hueco_ - kHueco) * huecos;
-      // What is left goes to the first column of words.
-      const auto primera = std::max<qsizetype>(0, c_.columnas.indexOf(QLatin1Char('l')));
-      anchos_[static_cast<std::size_t>(primera)] += std::max(0.0, queda);
+      anchos_[ColumnaElastica()] += std::max(0.0, queda);
     }
     ancho_ = Suma(anchos_) + hueco_ * huecos + 2 * kMargen;
     x0_ = (texto_ - ancho_) / 2.0;
+  }
+
+  // What is left of the width goes to the widest column of words.
+  std::size_t ColumnaElastica() const {
+    std::size_t mayor = 0;
+    bool hay = false;
+    for (std::size_t i = 0; i < Columnas(); ++i) {
+      if (c_.columnas[static_cast<qsizetype>(i)] != QLatin1Char('l')) continue;
+      if (!hay || anchos_[i] > anchos_[mayor]) mayor = i;
+      hay = true;
+    }
+    return mayor;
   }
 
   void Estrecha(const std::vector<double>& minimo, double libre) {

@@ -66,7 +66,8 @@ void Paginador::Apunta(const Franja& f) {
     pagina.apartado = {};
   } else if (f.nivel == 2) {
     apartado_ = rotulo;
-    if (pagina.apartado.isEmpty()) pagina.apartado = rotulo;
+    // A section that opens the page names it; otherwise the one that goes on from before.
+    if (pagina.apartado.isEmpty() || y_ <= marcos_.arriba) pagina.apartado = rotulo;
   }
   if (f.nivel <= 2) indice.push_back({f.nivel, f.numero, f.titulo, lugar, f.ancla});
 }

@@ -155,9 +155,8 @@ void Redactor::Paso(const QString& rotulo, const std::vector<QString>& partes,
                     const QString& numero) {
   constexpr double kRotulo = 128.0, kHueco = 10.0, kEntreLineas = 3.5;
   const Tipo menor{Letra::Recta, 8.2, 70};
-  const Caja cifra = numero.isEmpty()
-                         ? Caja()
-                         : tipos_.DeTexto(QStringLiteral("(%1)").arg(numero), menor);
+  const Caja cifra =
+      numero.isEmpty() ? Caja() : tipos_.DeTexto(QStringLiteral("(%1)").arg(numero), menor);
   const double x = kRotulo + kHueco;
   const double libre = ancho_ - x - 34.0;
   std::vector<Caja> lineas;

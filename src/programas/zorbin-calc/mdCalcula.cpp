@@ -285,7 +285,12 @@ class Calculador {
                               tecleado == encargo_.tecleados.end() ? p.tramo : tecleado->second,
                               p.tramo});
     }
-    const int hecho = EscribeInformePdf(opciones_.pdf, datos, textos_, estilo_, opciones_.si);
+    // The report goes to others: its decimal sign is that of its language.
+    EstiloNumeros estilo = estilo_;
+    if (opciones_.separador.empty()) {
+      estilo.separador = SeparadorDeIdioma(textos_.IdiomaOffset() / kPasoIdioma + 1);
+    }
+    const int hecho = EscribeInformePdf(opciones_.pdf, datos, textos_, estilo, opciones_.si);
     return hecho == kHecho ? Codigo() : hecho;
   }
 

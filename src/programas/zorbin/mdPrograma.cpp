@@ -24,6 +24,7 @@
 #include "shell/calculadoras/Protecciones.h"
 #include "shell/captura/mdPanelTramos.h"
 #include "shell/impresion/frImpresoras.h"
+#include "shell/informe/frInforme.h"
 #include "shell/piezas/mdDialogos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/piezas/mdTema.h"
@@ -174,6 +175,7 @@ void Programa::Enlaza() {
   };
   p.ajusta = [this, padre] { AbreAjustes(*captura_, entorno_, documentos_, padre); };
   p.resultados = [this] { MuestraResultados(); };
+  p.informe = [this, padre] { frInforme(*captura_, entorno_, padre).exec(); };
   p.diseno = [this] { marcoDiseno_->Alterna(); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();

@@ -38,6 +38,7 @@ struct Pantallas {
   std::function<void()> imprimeObra;
   std::function<void()> ajusta;
   std::function<void()> resultados;
+  std::function<void()> informe;
   std::function<void()> diseno;
   std::function<void()> seleccionaImpresora;
   std::function<void()> hidraulico;

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -17,6 +18,7 @@
 #include "listados/dibujos/mdDibujoZanja.h"
 #include "listados/dibujos/mdGraficosTramo.h"
 #include "shell/dibujos/mdVistaLamina.h"
+#include "shell/informe/frPasos.h"
 #include "shell/piezas/mdQt.h"
 #include "shell/resultados/mdPiezasDiseno.h"
 #include "shell/resultados/mdVariosTramos.h"
@@ -118,9 +120,13 @@ QWidget* PanelDetalle::CreaComprobaciones() {
   comprobaciones_ = new QLabel(pagina);
   comprobaciones_->setTextFormat(Qt::PlainText);
   comprobaciones_->setWordWrap(true);
+  pasos_ = new QPushButton(pagina);
+  pasos_->setObjectName(QStringLiteral("btPasos"));
+  connect(pasos_, &QPushButton::clicked, this, [this] { MuestraPasos(); });
   auto* filas = new QVBoxLayout(pagina);
   filas->addWidget(matriz_, 1);
   filas->addWidget(comprobaciones_);
+  filas->addWidget(pasos_);
   connect(matriz_, &QTableWidget::currentCellChanged, this, [this](int fila, int columna) {
     const auto* celda = matriz_->item(fila, columna);
     comprobaciones_->setText(celda == nullptr ? QString{} : celda->data(Qt::UserRole).toString());
@@ -134,8 +140,15 @@ void PanelDetalle::RenuevaTextos() {
   }
   setTabText(indexOf(varios_), Q(entorno_.textos.Texto(txt::ResVariosTramos)));
   varios_->RenuevaTextos();
+  pasos_->setText(Rotulo(entorno_.textos.Texto(txt::InfPasoAPaso)));
   LlenaListas();
   Muestra();
+}
+
+void PanelDetalle::MuestraPasos() {
+  if (!caso_) return;
+  const auto caso = caso_;
+  frPasos(entorno_, caso->tramo, caso->fila, estilo_, this).exec();
 }
 
 // The stresses through the wall are of a Caso, and stand with its forces.

@@ -13,6 +13,7 @@
 
 class QComboBox;
 class QLabel;
+class QPushButton;
 class QTableWidget;
 class QTreeWidget;
 
@@ -53,6 +54,7 @@ class PanelDetalle : public QTabWidget {
   VistaLamina* tensiones_;
   QTableWidget* matriz_;
   QLabel* comprobaciones_;
+  QPushButton* pasos_;
   QTreeWidget* todo_;
   PanelVariosTramos* varios_;
 
@@ -71,6 +73,7 @@ class PanelDetalle : public QTabWidget {
   void MuestraEsfuerzos();
   void MuestraMatriz();
   void MuestraTodo();
+  void MuestraPasos();
 };
 
 }  // namespace zorbin
