@@ -45,12 +45,9 @@ class Partidas {
   Partidas(const Precios& precios, QueCasos que, const PalabrasDibujo& w)
       : precios_(precios), que_(que), w_(w), conPrecios_(HayPrecios(precios)) {
     p_.titulo = w.T(txt::MedicionesTitulo);
-    p_.columnas = {{w.T(txt::MedicionTramo), {}, false},
-                   {w.T(txt::MedicionCaso), {}, false},
-                   {w.T(txt::MedicionPartida), {}, false},
-                   {w.T(txt::MedicionUnidad), {}, false},
-                   {w.T(txt::MedicionPorMetro), {}, true},
-                   {w.T(txt::MedicionTotal), {}, true}};
+    p_.columnas = {{w.T(txt::MedicionTramo), {}, false},   {w.T(txt::MedicionCaso), {}, false},
+                   {w.T(txt::MedicionPartida), {}, false}, {w.T(txt::MedicionUnidad), {}, false},
+                   {w.T(txt::MedicionPorMetro), {}, true}, {w.T(txt::MedicionTotal), {}, true}};
     if (!conPrecios_) return;
     p_.columnas.push_back({w.T(txt::MedicionPrecio), precios.moneda, true});
     p_.columnas.push_back({w.T(txt::MedicionCosteMetro), precios.moneda + "/m", true});
@@ -136,9 +133,10 @@ Json JsonDeCaso(const CasoMedido& c, const Precios& precios) {
     porMetro[ClaveDe(p)] = c.medicion.porMetro[p];
     if (c.fabricacion.Longitud > 0) total[ClaveDe(p)] = c.Total(p);
   });
-  Json j{{"tramo", c.numero},       {"Hr", c.fila.Hr},         {"DP", c.fila.DP},
-         {"MDP", c.fila.MDP},       {"capas", std::move(capas)}, {"porMetro", std::move(porMetro)},
-         {"peso", c.medicion.peso}, {"longitud", c.fabricacion.Longitud}};
+  Json j{{"tramo", c.numero},         {"Hr", c.fila.Hr},
+         {"DP", c.fila.DP},           {"MDP", c.fila.MDP},
+         {"capas", std::move(capas)}, {"porMetro", std::move(porMetro)},
+         {"peso", c.medicion.peso},   {"longitud", c.fabricacion.Longitud}};
   if (!total.empty()) j["total"] = std::move(total);
   if (HayPrecios(precios)) {
     j["costePorMetro"] = Suma(c.coste);
@@ -190,24 +188,20 @@ Planilla PlanillaDePartidas(const std::vector<CasoMedido>& casos, const Precios&
 Planilla PlanillaDeCapas(const std::vector<CasoMedido>& casos, const PalabrasDibujo& w) {
   Planilla p;
   p.titulo = w.T(txt::MedicionCapas);
-  p.columnas = {{w.T(txt::MedicionTramo), {}, false},
-                {w.T(txt::MedicionCaso), {}, false},
-                {w.T(txt::MedicionCapa), {}, false},
-                {w.T(txt::MedicionGrueso), "mm", true},
-                {w.T(txt::MedicionDiametro), "mm", true},
-                {w.T(txt::MedicionNumero), {}, true},
-                {w.T(txt::MedicionPaso), "mm", true},
-                {w.T(txt::MedicionDesarrollo), "m/m", true},
-                {w.T(txt::MedicionKg), "kg/m", true}};
+  p.columnas = {
+      {w.T(txt::MedicionTramo), {}, false},     {w.T(txt::MedicionCaso), {}, false},
+      {w.T(txt::MedicionCapa), {}, false},      {w.T(txt::MedicionGrueso), "mm", true},
+      {w.T(txt::MedicionDiametro), "mm", true}, {w.T(txt::MedicionNumero), {}, true},
+      {w.T(txt::MedicionPaso), "mm", true},     {w.T(txt::MedicionDesarrollo), "m/m", true},
+      {w.T(txt::MedicionKg), "kg/m", true}};
   for (const auto& c : casos) {
     for (const auto& capa : c.medicion.capas) {
-      p.filas.push_back(
-          {{Celda::Palabra(c.numero), Celda::Palabra(CasoDe(c, w)),
-            Celda::Palabra(NombreDe(capa.partida, w.Textos())), NumeroSiHay(capa.grueso, 1),
-            Celda::Numero(capa.diametro * kMm, 1), NumeroSiHay(capa.numero, 1),
-            NumeroSiHay(capa.Paso(), 1), NumeroSiHay(capa.desarrollo, 3),
-            Celda::Numero(capa.kg, kDecimalesKg)},
-           false});
+      p.filas.push_back({{Celda::Palabra(c.numero), Celda::Palabra(CasoDe(c, w)),
+                          Celda::Palabra(NombreDe(capa.partida, w.Textos())),
+                          NumeroSiHay(capa.grueso, 1), Celda::Numero(capa.diametro * kMm, 1),
+                          NumeroSiHay(capa.numero, 1), NumeroSiHay(capa.Paso(), 1),
+                          NumeroSiHay(capa.desarrollo, 3), Celda::Numero(capa.kg, kDecimalesKg)},
+                         false});
     }
   }
   p.notas.push_back(w.T(txt::MedicionNotaCapas));

@@ -14,6 +14,7 @@
 #include "programas/zorbin-calc/mdDibuja.h"
 #include "programas/zorbin-calc/mdImportaDatos.h"
 #include "programas/zorbin-calc/mdListaAjustes.h"
+#include "programas/zorbin-calc/mdMediciones.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdRescata.h"
 #include "programas/zorbin-calc/mdValida.h"
@@ -22,6 +23,8 @@
 namespace {
 
 using namespace zorbin;
+
+constexpr int kMaxHilos = 1024;
 
 // Declares the words of the command line; each order fills its options.
 class Ordenes {
@@ -40,6 +43,7 @@ class Ordenes {
     DeclaraAjustes();
     DeclaraRescata();
     DeclaraDibuja();
+    DeclaraMediciones();
     DeclaraImporta();
     DeclaraHidraulica();
     DeclaraMedios();
@@ -75,6 +79,7 @@ class Ordenes {
   CLI::App* rescata_ = nullptr;
   CLI::App* dibuja_ = nullptr;
   CLI::App* importa_ = nullptr;
+  CLI::App* mediciones_ = nullptr;
   CLI::App* hidraulica_ = nullptr;
   CLI::App* medios_ = nullptr;
   OpcionesCalcula deCalcula_;
@@ -83,6 +88,7 @@ class Ordenes {
   OpcionesRescata deRescata_;
   OpcionesDibuja deDibuja_;
   OpcionesImporta deImporta_;
+  OpcionesMediciones deMediciones_;
   OpcionesHidraulica deHidraulica_;
   OpcionesMedios deMedios_;
 
@@ -91,6 +97,7 @@ class Ordenes {
     if (valida_->parsed()) return Valida(deValida_, textos_);
     if (ajustes_->parsed()) return Ajustados(deAjustes_, textos_);
     if (rescata_->parsed()) return Rescata(deRescata_, textos_);
+    if (mediciones_->parsed()) return Mediciones(deMediciones_, textos_);
     if (dibuja_->parsed()) return Dibuja(deDibuja_, textos_);
     if (importa_->parsed()) return ImportaDatos(deImporta_, textos_);
     if (medios_->parsed()) return Medios(deMedios_, textos_);
@@ -181,6 +188,22 @@ class Ordenes {
     Opcion(dibuja_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
   }
 
+  void DeclaraMediciones() {
+    mediciones_ = Orden("mediciones", txt::AyudaMediciones);
+    auto& o = deMediciones_;
+    DeclaraObra(mediciones_, o.obra, o.tramos);
+    Opcion(mediciones_, "--precios", o.precios, txt::AyudaPrecios, T(txt::PalabraFichero));
+    Eleccion(mediciones_, "--formato", o.formato, txt::AyudaFormatoCalculadora, {"texto", "json"});
+    Eleccion(mediciones_, "--casos", o.casos, txt::AyudaCasosMediciones, {"peor", "todos"});
+    Opcion(mediciones_, "--csv", o.csv, txt::AyudaCsvMediciones, T(txt::PalabraFichero));
+    Opcion(mediciones_, "--xlsx", o.xlsx, txt::AyudaXlsxMediciones, T(txt::PalabraFichero));
+    Opcion(mediciones_, "--salida", o.salida, txt::AyudaSalida, T(txt::PalabraFichero));
+    Eleccion(mediciones_, "--idioma", o.idioma, txt::AyudaIdioma, {"es", "en", "ca", "pt", "fr"});
+    Eleccion(mediciones_, "--separador", o.separador, txt::AyudaSeparador, {"coma", "punto"});
+    mediciones_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
+    Opcion(mediciones_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
+  }
+
   void DeclaraImporta() {
     importa_ = Orden("importa", txt::AyudaImporta);
     auto& o = deImporta_;
@@ -216,6 +239,8 @@ class Ordenes {
     calcula_->add_flag("--sin-validar", o.sinValidar, T(txt::AyudaSinValidar));
     calcula_->add_flag("--estricto", o.estricto, T(txt::AyudaEstricto));
     calcula_->add_flag("--envolvente", o.envolvente, T(txt::AyudaEnvolvente));
+    Opcion(calcula_, "--hilos", o.hilos, txt::AyudaHilos, "N")
+        ->check(EnteroEntre(1, kMaxHilos, textos_, "--hilos"));
     calcula_->add_flag("--si", o.si, T(txt::AyudaSi));
     Opcion(calcula_, "--tablas", o.tablas, txt::AyudaTablas, T(txt::PalabraCarpeta));
     Opcion(calcula_, "--registros", o.registros, txt::AyudaRegistros, T(txt::PalabraCarpeta));

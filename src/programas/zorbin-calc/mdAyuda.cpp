@@ -1,6 +1,7 @@
 #include "programas/zorbin-calc/mdAyuda.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "base/textos.h"
 
@@ -68,6 +69,20 @@ CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos, s
               return std::string{};
             }
             return textos.Compone(txt::ValorNoSirve, {opcion, dado});
+          },
+          ""};
+}
+
+CLI::Validator EnteroEntre(int minimo, int maximo, const Catalogo& textos, std::string opcion) {
+  return {[=, &textos, opcion = std::move(opcion)](std::string& dado) {
+            int n = 0;
+            const auto* fin = dado.data() + dado.size();
+            const auto leido = std::from_chars(dado.data(), fin, n);
+            if (leido.ec == std::errc{} && leido.ptr == fin && n >= minimo && n <= maximo) {
+              return std::string{};
+            }
+            return textos.Compone(txt::EnteroNoSirve,
+                                  {opcion, dado, std::to_string(minimo), std::to_string(maximo)});
           },
           ""};
 }

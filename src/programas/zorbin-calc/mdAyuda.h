@@ -18,4 +18,7 @@ std::string TextoPalabrasMalas(const CLI::ParseError& error, const Catalogo& tex
 /// A validator that takes one of the values and tells the refused one as the catalogue says it.
 CLI::Validator UnoDe(std::vector<std::string> valores, const Catalogo& textos, std::string opcion);
 
+/// A validator of a whole number, with its limits in the refusal.
+CLI::Validator EnteroEntre(int minimo, int maximo, const Catalogo& textos, std::string opcion);
+
 }  // namespace zorbin

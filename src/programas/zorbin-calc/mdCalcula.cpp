@@ -191,14 +191,21 @@ class Calculador {
   void Corre(const Toma& toma) {
     FicheroLog log(opciones_.registros.empty() ? CarpetaPropia() : opciones_.registros);
     Vigia vigia(opciones_.obra.string(), textos_, estilo_);
-    for (const auto& p : encargo_.tramos) {
-      const auto datos = Datos(p);
-      auto resultado =
-          CalculaTramo(datos, RangoDe(datos), vigia.Progreso(p.tramo.NumeroTramo), &log.registro());
+    TareaObra tarea;
+    tarea.cuantos = encargo_.tramos.size();
+    tarea.registro = &log.registro();
+    tarea.datos = [this](std::size_t i) { return Datos(encargo_.tramos[i]); };
+    tarea.sigue = [&, progreso = vigia.Progreso()](std::size_t i, const AvanceCorrida& avance) {
+      return !progreso || progreso(encargo_.tramos[i].tramo.NumeroTramo, avance);
+    };
+    tarea.toma = [&](std::size_t i, ResultadoTramo&& resultado) {
+      const auto& p = encargo_.tramos[i];
       vigia.Acaba(resultado, p.numero);
       cuenta_ += CuentaDeVeredictos(resultado);
       toma(std::move(resultado), p);
-    }
+      return true;
+    };
+    CalculaObra(tarea, opciones_.hilos.value_or(HilosDeLaMaquina()));
     log.registro().Vuelca();
     if (const auto fichero = log.SinEscribir(); !fichero.empty()) {
       Queja(textos_.Compone(txt::SinRegistro, {fichero}));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ struct OpcionesCalcula {
   std::string fecha;                // of the page heads, or empty for the machine's
   std::filesystem::path salida;     // empty for standard output
   std::string separador;            // "coma", "punto" or empty for the machine's
+  std::optional<int> hilos;         // none: all of the machine
   bool sinValidar = false;          // the stored numbers as they are
   bool estricto = false;            // a Caso that does not comply gives an exit code
   bool envolvente = false;          // the enveloping design

@@ -65,9 +65,9 @@ void Vigia::MuestraProgreso(int NumeroTramo, int caso) {
   siguiente_ = Reloj::now() + kRefresco;
 }
 
-SigueCorrida Vigia::Progreso(int NumeroTramo) {
+std::function<bool(int, const AvanceCorrida&)> Vigia::Progreso() {
   if (isatty(STDERR_FILENO) == 0) return {};
-  return [this, NumeroTramo](const AvanceCorrida& avance) {
+  return [this](int NumeroTramo, const AvanceCorrida& avance) {
     MuestraProgreso(NumeroTramo, avance.caso);
     return true;
   };

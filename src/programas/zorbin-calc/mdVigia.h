@@ -32,8 +32,9 @@ class Vigia {
   Vigia(const Vigia&) = delete;
   Vigia& operator=(const Vigia&) = delete;
 
-  /// What the run of a Tramo is to ask before each Caso; it never ends it.
-  SigueCorrida Progreso(int NumeroTramo);
+  /// What a run is to ask before each Caso, with the number of its Tramo; it never ends it. None
+  /// where nobody looks.
+  std::function<bool(int NumeroTramo, const AvanceCorrida&)> Progreso();
   /// A run ended. `numero` is the text of the Tramo in the list.
   void Acaba(const ResultadoTramo& resultado, const std::string& numero);
 

@@ -6,6 +6,7 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "calculo/corrida/mdCalculaObra.h"
 #include "calculo/corrida/mdCalculaTramo.h"
 #include "listados/obra/mdAvisos.h"
 #include "listados/obra/mdDocumento.h"
@@ -159,22 +160,27 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
   FicheroLog log(registros);
   Avance avance;
   avance.posiciones = static_cast<int>(encargo.tramos.size());
-  const auto pregunta = [&](const AvanceCorrida& a) {
+  TareaObra tarea;
+  tarea.cuantos = encargo.tramos.size();
+  tarea.registro = &log.registro();
+  tarea.datos = [&](std::size_t i) { return encargo.tramos[i].datos; };
+  tarea.sigue = [&](std::size_t i, const AvanceCorrida& a) {
+    avance.posicion = static_cast<int>(i) + 1;
+    avance.tramo = encargo.tramos[i].datos.tramo.NumeroTramo;
     avance.caso = a.caso;
     avance.casos = a.casos;
     return !sigue || sigue(avance);
   };
-  for (const auto& [datos, numero, id] : encargo.tramos) {
-    avance.posicion = static_cast<int>(calculo.tramos.size()) + 1;
-    avance.tramo = datos.tramo.NumeroTramo;
-    calculo.tramos.push_back(CalculaTramo(datos, RangoDe(datos), pregunta, &log.registro()));
+  tarea.toma = [&](std::size_t i, ResultadoTramo&& r) {
+    const auto& numero = encargo.tramos[i].numero;
     calculo.numeros.push_back(numero);
-    calculo.ids.push_back(id);
-    calculo.fallos.push_back(Fallo(calculo.tramos.back(), numero, encargo));
-    if (!calculo.tramos.back().cancelado) continue;
-    Cancela(calculo, avance);
-    break;
-  }
+    calculo.ids.push_back(encargo.tramos[i].id);
+    calculo.fallos.push_back(Fallo(r, numero, encargo));
+    if (r.cancelado) Cancela(calculo, avance);
+    calculo.tramos.push_back(std::move(r));
+    return true;
+  };
+  CalculaObra(tarea);
   log.registro().Vuelca();
   calculo.sinRegistro = log.SinEscribir();
   encargo.tramos.clear();
