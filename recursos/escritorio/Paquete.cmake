@@ -15,7 +15,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
   "fonts-dejavu-core, fonts-liberation, hicolor-icon-theme, qt6-qpa-plugins, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "desktop-file-utils, evince | pdf-viewer, shared-mime-info, xdg-utils")
+  "desktop-file-utils, evince | pdf-viewer, libqt6svg6, shared-mime-info, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-gtk-platformtheme, qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "structural design of buried concrete pressure pipes")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION

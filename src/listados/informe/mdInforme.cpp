@@ -34,6 +34,14 @@ memoria::Marcos MarcosDelInforme() {
   return {kMargenInforme, kArriba, kAbajo, 26.0, kUltimoCapitulo};
 }
 
+std::shared_ptr<memoria::Tipografia> Letras() {
+  try {
+    return std::make_shared<memoria::Tipografia>(memoria::Familia::Palo);
+  } catch (const memoria::ErrorFuente& error) {
+    throw ErrorFuente(error.what());
+  }
+}
+
 class Compositor {
  public:
   Compositor(const DatosInforme& datos, const Catalogo& textos, const EstiloNumeros& estilo,
@@ -41,7 +49,7 @@ class Compositor {
       : datos_(datos),
         textos_(textos),
         sigue_(sigue),
-        letras_(std::make_shared<memoria::Tipografia>(memoria::Familia::Palo)),
+        letras_(Letras()),
         redactor_(*letras_, kColumnaInforme, Q(textos.Texto(txt::InfTabla)),
                   Q(textos.Texto(txt::InfFigura))),
         p_(datos, textos, estilo, redactor_),
@@ -212,18 +220,16 @@ class Compositor {
 }  // namespace
 
 Informe ComponeInforme(const DatosInforme& datos, const Catalogo& textos,
-                       const EstiloNumeros& estilo, const SigueInforme& sigue) try {
+                       const EstiloNumeros& estilo, const SigueInforme& sigue) {
   return Compositor(datos, textos, estilo, sigue).Compone();
-} catch (const memoria::ErrorFuente& error) {
-  throw ErrorFuente(error.what());
 }
 
 Informe ComponePasos(const ResultadoTramo& resultado, const FilaCaso& fila, const Catalogo& textos,
-                     const EstiloNumeros& estilo) try {
+                     const EstiloNumeros& estilo) {
   DatosInforme datos;
   datos.tramos.push_back({&resultado, {}, resultado.datos.tramo, resultado.datos.tramo});
   Informe informe;
-  auto letras = std::make_shared<memoria::Tipografia>(memoria::Familia::Palo);
+  auto letras = Letras();
   memoria::Redactor redactor(*letras, kColumnaInforme, {}, {});
   Plantilla p(datos, textos, estilo, redactor);
   EscribePasos(p, datos.tramos.front(), fila);
@@ -232,8 +238,6 @@ Informe ComponePasos(const ResultadoTramo& resultado, const FilaCaso& fila, cons
   for (auto& pagina : paginas.paginas) informe.paginas.push_back(std::move(pagina.caja));
   informe.letras = std::move(letras);
   return informe;
-} catch (const memoria::ErrorFuente& error) {
-  throw ErrorFuente(error.what());
 }
 
 int PaginasPrevistas(const DatosInforme& datos, const Catalogo& textos,
@@ -247,8 +251,8 @@ int PaginasPrevistas(const DatosInforme& datos, const Catalogo& textos,
     if (datos.detalle != DetalleInforme::Todos || t.resultado->filas.empty()) continue;
     DatosInforme uno = datos;
     uno.tramos = {t};
-    const memoria::Tipografia letras(memoria::Familia::Palo);
-    memoria::Redactor redactor(letras, kColumnaInforme, {}, {});
+    const auto letras = Letras();
+    memoria::Redactor redactor(*letras, kColumnaInforme, {}, {});
     Plantilla p(uno, textos, estilo, redactor);
     EscribeCaso(p, t, 0, t.resultado->filas.size() / 2, false);
     double alto = 0;
