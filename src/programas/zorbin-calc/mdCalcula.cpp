@@ -8,6 +8,7 @@
 #include "base/mdNumeros.h"
 #include "base/mdTextos.h"
 #include "base/textos.h"
+#include "calculo/corrida/mdCalculaObra.h"
 #include "listados/datos/mdJson.h"
 #include "listados/datos/mdTablaCasos.h"
 #include "listados/obra/mdDocumento.h"
