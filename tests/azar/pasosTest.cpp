@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <iostream>
 
 #include "azar/generador.h"
 #include "azar/oraculo.h"
