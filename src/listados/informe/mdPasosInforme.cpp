@@ -101,7 +101,7 @@ class Pasos {
         if (paso.formula != formula) continue;
         const auto x = Escrito(paso);
         if (c.filas.empty()) {
-          p_.r.Paso(p_.T(x.etiqueta), {Q(x.simbolos.formula)}, Q(std::string(x.numero)));
+          p_.r.Paso(p_.T(x.etiqueta), {Q(x.simbolos.formula)}, Q(std::string(x.numero)), true);
         }
         QString unidad = Q(std::string(x.unidad));
         if (!unidad.isEmpty()) unidad.prepend(QChar(u' '));

@@ -152,7 +152,7 @@ void Redactor::Formula(const QString& texto, const QString& numero, const QStrin
 }
 
 void Redactor::Paso(const QString& rotulo, const std::vector<QString>& partes,
-                    const QString& numero) {
+                    const QString& numero, bool pega) {
   constexpr double kRotulo = 128.0, kHueco = 10.0, kEntreLineas = 3.5;
   const Tipo menor{Letra::Recta, 8.2, 70};
   const Caja cifra =
@@ -176,6 +176,7 @@ void Redactor::Paso(const QString& rotulo, const std::vector<QString>& partes,
     }
   }
   Franja f;
+  f.pega = pega;
   f.antes = 4.5;
   f.caja.ancho = ancho_;
   f.caja.alto = 0.8 * kCuerpoPaso;

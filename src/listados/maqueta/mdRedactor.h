@@ -45,8 +45,9 @@ class Redactor {
   /// @param numero  at the right end, empty for none
   void Formula(const QString& texto, const QString& numero = {}, const QString& ancla = {});
   /// A step of a calculation: what it gives on the left, and the parts of its formula, the later
-  /// ones below the first where they do not fit beside it.
-  void Paso(const QString& rotulo, const std::vector<QString>& partes, const QString& numero);
+  /// ones below the first where they do not fit beside it. @param pega  it stays with what follows
+  void Paso(const QString& rotulo, const std::vector<QString>& partes, const QString& numero,
+            bool pega = false);
   /// @param titulo  its caption, which takes the next number; none when empty
   void Tabla(const Cuadro& cuadro, const QString& titulo = {});
   /// Drawings side by side where they fit, each with its caption.

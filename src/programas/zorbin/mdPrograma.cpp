@@ -175,7 +175,9 @@ void Programa::Enlaza() {
   };
   p.ajusta = [this, padre] { AbreAjustes(*captura_, entorno_, documentos_, padre); };
   p.resultados = [this] { MuestraResultados(); };
-  p.informe = [this, padre] { frInforme(*captura_, entorno_, padre).exec(); };
+  p.informe = [this, padre] {
+    if (captura_->ObraCargada) frInforme(*captura_, entorno_, padre).exec();
+  };
   p.diseno = [this] { marcoDiseno_->Alterna(); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();

@@ -146,9 +146,8 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*resultados, txt::MenuTablaResultados, Qt::Key_F10, [this] {
     LanzaPantalla(pantallas_.resultados, false);
   })->setObjectName(QStringLiteral("mnResultados"));
-  NuevaAccion(*resultados, txt::MenuInforme, {}, [this] {
-    if (c_.ObraCargada) LanzaPantalla(pantallas_.informe, true);
-  })->setObjectName(QStringLiteral("mnInforme"));
+  NuevaAccion(*resultados, txt::MenuInforme, {},
+              [this] { LanzaPantalla(pantallas_.informe, true); });
   NuevaAccion(*resultados, txt::MenuDiseno, Qt::Key_F8, [this] {
     pantallas_.diseno();
   })->setObjectName(QStringLiteral("mnDiseno"));
