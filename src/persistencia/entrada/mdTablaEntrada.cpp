@@ -226,6 +226,7 @@ NombresDeDatos::NombresDeDatos(const Catalogo* textos) {
       for (const auto* d : datos) {
         const auto& campo = d->ficha.campo;
         Pon(texto(campo.grupo) + (campo.grupo == 0 ? "" : " ") + texto(campo.rotulo), d);
+        if (campo.grupo != 0) Pon(texto(campo.rotulo), d);  // others share it
         Pon(texto(campo.etiqueta), d);
         if (campo.rotuloSI != 0) Pon(texto(campo.rotuloSI), d);
       }
