@@ -58,12 +58,12 @@ TEST_F(Importa, NadaSeEscribeSiAlgoNoValeSalvoLoQueVale) {
 }
 
 TEST_F(Importa, LasPalabrasQueNoSirven) {
-  for (const std::string palabras :
-       {"importa", "importa " + json, "importa a.txt " + obra, "importa --plantilla p.csv",
-        "calcula " + acequia + " --tabla a.txt", "calcula " + acequia + " --columnas Hr",
-        "calcula " + acequia + " --tabla a.csv --columnas no",
-        "calcula " + acequia + " --tabla a.csv --formato json",
-        "calcula " + acequia + " --tabla " + acequia}) {
+  for (const std::string& palabras : std::vector<std::string>{
+           "importa", "importa " + json, "importa a.txt " + obra, "importa --plantilla p.csv",
+           "calcula " + acequia + " --tabla a.txt", "calcula " + acequia + " --columnas Hr",
+           "calcula " + acequia + " --tabla a.csv --columnas no",
+           "calcula " + acequia + " --tabla a.csv --formato json",
+           "calcula " + acequia + " --tabla " + acequia}) {
     EXPECT_EQ(Llama(palabras), 2) << palabras;
     EXPECT_NE(Quejas(), "") << palabras;
   }

@@ -1,8 +1,15 @@
 #include "persistencia/entrada/mdCuadro.h"
 
+#include "base/mdTextos.h"
 #include "base/textos.h"
 
 namespace zorbin {
+
+std::string Visto(std::string_view texto) {
+  constexpr std::size_t kLetras = 60;
+  const auto visto = Primeros(texto, kLetras);
+  return visto.size() < texto.size() ? std::string(visto) + "…" : std::string(texto);
+}
 
 std::string NombreCelda(std::size_t fila, std::size_t columna) {
   constexpr std::size_t kLetras = 26;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -50,6 +51,9 @@ struct Cuadro {
  private:
   std::size_t celdas_ = 0;
 };
+
+/// What a message shows of a text of the file.
+std::string Visto(std::string_view texto);
 
 /// Name of a cell as spreadsheets have it, both from 0: "B3".
 std::string NombreCelda(std::size_t fila, std::size_t columna);

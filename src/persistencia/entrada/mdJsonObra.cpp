@@ -22,7 +22,6 @@ constexpr std::array<std::string_view, 6> kDeResultados{"posicion",  "casos",   
 // They follow from the other data, and are found again.
 constexpr std::array<std::string_view, 6> kDeducidos{"EsArmado", "PostFlag", "SubTipo",
                                                      "GamaY",    "GamaF",    "Fct"};
-constexpr std::size_t kMaxValor = 60;  // bytes of a value that a message shows
 
 template <std::size_t N>
 bool Esta(const std::array<std::string_view, N>& nombres, std::string_view nombre) {
@@ -174,14 +173,14 @@ class Lector : public Json::json_sax_t {
     const auto* dato = DatoDe<Tramo>(clave_);
     if (dato == nullptr) {
       return entrada.Avisa(
-          {txt::EntClaveDesconocida, {t.numero.empty() ? t.celda : t.numero, clave_}});
+          {txt::EntClaveDesconocida, {t.numero.empty() ? t.celda : t.numero, Visto(clave_)}});
     }
     Pon(*dato, celda, t.datos);
   }
 
   void DeObra(const CeldaLeida& celda) {
     const auto* dato = DatoDe<Obra>(clave_);
-    if (dato == nullptr) return entrada.Avisa({txt::EntClaveDesconocidaObra, {clave_}});
+    if (dato == nullptr) return entrada.Avisa({txt::EntClaveDesconocidaObra, {Visto(clave_)}});
     if (!dato->ficha.deSesion) Pon(*dato, celda, entrada.obra);
   }
 
@@ -197,7 +196,7 @@ class Lector : public Json::json_sax_t {
 
   void Rehusa(const CeldaLeida& celda, Mensaje causa) {
     entrada.rechazos.push_back(
-        {Lugar(), Ruta(clave_), clave_, celda.texto.substr(0, kMaxValor), std::move(causa)});
+        {Lugar(), Ruta(clave_), clave_, Visto(celda.texto), std::move(causa)});
   }
 };
 

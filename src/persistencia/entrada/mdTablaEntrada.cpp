@@ -14,7 +14,6 @@ namespace {
 constexpr std::size_t kFilasDeCabeza = 12;  // among which the heads are looked for
 constexpr std::size_t kBastantes = 2;       // data that make a row one of heads
 constexpr std::size_t kDatosDeObra = 3;     // names that make a sheet one of the Obra
-constexpr std::size_t kMaxValor = 60;       // bytes of a value that a message shows
 
 // A unit as it may be written: what it is in letters of ours, and what it is worth in it.
 struct UnidadLeida {
@@ -140,7 +139,7 @@ class LectorTabla {
       const auto columna = nombres_.Columna(texto, TextoDe(encima, i), cabezas.fila, i, falta);
       if (!columna) throw ErrorEntrada(falta);
       if (columna->que == ColumnaLeida::Que::Nada && !texto.empty()) {
-        e_.Avisa({txt::EntColumnaDesconocida, {NombreCelda(cabezas.fila, i), texto}});
+        e_.Avisa({txt::EntColumnaDesconocida, {NombreCelda(cabezas.fila, i), Visto(texto)}});
       }
       const bool repetida =
           columna->dato != nullptr &&
@@ -165,8 +164,8 @@ class LectorTabla {
       if (c.que == ColumnaLeida::Que::Nada || fila[i].Vacia()) continue;
       Mensaje causa;
       const auto rehusa = [&](std::string_view dato) {
-        e_.rechazos.push_back({lugar, NombreCelda(f, i), std::string(dato),
-                               fila[i].texto.substr(0, kMaxValor), causa});
+        e_.rechazos.push_back(
+            {lugar, NombreCelda(f, i), std::string(dato), Visto(fila[i].texto), causa});
       };
       if (c.que == ColumnaLeida::Que::Numero) {
         t.numero = LeeNumeroTramo(fila[i], modo, causa);
@@ -200,8 +199,8 @@ class LectorTabla {
       Mensaje causa;
       auto valor = LeeValor(*d, fila[1], {false, hoja.decimal, &textos_}, 1.0, causa);
       if (!valor) {
-        e_.rechazos.push_back({-1, NombreCelda(f, 1), std::string(d->ficha.nombre),
-                               fila[1].texto.substr(0, kMaxValor), causa});
+        e_.rechazos.push_back(
+            {-1, NombreCelda(f, 1), std::string(d->ficha.nombre), Visto(fila[1].texto), causa});
         continue;
       }
       std::optional<bool> enSI;
@@ -227,6 +226,7 @@ NombresDeDatos::NombresDeDatos(const Catalogo* textos) {
       for (const auto* d : datos) {
         const auto& campo = d->ficha.campo;
         Pon(texto(campo.grupo) + (campo.grupo == 0 ? "" : " ") + texto(campo.rotulo), d);
+        if (campo.grupo != 0) Pon(texto(campo.rotulo), d);  // others share it
         Pon(texto(campo.etiqueta), d);
         if (campo.rotuloSI != 0) Pon(texto(campo.rotuloSI), d);
       }
@@ -264,7 +264,7 @@ std::optional<ColumnaLeida> NombresDeDatos::Columna(std::string_view cabeza,
                                    ? std::string(magnitud.si)
                                    : std::string(magnitud.si) + ", " + std::string(magnitud.mks);
   falta = {txt::EntUnidadMala,
-           {NombreCelda(fila, columna), dicha, std::string(c.dato->ficha.nombre), unidades}};
+           {NombreCelda(fila, columna), Visto(dicha), std::string(c.dato->ficha.nombre), unidades}};
   return std::nullopt;
 }
 

@@ -67,7 +67,7 @@ class Xml {
     return texto;
   }
   [[noreturn]] void Falla() const {
-    throw ErrorEntrada({txt::EntXmlMalo, {parte_, std::to_string(lector_.lineNumber())}});
+    throw ErrorEntrada({txt::EntXmlMalo, {Visto(parte_), std::to_string(lector_.lineNumber())}});
   }
 
  private:

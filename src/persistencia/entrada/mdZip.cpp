@@ -50,11 +50,11 @@ bool Zip::Tiene(const std::string& parte) const {
 
 void Zip::Recorre(const std::string& parte, const std::function<void(std::string_view)>& toma) {
   const std::unique_ptr<zip_file_t, CierraParte> f(zip_fopen(z_->zip, parte.c_str(), 0));
-  if (f == nullptr) throw ErrorEntrada({txt::EntParteRota, {parte}});
+  if (f == nullptr) throw ErrorEntrada({txt::EntParteRota, {Visto(parte)}});
   std::string bloque(kBloque, '\0');
   while (true) {
     const auto n = zip_fread(f.get(), bloque.data(), bloque.size());
-    if (n < 0) throw ErrorEntrada({txt::EntParteRota, {parte}});
+    if (n < 0) throw ErrorEntrada({txt::EntParteRota, {Visto(parte)}});
     if (n == 0) return;
     toma({bloque.data(), static_cast<std::size_t>(n)});
   }
@@ -64,7 +64,7 @@ std::string Zip::Lee(const std::string& parte, std::size_t maximo) {
   std::string todo;
   Recorre(parte, [&](std::string_view bytes) {
     if (todo.size() + bytes.size() > maximo) {
-      throw ErrorEntrada({txt::EntParteEnorme, {parte, std::to_string(maximo >> 20)}});
+      throw ErrorEntrada({txt::EntParteEnorme, {Visto(parte), std::to_string(maximo >> 20)}});
     }
     todo += bytes;
   });

@@ -108,8 +108,8 @@ void frResultados::CreaPiezas() {
   exporta_ = new QPushButton(this);
   exporta_->setObjectName(QStringLiteral("exportaCasos"));
   auto* menuExporta = new QMenu(exporta_);
-  aLibro_ = menuExporta->addAction({});
-  aTexto_ = menuExporta->addAction({});
+  aLibro_ = menuExporta->addAction(QString{});
+  aTexto_ = menuExporta->addAction(QString{});
   exporta_->setMenu(menuExporta);
   compara_ = new QPushButton(this);
   calcula_ = new QPushButton(this);

@@ -69,9 +69,9 @@ TEST(NumeroTabla, SonLasCifrasDeLosListados) {
 
 TEST_F(Tablas, ElTextoDiceLoQueLaPantalla) {
   for (const char separador : {',', '.'}) {
-    w = {textos, {separador == ',', separador}};
+    const PalabrasDibujo palabras(textos, {separador == ',', separador});
     std::string texto;
-    Escribe(*TablaCsv(todas, w, [&](std::string_view bytes) { texto += bytes; }));
+    Escribe(*TablaCsv(todas, palabras, [&](std::string_view bytes) { texto += bytes; }));
     EXPECT_TRUE(texto.starts_with(kMarcaUtf8));
     const auto cuadro = LeeCsv(texto);
     ASSERT_EQ(cuadro.filas.size(), Casos() + 1);
@@ -83,8 +83,9 @@ TEST_F(Tablas, ElTextoDiceLoQueLaPantalla) {
           const auto c = todas[i];
           const auto lugar = static_cast<std::size_t>(static_cast<int>(c) - kPrimeraEntera);
           std::string espera =
-              De(c).numero ? TextoNumero(c, EsEntera(c) ? enteras[lugar] : ValorDe(c, r, f), w)
-                           : TextoPalabra(c, r, f, w);
+              De(c).numero
+                  ? TextoNumero(c, EsEntera(c) ? enteras[lugar] : ValorDe(c, r, f), palabras)
+                  : TextoPalabra(c, r, f, palabras);
           if (espera == "-") espera.clear();
           const auto& celdas = cuadro.filas[fila];
           EXPECT_EQ(i < celdas.size() ? celdas[i].texto : std::string{}, espera) << De(c).clave;
