@@ -88,7 +88,9 @@ TEST_F(Linea, DibujaEnCadaFormaYDiceLoQueFalta) {
            {"--tramo 3 --que zanja --altura 3,2 --presion 0,45 --separador coma --pdf ", "%PDF-"},
            {"--tramo 6 --que anillo --hipotesis 6 --idioma fr --svg ", "<svg "},
            {"--tramo 6 --que grafico --grafico tensiones --tema oscuro --png ", "\x89PNG"},
-           {"--tramo 5 --que mapa --svg ", "<svg "}}) {
+           {"--tramo 5 --que mapa --svg ", "<svg "},
+           {"--tramo 6 --que hoja --pdf ", "%PDF-"},
+           {"--tramo 2 --que zanja --dxf ", "999\r\nZORBIN, mm"}}) {
     fs::remove(f);
     const auto r = Llama(dibuja + " " + palabras + f);
     EXPECT_EQ(r.codigo, 0) << palabras;

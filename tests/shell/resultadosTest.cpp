@@ -19,8 +19,10 @@
 #include "shell/captura/CapturaDatos.h"
 #include "shell/captura/mdPanelTramos.h"
 #include "shell/dibujos/mdVistaLamina.h"
+#include "shell/enPantalla.h"
 #include "shell/entornoPrueba.h"
 #include "shell/resultados/frDiseno.h"
+#include "shell/resultados/frHojaFabricacion.h"
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdMarcoDiseno.h"
 #include "shell/resultados/mdModeloCasos.h"
@@ -123,6 +125,27 @@ TEST_F(Resultados, PinchandoEnElMapaSeEligeUnCaso) {
   panel->findChild<QPushButton*>("btPesimo")->click();
   Llega();
   EXPECT_FALSE(panel->mostrado()->elegido);
+}
+
+TEST_F(Resultados, LaHojaDeFabricacionSeVeEnteraYSeGuarda) {
+  Toma(5);
+  persona.fichero = carpeta.filePath("hoja");
+  EnPantalla<frHojaFabricacion> hoja([&](frHojaFabricacion& pantalla) {
+    auto& vista = pantalla.vista();
+    const auto lamina = vista.lamina().lamina;
+    const Xy fin = vista.EnHoja(QPointF(vista.width(), vista.height()));
+    EXPECT_TRUE(fin.x >= lamina.ancho - 1e-6 && fin.y >= lamina.alto - 1e-6);
+    for (auto* boton : pantalla.findChildren<QPushButton*>()) boton->click();
+    pantalla.close();
+  });
+  ventana().findChild<QAction*>("mnHojaFabricacion")->trigger();
+  EXPECT_EQ(hoja.veces, 1);
+  for (const auto& [extension, cabeza] : std::vector<std::pair<QString, QByteArray>>{
+           {"pdf", "%PDF-"}, {"svg", "<svg "}, {"dxf", "999\r\nZORBIN"}}) {
+    QFile fichero(carpeta.filePath("hoja." + extension));
+    ASSERT_TRUE(fichero.open(QIODevice::ReadOnly)) << extension.toStdString();
+    EXPECT_TRUE(fichero.readAll().startsWith(cabeza));
+  }
 }
 
 TEST_F(Resultados, ElMarcoDejaSitioALaFormaEnUnaVentanaEstrecha) {

@@ -5,14 +5,14 @@
 
 #include "base/textos.h"
 #include "calculo/cargas/mdOval.h"
+#include "listados/dibujos/mdCorte.h"
 
 namespace zorbin {
 
 namespace {
 
-constexpr double kMm = 1000.0;        // of a metre
-constexpr double kVueloCuna = 1.2;    // half width of a bed, in external radii
-constexpr double kMinimoAcero = 0.3;  // thinner lines are not seen [mm of paper]
+constexpr double kMm = 1000.0;      // of a metre
+constexpr double kVueloCuna = 1.2;  // half width of a bed, in external radii
 
 // Space that dimensions and texts take round the views [mm].
 constexpr double kLados = 7.0;
@@ -50,94 +50,6 @@ ParedDibujada ParedPostesada(const CasoDibujado& c) {
   }
   return p;
 }
-
-// Length of the cut along the wall [mm]: a round one, some four times as long as the wall is thick.
-double LargoCorte(double espesor) {
-  return std::clamp(std::ceil(4.0 * espesor / 50.0) * 50.0, 150.0, 1000.0);
-}
-
-// Cut along the wall, with the outer face above.
-class Corte {
- public:
-  Corte(Plano& plano, const ParedDibujada& pared, Marco sitio)
-      : plano_(plano), pared_(pared), largo_(LargoCorte(pared.espesor)) {
-    vista_.escala = EscalaRedonda(
-        std::max(largo_ / (sitio.ancho - 2 * kCotas), pared.espesor / (sitio.alto - kPies)));
-    vista_.origen = {sitio.x + (sitio.ancho - vista_.L(largo_)) / 2,
-                     sitio.y + (sitio.alto - kPies - vista_.L(pared.espesor)) / 2};
-  }
-
-  double Escala() const { return vista_.escala; }
-  double Largo() const { return largo_; }
-  double Abajo() const { return Y(0.0); }
-  double CentroX() const { return vista_.P(largo_ / 2, 0).x; }
-
-  void Pinta(const PalabrasDibujo& w) {
-    plano_.En(Capa::Hormigon);
-    Banda(0.0, pared_.espesor, {Tinta::Hormigon, 0.55});
-    if (pared_.nucleo > 0) {
-      plano_.En(Capa::Revestimiento);
-      Banda(pared_.nucleo, pared_.espesor, {Tinta::Revestimiento, 0.8});
-      plano_.En(Capa::Hormigon);
-    }
-    plano_.Rayado({Rectangulo(Caja(0.0, pared_.espesor))}, Trama::Hormigon, Tinta::Tenue, 4.0);
-    plano_.Area(Rectangulo(Caja(0.0, pared_.espesor)), {}, {Tinta::Tinta, kGrueso});
-    if (pared_.nucleo > 0) Raya(pared_.nucleo, {Tinta::Tinta, kFino});
-    for (const auto& a : pared_.acero) {
-      plano_.En(a.capa);
-      plano_.Macizo(a.grueso);
-      a.porMetro > 0 ? Barras(a) : Chapa(a);
-    }
-    plano_.Macizo(0.0);
-    Cotas(w);
-  }
-
- private:
-  static constexpr double kCotas = 17.0;
-  static constexpr double kPies = 10.0;
-
-  Plano& plano_;
-  const ParedDibujada& pared_;
-  double largo_;
-  Vista vista_;
-
-  double Y(double distancia) const { return vista_.P(0, pared_.espesor - distancia).y; }
-  Marco Caja(double desde, double hasta) const {
-    return {vista_.origen.x, Y(hasta), vista_.L(largo_), vista_.L(hasta - desde)};
-  }
-  void Banda(double desde, double hasta, Mancha m) {
-    plano_.Area(Rectangulo(Caja(desde, hasta)), m);
-  }
-  void Raya(double d, Trazo trazo) {
-    plano_.Linea({vista_.origen.x, Y(d)}, {vista_.P(largo_, 0).x, Y(d)}, trazo);
-  }
-  void Chapa(const CapaAcero& a) {
-    Raya(a.distancia, {a.tinta, std::max(kMinimoAcero, vista_.L(a.grueso))});
-  }
-  void Barras(const CapaAcero& a) {
-    const double paso = kMm / a.porMetro;
-    const int n = static_cast<int>(std::floor(largo_ * a.porMetro / kMm + 1e-9));
-    const double primera = (largo_ - (n - 1) * paso) / 2.0;
-    for (int i = 0; i < std::max(1, n); ++i) {
-      const double x = n > 0 ? primera + i * paso : largo_ / 2.0;
-      plano_.Circulo({vista_.P(x, 0).x, Y(a.distancia)},
-                     std::max(kMinimoAcero / 2, vista_.L(a.grueso) / 2), {a.tinta, 1.0});
-    }
-  }
-  void Cotas(const PalabrasDibujo& w) {
-    const double izquierda = vista_.origen.x, derecha = vista_.P(largo_, 0).x;
-    plano_.CotaVertical(Y(pared_.espesor), Y(0.0), izquierda, -5.0,
-                        "e " + w.Corto(pared_.espesor, 1));
-    // Covers beyond the wall would leave the sheet.
-    if (pared_.Reci < pared_.espesor) {
-      plano_.CotaVertical(Y(pared_.Reci), Y(0.0), derecha, 4.0, "ri " + w.Corto(pared_.Reci, 1));
-    }
-    if (pared_.Rece < pared_.espesor) {
-      plano_.CotaVertical(Y(pared_.espesor), Y(pared_.espesor - pared_.Rece), derecha, 4.0,
-                          "re " + w.Corto(pared_.Rece, 1));
-    }
-  }
-};
 
 struct LineaLeyenda {
   Tinta tinta;

@@ -274,7 +274,9 @@ void Plano::CotaVertical(double y1, double y2, double x, double aparte, const st
   Linea({cota, std::min(y1, y2) - sobra}, {cota, std::max(y1, y2) + sobra}, trazo);
   Tope({cota, y1});
   Tope({cota, y2});
-  Texto({cota + signo * (kSeparacion + 0.6), (y1 + y2) / 2}, texto,
+  // Beside a short one the text keeps off the ends of its lines too.
+  const double lado = kSeparacion + (largo ? 0.6 : kSobra + 0.4);
+  Texto({cota + signo * lado, (y1 + y2) / 2}, texto,
         aparte < 0 ? AnclaX::Derecha : AnclaX::Izquierda, AnclaY::Medio, kLetraMenor);
   En(antes);
 }

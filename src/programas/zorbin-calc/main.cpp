@@ -167,7 +167,7 @@ class Ordenes {
     Opcion(dibuja_, "OBRA.zrb", o.obra, txt::AyudaFichero, "")->required();
     Opcion(dibuja_, "--tramo", o.tramos, txt::AyudaTramoDibujo, "N")->expected(1)->required();
     Eleccion(dibuja_, "--que", o.que, txt::AyudaQueDibuja,
-             {"seccion", "zanja", "anillo", "mapa", "grafico"});
+             {"seccion", "zanja", "anillo", "mapa", "grafico", "hoja"});
     dibuja_->get_option("--que")->required();
     Opcion(dibuja_, "--altura", o.altura, txt::AyudaAlturaDibujo, "H");
     Opcion(dibuja_, "--presion", o.presion, txt::AyudaPresionDibujo, "P");

@@ -12,12 +12,14 @@
 #include "listados/dibujos/mdDibujoZanja.h"
 #include "listados/dibujos/mdDxf.h"
 #include "listados/dibujos/mdGraficosTramo.h"
+#include "listados/dibujos/mdHojaFabricacion.h"
 #include "listados/dibujos/mdSvg.h"
 #include "listados/obra/mdVeredictoCaso.h"
 #include "listados/pintor/mdPintaLamina.h"
 #include "listados/pintor/mdPintor.h"
 #include "listados/pintor/mdSinPantalla.h"
 #include "persistencia/proyecto/mdProyecto.h"
+#include "persistencia/zrx/mdFabricacionZrx.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdSalida.h"
 #include "programas/zorbin-calc/mdValida.h"
@@ -93,6 +95,7 @@ class Dibujante {
     ElCaso();
     if (o_.que == "grafico") return Tensiones();
     if (o_.que == "anillo") return DibujaAnillo(Dibujado(), Hipotesis(), palabras_, Hoja());
+    if (o_.que == "hoja") return DibujaHojaFabricacion(Dibujado(), fabricacion_, palabras_);
     if (o_.que == "zanja") return DibujaZanja(Dibujado(), palabras_, Hoja());
     return DibujaSeccion(Dibujado(), palabras_, Hoja());
   }
@@ -103,6 +106,7 @@ class Dibujante {
   const OpcionesDibuja& o_;
   const Catalogo& textos_;
   PalabrasDibujo palabras_;
+  Fabricacion fabricacion_;
   DatosTramo datos_;
   ResultadoTramo resultado_;
   const FilaCaso* fila_ = nullptr;
@@ -110,11 +114,15 @@ class Dibujante {
 
   std::string Numero() const { return TextoEntero(datos_.tramo.NumeroTramo); }
 
-  DatosTramo Datos(const Proyecto& proyecto) const {
+  DatosTramo Datos(const Proyecto& proyecto) {
     const auto posiciones = BuscaTramos(o_.tramos, o_.obra, proyecto.lista, textos_);
     if (!posiciones) throw Acaba{kPalabrasMalas};
     Obra obra = proyecto.obra;
-    Tramo tramo = TramosPedidos(proyecto, *posiciones).front().tramo;
+    const auto pedido = TramosPedidos(proyecto, *posiciones).front();
+    Tramo tramo = pedido.tramo;
+    Extras extras = proyecto.extras;
+    const auto suyos = TomaExtras(extras, pedido.numero, tramo.DescriTramo);
+    if (suyos) fabricacion_ = FabricacionDe(suyos->otras);
     if (!o_.sinValidar) {
       const auto lista =
           BuscaFaltas(proyecto, o_.tablas, {*posiciones, SeparadorDeLinea(o_.separador)}, textos_);

@@ -12,13 +12,13 @@ namespace zorbin {
 
 struct OpcionesDibuja {
   std::filesystem::path obra;
-  std::vector<int> tramos;                   // one
-  std::optional<std::string> altura;         // [m]; none for the worst Caso
-  std::optional<std::string> presion;        // DP, in the unit of the Obra
-  std::optional<int> hipotesis;              // none for the governing one
-  std::string que;                           // "seccion", "zanja", "anillo", "mapa" or "grafico"
-  std::string grafico;                       // "acero", which is also the empty one, "interior"...
-  std::string eje;                           // "presion", which is also the empty one, or "altura"
+  std::vector<int> tramos;             // one
+  std::optional<std::string> altura;   // [m]; none for the worst Caso
+  std::optional<std::string> presion;  // DP, in the unit of the Obra
+  std::optional<int> hipotesis;        // none for the governing one
+  std::string que;                     // "seccion", "zanja", "anillo", "mapa", "grafico", "hoja"
+  std::string grafico;                 // "acero", which is also the empty one, "interior"...
+  std::string eje;                     // "presion", which is also the empty one, or "altura"
   std::filesystem::path svg, pdf, png, dxf;  // one of them
   std::optional<std::string> escala;         // 1:escala
   std::string tema;              // "papel", which is also the empty one, "claro", "oscuro"

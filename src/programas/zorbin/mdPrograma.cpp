@@ -30,6 +30,7 @@
 #include "shell/piezas/mdTema.h"
 #include "shell/principal/mdArranque.h"
 #include "shell/resultados/frDiseno.h"
+#include "shell/resultados/frHojaFabricacion.h"
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdCalculos.h"
 #include "shell/resultados/mdMarcoDiseno.h"
@@ -179,6 +180,9 @@ void Programa::Enlaza() {
     if (captura_->ObraCargada) frInforme(*captura_, entorno_, padre).exec();
   };
   p.diseno = [this] { marcoDiseno_->Alterna(); };
+  p.hojaFabricacion = [this, padre] {
+    MuestraHojaFabricacion(*captura_, entorno_, diseno_->elegido(), padre);
+  };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };

@@ -69,6 +69,9 @@ void VistaLamina::PonAtrasada(bool atrasada) {
 }
 
 double VistaLamina::PorMm() const {
+  if (entera_ && hecha_ && hecha_->lamina.ancho > 0) {
+    return std::min(width() / hecha_->lamina.ancho, height() / hecha_->lamina.alto);
+  }
   return QFontInfo(font()).pixelSize() / kLetraIgual;
 }
 

@@ -36,6 +36,10 @@ class VistaLamina : public QWidget {
   bool Atrasada() const { return atrasada_; }
   /// The wheel turns the page around it instead, but with the control key down.
   void DejaLaRueda() { rueda_ = false; }
+  /// The sheet has a size of its own, and the window shows all of it.
+  void PonEntera() { entera_ = true; }
+  /// Asks for a name, and saves the sheet. @param extension  "png", "svg", "pdf" or "dxf"
+  void Guarda(const QString& extension);
 
   const LaminaConEjes& lamina() { return Ahora(); }
   /// Place of the sheet at a place of the window [mm].
@@ -73,13 +77,13 @@ class VistaLamina : public QWidget {
   bool arrastrado_ = false;
   bool atrasada_ = false;
   bool rueda_ = true;
+  bool entera_ = false;
 
   double PorMm() const;
   const LaminaConEjes& Ahora();
   void Encaja();
   QString Dicho(QPointF sitio);
   void Copia();
-  void Guarda(const QString& extension);
 };
 
 }  // namespace zorbin

@@ -151,6 +151,9 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*resultados, txt::MenuDiseno, Qt::Key_F8, [this] {
     pantallas_.diseno();
   })->setObjectName(QStringLiteral("mnDiseno"));
+  NuevaAccion(*resultados, txt::HojaMenu, {}, [this] {
+    LanzaPantalla(pantallas_.hojaFabricacion, false);
+  })->setObjectName(QStringLiteral("mnHojaFabricacion"));
   ver_ = new MenuVer(*NuevoMenu(txt::MenuVer), c_.textos, entorno_.preferencias);
   connect(ver_, &MenuVer::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   auto* otras = NuevoMenu(txt::MenuOtras);

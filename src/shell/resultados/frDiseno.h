@@ -36,6 +36,7 @@ class PanelDiseno : public QWidget {
   void RenuevaTextos();
   /// A place of the map, or none for the worst Caso.
   void Elige(std::optional<SitioCaso> caso);
+  const std::optional<SitioCaso>& elegido() const { return caso_; }
   /// Until what was asked for has been calculated; what came of it is shown by the next events.
   void Espera() { faena_.Espera(); }
 

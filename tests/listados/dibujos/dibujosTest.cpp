@@ -14,8 +14,9 @@
 #include "listados/dibujos/mdDibujoTubo.h"
 #include "listados/dibujos/mdDibujoZanja.h"
 #include "listados/dibujos/mdDxf.h"
-#include "listados/dibujos/mdGraficosTramo.h"
 #include "listados/dibujos/mdGraficoComparado.h"
+#include "listados/dibujos/mdGraficosTramo.h"
+#include "listados/dibujos/mdHojaFabricacion.h"
 #include "listados/dibujos/mdSvg.h"
 
 namespace zorbin {
@@ -32,6 +33,13 @@ class Escena {
     auto e = pruebas::EstadoDeMuestra(posicion);
     if (ajusta) ajusta(e.tramo);
     resultado_ = pruebas::ResultadoDe(e);
+    caso_ = CasoEntero(resultado_, Fila());
+  }
+  // The same with the steel of its last Caso adjusted by hand.
+  Escena(int posicion, std::int16_t idioma, const Ajuste& areas) : Escena(posicion, idioma) {
+    const auto e = pruebas::EstadoDeMuestra(posicion);
+    const double Tramo = e.tramo.NumeroTramo;
+    resultado_ = pruebas::ResultadoDe(e, {{Fila().DP, Tramo, Fila().Hr, areas}});
     caso_ = CasoEntero(resultado_, Fila());
   }
   const FilaCaso& Fila() const { return resultado_.filas.back(); }
@@ -53,6 +61,10 @@ class Escena {
                                hoja.cabecera ? LeyesDibujadas::Ambas : LeyesDibujadas::Momentos));
       if (!Datos().tramo.EsArmado) x.push_back(DibujaTensiones(Caso(), h, w, hoja).lamina);
     }
+    Fabricacion fab;
+    fab.Longitud = 1850.0;
+    fab.AceroJunta = 24.5;
+    if (hoja.cabecera) x.push_back(DibujaHojaFabricacion(Caso(), fab, w));
     for (const auto eje : {EjeDeGrafico::Altura, EjeDeGrafico::Presion}) {
       const auto malla = CalculaMalla(Datos(), EjesDelGrafico(Datos(), eje, 12), true);
       for (const auto que : {QueGrafico::Acero, QueGrafico::Momentos, QueGrafico::Cargas}) {
@@ -89,8 +101,10 @@ TEST(Dibujos, NingunTextoPisaOtroNiSeSaleDeLaHoja) {
   const Ajusta menudo = [](Tramo& t) {
     t.Di = 0.2, t.Esp = 5.0, t.De = 0.3, t.Hr0Tramo = t.Hr0Final = 20.0;
   };
-  const std::vector<Escena> escenas{Escena(1),    Escena(3, 5),         Escena(4, 2),
-                                    Escena(6, 5), Escena(1, 1, enorme), Escena(4, 3, menudo)};
+  const std::vector<Escena> escenas{
+      Escena(1),    Escena(3, 5),         Escena(4, 2),
+      Escena(6, 5), Escena(1, 1, enorme), Escena(4, 3, menudo),
+      Escena(7, 4), Escena(2, 5),         Escena(1, 2, Ajuste{20.0, 6.5, 24.25})};
   for (std::size_t e = 0; e < escenas.size(); ++e) {
     auto laminas = escenas[e].Todas({});
     // On a panel of a window too.

@@ -66,7 +66,7 @@ def mide(doc, cual, que, tramo, idioma):
     textos = doc.modelspace().query("TEXT")
     escala = next((float(t.dxf.text[len(ESCALA[idioma]):].replace(",", ".")) for t in textos
                    if t.dxf.text.startswith(ESCALA[idioma])), None)
-    espera((escala is not None) == (que in ("seccion", "zanja")), cual, f"scale: {escala}")
+    espera((escala is not None) == (que in ("seccion", "zanja", "hoja")), cual, f"scale: {escala}")
     if escala is None:
         alto = doc.header["$EXTMAX"]
         espera(alto[0] <= HOJA[0] and alto[1] <= HOJA[1], cual, "leaves its sheet")
@@ -78,6 +78,24 @@ def mide(doc, cual, que, tramo, idioma):
     espera(any(cerca(t.dxf.height, LETRA_MENOR * escala, 1e-2) for t in textos), cual, "letters not for its scale")
     if que == "seccion":
         mide_pared(doc, cual, tramo)
+    if que == "hoja":
+        mide_desarrollos(doc, cual)
+
+
+def mide_desarrollos(doc, cual):
+    """The unrolled cages: spirals lie a pitch apart, and climb it in a turn."""
+    pasos = [float(m[1].replace(",", ".")) for m in
+             (re.fullmatch(r"paso? ([\d,]+)", t.dxf.text) for t in doc.modelspace().query("TEXT")) if m]
+    espera(pasos, cual, "tells no pitch")
+    medidos = []
+    for capa in ("INTERIOR", "EXTERIOR", "ALAMBRE"):
+        lineas = [e for e in doc.modelspace().query(f'LINE[layer=="{capa}"]')]
+        sube = [e.dxf.start.y - e.dxf.end.y for e in lineas if e.dxf.start.x != e.dxf.end.x]
+        if sube:
+            altos = sorted(e.dxf.start.y for e in lineas if cerca(e.dxf.start.y - e.dxf.end.y, max(sube)))
+            medidos.append(max(sube))
+            espera(all(cerca(b - a, max(sube)) for a, b in zip(altos, altos[1:])), cual, f"pitch of {capa}")
+    espera(sorted(round(m, 1) for m in medidos) == sorted(pasos), cual, f"pitches {medidos}, told {pasos}")
 
 
 def mide_pared(doc, cual, tramo):
@@ -100,7 +118,7 @@ def main():
     calc, obra, carpeta = sys.argv[1:4]
     os.makedirs(carpeta, exist_ok=True)
     tramos = {t["NumeroTramo"]: t for t in json.loads(llama(calc, "calcula", obra, "--formato", "json"))["tramos"]}
-    dibujos = [(n, que, None) for n in tramos for que in ("seccion", "zanja")]
+    dibujos = [(n, que, None) for n in tramos for que in ("seccion", "zanja", "hoja")]
     for n in (1, 6):
         dibujos += [(n, "anillo", None), (n, "mapa", None)]
         dibujos += [(n, "grafico", g) for g in GRAFICOS if n == 6 or g != "tensiones"]
