@@ -196,14 +196,15 @@ void TopeExterior(Rastro& r) {
 // What no plausible pipe of the generator comes to.
 void Rarezas(Rastro& r) {
   for (const double H : {0.5, 0.95, 1.2, 2.0}) {
-    for (const std::int16_t ICar : {1, 2, 3, 4}) PresionMovil(ICar, H, &r);
+    for (const auto ICar : std::initializer_list<std::int16_t>{1, 2, 3, 4})
+      PresionMovil(ICar, H, &r);
   }
   for (const double Hr1 : {0.2, 0.9, 1.7, 3.0}) {
     for (const double H : {0.4, 6.0}) CoefZanjaTerraplenada(0.3, 0.6, Hr1, 1.0, H, &r);
   }
   CoefTerraplen(0.35, 1.0, 0.5, 1.0, 0.3, &r);
   for (const double Fck : {340.0, 390.0, 450.0, 550.0, 650.0}) LimiteLisas(Fck, &r);
-  for (const std::int16_t camisa : {0, 1, 2}) {
+  for (const auto camisa : std::initializer_list<std::int16_t>{0, 1, 2}) {
     for (const double As : {0.5, 10.0606, 12.0, 20.0, 75.3})
       ReparteArmadura(As, camisa, 3.0, false, 0.0, &r);
   }
@@ -224,8 +225,10 @@ TEST(Pasos, DicenLoQueLaCorridaCalculo) {
     auto datos = TramoAlAzar(i);
     const auto rango = RangoDe(datos);
     if (i % 5 == 0) {
-      datos.ajustes.push_back(
-          {rango.PrimeraDP, datos.tramo.NumeroTramo, rango.Hr0, 15.0, 5.0, 8.0});
+      datos.ajustes.push_back({rango.PrimeraDP,
+                               static_cast<double>(datos.tramo.NumeroTramo),
+                               rango.Hr0,
+                               {15.0, 5.0, 8.0}});
     }
     const auto x = CalculaTramo(datos, rango);
     if (x.filas.empty()) continue;

@@ -90,8 +90,8 @@ std::set<std::string> CodigosDePagina(const std::string& pagina) {
 
 TEST(PaginasDeManual, DicenLasOpcionesYLosCodigosDeLaLinea) {
   std::map<std::string, Opciones> deLaAyuda;
-  for (const char* orden :
-       {"calcula", "valida", "ajustes", "rescata", "dibuja", "hidraulica", "medios"}) {
+  for (const char* orden : {"calcula", "valida", "ajustes", "rescata", "dibuja", "importa",
+                            "mediciones", "hidraulica", "medios"}) {
     deLaAyuda[orden] =
         OpcionesDeAyuda(Corre(ZORBIN_CALC " " + std::string(orden) + " --help").salida);
     ASSERT_GT(deLaAyuda[orden].size(), 2u);

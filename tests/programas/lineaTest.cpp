@@ -291,7 +291,7 @@ TEST_F(Linea, ElDisenoEnvolventeDeUnTramoNoHayQuePedirlo) {
   const std::string copia = Copia(6, "C");
   const fs::path zrx = RutaZrx(copia);
   const auto descripcion = TramosPedidos(LeeProyecto(copia)).at(1).tramo.DescriTramo;
-  pruebas::PonBytes(zrx, TextoDeExtras({{{"2", descripcion, true, {}}}, {}, {}}));
+  pruebas::PonBytes(zrx, TextoDeExtras({{{"2", descripcion, true, {}}}, {}, {}, {}}));
   for (const auto& [tramo, si] : std::map<std::string, bool>{{"1", false}, {"2", true}}) {
     const auto r = Llama("calcula " + copia + " --formato json --tramo " + tramo);
     EXPECT_EQ(r.codigo, 0);

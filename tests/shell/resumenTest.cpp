@@ -468,7 +468,7 @@ TEST(Calculos, UnaCorridaLargaSeCancelaDesdeSuCaja) {
   EXPECT_EQ(persona.veces, 1);
   EXPECT_EQ(lector.veces, 1);
   EXPECT_TRUE(texto.contains("** Cálculo cancelado"));
-  EXPECT_TRUE(d.b.c.EnModificaciones());
+  EXPECT_TRUE(d.b.c.EnAltas());
 }
 
 TEST(Calculos, UnTramoConFaltasSeDiceYSaleLoDemas) {

@@ -23,6 +23,7 @@ struct Hecho {
   ResultadoTramo resultado;
   std::string registro;
   std::exception_ptr fallo;
+  bool preguntado = false;  // whether to go on
 };
 
 class Cuadrilla {
@@ -35,24 +36,25 @@ class Cuadrilla {
   Cuadrilla(const Cuadrilla&) = delete;
   Cuadrilla& operator=(const Cuadrilla&) = delete;
 
-  void Reparte() {
+  bool Reparte() {
     for (std::size_t i = 0; i < tarea_.cuantos; ++i) {
       Hecho hecho = Espera(i);
       if (hecho.fallo) std::rethrow_exception(hecho.fallo);
-      if (tarea_.registro != nullptr) *tarea_.registro << hecho.registro;
       const bool cancelado = hecho.resultado.cancelado;
-      if (!tarea_.toma(i, std::move(hecho.resultado)) || cancelado) return;
+      if (!cancelado && !hecho.preguntado && !Permite(i, hecho.resultado)) return false;
+      if (tarea_.registro != nullptr) *tarea_.registro << hecho.registro;
+      if (!tarea_.toma(i, std::move(hecho.resultado)) || cancelado) return !cancelado;
       const std::lock_guard cierra(cerrojo_);
       entregados_ = i + 1;
       cambio_.notify_all();
     }
+    return true;
   }
 
  private:
   const TareaObra& tarea_;
   const std::size_t adelanto_;
   std::mutex cerrojo_;
-  std::mutex pregunta_;  // whoever asks `sigue`
   std::condition_variable cambio_;
   std::size_t siguiente_ = 0;   // to be begun
   std::size_t entregados_ = 0;  // taken
@@ -98,7 +100,9 @@ class Cuadrilla {
 
   void Calcula(std::size_t i, Hecho& hecho) {
     const auto datos = tarea_.datos(i);
-    const auto sigue = [&](const AvanceCorrida& avance) { return Sigue(i, avance); };
+    const auto sigue = [&](const AvanceCorrida& avance) {
+      return Sigue(i, avance, hecho.preguntado);
+    };
     if (tarea_.registro == nullptr) {
       hecho.resultado = CalculaTramo(datos, RangoDe(datos), sigue);
       return;
@@ -108,28 +112,35 @@ class Cuadrilla {
     registro.Vuelca();
   }
 
-  bool Sigue(std::size_t i, const AvanceCorrida& avance) {
+  // A Tramo that ran before its turn came asked nobody.
+  bool Permite(std::size_t i, const ResultadoTramo& r) {
+    const int casos = std::max(1, static_cast<int>(r.filas.size()));
+    return !tarea_.sigue || tarea_.sigue(i, {casos, casos});
+  }
+
+  bool Sigue(std::size_t i, const AvanceCorrida& avance, bool& preguntado) {
     {
       const std::lock_guard cierra(cerrojo_);
       if (parada_) return false;
       if (!tarea_.sigue || i != entregados_) return true;
     }
-    const std::lock_guard una(pregunta_);
+    preguntado = true;
     if (tarea_.sigue(i, avance)) return true;
     Para();
     return false;
   }
 };
 
-void EnEsteHilo(const TareaObra& tarea) {
+bool EnEsteHilo(const TareaObra& tarea) {
   for (std::size_t i = 0; i < tarea.cuantos; ++i) {
     const auto datos = tarea.datos(i);
     SigueCorrida sigue;
     if (tarea.sigue) sigue = [&](const AvanceCorrida& avance) { return tarea.sigue(i, avance); };
     auto resultado = CalculaTramo(datos, RangoDe(datos), sigue, tarea.registro);
     const bool cancelado = resultado.cancelado;
-    if (!tarea.toma(i, std::move(resultado)) || cancelado) return;
+    if (!tarea.toma(i, std::move(resultado)) || cancelado) return !cancelado;
   }
+  return true;
 }
 
 }  // namespace
@@ -138,11 +149,11 @@ int HilosDeLaMaquina() {
   return std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 }
 
-void CalculaObra(const TareaObra& tarea, int hilos) {
+bool CalculaObra(const TareaObra& tarea, int hilos) {
   const auto utiles = static_cast<int>(std::min<std::size_t>(
       static_cast<std::size_t>(std::max(1, hilos)), std::max<std::size_t>(1, tarea.cuantos)));
   if (utiles == 1) return EnEsteHilo(tarea);
-  Cuadrilla(tarea, utiles).Reparte();
+  return Cuadrilla(tarea, utiles).Reparte();
 }
 
 }  // namespace zorbin

@@ -18,7 +18,8 @@ struct TareaObra {
   /// The next result, in order. @return whether to go on
   std::function<bool(std::size_t, ResultadoTramo&&)> toma;
   /// Asked before each Caso of the Tramo whose result comes next, from any thread but one at a
-  /// time; false ends all of them: that one comes as cancelled, and none after it.
+  /// time, and once before a result of which nobody was asked; false ends all of them: that Tramo
+  /// comes as cancelled, or not at all, and none after it.
   std::function<bool(std::size_t, const AvanceCorrida&)> sigue;
   Registro* registro = nullptr;  // debug log, none when null
 };
@@ -27,7 +28,8 @@ struct TareaObra {
 int HilosDeLaMaquina();
 
 /// @param hilos  1 runs all on the thread of the caller
+/// @return false where `sigue` ended it
 /// @throws whatever `datos`, `toma` or `sigue` throw
-void CalculaObra(const TareaObra& tarea, int hilos = HilosDeLaMaquina());
+bool CalculaObra(const TareaObra& tarea, int hilos = HilosDeLaMaquina());
 
 }  // namespace zorbin

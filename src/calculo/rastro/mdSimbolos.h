@@ -132,7 +132,7 @@ inline constexpr SimboloFormula kSimbolos[] = {
     {"Ah3", "A_{3}", kArea}, {"Ah4", "A_{4}", kArea}, {"Ah5", "A_{5}", kArea},
     {"Aesp", "A_{esp}", kArea}, {"Aext", "A_{ext}", kArea}, {"A1", "A_1", kArea},
     {"A2", "A_2", kArea}, {"Anec", "A_{nec}", kArea}, {"Adis", "A_{disp}", kArea},
-    {"nb", "n", kPorM}, {"Ne", "N_e", kPorM}, {"nb0", "{n\\'}", kPorM}, {"Nant", "N_{e,0}", kPorM},
+    {"nb", "n", kPorM}, {"Ne", "N_e", kPorM}, {"nb0", "n'", kPorM}, {"Nant", "N_{e,0}", kPorM},
     {"dN", "\\Delta_N", kPorM},
     {"phi", "\\phi", kGrados},
     {"Rel", "\\rho", kPorciento},

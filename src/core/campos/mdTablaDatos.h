@@ -24,8 +24,8 @@ inline constexpr Paginas kPaginaTubo{1};
 inline constexpr Paginas kPaginaRelleno{2, -1, -1, 1};
 inline constexpr Paginas kPaginaCargas{2, -1, -1, 2};
 
-// Codes of the data, in the order of the entries of their lists. 0 stands where a datum says nothing
-// of a Tramo, such as the sheet of a post-tensioned one.
+// Codes of the data, in the order of the entries of their lists. 0 stands where a datum says
+// nothing of a Tramo, such as the sheet of a post-tensioned one.
 inline constexpr std::array<std::int16_t, 5> kCodigosIdioma{1, 2, 3, 4, 5};
 inline constexpr std::array<std::int16_t, 3> kCodigosTipologia{kArmada, kEmbebida, kRevestida};
 inline constexpr std::array<std::int16_t, 3> kCodigosDeDos{0, 1, 2};

@@ -103,6 +103,8 @@ class Compositor {
     informe.titulo = p_.T(txt::InfTitulo) + QStringLiteral(" · ") + obra_;
     informe.autor = Q(datos_.portada.autor).simplified();
     informe.idioma = QString::fromLatin1(kCodigos.at(static_cast<std::size_t>(IdiomaDe() - 1)));
+    Ancla(resumen, QStringLiteral("resumen"));
+    Ancla(texto, QStringLiteral("apartado"));
     const int antes = 1 + static_cast<int>(resumen.paginas.size());
     auto indice = PaginasDeIndice(resumen.indice, texto.indice, antes);
     const int primera = antes + static_cast<int>(indice.size());
@@ -121,6 +123,15 @@ class Compositor {
   }
 
   int IdiomaDe() const { return textos_.IdiomaOffset() / kPasoIdioma + 1; }
+
+  // Every line of the contents leads to its place.
+  static void Ancla(Paginador& parte, const QString& nombre) {
+    for (auto& e : parte.indice) {
+      if (!e.ancla.isEmpty()) continue;
+      e.ancla = nombre + QString::number(parte.anclas.size());
+      parte.anclas.insert(e.ancla, e.lugar);
+    }
+  }
 
   static void Anota(Paginador& parte, int primera, Informe& informe) {
     for (auto& e : parte.indice) {
@@ -232,7 +243,7 @@ Informe ComponePasos(const ResultadoTramo& resultado, const FilaCaso& fila, cons
   auto letras = Letras();
   memoria::Redactor redactor(*letras, kColumnaInforme, {}, {});
   Plantilla p(datos, textos, estilo, redactor);
-  EscribePasos(p, datos.tramos.front(), fila);
+  EscribePasos(p, datos.tramos.front(), fila, true);
   Paginador paginas({kMargenInforme, 40.0, 810.0, 0, 0}, true);
   paginas.Anade(redactor.Toma());
   for (auto& pagina : paginas.paginas) informe.paginas.push_back(std::move(pagina.caja));
@@ -248,7 +259,7 @@ int PaginasPrevistas(const DatosInforme& datos, const Catalogo& textos,
   for (const auto& t : datos.tramos) {
     const auto casos = static_cast<double>(t.resultado->filas.size());
     paginas += 4.0 + casos / 38.0;
-    if (datos.detalle != DetalleInforme::Todos || t.resultado->filas.empty()) continue;
+    if (datos.detalle == DetalleInforme::Resumen || t.resultado->filas.empty()) continue;
     DatosInforme uno = datos;
     uno.tramos = {t};
     const auto letras = Letras();
@@ -257,7 +268,8 @@ int PaginasPrevistas(const DatosInforme& datos, const Catalogo& textos,
     EscribeCaso(p, t, 0, t.resultado->filas.size() / 2, false);
     double alto = 0;
     for (const auto& f : redactor.Toma()) alto += f.antes + f.caja.Altura();
-    paginas += casos * alto / (kAbajo - kArriba);
+    const double veces = datos.detalle == DetalleInforme::Todos ? casos : 1.0;
+    paginas += veces * alto / (kAbajo - kArriba);
   }
   return static_cast<int>(paginas);
 }

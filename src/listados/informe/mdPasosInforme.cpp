@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "base/textos.h"
+#include "calculo/anillo/mdAnilloCaso.h"
 #include "calculo/pasos/mdPasos.h"
 #include "calculo/rastro/mdEscritura.h"
 #include "listados/informe/mdPlantilla.h"
@@ -14,17 +15,21 @@ using memoria::Cuadro;
 
 class Pasos {
  public:
-  Pasos(Plantilla& p, bool armado) : p_(p), armado_(armado) {}
+  /// @param rige  hypothesis whose checks are written; 0 for those of all of them
+  Pasos(Plantilla& p, bool armado, int rige) : p_(p), armado_(armado), rige_(rige) {}
 
   void Escribe(const PasosCaso& pasos) {
     const GrupoPasos* antes = nullptr;
     for (const auto& grupo : pasos.grupos) {
+      if (SeCalla(grupo.lugar)) continue;
       Titulo(grupo, antes);
       antes = &grupo;
       if (grupo.tabla) {
         Tabla(grupo);
       } else {
-        for (const auto& paso : grupo.pasos) Uno(paso);
+        for (const auto& paso : grupo.pasos) {
+          if (!SeCalla(paso.lugar)) Uno(paso);
+        }
       }
     }
   }
@@ -32,6 +37,13 @@ class Pasos {
  private:
   Plantilla& p_;
   const bool armado_;
+  const int rige_;
+
+  // The results of the checks stand in a table; step by step, those of the governing hypothesis.
+  bool SeCalla(const LugarPaso& lugar) const {
+    return rige_ > 0 && lugar.apartado == Apartado::Comprobaciones && lugar.hipotesis > 0 &&
+           lugar.hipotesis != rige_;
+  }
 
   PasoEscrito Escrito(const Paso& paso) const {
     return EscribePaso(paso, p_.estilo.si, p_.estilo.separador);
@@ -129,8 +141,9 @@ std::string TextoDePasos(const ResultadoTramo& resultado, const FilaCaso& fila,
   return texto;
 }
 
-void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila) {
-  Pasos(p, t.completo.EsArmado).Escribe(PasosDelCaso(*t.resultado, fila));
+void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila, bool todos) {
+  const int rige = todos ? 0 : HipotesisQueRige(t.resultado->datos, fila);
+  Pasos(p, t.completo.EsArmado, rige).Escribe(PasosDelCaso(*t.resultado, fila));
 }
 
 }  // namespace zorbin

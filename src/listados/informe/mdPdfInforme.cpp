@@ -10,6 +10,7 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include "listados/informe/mdAligeraPdf.h"
 #include "listados/pintor/mdFicheroPdf.h"
 
 namespace zorbin {
@@ -57,6 +58,7 @@ class Acabado {
   }
 
   void Pon() {
+    Contenidos();
     Enlaces();
     Esquema();
     Datos();
@@ -78,6 +80,17 @@ class Acabado {
     destino.appendItem(Real(kAlto - lugar.y + 6));
     destino.appendItem(Objeto::newNull());
     return destino;
+  }
+
+  void Contenidos() {
+    for (auto& pagina : paginas_) {
+      auto contenido = pagina.getObjectHandle().getKey("/Contents");
+      if (!contenido.isStream()) continue;
+      const auto datos = contenido.getStreamData(qpdf_dl_generalized);
+      const std::string_view texto(reinterpret_cast<const char*>(datos->getBuffer()),
+                                   datos->getSize());
+      contenido.replaceStreamData(Aligerado(texto), Objeto::newNull(), Objeto::newNull());
+    }
   }
 
   void Enlaces() {

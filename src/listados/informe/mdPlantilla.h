@@ -81,8 +81,9 @@ void EscribeAvisos(Plantilla& p, const TramoInforme& t);
 /// A Caso with its tables, its figures and its steps. @param figuras  with its drawings
 void EscribeCaso(Plantilla& p, const TramoInforme& t, std::size_t i, std::size_t fila,
                  bool figuras);
-/// Its formulas with their figures.
-void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila);
+/// Its formulas with their figures. @param todos  the checks of all hypotheses too, and not only
+/// those of the governing one
+void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila, bool todos = false);
 /// What comes before the Casos told one by one.
 void EscribeTramo(Plantilla& p, const TramoInforme& t, std::size_t i);
 

@@ -92,6 +92,9 @@ class Buscado {
       return Clave{std::bit_cast<std::uint64_t>(a), std::bit_cast<std::uint64_t>(b),
                    t.datos.tramo.EsArmado};
     };
+    if (c == Columna::Descripcion) {
+      return bits(static_cast<double>(casos_.LugarTramo(caso)), 0.0);
+    }
     if (c == Columna::Interior) return bits(f.NESPIN, f.FIIN);
     if (c == Columna::Exterior) return bits(f.NEXPEX, f.FIEX);
     return bits(EsEntera(c) ? casos_.Valor(caso, c) : ValorDe(c, t, f), 0.0);

@@ -154,8 +154,8 @@ void Calculo::Rompe(std::size_t i, std::size_t fila, const ErrorEjecucion& error
   fallos[i] = Fallo(r, numeros[i], encargo);
 }
 
-Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
-                       const std::filesystem::path& registros) {
+Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue, const std::filesystem::path& registros,
+                       int hilos) {
   Calculo calculo;
   FicheroLog log(registros);
   Avance avance;
@@ -180,7 +180,9 @@ Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue,
     calculo.tramos.push_back(std::move(r));
     return true;
   };
-  CalculaObra(tarea);
+  if (!CalculaObra(tarea, hilos) && calculo.fin != FinTrabajo::Cancelado) {
+    Cancela(calculo, avance);
+  }
   log.registro().Vuelca();
   calculo.sinRegistro = log.SinEscribir();
   encargo.tramos.clear();

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "calculo/corrida/mdCalculaObra.h"
 #include "core/resultado.h"
 #include "listados/obra/mdTipoListado.h"
 #include "persistencia/disco/mdLog.h"
@@ -86,8 +87,10 @@ struct Calculo {
 };
 
 /// Calculates what was asked for. @param registros  folder of the debug log
+/// @param hilos  threads; with more than one, `sigue` hears of the Tramo whose result comes next
 Calculo CalculaEncargo(Encargo encargo, const Sigue& sigue = {},
-                       const std::filesystem::path& registros = CarpetaPropia());
+                       const std::filesystem::path& registros = CarpetaPropia(),
+                       int hilos = HilosDeLaMaquina());
 
 /// The sheets of a listing. @param fecha  of the page heads
 void EscribeListado(const Calculo& calculo, TipoListado tipo, DestinoHojas& hojas,

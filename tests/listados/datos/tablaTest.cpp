@@ -21,7 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 using pruebas::Bytes;
 
-struct Tablas : testing::Test {
+struct TablaDeCasos : testing::Test {
   pruebas::Carpeta carpeta;
   Catalogo textos = Catalogo::Lee(ZORBIN_FUENTES "recursos/textos");
   PalabrasDibujo w{textos, {true, ','}};
@@ -67,7 +67,7 @@ TEST(NumeroTabla, SonLasCifrasDeLosListados) {
   }
 }
 
-TEST_F(Tablas, ElTextoDiceLoQueLaPantalla) {
+TEST_F(TablaDeCasos, ElTextoDiceLoQueLaPantalla) {
   for (const char separador : {',', '.'}) {
     const PalabrasDibujo palabras(textos, {separador == ',', separador});
     std::string texto;
@@ -96,7 +96,7 @@ TEST_F(Tablas, ElTextoDiceLoQueLaPantalla) {
   }
 }
 
-TEST_F(Tablas, ElLibroTieneLosNumerosEnterosYSigueEnOtraHoja) {
+TEST_F(TablaDeCasos, ElLibroTieneLosNumerosEnterosYSigueEnOtraHoja) {
   const auto fichero = carpeta / "t.xlsx";
   constexpr std::uint32_t kCorta = 12;
   Escribe(*TablaXlsx(Obra(), w, fichero, kCorta));
@@ -127,7 +127,7 @@ TEST_F(Tablas, ElLibroTieneLosNumerosEnterosYSigueEnOtraHoja) {
   EXPECT_EQ(std::distance(fs::directory_iterator(carpeta.ruta()), fs::directory_iterator{}), 1);
 }
 
-TEST_F(Tablas, UnDiscoLlenoNoDejaNada) {
+TEST_F(TablaDeCasos, UnDiscoLlenoNoDejaNada) {
   for (const std::string nombre : {"t.csv", "t.xlsx"}) {
     const auto fichero = carpeta / nombre;
     pruebas::PonBytes(fichero, "de antes");
@@ -141,7 +141,7 @@ TEST_F(Tablas, UnDiscoLlenoNoDejaNada) {
   }
 }
 
-TEST_F(Tablas, LaPlantillaSeLeeEnTodosLosIdiomas) {
+TEST_F(TablaDeCasos, LaPlantillaSeLeeEnTodosLosIdiomas) {
   for (std::int16_t idioma = 1; idioma <= kIdiomas; ++idioma) {
     textos.PonIdioma(idioma);
     const auto fichero = carpeta / "p.xlsx";

@@ -71,7 +71,7 @@ struct Oficina {
 
   Hecho Haz(std::optional<Encargo> encargo) const {
     if (!encargo) return {};
-    Hecho hecho{CalculaEncargo(std::move(*encargo), sigue, registros), {}};
+    Hecho hecho{CalculaEncargo(std::move(*encargo), sigue, registros, 1), {}};
     hecho.resumen = Resume(*hecho.calculo);
     return hecho;
   }
@@ -256,7 +256,7 @@ TEST(Trabajo, ElAvanceCuentaLosCasosQueHay) {
     ultimos[a.tramo] = a;
     return true;
   };
-  CalculaEncargo(EncargaObra(o.b.c).value(), o.sigue, o.registros);
+  CalculaEncargo(EncargaObra(o.b.c).value(), o.sigue, o.registros, 1);
   ASSERT_EQ(previstos.size(), static_cast<std::size_t>(kTramos));
   for (int n = 1; n <= kTramos; ++n) {
     EXPECT_EQ(ultimos[n].caso, previstos[static_cast<std::size_t>(n - 1)]) << n;
