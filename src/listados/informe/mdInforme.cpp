@@ -63,6 +63,8 @@ class Compositor {
     EscribeBases(p_);
     texto.Anade(redactor_.Toma());
     for (std::size_t i = 0; i < datos_.tramos.size(); ++i) Tramo(i, texto);
+    EscribeMediciones(p_);
+    texto.Anade(redactor_.Toma());
     return Junta(std::move(resumen), std::move(texto));
   }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/mdCatalogo.h"
+#include "core/mediciones.h"
 #include "core/resultado.h"
 #include "listados/maqueta/mdPaginador.h"
 #include "listados/papel/mdFormato.h"
@@ -31,6 +32,7 @@ struct TramoInforme {
   std::string numero;  // its text in the list
   Tramo tecleado;      // as it was captured, in the units of the Obra
   Tramo completo;      // as the rules completed it: what was calculated
+  Fabricacion fabricacion = {};
 };
 
 struct DatosInforme {
@@ -43,6 +45,7 @@ struct DatosInforme {
   DetalleInforme detalle = DetalleInforme::Pesimo;
   std::vector<TramoInforme> tramos;
   std::vector<std::string> rechazados;  // Tramos that were not calculated, each with its reason
+  Precios precios = {};
 };
 
 /// Asked now and then whether to go on; false ends the work. @param pagina  laid out so far

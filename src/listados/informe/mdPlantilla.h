@@ -84,6 +84,8 @@ void EscribeCaso(Plantilla& p, const TramoInforme& t, std::size_t i, std::size_t
 /// Its formulas with their figures. @param todos  the checks of all hypotheses too, and not only
 /// those of the governing one
 void EscribePasos(Plantilla& p, const TramoInforme& t, const FilaCaso& fila, bool todos = false);
+/// What the worst Caso of each Tramo takes.
+void EscribeMediciones(Plantilla& p);
 /// What comes before the Casos told one by one.
 void EscribeTramo(Plantilla& p, const TramoInforme& t, std::size_t i);
 

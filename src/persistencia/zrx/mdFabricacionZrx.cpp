@@ -90,6 +90,14 @@ Fabricacion FabricacionDe(const std::string& otras) {
   return f;
 }
 
+Fabricacion FabricacionDe(const Extras& extras, std::string_view numero,
+                          std::string_view descripcion) {
+  const auto suya = std::ranges::find_if(extras.tramos, [&](const ExtrasTramo& x) {
+    return x.numero == numero && x.descripcion == descripcion;
+  });
+  return suya == extras.tramos.end() ? Fabricacion{} : FabricacionDe(suya->otras);
+}
+
 std::string ConFabricacion(const std::string& otras, const Fabricacion& fab) {
   const Fabricacion defecto;
   auto objeto = Objeto(otras);

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/mediciones.h"
+#include "persistencia/zrx/mdZrx.h"
 
 namespace zorbin {
 
@@ -28,6 +29,10 @@ struct ClaveMala {
 Fabricacion FabricacionDe(const std::string& otras);
 /// The same extras with another making; defaults leave no key.
 std::string ConFabricacion(const std::string& otras, const Fabricacion& fab);
+
+/// Of the entry of a Tramo; the default where it has none. @throws ClaveMala
+Fabricacion FabricacionDe(const Extras& extras, std::string_view numero,
+                          std::string_view descripcion);
 
 /// @param otras  as Extras::otras
 /// @throws ClaveMala

@@ -18,6 +18,7 @@
 #include "persistencia/disco/mdLog.h"
 #include "persistencia/dpe/mdDpe.h"
 #include "persistencia/proyecto/mdProyecto.h"
+#include "persistencia/zrx/mdFabricacionZrx.h"
 #include "persistencia/zrx/mdZrx.h"
 #include "programas/zorbin-calc/mdPalabras.h"
 #include "programas/zorbin-calc/mdRescata.h"
@@ -285,13 +286,15 @@ class Calculador {
                        FechaPedida(),
                        DetalleDeLinea(opciones_.detalle),
                        {},
-                       encargo_.rechazados};
+                       encargo_.rechazados,
+                       PreciosDe(proyecto_.extras.otras)};
     for (std::size_t i = 0; i < resultados.size(); ++i) {
       const auto& p = encargo_.tramos[i];
       const auto tecleado = encargo_.tecleados.find(p.posicion);
       datos.tramos.push_back({&resultados[i], p.numero,
                               tecleado == encargo_.tecleados.end() ? p.tramo : tecleado->second,
-                              p.tramo});
+                              p.tramo,
+                              FabricacionDe(proyecto_.extras, p.numero, p.tramo.DescriTramo)});
     }
     // The report goes to others: its decimal sign is that of its language.
     EstiloNumeros estilo = estilo_;

@@ -40,12 +40,6 @@ Precios LeePrecios(const OpcionesMediciones& o, const Proyecto& proyecto, const 
   }
 }
 
-Fabricacion FabricacionDelTramo(const Proyecto& proyecto, const TramoPedido& p) {
-  Extras extras = proyecto.extras;
-  const auto suyos = TomaExtras(extras, p.numero, p.tramo.DescriTramo);
-  return suyos ? FabricacionDe(suyos->otras) : Fabricacion{};
-}
-
 class Medidor {
  public:
   Medidor(const OpcionesMediciones& opciones, const Proyecto& proyecto, const Catalogo& textos)
@@ -116,7 +110,8 @@ class Medidor {
     tarea.toma = [&](std::size_t i, ResultadoTramo&& r) {
       vigia.Acaba(r, pedidos[i].numero);
       calculados_.push_back(
-          {std::move(r), pedidos[i].numero, FabricacionDelTramo(proyecto_, pedidos[i])});
+          {std::move(r), pedidos[i].numero,
+           FabricacionDe(proyecto_.extras, pedidos[i].numero, pedidos[i].tramo.DescriTramo)});
       return true;
     };
     CalculaObra(tarea);

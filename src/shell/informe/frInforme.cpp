@@ -15,6 +15,7 @@
 #include "base/mdNumeros.h"
 #include "base/textos.h"
 #include "listados/informe/mdPdfInforme.h"
+#include "persistencia/zrx/mdFabricacionZrx.h"
 #include "sesion/captura/mdComprueba.h"
 #include "shell/impresion/mdGuardar.h"
 #include "shell/informe/mdVistaInforme.h"
@@ -168,6 +169,7 @@ bool frInforme::Haz(const QString& donde,
   m.datos.fecha = Ahora();
   m.datos.detalle = static_cast<DetalleInforme>(detalle_->currentIndex());
   m.datos.rechazados = encargo->rechazados;
+  m.datos.precios = PreciosDe(c_.version.extras.otras);
   if (c_.fichero && !c_.EnCambio()) m.datos.huella = HuellaDe(c_.fichero->ruta());
   const Catalogo textos = encargo->textos;
   EstiloNumeros estilo = encargo->estilo;
@@ -180,7 +182,8 @@ bool frInforme::Haz(const QString& donde,
     for (std::size_t i = 0; i < m.calculo.tramos.size(); ++i) {
       const int id = m.calculo.ids[i];
       m.datos.tramos.push_back({&m.calculo.tramos[i], m.calculo.numeros[i], TramoDe(c_.version, id),
-                                TramoDe(completa, id)});
+                                TramoDe(completa, id),
+                                FabricacionDe(Busca(c_.version, id)->extras)});
     }
     previstas = PaginasPrevistas(m.datos, textos, estilo);
   });

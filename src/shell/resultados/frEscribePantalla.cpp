@@ -35,7 +35,7 @@ constexpr std::chrono::milliseconds kCortesia{200};  // for a short text to be t
 constexpr std::size_t kMayorCopia = 32U << 20U;      // bytes; other programs stand still with more
 constexpr int kMenorCuerpo = 6;                      // [pt]
 constexpr int kMayorCuerpo = 40;
-constexpr int kColumnas = 86;  // that the screen opens with
+constexpr int kColumnas = 98;  // that the screen opens with
 constexpr int kFilas = 40;
 constexpr int kAireBoton = 18;  // round its text [pixels]
 constexpr std::array<int, kTiposListado> kRotulosListado{txt::Normal, txt::ListadoTabular,

@@ -192,6 +192,7 @@ void Barras::paintEvent(QPaintEvent*) {
     const auto tinta = b.pasa ? Tinta::NoCumple : b.destacada ? Tinta::Acento : Tinta::Serie1;
     QColor color = DeTinta(paleta.De(tinta));
     if (!b.destacada && !b.pasa) color.setAlphaF(0.55F);
+    if (!isEnabled()) color = palette().color(QPalette::Mid);
     p.setPen(Qt::NoPen);
     p.setBrush(color);
     p.drawRoundedRect(QRectF(x, y + 4, hasta(b.valor), AltoFila() - 8), 2, 2);
