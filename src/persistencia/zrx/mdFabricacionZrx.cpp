@@ -15,9 +15,6 @@ constexpr const char* kFabricacion = "fabricacion";
 constexpr const char* kLongitudinales = "longitudinales";
 constexpr const char* kPrecios = "precios";
 constexpr const char* kMoneda = "moneda";
-constexpr double kMaxTubo = 100.0;       // [m]
-constexpr double kMaxJunta = 100'000.0;  // [kg]
-constexpr double kMaxFi = 100.0;         // [mm]
 
 constexpr std::array<const char*, kPartidas> kClaves{
     "chapa",    "espirasInteriores", "espirasExteriores", "longitudinales", "alambre", "juntas",
@@ -34,13 +31,13 @@ Json Seccion(const Json& objeto, const std::string& donde, const char* clave) {
   return *hallada;
 }
 
-void Numero(const Json& seccion, const std::string& donde, const char* clave, double minimo,
-            double maximo, double& valor) {
+void Numero(const Json& seccion, const std::string& donde, const char* clave,
+            const LimitesDato& limites, double& valor) {
   const auto hallado = seccion.find(clave);
   if (hallado == seccion.end()) return;
   if (!hallado->is_number()) throw ClaveMala{donde + clave};
   const double leido = hallado->get<double>();
-  if (!(leido >= minimo && leido <= maximo)) throw ClaveMala{donde + clave};
+  if (!limites.Admite(leido)) throw ClaveMala{donde + clave};
   valor = leido;
 }
 
@@ -60,7 +57,7 @@ std::string Texto(Json objeto, const char* clave, Json seccion) {
 Precios PreciosDe(const Json& seccion, const std::string& donde) {
   Precios p;
   for (std::size_t i = 0; i < kPartidas; ++i) {
-    Numero(seccion, donde, kClaves[i], 0.0, kMaxPrecio, p.precio[static_cast<Partida>(i)]);
+    Numero(seccion, donde, kClaves[i], kLimPrecio, p.precio[static_cast<Partida>(i)]);
   }
   if (const auto moneda = seccion.find(kMoneda); moneda != seccion.end()) {
     if (!moneda->is_string() || moneda->get_ref<const std::string&>().size() > kMaxMoneda) {
@@ -82,11 +79,11 @@ Fabricacion FabricacionDe(const std::string& otras) {
   const auto j = Seccion(Objeto(otras), {}, kFabricacion);
   const auto barras = Seccion(j, "fabricacion.", kLongitudinales);
   Fabricacion f;
-  Numero(j, "fabricacion.", "longitud", 0.0, kMaxLongitudTramo, f.Longitud);
-  Numero(j, "fabricacion.", "tubo", 0.1, kMaxTubo, f.LongitudTubo);
-  Numero(j, "fabricacion.", "junta", 0.0, kMaxJunta, f.AceroJunta);
-  Numero(barras, "fabricacion.longitudinales.", "diametro", 0.0, kMaxFi, f.FiLong);
-  Numero(barras, "fabricacion.longitudinales.", "separacion", 0.01, kMaxTubo, f.SepLong);
+  Numero(j, "fabricacion.", "longitud", kLimLongitud, f.Longitud);
+  Numero(j, "fabricacion.", "tubo", kLimTubo, f.LongitudTubo);
+  Numero(j, "fabricacion.", "junta", kLimJunta, f.AceroJunta);
+  Numero(barras, "fabricacion.longitudinales.", "diametro", kLimFiLong, f.FiLong);
+  Numero(barras, "fabricacion.longitudinales.", "separacion", kLimSepLong, f.SepLong);
   return f;
 }
 

@@ -15,8 +15,20 @@
 
 namespace zorbin {
 
-inline constexpr double kMaxLongitudTramo = 1e6;  // [m]
-inline constexpr double kMaxPrecio = 1e9;
+/// What a value may be, both ends included.
+struct LimitesDato {
+  double minimo;
+  double maximo;
+
+  bool Admite(double valor) const { return valor >= minimo && valor <= maximo; }
+};
+
+inline constexpr LimitesDato kLimLongitud{0.0, 1e6};     // [m]
+inline constexpr LimitesDato kLimTubo{0.1, 100.0};       // [m]
+inline constexpr LimitesDato kLimJunta{0.0, 100'000.0};  // [kg]
+inline constexpr LimitesDato kLimFiLong{0.0, 100.0};     // [mm]
+inline constexpr LimitesDato kLimSepLong{0.01, 100.0};   // [m]
+inline constexpr LimitesDato kLimPrecio{0.0, 1e9};
 inline constexpr std::size_t kMaxMoneda = 8;  // bytes
 
 /// A key whose value no reader takes: its way, for a message.

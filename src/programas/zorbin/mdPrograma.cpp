@@ -31,6 +31,7 @@
 #include "shell/principal/mdArranque.h"
 #include "shell/resultados/frDiseno.h"
 #include "shell/resultados/frHojaFabricacion.h"
+#include "shell/resultados/frMediciones.h"
 #include "shell/resultados/frResultados.h"
 #include "shell/resultados/mdCalculos.h"
 #include "shell/resultados/mdMarcoDiseno.h"
@@ -183,6 +184,7 @@ void Programa::Enlaza() {
   p.hojaFabricacion = [this, padre] {
     MuestraHojaFabricacion(*captura_, entorno_, diseno_->elegido(), padre);
   };
+  p.mediciones = [this, padre] { MuestraMediciones(*captura_, entorno_, padre); };
   p.seleccionaImpresora = [this, padre] {
     frImpresoras(textos_, *preferencias_, impresora_, padre).exec();
   };

@@ -154,6 +154,9 @@ void FormaPrincipal::CreaMenus() {
   NuevaAccion(*resultados, txt::HojaMenu, {}, [this] {
     LanzaPantalla(pantallas_.hojaFabricacion, false);
   })->setObjectName(QStringLiteral("mnHojaFabricacion"));
+  NuevaAccion(*resultados, txt::MedMenu, {}, [this] {
+    LanzaPantalla(pantallas_.mediciones, true);
+  })->setObjectName(QStringLiteral("mnMediciones"));
   ver_ = new MenuVer(*NuevoMenu(txt::MenuVer), c_.textos, entorno_.preferencias);
   connect(ver_, &MenuVer::idiomaPedido, this, &FormaPrincipal::PonIdioma);
   auto* otras = NuevoMenu(txt::MenuOtras);

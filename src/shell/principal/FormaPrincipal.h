@@ -41,6 +41,7 @@ struct Pantallas {
   std::function<void()> informe;
   std::function<void()> diseno;
   std::function<void()> hojaFabricacion;
+  std::function<void()> mediciones;
   std::function<void()> seleccionaImpresora;
   std::function<void()> hidraulico;
   std::function<void()> medidas;
