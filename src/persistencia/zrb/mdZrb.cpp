@@ -507,8 +507,16 @@ void CopiaTramo(FicheroRegistros& f, const FicheroRegistros& de, int posicion) {
 
 std::uint64_t HuellaDe(const FicheroRegistros& f, int posicion) {
   std::uint64_t huella = 14695981039346656037U;  // FNV-1a
+  // A damaged record that no datum has stops no reading, and so not this one either.
+  const auto texto = [&f](int registro) {
+    try {
+      return f.LeeRegistro(registro);
+    } catch (const ErrorFichero&) {
+      return std::string("\x01");
+    }
+  };
   const auto suma = [&](int registro) {
-    for (const char letra : f.LeeRegistro(registro) + '\0') {
+    for (const char letra : texto(registro) + '\0') {
       huella = (huella ^ static_cast<unsigned char>(letra)) * 1099511628211U;
     }
   };
