@@ -81,7 +81,7 @@ void AnotaEsfuerzos(const TerminosAnillo& x, const PresionesCaso& p, double R, c
 
 // What the Caso ends with: the areas of its steel, or of its hand adjustment.
 void AnotaArmadura(const ResultadoArmado& r, Rastro& rastro) {
-  const EnLugar lugar(&rastro, {Apartado::Armadura});
+  const EnLugar lugar(&rastro, Apartado::Armadura);
   const auto dos = [&](double camisa, double espiras, double exterior) {
     rastro.Anota(Formula::InteriorFinal, {camisa, espiras}, r.AsInt);
     rastro.Anota(Formula::ExteriorFinal, {exterior}, r.AsExt);
@@ -112,7 +112,7 @@ class Diseno {
     r_.BRAZO = BrazoEntreCapas(t);
     AnotaInicio(marcha.registro, t, R_);
     if (rastro) {
-      const EnLugar lugar(rastro, {Apartado::Hipotesis});
+      const EnLugar lugar(rastro, Apartado::Hipotesis);
       rastro->Anota(Formula::Radio, {t.Di}, R_);
     }
     r_.esfuerzos = EsfuerzosArmado(terminos, presiones, R_, rastro);

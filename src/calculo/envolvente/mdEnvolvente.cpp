@@ -52,7 +52,7 @@ class Crecimiento {
     };
     if (interior_) cara(Ai_, d_.TipoCamisa, CaraPared::Interior);
     if (exterior_) cara(Ae_, 0, CaraPared::Exterior);
-    const EnLugar lugar(&rastro, {Apartado::Envolvente});
+    const EnLugar lugar(&rastro, Apartado::Envolvente);
     rastro.Anota(Formula::InteriorFinal, {r_.AreaCamisa, r_.AreaEspiras}, r_.AsInt);
     rastro.Anota(Formula::ExteriorFinal, {r_.AreaExterior}, r_.AsExt);
     rastro.Anota(Formula::TotalFinal, {r_.AsInt, r_.AsExt}, r_.Total);

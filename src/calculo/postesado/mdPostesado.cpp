@@ -73,9 +73,9 @@ class Analisis {
 
   // What is the same in all Casos of the Tramo.
   void AnotaTramo() const {
-    const EnLugar radios(rastro_, {Apartado::Radios});
+    const EnLugar radios(rastro_, Apartado::Radios);
     Radios(t_, rastro_);
-    const EnLugar materiales(rastro_, {Apartado::Materiales});
+    const EnLugar materiales(rastro_, Apartado::Materiales);
     Materiales(t_, rastro_);
   }
 
@@ -105,7 +105,7 @@ class Analisis {
 
   bool EligePrimero() {
     const double FuerzaAnillo = Finito(caso_.DP * 10.0 * r_.radios.RadioNuc / 100.0);
-    const EnLugar lugar(rastro_, {Apartado::AlambreInicial});
+    const EnLugar lugar(rastro_, Apartado::AlambreInicial);
     if (rastro_) {
       rastro_->Anota(Formula::FuerzaAnillo, {caso_.DP, r_.radios.RadioNuc}, FuerzaAnillo);
     }
@@ -155,7 +155,7 @@ class Analisis {
     if (alambre_ != Final()) {
       r_.PP = kPPAlambreCambia;
     } else {
-      const EnLugar lugar(rastro_, {Apartado::PruebaNeta});
+      const EnLugar lugar(rastro_, Apartado::PruebaNeta);
       r_.PP = PruebaFabricaNeta(ultimas_, r_.materiales.Fctr, caso_.MDP, rastro_);
       r_.PPHipotesis = ultimaHipotesis_;
       r_.PPConAlambreFinal = p.error == 0;

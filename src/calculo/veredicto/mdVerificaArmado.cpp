@@ -81,7 +81,7 @@ class Recorrido {
   Recorrido(const DatosVerificacion& d, const ResultadoArmado& r, const ArmaduraDispuesta& a,
             Toma& toma, Rastro* rastro)
       : d_(d), r_(r), a_(a), dispuesta_{a.AsInt, a.AsExt}, toma_(toma), rastro_(rastro) {
-    const EnLugar lugar(rastro, {Apartado::Comprobaciones});
+    const EnLugar lugar(rastro, Apartado::Comprobaciones);
     if (d.TipoCamisa == 0) homogenea_ = Homogeneiza(d.pared, a.AsInt, a.AsExt, rastro);
   }
 

@@ -27,7 +27,7 @@ class RecorridoPostesado {
       : t_(t), r_(r), DP_(DP), toma_(toma), rastro_(rastro) {}
 
   void Corre() {
-    const EnLugar lugar(rastro_, {Apartado::Comprobaciones});
+    const EnLugar lugar(rastro_, Apartado::Comprobaciones);
     const double FuerzaAnillo = DP_ * 10.0 * r_.radios.RadioNuc / 100.0;
     const double mayor = CalculaRangos(t_.SFck).FuerzaMax(kAlambres);
     Comprueba(QueComprueba::FuerzaAlambre, 0, FuerzaAnillo, mayor);
