@@ -60,7 +60,8 @@ double PalabrasDibujo::Convertido(double valor, std::string_view conversion) con
 }
 
 const std::string& PalabrasDibujo::Hipotesis(bool armado, int h) const {
-  return T(armado ? txt::DibHipotesisArmado[h - 1] : txt::DibHipotesisPostesado[h - 1]);
+  const auto i = static_cast<std::size_t>(h - 1);
+  return T(armado ? txt::DibHipotesisArmado[i] : txt::DibHipotesisPostesado[i]);
 }
 
 std::string PalabrasDibujo::TramoEnLetra(const Tramo& t) const {
